@@ -1,0 +1,9 @@
+#include "app/app_globals.h"
+
+namespace {
+AppGlobals startUpRecord;
+}
+
+const AppGlobals& Globals() { return startUpRecord; }
+
+AppGlobals& GlobalsForStartUp() { return startUpRecord; }

@@ -1,0 +1,22 @@
+# GoogleTest comes from Debian's source package and is compiled with the same compiler as the tests.
+set(QUORIN_GOOGLETEST /usr/src/googletest CACHE PATH "Source folder of GoogleTest")
+add_library(quorin_gtest STATIC EXCLUDE_FROM_ALL ${QUORIN_GOOGLETEST}/googletest/src/gtest-all.cc)
+target_include_directories(quorin_gtest SYSTEM PUBLIC ${QUORIN_GOOGLETEST}/googletest/include)
+target_include_directories(quorin_gtest SYSTEM PRIVATE ${QUORIN_GOOGLETEST}/googletest)
+# Tests wait for the system, not for themselves; unoptimised they are built in a third of the time.
+set(QUORIN_TEST_OPTIONS -O0)
+target_compile_options(quorin_gtest PRIVATE ${QUORIN_TEST_OPTIONS})
+if(WIN32)
+    target_link_options(quorin_gtest INTERFACE -static)
+else()
+    target_compile_options(quorin_gtest PUBLIC -fsanitize=address,undefined -fno-sanitize=vptr)
+endif()
+
+# quorin_test(NAME SOURCES... LIBRARIES...): one test program, linked with GoogleTest and tests/support.
+function(quorin_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} test_support quorin_gtest house_rules)
+    target_compile_options(${name} PRIVATE ${QUORIN_TEST_OPTIONS})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+endfunction()
