@@ -1,0 +1,70 @@
+#include "platform/ce_controls.h"
+
+#include <commctrl.h>
+
+#include <cwchar>
+#include <iterator>
+
+namespace {
+
+constexpr int TextCapacity = 20;
+constexpr int EntryCapacity = 1024;
+constexpr unsigned long LargestPosition = 0xFFFF;
+constexpr DWORD NoNumber = 0x10000;
+
+// What the control puts between the thousands of a number.
+wchar_t ThousandsSeparator() {
+    wchar_t separator[2];
+    return GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 2) == 2 ? separator[0] : L',';
+}
+
+bool IsDigit(wchar_t unit) {
+    return unit >= L'0' && unit <= L'9';
+}
+
+bool PositionIn(const wchar_t* text, WORD& position) {
+    const wchar_t separator = ThousandsSeparator();
+    unsigned long number = 0;
+    bool hasDigit = false;
+    for (; *text != L'\0'; ++text) {
+        if (*text == separator) continue;
+        if (!IsDigit(*text)) return false;
+        number = number * 10 + static_cast<unsigned long>(*text - L'0');
+        if (number > LargestPosition) return false;
+        hasDigit = true;
+    }
+    position = static_cast<WORD>(number);
+    return hasDigit;
+}
+
+bool EntryBeginsWith(HWND combo, int index, const wchar_t* text, int textLength) {
+    wchar_t entry[EntryCapacity];
+    const LRESULT length = SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
+    if (length < textLength || length >= EntryCapacity) return false;
+    SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(entry));
+    return CompareStringOrdinal(entry, textLength, text, textLength, TRUE) == CSTR_EQUAL;
+}
+
+}  // namespace
+
+DWORD ce::SpinPosition(HWND spin) {
+    // Asked in any case: the control takes over what it accepts.
+    const auto answer = static_cast<DWORD>(SendMessageW(spin, UDM_GETPOS, 0, 0));
+    const auto buddy = reinterpret_cast<HWND>(SendMessageW(spin, UDM_GETBUDDY, 0, 0));
+    if (buddy == nullptr) return answer;
+    wchar_t text[TextCapacity] = L"";
+    GetWindowTextW(buddy, text, static_cast<int>(std::size(text)));
+    WORD position = 0;
+    if (PositionIn(text, position)) return position;
+    return LOWORD(answer) | NoNumber;
+}
+
+int ce::FindComboEntry(HWND combo, int start, const wchar_t* text) {
+    const auto count = static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0));
+    const auto textLength = static_cast<int>(std::wcslen(text));
+    for (int step = 1; step <= count; ++step) {
+        const int index = (start + step) % count;
+        if (EntryBeginsWith(combo, index, text, textLength)) return index;
+    }
+    return CB_ERR;
+}

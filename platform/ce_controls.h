@@ -1,0 +1,19 @@
+#pragma once
+
+// Controls that answer differently on the desktop.
+
+#include "platform/system_types.h"
+
+namespace ce {
+
+// UDM_GETPOS: the number in the buddy's text in the low word, as typed even where it lies outside the range;
+// or, where the text is no number of 16 bits (an empty text is none), the last position with 1 in the high
+// word. The desktop counts an empty text as 0 and refuses what lies outside the range.
+[[nodiscard]] DWORD SpinPosition(HWND spin);
+
+// CB_FINDSTRING: the first entry after `start`, and round again up to `start` itself, that begins with the
+// text, without regard to case; CB_ERR for none. Every entry begins with an empty text. The desktop finds
+// nothing for an empty text and overlooks a "[" before an entry.
+[[nodiscard]] int FindComboEntry(HWND combo, int start, const wchar_t* text);
+
+}  // namespace ce

@@ -1,0 +1,92 @@
+#include "platform/ce_files.h"
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdint>
+
+#include "platform/folder_links.h"
+#include "platform/folder_listing.h"
+#include "platform/system_path.h"
+
+namespace {
+
+std::FILE* OpenShared(const wchar_t* path) {
+    const SystemPath literal(path);
+    if (!literal.Fits()) return nullptr;
+    // The C library's own opening would keep others from deleting the file.
+    const HANDLE file =
+        CreateFileW(literal.Text(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return nullptr;
+    // Reading from a pipe that nobody writes to would never end.
+    if (GetFileType(file) != FILE_TYPE_DISK) {
+        CloseHandle(file);
+        return nullptr;
+    }
+    const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_BINARY);
+    if (descriptor < 0) {
+        CloseHandle(file);
+        return nullptr;
+    }
+    std::FILE* const stream = _fdopen(descriptor, "rb");
+    if (stream == nullptr) _close(descriptor);
+    return stream;
+}
+
+// The system's answer for the literal path, or the failure's answer for a path that is too long.
+template <typename Answer, typename Call>
+Answer WithPath(const wchar_t* path, Answer failure, Call call) {
+    const SystemPath literal(path);
+    return literal.Fits() ? call(literal.Text()) : failure;
+}
+
+template <typename Call>
+BOOL WithTwoPaths(const wchar_t* from, const wchar_t* to, Call call) {
+    const SystemPath literalFrom(from);
+    if (!literalFrom.Fits()) return FALSE;
+    const SystemPath literalTo(to);
+    return literalTo.Fits() ? call(literalFrom.Text(), literalTo.Text()) : FALSE;
+}
+
+DWORD GetAttributes(const wchar_t* path) {
+    return WithPath(path, INVALID_FILE_ATTRIBUTES,
+                    [](const wchar_t* literal) { return GetFileAttributesW(literal); });
+}
+
+BOOL SetAttributes(const wchar_t* path, DWORD attributes) {
+    return WithPath(path, FALSE,
+                    [attributes](const wchar_t* literal) { return SetFileAttributesW(literal, attributes); });
+}
+
+BOOL Delete(const wchar_t* path) {
+    return WithPath(path, FALSE, [](const wchar_t* literal) { return DeleteFileW(literal); });
+}
+
+BOOL Move(const wchar_t* from, const wchar_t* to) {
+    return WithTwoPaths(from, to, [](const wchar_t* literalFrom, const wchar_t* literalTo) {
+        return MoveFileW(literalFrom, literalTo);
+    });
+}
+
+BOOL Copy(const wchar_t* from, const wchar_t* to, BOOL failIfExists) {
+    return WithTwoPaths(from, to, [failIfExists](const wchar_t* literalFrom, const wchar_t* literalTo) {
+        return CopyFileW(literalFrom, literalTo, failIfExists);
+    });
+}
+
+BOOL CreateFolder(const wchar_t* path, SECURITY_ATTRIBUTES* security) {
+    return WithPath(path, FALSE,
+                    [security](const wchar_t* literal) { return CreateDirectoryW(literal, security); });
+}
+
+BOOL RemoveFolder(const wchar_t* path) {
+    return WithPath(path, FALSE, [](const wchar_t* literal) { return RemoveDirectoryW(literal); });
+}
+
+}  // namespace
+
+ce::FileCalls ce::fileCalls = {
+    StartListing, NextOfListing, EndListing, OpenShared, GetAttributes, SetAttributes,
+    Delete,       Move,          Copy,       CreateFolder,   RemoveFolder,  LeadsElsewhere,
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+// What start-up and the clock ask the system; every answer can be replaced by a test.
+
+#include "platform/system_types.h"
+
+namespace ce {
+
+struct SystemCalls {
+    int (*getSystemMetrics)(int index);
+    LANGID (*getSystemDefaultLangId)();
+    HMODULE (*loadLibrary)(const wchar_t* name);
+    BOOL (*freeLibrary)(HMODULE library);
+    FARPROC (*getProcAddress)(HMODULE library, const wchar_t* name);
+    void (*getSystemTime)(SYSTEMTIME* now);
+    BOOL (*localFileTimeToFileTime)(const FILETIME* local, FILETIME* utc);
+    BOOL (*fileTimeToLocalFileTime)(const FILETIME* utc, FILETIME* local);
+};
+extern SystemCalls systemCalls;
+
+inline int GetSystemMetrics(int index) {
+    return systemCalls.getSystemMetrics(index);
+}
+inline LANGID GetSystemDefaultLangID() {
+    return systemCalls.getSystemDefaultLangId();
+}
+// Looks in the program's own folder and the system's, never in the current folder.
+inline HMODULE LoadLibraryW(const wchar_t* name) {
+    return systemCalls.loadLibrary(name);
+}
+inline BOOL FreeLibrary(HMODULE library) {
+    return systemCalls.freeLibrary(library);
+}
+inline FARPROC GetProcAddressW(HMODULE library, const wchar_t* name) {
+    return systemCalls.getProcAddress(library, name);
+}
+inline void GetSystemTime(SYSTEMTIME* now) {
+    systemCalls.getSystemTime(now);
+}
+inline BOOL LocalFileTimeToFileTime(const FILETIME* local, FILETIME* utc) {
+    return systemCalls.localFileTimeToFileTime(local, utc);
+}
+inline BOOL FileTimeToLocalFileTime(const FILETIME* utc, FILETIME* local) {
+    return systemCalls.fileTimeToLocalFileTime(utc, local);
+}
+
+}  // namespace ce

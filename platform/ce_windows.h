@@ -1,0 +1,31 @@
+#pragma once
+
+// Windows, classes and colours where the desktop differs from the handheld.
+
+#include "platform/system_types.h"
+
+namespace ce {
+
+// The flag that marks a colour or brush index as a system colour (0x40000000).
+constexpr DWORD SystemColorFlag = 0x40000000;
+
+// A dialog's class reads "Dialog" (the desktop's own name for it is "#32770").
+int GetClassNameW(HWND window, wchar_t* name, int capacity);
+
+// A top-level window with CW_USEDEFAULT in all four places fills the work area of a handheld-sized screen
+// (up to 800 x 480, either way round), with a caption as its title line; on a larger screen it gets a window
+// of handheld proportions that cannot be resized. Any other window is made as asked. A failed creation
+// answers null.
+HWND CreateWindowExW(DWORD extendedStyle, const wchar_t* className, const wchar_t* title, DWORD style, int x,
+                     int y, int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                     void* parameter);
+
+// Registers the class; a background brush given as index with the flag is brought to the desktop's form, and
+// a class without a cursor gets the arrow.
+ATOM RegisterClassW(const WNDCLASSW* windowClass);
+
+// Take an index with or without the flag.
+DWORD GetSysColor(int index);
+HBRUSH GetSysColorBrush(int index);
+
+}  // namespace ce

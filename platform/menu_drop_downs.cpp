@@ -1,0 +1,221 @@
+#include "platform/menu_drop_downs.h"
+
+#include <commctrl.h>
+
+namespace ce {
+
+namespace {
+
+constexpr UINT_PTR WatchId = 1;
+// On a watched top-level window: its MenuDropDowns.
+constexpr wchar_t WatcherProperty[] = L"QuorinMenuBar";
+constexpr LPARAM AltIsDown = 1L << 29;
+
+// Hook procedures are given no word of their own, so what they serve stands here: the one open menu of the
+// thread, and the hook that all bars with drop-downs share.
+MenuDropDowns* openMenus = nullptr;
+HHOOK keyHook = nullptr;
+int keyHookUsers = 0;
+
+bool HasNestedMenu(HMENU menu) {
+    const int items = GetMenuItemCount(menu);
+    for (int position = 0; position < items; ++position) {
+        if (GetSubMenu(menu, position) != nullptr) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+MenuDropDowns::~MenuDropDowns() {
+    if (menu != nullptr) DestroyMenu(menu);
+}
+
+void MenuDropDowns::Add(WORD command, int position) {
+    HMENU subMenu = menu != nullptr ? GetSubMenu(menu, position) : nullptr;
+    if (subMenu == nullptr || count == MaxMenuBarButtons) return;
+    dropDowns[count++] = DropDown{command, position, subMenu};
+}
+
+void MenuDropDowns::Attach(HWND barWindow, HWND toolBarWindow, HWND parentWindow) {
+    bar = barWindow;
+    toolBar = toolBarWindow;
+    parent = parentWindow;
+    if (count == 0 || GetAncestor(parent, GA_ROOT) != parent) return;
+    watching = SetWindowSubclass(parent, WatchParent, WatchId, reinterpret_cast<DWORD_PTR>(this)) != FALSE;
+    if (!watching) return;
+    SetPropW(parent, WatcherProperty, this);
+    if (keyHookUsers++ == 0) {
+        keyHook = SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId());
+    }
+}
+
+void MenuDropDowns::Detach() {
+    if (openMenus == this) {
+        EndMenu();
+        openMenus = nullptr;
+    }
+    if (!watching) return;
+    watching = false;
+    RemoveWindowSubclass(parent, WatchParent, WatchId);
+    RemovePropW(parent, WatcherProperty);
+    if (--keyHookUsers == 0 && keyHook != nullptr) {
+        UnhookWindowsHookEx(keyHook);
+        keyHook = nullptr;
+    }
+}
+
+HMENU MenuDropDowns::MenuOfCommand(WORD command) const {
+    const int index = IndexOfCommand(command);
+    return index >= 0 ? dropDowns[index].menu : nullptr;
+}
+
+int MenuDropDowns::IndexOfCommand(WORD command) const {
+    for (int index = 0; index < count; ++index) {
+        if (dropDowns[index].command == command) return index;
+    }
+    return -1;
+}
+
+bool MenuDropDowns::RequestByKey(wchar_t key) {
+    if (openMenus != nullptr || count == 0 || !IsWindowEnabled(parent)) return false;
+    int index = 0;
+    if (key != L'\0') {
+        wchar_t texts[MaxMenuBarButtons][MenuBarCaptionCapacity];
+        const wchar_t* captions[MaxMenuBarButtons];
+        for (int each = 0; each < count; ++each) {
+            texts[each][0] = L'\0';
+            GetMenuStringW(menu, static_cast<UINT>(dropDowns[each].position), texts[each],
+                           MenuBarCaptionCapacity, MF_BYPOSITION);
+            captions[each] = texts[each];
+        }
+        index = CaptionForKey(captions, count, key);
+    }
+    if (index < 0) return false;
+    Request(index, true);
+    return true;
+}
+
+void MenuDropDowns::Request(int index, bool byKeyboard) const {
+    // Posted, so that the menu's own loop does not run inside the tool bar's or the message queue's code.
+    PostMessageW(bar, MenuBarOpenDropDown, static_cast<WPARAM>(index), byKeyboard ? 1 : 0);
+}
+
+void MenuDropDowns::Run(int first, bool byKeyboard) {
+    if (openMenus != nullptr || first < 0 || first >= count || !IsWindowEnabled(parent)) return;
+    const HWND window = bar;
+    HHOOK menuHook = SetWindowsHookExW(WH_MSGFILTER, WatchOpenMenu, nullptr, GetCurrentThreadId());
+    openMenus = this;
+    GoOnTo(first, byKeyboard);
+    while (openMenus == this && next >= 0) {
+        open = next;
+        next = -1;
+        TrackOpenOne();
+        // The bar may have been destroyed while its menu was open: nothing of this object is read then.
+        if (!IsWindow(window)) break;
+    }
+    if (openMenus == this) {
+        open = -1;
+        openMenus = nullptr;
+    }
+    if (menuHook != nullptr) UnhookWindowsHookEx(menuHook);
+}
+
+void MenuDropDowns::TrackOpenOne() {
+    const HWND window = bar;
+    const int index = open;
+    TPMPARAMS around{};
+    around.cbSize = sizeof(around);
+    around.rcExclude = ButtonOnScreen(index);
+    // A menu opens with nothing marked; the keyboard starts at its first item.
+    if (openedByKeyboard) PostMessageW(parent, WM_KEYDOWN, VK_DOWN, 0);
+    Press(index, true);
+    TrackPopupMenuEx(dropDowns[index].menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_VERTICAL,
+                     around.rcExclude.left, around.rcExclude.top, parent, &around);
+    if (IsWindow(window)) Press(index, false);
+}
+
+bool MenuDropDowns::TakeMenuMessage(const MSG& message) {
+    switch (message.message) {
+        case WM_KEYDOWN:
+            if (HasNestedMenu(dropDowns[open].menu)) return false;  // left and right move inside it
+            if (message.wParam == VK_RIGHT)
+                GoOnTo((open + 1) % count, true);
+            else if (message.wParam == VK_LEFT)
+                GoOnTo((open + count - 1) % count, true);
+            else
+                return false;
+            return true;
+        case WM_LBUTTONDOWN:
+            // A click on the button whose menu is open closes it; the tool bar would open it again.
+            if (DropDownAt(message.pt) != open) return false;
+            GoOnTo(-1, false);
+            return true;
+        case WM_MOUSEMOVE: {
+            const int hit = DropDownAt(message.pt);
+            if (hit < 0 || hit == open) return false;
+            GoOnTo(hit, false);
+            return true;
+        }
+        default:
+            return false;
+    }
+}
+
+void MenuDropDowns::GoOnTo(int index, bool byKeyboard) {
+    next = index;
+    openedByKeyboard = byKeyboard;
+    if (open >= 0) EndMenu();
+}
+
+void MenuDropDowns::Press(int index, bool pressed) const {
+    SendMessageW(toolBar, TB_PRESSBUTTON, dropDowns[index].command, MAKELPARAM(pressed ? TRUE : FALSE, 0));
+}
+
+RECT MenuDropDowns::ButtonOnScreen(int index) const {
+    RECT button{};
+    SendMessageW(toolBar, TB_GETRECT, dropDowns[index].command, reinterpret_cast<LPARAM>(&button));
+    MapWindowPoints(toolBar, HWND_DESKTOP, reinterpret_cast<POINT*>(&button), 2);
+    return button;
+}
+
+int MenuDropDowns::DropDownAt(POINT onScreen) const {
+    for (int index = 0; index < count; ++index) {
+        const RECT button = ButtonOnScreen(index);
+        if (PtInRect(&button, onScreen)) return index;
+    }
+    return -1;
+}
+
+LRESULT CALLBACK MenuDropDowns::WatchParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                            DWORD_PTR object) {
+    if (message == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_KEYMENU && lParam != VK_SPACE) {
+        if (reinterpret_cast<MenuDropDowns*>(object)->RequestByKey(static_cast<wchar_t>(lParam))) return 0;
+    }
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+// Alt with a letter goes to the window that has the focus, and a control keeps it to itself instead of
+// passing it on to the top-level window.
+LRESULT CALLBACK MenuDropDowns::WatchKeys(int code, WPARAM removed, LPARAM lParam) {
+    auto* message = reinterpret_cast<MSG*>(lParam);
+    if (code == HC_ACTION && removed == PM_REMOVE && message->message == WM_SYSCHAR &&
+        (message->lParam & AltIsDown) != 0 && message->wParam > VK_SPACE) {
+        auto* watcher =
+            static_cast<MenuDropDowns*>(GetPropW(GetAncestor(message->hwnd, GA_ROOT), WatcherProperty));
+        if (watcher != nullptr && watcher->RequestByKey(static_cast<wchar_t>(message->wParam))) {
+            message->message = WM_NULL;
+        }
+    }
+    return CallNextHookEx(nullptr, code, removed, lParam);
+}
+
+LRESULT CALLBACK MenuDropDowns::WatchOpenMenu(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == MSGF_MENU && openMenus != nullptr &&
+        openMenus->TakeMenuMessage(*reinterpret_cast<const MSG*>(lParam))) {
+        return 1;
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+}  // namespace ce

@@ -1,0 +1,141 @@
+// Spins and combo boxes as the handheld has them.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/windows_ce.h"
+
+namespace {
+
+class Controls : public testing::Test {
+  protected:
+    Controls() {
+        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_UPDOWN_CLASS};
+        InitCommonControlsEx(&classes);
+        parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+    }
+    ~Controls() override { DestroyWindow(parent); }
+
+    HWND Child(const wchar_t* className, DWORD style) {
+        return CreateWindowExW(0, className, L"", WS_CHILD | style, 0, 0, 80, 100, parent, nullptr, nullptr,
+                               nullptr);
+    }
+
+  private:
+    HWND parent;
+};
+
+class SpinPosition : public Controls {
+  protected:
+    SpinPosition() : edit(Child(L"EDIT", 0)), spin(Child(UPDOWN_CLASSW, UDS_SETBUDDYINT | UDS_ALIGNRIGHT)) {
+        SendMessageW(spin, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit), 0);
+        SendMessageW(spin, UDM_SETRANGE, 0, MAKELPARAM(999, 1));
+        SendMessageW(spin, UDM_SETPOS, 0, 7);
+    }
+    DWORD PositionOf(const wchar_t* text) {
+        SetWindowTextW(edit, text);
+        return ce::SpinPosition(spin);
+    }
+
+    HWND edit;
+    HWND spin;
+};
+
+class FindComboEntry : public Controls {
+  protected:
+    FindComboEntry() : combo(Child(L"COMBOBOX", CBS_DROPDOWN)) {}
+
+    void Fill(std::initializer_list<const wchar_t*> entries) {
+        for (const wchar_t* entry : entries)
+            SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+    }
+
+    HWND combo;
+};
+
+}  // namespace
+
+TEST_F(SpinPosition, what_the_spin_itself_has_set_is_its_position) {
+    EXPECT_EQ(ce::SpinPosition(spin), 7U);
+    SendMessageW(spin, UDM_SETPOS, 0, 999);
+    EXPECT_EQ(ce::SpinPosition(spin), 999U);
+}
+
+TEST_F(SpinPosition, a_typed_number_is_read_as_typed) {
+    EXPECT_EQ(PositionOf(L"1"), 1U);
+    EXPECT_EQ(PositionOf(L"0042"), 42U);
+    EXPECT_EQ(PositionOf(L"999"), 999U);
+}
+
+TEST_F(SpinPosition, a_typed_number_outside_the_range_is_read_as_typed_too) {
+    EXPECT_EQ(PositionOf(L"0"), 0U);
+    EXPECT_EQ(PositionOf(L"1000"), 1000U);
+    EXPECT_EQ(PositionOf(L"65535"), 65535U);
+}
+
+TEST_F(SpinPosition, an_empty_text_gives_the_last_position_with_the_error_word) {
+    EXPECT_EQ(PositionOf(L""), 0x10007U);
+}
+
+TEST_F(SpinPosition, a_text_that_is_no_number_gives_the_last_position_with_the_error_word) {
+    for (const wchar_t* text : {L"x", L"1x", L"-1", L"1.5", L" "})
+        EXPECT_EQ(PositionOf(text), 0x10007U) << testing::PrintToString(std::wstring(text));
+}
+
+TEST_F(SpinPosition, a_number_beyond_16_bits_carries_the_error_word) {
+    EXPECT_EQ(PositionOf(L"65536"), 0x10007U);
+    EXPECT_EQ(PositionOf(L"9999999999999999999"), 0x10007U);
+}
+
+TEST_F(SpinPosition, the_groups_of_thousands_that_the_spin_writes_are_read_back) {
+    SendMessageW(spin, UDM_SETRANGE, 0, MAKELPARAM(32767, 0));
+    SendMessageW(spin, UDM_SETPOS, 0, 12345);
+    EXPECT_EQ(ce::SpinPosition(spin), 12345U);
+}
+
+TEST_F(SpinPosition, a_spin_without_a_buddy_answers_for_itself) {
+    const HWND alone = Child(UPDOWN_CLASSW, 0);
+    SendMessageW(alone, UDM_SETRANGE, 0, MAKELPARAM(50, 0));
+    SendMessageW(alone, UDM_SETPOS, 0, 9);
+    EXPECT_EQ(LOWORD(ce::SpinPosition(alone)), 9);
+}
+
+TEST_F(FindComboEntry, in_an_empty_combo_nothing_is_found) {
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"a"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), CB_ERR);
+}
+
+TEST_F(FindComboEntry, an_entry_that_begins_with_the_text_is_found_whatever_its_case) {
+    Fill({L"x", L"abcdef", L"y"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"ABC"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abcdef"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abcdefg"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"bcd"), CB_ERR);
+}
+
+TEST_F(FindComboEntry, letters_of_other_scripts_are_compared_without_case_as_well) {
+    Fill({L"x", L"Äпример"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"äПРИ"), 1);
+}
+
+TEST_F(FindComboEntry, the_start_is_looked_at_last) {
+    Fill({L"ab", L"ac", L"ad"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"a"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo, 2, L"a"), 0);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"ab"), 0);
+}
+
+TEST_F(FindComboEntry, every_entry_begins_with_an_empty_text) {
+    Fill({L"a"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), 0);
+    Fill({L"b", L"c"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), 1);
+}
+
+TEST_F(FindComboEntry, a_bracket_counts_as_any_other_unit) {
+    Fill({L"x", L"[abc]", L"[-d-]"});
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abc"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"d"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"[a"), 1);
+}
