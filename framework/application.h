@@ -1,0 +1,46 @@
+#pragma once
+
+// The one application object: the product's name, the split command line, the window map and the message
+// loop. It lives on the stack of the run routine (or of a test) for as long as there are window objects.
+
+#include "framework/window_map.h"
+#include "platform/system_types.h"
+
+// A top-level window that sees the message loop's messages before they are dispatched.
+class MainView {
+  public:
+    // Answers true when it has consumed the message.
+    virtual bool PreTranslate(MSG& message) = 0;
+
+  protected:
+    ~MainView() = default;
+};
+
+class Application {
+  public:
+    // The name and the words are kept, not copied.
+    Application(const wchar_t* name, int wordCount, const wchar_t* const* words);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Runs the message loop until WM_QUIT and returns its wParam.
+    int Run();
+
+    void SetMainView(MainView* view) { mainView = view; }
+    [[nodiscard]] const wchar_t* Name() const { return name; }
+    [[nodiscard]] int WordCount() const { return wordCount; }
+    [[nodiscard]] const wchar_t* const* Words() const { return words; }
+
+    // The map of the one application, or null before it exists.
+    [[nodiscard]] static WindowMap* Windows();
+
+  private:
+    static Application* current;
+
+    const wchar_t* name;
+    int wordCount;
+    const wchar_t* const* words;
+    MainView* mainView = nullptr;
+    WindowMap windows;
+};

@@ -1,0 +1,99 @@
+#include "framework/container_window.h"
+
+#include "framework/application.h"
+#include "framework/property_keys.h"
+
+namespace {
+
+PropertySet& WithClippedChildren(PropertySet& properties) {
+    properties.Add(property::Style, WS_CLIPCHILDREN);
+    return properties;
+}
+
+}  // namespace
+
+ContainerWindow::ContainerWindow(WindowObject* parentObject, const wchar_t* title, PropertySet& properties)
+    : WindowObject(parentObject, title, WithClippedChildren(properties)) {
+    RouteMessages();
+}
+
+ContainerWindow::ContainerWindow(WindowObject* parentObject, HWND existing, Ownership ownership)
+    : WindowObject(parentObject, existing, ownership) {
+    RouteMessages();
+}
+
+WindowObject* ContainerWindow::ObjectOf(HWND window) {
+    const WindowMap* map = Application::Windows();
+    return map != nullptr ? map->Find(window) : nullptr;
+}
+
+void ContainerWindow::RouteMessages() {
+    OnMessage(WM_COMMAND, this, &ContainerWindow::OnWmCommand);
+    OnMessage(WM_NOTIFY, this, &ContainerWindow::OnWmNotify);
+    OnMessage(WM_DRAWITEM, this, &ContainerWindow::OnWmDrawItem);
+    OnMessage(WM_ACTIVATE, this, &ContainerWindow::OnWmActivate);
+    OnMessage(WM_DESTROY, this, &ContainerWindow::OnWmDestroy);
+}
+
+NativeCodeTable ContainerWindow::NativeCodes() const { return CommonNotificationCodes(); }
+
+LRESULT ContainerWindow::OnWmCommand(MessageRecord& record) {
+    const auto control = reinterpret_cast<HWND>(record.lParam);
+    const EventSource command = LOWORD(record.wParam);
+    const WindowObject* object = control != nullptr ? ObjectOf(control) : nullptr;
+    if (object == nullptr) {
+        RaiseEvent(event::Command, command, 0, record);
+        return record.result;
+    }
+    const EventCode code = TranslateNativeCode(object->NativeCodes(), HIWORD(record.wParam));
+    if (code == event::RaiseAsCommand) {
+        RaiseEvent(event::Command, command, 0, record);
+    } else {
+        RaiseEvent(code, reinterpret_cast<EventSource>(control), 0, record);
+    }
+    return record.result;
+}
+
+LRESULT ContainerWindow::OnWmNotify(MessageRecord& record) {
+    const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    const WindowObject* object = ObjectOf(header->hwndFrom);
+    if (object == nullptr) return record.result;
+    const EventCode code = TranslateNotification(header->code, object->NativeCodes());
+    RaiseEvent(code, reinterpret_cast<EventSource>(header->hwndFrom), record.lParam, record);
+    return record.result;
+}
+
+EventCode ContainerWindow::TranslateNotification(std::uint32_t native, NativeCodeTable controlCodes) const {
+    const EventCode code = TranslateNativeCode(NativeCodes(), native, event::AskControl);
+    return code == event::AskControl ? TranslateNativeCode(controlCodes, native) : code;
+}
+
+LRESULT ContainerWindow::OnWmDrawItem(MessageRecord& record) {
+    const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(record.lParam);
+    const EventSource source = ObjectOf(item->hwndItem) != nullptr ? reinterpret_cast<EventSource>(item->hwndItem)
+                                                                   : static_cast<EventSource>(item->CtlID);
+    RaiseEvent(event::DrawItem, source, record.lParam, record);
+    return 1;
+}
+
+LRESULT ContainerWindow::OnWmActivate(MessageRecord& record) {
+    KeepFocus(record);
+    return 0;
+}
+
+void ContainerWindow::KeepFocus(const MessageRecord& record) {
+    if (LOWORD(record.wParam) == WA_INACTIVE) {
+        const HWND focus = GetFocus();
+        if (HoldsWindow(focus)) rememberedFocus = focus;
+    } else if (HoldsWindow(rememberedFocus)) {
+        SetFocus(rememberedFocus);
+    } else if (!HoldsWindow(GetFocus())) {
+        SetFocus(Handle());
+    }
+}
+
+bool ContainerWindow::HoldsWindow(HWND window) const {
+    return window != nullptr && (window == Handle() || IsChild(Handle(), window));
+}
+
+LRESULT ContainerWindow::OnWmDestroy(MessageRecord&) { return 0; }

@@ -1,0 +1,38 @@
+#pragma once
+
+// A window with children: it turns WM_COMMAND and WM_NOTIFY into events and keeps the focus over a
+// deactivation.
+
+#include "framework/window_object.h"
+
+class ContainerWindow : public WindowObject {
+  public:
+    ContainerWindow(WindowObject* parent, const wchar_t* title, PropertySet& properties);
+    ContainerWindow(WindowObject* parent, HWND handle, Ownership ownership);
+
+    // NM_ codes that mean the same for every control; any other notification is the control's to translate.
+    [[nodiscard]] NativeCodeTable NativeCodes() const override;
+
+  protected:
+    // The object of the window, or null.
+    [[nodiscard]] static WindowObject* ObjectOf(HWND window);
+
+    virtual LRESULT OnWmCommand(MessageRecord& record);
+    virtual LRESULT OnWmNotify(MessageRecord& record);
+    virtual LRESULT OnWmDrawItem(MessageRecord& record);
+    virtual LRESULT OnWmActivate(MessageRecord& record);
+    virtual LRESULT OnWmDestroy(MessageRecord& record);
+
+    // The window's own translation of a WM_NOTIFY code, or that of the control's table.
+    [[nodiscard]] EventCode TranslateNotification(std::uint32_t native, NativeCodeTable controlCodes) const;
+
+    // Remembers the focus when the window is deactivated and gives it back on activation.
+    void KeepFocus(const MessageRecord& record);
+
+  private:
+    void RouteMessages();
+    // Whether it is this window or one inside it.
+    [[nodiscard]] bool HoldsWindow(HWND window) const;
+
+    HWND rememberedFocus = nullptr;
+};

@@ -1,0 +1,108 @@
+#include "framework/control.h"
+
+#include "framework/property_keys.h"
+
+namespace {
+
+constexpr EventCode KeyEvents[] = {event::EnterKey, event::TabKey};
+
+PropertySet& WithControlDefaults(PropertySet& properties, const wchar_t* className) {
+    properties.Add(property::Style, WS_CHILD | WS_VISIBLE);
+    properties.Add(property::ClassIsRegistered, 1);
+    properties.AddText(property::ClassName, className);
+    return properties;
+}
+
+bool IsShiftDown() { return GetKeyState(VK_SHIFT) < 0; }
+
+}  // namespace
+
+HWND DialogItem(const WindowObject& dialog, int id) { return GetDlgItem(dialog.Handle(), id); }
+
+Control::Control(WindowObject* parentObject, const wchar_t* className, PropertySet& properties)
+    : WindowObject(parentObject, L"", WithControlDefaults(properties, className)),
+      nativeCodes(NativeCodesOfClass(className)) {}
+
+Control::Control(WindowObject* parentObject, HWND existing, const wchar_t* className, Ownership ownership)
+    : WindowObject(parentObject, existing, ownership), nativeCodes(NativeCodesOfClass(className)) {}
+
+int TabControl::AppendItem(const wchar_t* text) {
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = const_cast<wchar_t*>(text);
+    const LRESULT count = SendMessageW(Handle(), TCM_GETITEMCOUNT, 0, 0);
+    return static_cast<int>(
+        SendMessageW(Handle(), TCM_INSERTITEMW, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(&item)));
+}
+
+int TabControl::Selected() const { return static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0)); }
+
+void TabControl::Select(int index) { SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(index), 0); }
+
+RECT TabControl::DisplayArea() const {
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    SendMessageW(Handle(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+    return area;
+}
+
+TextField::TextField(WindowObject* parentObject, HWND edit, Ownership ownership)
+    : Control(parentObject, edit, L"Edit", ownership) {
+    Subclass();
+    OnMessage(WM_KEYDOWN, this, &TextField::OnKeyDown);
+    OnMessage(WM_CHAR, this, &TextField::OnCharacter);
+    OnMessage(WM_GETDLGCODE, this, &TextField::OnGetDialogCode);
+}
+
+std::span<const EventCode> TextField::OwnEvents() const { return KeyEvents; }
+
+bool TextField::Takes(WPARAM key) const { return key == VK_RETURN || (key == VK_TAB && tabNotification); }
+
+// While an input method composes, its keys arrive as VK_PROCESSKEY and are none of ours.
+LRESULT TextField::OnKeyDown(MessageRecord& record) {
+    if (!Takes(record.wParam)) return DefaultProcessing(record);
+    const auto source = reinterpret_cast<EventSource>(Handle());
+    if (record.wParam == VK_RETURN) {
+        RaiseEvent(event::EnterKey, source, 0, record);
+    } else {
+        RaiseEvent(event::TabKey, source, IsShiftDown() ? 1 : 0, record);
+    }
+    return 0;
+}
+
+// The characters of the keys above; an edit would beep at them.
+LRESULT TextField::OnCharacter(MessageRecord& record) {
+    return Takes(record.wParam) ? 0 : DefaultProcessing(record);
+}
+
+// Asked by the dialog keyboard rules for each key: the keys above are the field's own.
+LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
+    const LRESULT usual = DefaultProcessing(record);
+    const auto* message = reinterpret_cast<const MSG*>(record.lParam);
+    const bool wanted = message != nullptr && (message->message == WM_KEYDOWN || message->message == WM_CHAR) &&
+                        Takes(message->wParam);
+    return wanted ? usual | DLGC_WANTMESSAGE : usual;
+}
+
+ComboBox::ComboBox(WindowObject* parentObject, HWND existing)
+    : Control(parentObject, existing, L"combobox"), edit(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
+    edit.OnNotification(event::EnterKey, this, &ComboBox::OnEditKey, event::EnterKey);
+    edit.OnNotification(event::TabKey, this, &ComboBox::OnEditKey, event::TabKey);
+}
+
+std::span<const EventCode> ComboBox::OwnEvents() const { return KeyEvents; }
+
+LRESULT ComboBox::OnEditKey(EventArguments& arguments) {
+    if (IsListOpen()) {
+        // The first Enter takes the entry chosen in the open list, as in any combo box.
+        const bool enter = arguments.extra == event::EnterKey;
+        if (enter) SendMessageW(Handle(), WM_KEYDOWN, VK_RETURN, 0);
+        if (IsListOpen()) SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
+        if (enter) return 0;
+    }
+    RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()), arguments.argument,
+               arguments.record);
+    return arguments.record.result;
+}
+
+bool ComboBox::IsListOpen() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0; }

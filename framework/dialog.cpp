@@ -1,0 +1,246 @@
+#include "framework/dialog.h"
+
+#include <iterator>
+
+#include "app/app_globals.h"
+#include "framework/application.h"
+#include "framework/centring.h"
+#include "framework/control.h"
+#include "framework/property_keys.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr int ClassNameCapacity = 128;
+constexpr int FontHeight = -12;
+
+// A Done button and full-screen size.
+constexpr DWORD DefaultFullScreenFlags = ce::DialogDoneButton | ce::DialogSizeFullScreen;
+
+constexpr int TitleLineY = 24;
+constexpr int LastTitleStatic = STATIC_TITLE + 9;
+
+HFONT CreateDialogFont() {
+    LOGFONTW font{};
+    font.lfHeight = FontHeight;
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    return CreateFontIndirectW(&font);
+}
+
+HBRUSH WhiteBrush() { return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)); }
+
+NativeCodeTable NativeCodesByClassName(HWND control) {
+    wchar_t className[ClassNameCapacity] = L"";
+    ce::GetClassNameW(control, className, ClassNameCapacity);
+    return NativeCodesOfClass(className);
+}
+
+DWORD FullScreenFlagsOf(const PropertySet& properties) {
+    PropertyValue flags = 0;
+    return properties.Lookup(property::FullScreenFlags, flags) ? static_cast<DWORD>(flags) : DefaultFullScreenFlags;
+}
+
+}  // namespace
+
+Dialog* Dialog::pendingModal = nullptr;
+Dialog* Dialog::pendingModeless = nullptr;
+
+Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
+    : ContainerWindow(parentObject, nullptr, Ownership::Wrapped),
+      templateName(properties.GetText(property::DialogTemplate)),
+      initArgument(properties.Get(property::InitArgument)),
+      fullScreenFlags(FullScreenFlagsOf(properties)),
+      font(CreateDialogFont()) {
+    OnMessage(WM_INITDIALOG, this, &Dialog::OnInitDialog);
+    OnMessage(WM_PAINT, this, &Dialog::OnWmPaint);
+    OnMessage(WM_CTLCOLORSTATIC, this, &Dialog::OnWmCtlColorStatic);
+    OnMessage(WM_CTLCOLORDLG, this, &Dialog::OnWmCtlColorDialog);
+}
+
+Dialog::~Dialog() {
+    DestroyMenuBar();
+    DeleteObject(font);
+    const HWND window = Handle();
+    Detach();
+    if (window != nullptr && IsWindow(window)) DestroyWindow(window);
+}
+
+const DLGTEMPLATE* Dialog::FindTemplate() const {
+    const HINSTANCE instance = Globals().instance;
+    const HRSRC resource = FindResourceW(instance, templateName, RT_DIALOG);
+    return resource != nullptr ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
+                               : nullptr;
+}
+
+void Dialog::CreateModeless() {
+    if (Handle() != nullptr) return;
+    const DLGTEMPLATE* dialogTemplate = FindTemplate();
+    if (dialogTemplate == nullptr) return;
+    pendingModeless = this;
+    CreateDialogIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
+    pendingModeless = nullptr;
+}
+
+void Dialog::ShowModeless() {
+    CreateModeless();
+    ShowWindow(Handle(), SW_SHOW);
+    SetForegroundWindow(Handle());
+}
+
+INT_PTR Dialog::RunModal() {
+    if (Handle() != nullptr) return -1;
+    const DLGTEMPLATE* dialogTemplate = FindTemplate();
+    if (dialogTemplate == nullptr) return -1;
+    pendingModal = this;
+    const INT_PTR result =
+        DialogBoxIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModalProcedure, 0);
+    pendingModal = nullptr;
+    return result;
+}
+
+void Dialog::End(INT_PTR result) {
+    DestroyMenuBar();
+    EndDialog(Handle(), result);
+}
+
+INT_PTR CALLBACK Dialog::ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DESTROY) {
+        WindowMap* map = Application::Windows();
+        auto* dialog = map != nullptr ? static_cast<Dialog*>(map->Find(window)) : nullptr;
+        if (dialog != nullptr) {
+            dialog->DestroyMenuBar();
+            dialog->Detach();
+        }
+        return 0;
+    }
+    return Procedure(pendingModal, window, message, wParam, lParam);
+}
+
+INT_PTR CALLBACK Dialog::ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return Procedure(pendingModeless, window, message, wParam, lParam);
+}
+
+INT_PTR Dialog::Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG && pending != nullptr) {
+        Dialog* created = pending;
+        pending = nullptr;
+        created->Attach(window);
+    }
+    const WindowMap* map = Application::Windows();
+    WindowObject* object = map != nullptr ? map->Find(window) : nullptr;
+    if (object == nullptr) return 0;
+    MessageRecord record{message, wParam, lParam, 0, 0};
+    return object->Dispatch(record);
+}
+
+LRESULT Dialog::DefaultProcessing(MessageRecord&) { return 0; }
+
+LRESULT Dialog::OnWmCommand(MessageRecord& record) {
+    const auto control = reinterpret_cast<HWND>(record.lParam);
+    const EventSource id = LOWORD(record.wParam);
+    if (control != nullptr) {
+        RaiseEvent(TranslateByClassName(control, HIWORD(record.wParam)), id, 0, record);
+    } else if (id == IDCANCEL) {
+        End(ResultCancel);
+    } else {
+        RaiseEvent(event::Command, id, 0, record);
+    }
+    return record.result;
+}
+
+// A control with no object of its own is known by its class.
+LRESULT Dialog::OnWmNotify(MessageRecord& record) {
+    const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    const WindowObject* object = ObjectOf(header->hwndFrom);
+    const EventCode code = TranslateNotification(
+        header->code, object != nullptr ? object->NativeCodes() : NativeCodesByClassName(header->hwndFrom));
+    RaiseEvent(code, static_cast<EventSource>(header->idFrom), record.lParam, record);
+    return record.result;
+}
+
+EventCode Dialog::TranslateByClassName(HWND control, std::uint32_t native) {
+    return TranslateNativeCode(NativeCodesByClassName(control), native);
+}
+
+LRESULT Dialog::OnWmActivate(MessageRecord& record) {
+    KeepFocus(record);
+    return 1;
+}
+
+LRESULT Dialog::OnInitDialog(MessageRecord& record) {
+    CallInitialisation(record);
+    SetUpShell(fullScreenFlags, DialogBar::CancelAndOk);
+    return 1;
+}
+
+void Dialog::CallInitialisation(MessageRecord& record) {
+    if (initialisation.target == nullptr) return;
+    EventArguments arguments{initialisation.extra, static_cast<std::intptr_t>(initArgument), record};
+    (initialisation.target->*initialisation.method)(arguments);
+}
+
+void Dialog::SetUpShell(DWORD flags, DialogBar bar) {
+    const ce::DialogInitInfo info{1, Handle(), flags};
+    ce::SHInitDialog(&info);
+    CreateMenuBar(bar);
+}
+
+void Dialog::CreateMenuBar(DialogBar bar) {
+    ce::MenuBarInfo info{};
+    info.cbSize = sizeof info;
+    info.hwndParent = Handle();
+    info.nToolBarId = MENU_BAR_DIALOG;
+    info.hInstRes = Globals().instance;
+    info.nBmpId = BITMAP_DIALOG_BAR;
+    info.cBmpImages = 5;
+    if (bar == DialogBar::None || !ce::SHCreateMenuBar(&info)) return;
+    menuBar = info.hwndMB;
+
+    static const wchar_t* const labels[] = {L"Cancel", L"OK"};
+    SendMessageW(menuBar, ce::ToolBarSetToolTips, std::size(labels), reinterpret_cast<LPARAM>(labels));
+    TBBUTTON buttons[] = {{0, IDCANCEL, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1},
+                          {1, IDOK, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1}};
+    SendMessageW(menuBar, TB_ADDBUTTONSW, static_cast<WPARAM>(bar), reinterpret_cast<LPARAM>(buttons));
+}
+
+void Dialog::DestroyMenuBar() {
+    if (menuBar != nullptr && IsWindow(menuBar)) DestroyWindow(menuBar);
+    menuBar = nullptr;
+}
+
+void Dialog::Centre() {
+    RECT own{};
+    GetWindowRect(Handle(), &own);
+    RECT parentRectangle{};
+    const bool hasParent = ParentHandle() != nullptr && GetWindowRect(ParentHandle(), &parentRectangle);
+    const LONG width = own.right - own.left;
+    const LONG height = own.bottom - own.top;
+    const POINT corner =
+        CentredPosition(width, height, hasParent ? &parentRectangle : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
+                        ce::GetSystemMetrics(SM_CYSCREEN));
+    MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
+}
+
+LRESULT Dialog::OnWmPaint(MessageRecord& record) {
+    if (DialogItem(*this, STATIC_TITLE) == nullptr) return DefaultProcessing(record);
+    PAINTSTRUCT paint{};
+    const HDC context = BeginPaint(Handle(), &paint);
+    const POINT line[] = {{0, TitleLineY}, {ce::GetSystemMetrics(SM_CXSCREEN), TitleLineY}};
+    Polyline(context, line, static_cast<int>(std::size(line)));
+    EndPaint(Handle(), &paint);
+    return 1;
+}
+
+LRESULT Dialog::OnWmCtlColorStatic(MessageRecord& record) {
+    const auto context = reinterpret_cast<HDC>(record.wParam);
+    const int id = GetDlgCtrlID(reinterpret_cast<HWND>(record.lParam));
+    if (id >= STATIC_TITLE && id <= LastTitleStatic) {
+        SetBkMode(context, TRANSPARENT);
+        SetTextColor(context, ce::GetSysColor(static_cast<int>(ce::SystemColorFlag | COLOR_HIGHLIGHT)));
+    }
+    return reinterpret_cast<LRESULT>(WhiteBrush());
+}
+
+// Dialogs are white on the handheld, whatever the desktop's colour for them is.
+LRESULT Dialog::OnWmCtlColorDialog(MessageRecord&) { return reinterpret_cast<LRESULT>(WhiteBrush()); }

@@ -1,0 +1,17 @@
+#include "framework/fatal_message.h"
+
+#include <cstdarg>
+#include <iterator>
+
+#include "app/language.h"
+#include "platform/format_text.h"
+#include "platform/windows_ce.h"
+
+int ShowFatal(HWND owner, const wchar_t* format, ...) {
+    wchar_t text[520];
+    va_list arguments;
+    va_start(arguments, format);
+    FormatTextV(text, std::size(text), format, arguments);
+    va_end(arguments);
+    return MessageBoxW(owner, text, InLanguage(L"Fatal", L"致命的なｴﾗｰ"), MB_ICONERROR);
+}

@@ -1,0 +1,43 @@
+#include "framework/handler_tables.h"
+
+#include <new>
+
+namespace {
+
+template <class Entry>
+void DeleteAll(Entry* entry) {
+    while (entry != nullptr) {
+        Entry* next = entry->next;
+        delete entry;
+        entry = next;
+    }
+}
+
+}  // namespace
+
+MessageTable::~MessageTable() { DeleteAll(head); }
+
+void MessageTable::Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra) {
+    auto* entry = new (std::nothrow) MessageEntry{message, target, method, extra, head};
+    if (entry != nullptr) head = entry;
+}
+
+const MessageEntry* MessageTable::Find(UINT message) const {
+    const MessageEntry* entry = head;
+    while (entry != nullptr && entry->message != message) entry = entry->next;
+    return entry;
+}
+
+EventTable::~EventTable() { DeleteAll(head); }
+
+void EventTable::Add(EventCode code, EventSource source, WindowObject* target, EventMethod method,
+                     std::uintptr_t extra) {
+    auto* entry = new (std::nothrow) EventEntry{code, source, target, method, extra, head};
+    if (entry != nullptr) head = entry;
+}
+
+const EventEntry* EventTable::Find(EventCode code, EventSource source) const {
+    const EventEntry* entry = head;
+    while (entry != nullptr && (entry->code != code || entry->source != source)) entry = entry->next;
+    return entry;
+}

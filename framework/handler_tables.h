@@ -1,0 +1,82 @@
+#pragma once
+
+// The two tables through which an object's messages and events find their handlers. A handler is a target
+// object, a method of it and an extra word; the newest entry hides older ones.
+
+#include <cstdint>
+
+#include "framework/event_codes.h"
+#include "platform/system_types.h"
+
+class WindowObject;
+
+// One message on its way through an object.
+struct MessageRecord {
+    UINT message = 0;
+    WPARAM wParam = 0;
+    LPARAM lParam = 0;
+    std::uintptr_t extra = 0;  // of the handler that receives it
+    LRESULT result = 0;
+};
+
+// What an event's handler is given.
+struct EventArguments {
+    std::uintptr_t extra;    // of the handler
+    std::intptr_t argument;  // of whoever raised the event
+    MessageRecord& record;   // the message that caused it
+};
+
+using MessageMethod = LRESULT (WindowObject::*)(MessageRecord&);
+using EventMethod = LRESULT (WindowObject::*)(EventArguments&);
+
+// A window handle, a control id or a command id.
+using EventSource = std::uintptr_t;
+
+struct MessageEntry {
+    UINT message;
+    WindowObject* target;
+    MessageMethod method;
+    std::uintptr_t extra;
+    MessageEntry* next;
+};
+
+class MessageTable {
+  public:
+    MessageTable() = default;
+    ~MessageTable();
+    MessageTable(const MessageTable&) = delete;
+    MessageTable& operator=(const MessageTable&) = delete;
+
+    // Lost silently when there is no memory for it.
+    void Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
+    // The newest entry for the message, or null.
+    [[nodiscard]] const MessageEntry* Find(UINT message) const;
+
+  private:
+    MessageEntry* head = nullptr;
+};
+
+struct EventEntry {
+    EventCode code;
+    EventSource source;
+    WindowObject* target;
+    EventMethod method;
+    std::uintptr_t extra;
+    EventEntry* next;
+};
+
+class EventTable {
+  public:
+    EventTable() = default;
+    ~EventTable();
+    EventTable(const EventTable&) = delete;
+    EventTable& operator=(const EventTable&) = delete;
+
+    // Lost silently when there is no memory for it.
+    void Add(EventCode code, EventSource source, WindowObject* target, EventMethod method, std::uintptr_t extra);
+    // The newest entry for the event from this source, or null.
+    [[nodiscard]] const EventEntry* Find(EventCode code, EventSource source) const;
+
+  private:
+    EventEntry* head = nullptr;
+};

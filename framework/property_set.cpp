@@ -1,0 +1,54 @@
+#include "framework/property_set.h"
+
+#include "framework/property_keys.h"
+
+namespace {
+
+bool IsStyleKey(PropertyKey key) { return key == property::Style || key == property::ExtendedStyle; }
+
+}  // namespace
+
+void PropertySet::Set(PropertyKey key, PropertyValue value) {
+    const int index = IndexOf(key);
+    if (index < 0) {
+        Append(key, value);
+    } else if (IsStyleKey(key)) {
+        pairs[static_cast<std::size_t>(index)].value |= value;
+    } else {
+        pairs[static_cast<std::size_t>(index)].value = value;
+    }
+}
+
+void PropertySet::Add(PropertyKey key, PropertyValue value) {
+    if (IsStyleKey(key)) {
+        Set(key, value);
+    } else {
+        Append(key, value);
+    }
+}
+
+PropertyValue PropertySet::Get(PropertyKey key) const {
+    PropertyValue value = 0;
+    Lookup(key, value);
+    return value;
+}
+
+bool PropertySet::Lookup(PropertyKey key, PropertyValue& value) const {
+    const int index = IndexOf(key);
+    value = index < 0 ? 0 : pairs[static_cast<std::size_t>(index)].value;
+    return index >= 0;
+}
+
+bool PropertySet::Has(PropertyKey key) const { return IndexOf(key) >= 0; }
+
+int PropertySet::IndexOf(PropertyKey key) const {
+    for (int i = 0; i < count; ++i) {
+        if (pairs[static_cast<std::size_t>(i)].key == key) return i;
+    }
+    return -1;
+}
+
+void PropertySet::Append(PropertyKey key, PropertyValue value) {
+    if (count == Capacity) return;
+    pairs[static_cast<std::size_t>(count++)] = {key, value};
+}

@@ -1,0 +1,92 @@
+#include "framework/property_sheet.h"
+
+#include <cwchar>
+
+#include "app/app_globals.h"
+#include "framework/application.h"
+#include "framework/centring.h"
+
+namespace {
+
+// Told once the sheet's window stands: it is brought to the middle of its owner and onto the screen.
+int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
+    if (message != PSCB_INITIALIZED) return 0;
+    RECT own{};
+    RECT parent{};
+    GetWindowRect(sheet, &own);
+    const HWND owner = GetWindow(sheet, GW_OWNER);
+    const bool hasOwner = owner != nullptr && GetWindowRect(owner, &parent);
+    const LONG width = own.right - own.left;
+    const LONG height = own.bottom - own.top;
+    const POINT corner =
+        CentredPosition(width, height, hasOwner ? &parent : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
+                        ce::GetSystemMetrics(SM_CYSCREEN));
+    MoveWindow(sheet, corner.x, corner.y, width, height, TRUE);
+    return 0;
+}
+
+}  // namespace
+
+PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* title, const PropertySet& properties)
+    : Dialog(parentObject, properties), titleText(title, title + std::wcslen(title) + 1) {}
+
+HPROPSHEETPAGE PropertySheetPage::CreatePage() {
+    PROPSHEETPAGEW page{};
+    page.dwSize = sizeof page;
+    page.dwFlags = PSP_USETITLE;
+    page.hInstance = Globals().instance;
+    page.pszTemplate = TemplateName();
+    page.pszTitle = titleText.data();
+    page.pfnDlgProc = &PageProcedure;
+    page.lParam = reinterpret_cast<LPARAM>(this);
+    return CreatePropertySheetPageW(&page);
+}
+
+INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        const auto* page = reinterpret_cast<const PROPSHEETPAGEW*>(lParam);
+        reinterpret_cast<PropertySheetPage*>(page->lParam)->Attach(window);
+    }
+    const WindowMap* map = Application::Windows();
+    auto* object = map != nullptr ? static_cast<PropertySheetPage*>(map->Find(window)) : nullptr;
+    if (object == nullptr) return 0;
+    if (message == WM_DESTROY) {
+        object->Detach();
+        return 0;
+    }
+    MessageRecord record{message, wParam, lParam, 0, 0};
+    return object->Dispatch(record);
+}
+
+// A page has neither a bar nor a place of its own.
+LRESULT PropertySheetPage::OnInitDialog(MessageRecord& record) {
+    CallInitialisation(record);
+    SetUpControls();
+    return 1;
+}
+
+LRESULT PropertySheetPage::OnWmNotify(MessageRecord& record) {
+    const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    if (header->code != static_cast<UINT>(PSN_APPLY)) return Dialog::OnWmNotify(record);
+    RaiseEvent(event::Apply, 0, record.lParam, record);
+    SetWindowLongPtrW(Handle(), DWLP_MSGRESULT, PSNRET_NOERROR);
+    return 1;
+}
+
+void PropertySheetDialog::Run() {
+    std::vector<HPROPSHEETPAGE> handles;
+    for (PropertySheetPage* page : pages) {
+        if (const HPROPSHEETPAGE handle = page->CreatePage()) handles.push_back(handle);
+    }
+    if (handles.empty()) return;
+    PROPSHEETHEADERW header{};
+    header.dwSize = sizeof header;
+    header.dwFlags = PSH_USECALLBACK | PSH_NOCONTEXTHELP;
+    header.hwndParent = owner != nullptr ? owner->Handle() : nullptr;
+    header.hInstance = Globals().instance;
+    header.pszCaption = caption;
+    header.nPages = static_cast<UINT>(handles.size());
+    header.phpage = handles.data();
+    header.pfnCallback = &PlaceSheet;
+    PropertySheetW(&header);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+// A modal property sheet and its pages, on the system's own control.
+
+#include <vector>
+
+#include "framework/dialog.h"
+
+class PropertySheetPage : public Dialog {
+  public:
+    // The template's name comes from the set; the title is copied.
+    PropertySheetPage(WindowObject* parent, const wchar_t* title, const PropertySet& properties);
+
+    // The page as the system's sheet wants it; the caller hands it to a sheet or destroys it.
+    [[nodiscard]] HPROPSHEETPAGE CreatePage();
+
+    // Called when the user takes over the changes.
+    template <class Target>
+    void OnApply(Target* target, LRESULT (Target::*method)(EventArguments&)) {
+        OnEvent(event::Apply, 0, target, method);
+    }
+
+  protected:
+    // Wraps and fills the page's controls.
+    virtual void SetUpControls() = 0;
+
+    LRESULT OnInitDialog(MessageRecord& record) override;
+    LRESULT OnWmNotify(MessageRecord& record) override;
+
+  private:
+    static INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    std::vector<wchar_t> titleText;
+};
+
+class PropertySheetDialog {
+  public:
+    // The caption is kept, not copied.
+    PropertySheetDialog(WindowObject* ownerObject, const wchar_t* captionText)
+        : owner(ownerObject), caption(captionText) {}
+    virtual ~PropertySheetDialog() = default;
+    PropertySheetDialog(const PropertySheetDialog&) = delete;
+    PropertySheetDialog& operator=(const PropertySheetDialog&) = delete;
+
+    // The page stays the caller's and outlives the run.
+    void AddPage(PropertySheetPage& page) { pages.push_back(&page); }
+    void RemovePage(std::size_t index) { pages.erase(pages.begin() + static_cast<std::ptrdiff_t>(index)); }
+
+    // Shows the sheet until the user closes it.
+    void Run();
+
+  private:
+    WindowObject* owner;
+    const wchar_t* caption;
+    std::vector<PropertySheetPage*> pages;
+};

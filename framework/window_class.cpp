@@ -1,0 +1,38 @@
+#include "framework/window_class.h"
+
+#include "app/app_globals.h"
+#include "framework/property_keys.h"
+#include "framework/window_object.h"
+#include "platform/windows_ce.h"
+
+namespace {
+
+constexpr PropertyValue RedrawOnSizeChange = CS_HREDRAW | CS_VREDRAW;
+
+PropertyValue ValueOr(const PropertySet& properties, PropertyKey key, PropertyValue missing) {
+    PropertyValue value = 0;
+    return properties.Lookup(key, value) ? value : missing;
+}
+
+}  // namespace
+
+void RegisterWindowClass(const PropertySet& properties) {
+    const wchar_t* name = properties.GetText(property::ClassName);
+    WNDCLASSW windowClass{};
+    if (GetClassInfoW(Globals().instance, name, &windowClass)) return;
+
+    windowClass = {};
+    windowClass.style = static_cast<UINT>(ValueOr(properties, property::ClassStyle, RedrawOnSizeChange));
+    windowClass.lpfnWndProc = reinterpret_cast<WNDPROC>(ValueOr(
+        properties, property::WindowProcedure, reinterpret_cast<PropertyValue>(&FrameworkWindowProcedure)));
+    windowClass.cbClsExtra = static_cast<int>(properties.Get(property::ClassExtraBytes));
+    windowClass.cbWndExtra = static_cast<int>(properties.Get(property::WindowExtraBytes));
+    windowClass.hInstance = Globals().instance;
+    windowClass.hIcon = reinterpret_cast<HICON>(properties.Get(property::ClassIcon));
+    windowClass.hCursor = reinterpret_cast<HCURSOR>(properties.Get(property::ClassCursor));
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(ValueOr(
+        properties, property::ClassBackground, reinterpret_cast<PropertyValue>(GetStockObject(WHITE_BRUSH))));
+    windowClass.lpszMenuName = properties.GetText(property::ClassMenuName);
+    windowClass.lpszClassName = name;
+    ce::RegisterClassW(&windowClass);
+}

@@ -1,0 +1,40 @@
+#include "framework/window_map.h"
+
+#include <cstdint>
+#include <new>
+
+WindowMap::~WindowMap() {
+    for (Entry* entry : buckets) {
+        while (entry != nullptr) {
+            Entry* next = entry->next;
+            delete entry;
+            entry = next;
+        }
+    }
+}
+
+void WindowMap::Insert(HWND window, WindowObject* object) {
+    Entry*& head = buckets[BucketOf(window)];
+    auto* entry = new (std::nothrow) Entry{window, object, head};
+    if (entry != nullptr) head = entry;
+}
+
+WindowObject* WindowMap::Find(HWND window) const {
+    for (const Entry* entry = buckets[BucketOf(window)]; entry != nullptr; entry = entry->next) {
+        if (entry->window == window) return entry->object;
+    }
+    return nullptr;
+}
+
+bool WindowMap::Remove(HWND window) {
+    for (Entry** link = &buckets[BucketOf(window)]; *link != nullptr; link = &(*link)->next) {
+        if ((*link)->window != window) continue;
+        Entry* entry = *link;
+        *link = entry->next;
+        delete entry;
+        return true;
+    }
+    return false;
+}
+
+std::size_t WindowMap::BucketOf(HWND window) { return reinterpret_cast<std::uintptr_t>(window) % BucketCount; }

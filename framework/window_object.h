@@ -1,0 +1,114 @@
+#pragma once
+
+// The base of every window, dialog and control object: it owns or wraps one window handle, is found from
+// that handle through the window map, and gets its messages through one shared window procedure, which
+// turns each into a call of a registered handler or of the default processing.
+
+#include <memory>
+#include <span>
+
+#include "framework/handler_tables.h"
+#include "framework/native_codes.h"
+#include "framework/property_set.h"
+#include "platform/windows_ce.h"
+
+enum class Ownership { Wrapped, Owned, FollowsParent };
+
+class WindowObject {
+  public:
+    // Creates a new window from the set, which gets a class name where it has none. A window that cannot be
+    // created is reported to the user; the object then has no handle.
+    WindowObject(WindowObject* parent, const wchar_t* title, PropertySet& properties);
+
+    // Wraps a window that exists (or none yet). The object destroys it only if it owns it; FollowsParent
+    // owns it unless the parent's window is a dialog.
+    WindowObject(WindowObject* parent, HWND handle, Ownership ownership = Ownership::Wrapped);
+
+    virtual ~WindowObject();
+    WindowObject(const WindowObject&) = delete;
+    WindowObject& operator=(const WindowObject&) = delete;
+
+    [[nodiscard]] HWND Handle() const { return handle; }
+    [[nodiscard]] WindowObject* Parent() const { return parent; }
+    // The parent's window, or null.
+    [[nodiscard]] HWND ParentHandle() const { return parent != nullptr ? parent->handle : nullptr; }
+    [[nodiscard]] bool OwnsHandle() const { return ownsHandle; }
+
+    // Set by the main window on its condition pages.
+    void MarkAsPage() { isPage = true; }
+    [[nodiscard]] bool IsPage() const { return isPage; }
+
+    // Makes an existing control's messages pass through this object, once.
+    void Subclass();
+
+    // Looks for the newest handler of this event and source, calls it and stores its result as the record's
+    // result. Answers whether there was one.
+    bool RaiseEvent(EventCode code, EventSource source, std::intptr_t argument, MessageRecord& record);
+
+    // Typed forms of the registrations below: the method is one of the target's own class.
+    template <class Target>
+    void OnMessage(UINT message, Target* target, LRESULT (Target::*method)(MessageRecord&),
+                   std::uintptr_t extra = 0) {
+        AddMessageHandler(message, target, static_cast<MessageMethod>(method), extra);
+    }
+    template <class Target>
+    void OnEvent(EventCode code, EventSource source, Target* target, LRESULT (Target::*method)(EventArguments&),
+                 std::uintptr_t extra = 0) {
+        AddEventHandler(code, source, target, static_cast<EventMethod>(method), extra);
+    }
+    template <class Target>
+    void OnCommand(UINT command, Target* target, LRESULT (Target::*method)(EventArguments&),
+                   std::uintptr_t extra = 0) {
+        OnEvent(event::Command, command, target, method, extra);
+    }
+    template <class Target>
+    void OnNotification(EventCode code, Target* target, LRESULT (Target::*method)(EventArguments&),
+                        std::uintptr_t extra = 0) {
+        AddNotificationHandler(code, target, static_cast<EventMethod>(method), extra);
+    }
+
+    // The area that children may fill, in client coordinates.
+    [[nodiscard]] virtual RECT LayoutRectangle() const;
+    virtual void Move(int x, int y, int width, int height);
+    // The class's table of native notification codes; empty here.
+    [[nodiscard]] virtual NativeCodeTable NativeCodes() const;
+    // The events that the object raises on itself rather than on its parent; none here.
+    [[nodiscard]] virtual std::span<const EventCode> OwnEvents() const;
+    // What becomes of a message that no handler takes.
+    virtual LRESULT DefaultProcessing(MessageRecord& record);
+    // The way of every message through the object.
+    virtual LRESULT Dispatch(MessageRecord& record);
+    virtual void AddEventHandler(EventCode code, EventSource source, WindowObject* target, EventMethod method,
+                                 std::uintptr_t extra);
+    // On a child: into its own table when the event is one of its own, else into the parent's table, with
+    // the child's handle as source or, when the parent is a dialog, the child's control id.
+    virtual void AddNotificationHandler(EventCode code, WindowObject* target, EventMethod method,
+                                        std::uintptr_t extra);
+    virtual void Enable();
+    virtual void Disable();
+
+    void AddMessageHandler(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
+
+  protected:
+    // For windows that the system creates before it tells (dialogs): takes the handle into the map.
+    void Attach(HWND window);
+    // Takes the handle out of the map and forgets it.
+    void Detach();
+
+  private:
+    void Create(const wchar_t* title, PropertySet& properties);
+
+    HWND handle = nullptr;
+    std::unique_ptr<EventTable> events;
+    std::unique_ptr<MessageTable> messages;
+    WindowObject* parent = nullptr;
+    bool ownsHandle = false;
+    bool isPage = false;
+    WNDPROC savedProcedure = nullptr;
+};
+
+// The window procedure of every registered class and every subclassed control.
+LRESULT CALLBACK FrameworkWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Whether the window's class is that of dialogs.
+[[nodiscard]] bool IsDialogWindow(HWND window);

@@ -1,0 +1,220 @@
+#include <memory>
+
+#include "framework/control.h"
+#include "framework/dialog.h"
+#include "tests/framework/dialog_ids.h"
+#include "tests/framework/test_dialog.h"
+
+namespace {
+
+class DialogEvents : public FrameworkTest {
+  protected:
+    DialogEvents() { dialog.CreateModeless(); }
+
+    TestDialog dialog{L"Plain_E"};
+    Listener listener;
+};
+
+class DialogCommands : public DialogEvents {};
+
+TEST_F(DialogCommands, without_a_control_are_raised_by_their_id) {
+    dialog.OnCommand(IDOK, &listener, &Listener::TakeEvent);
+    dialog.OnCommand(40100, &listener, &Listener::TakeEvent);
+    SendCommand(dialog.Handle(), IDOK, 0, nullptr);
+    EXPECT_EQ(listener.events.size(), 1U);
+    SendCommand(dialog.Handle(), 40100, 0, nullptr);
+    EXPECT_EQ(listener.events.size(), 2U);
+}
+
+TEST_F(DialogCommands, cancel_without_a_control_ends_with_result_2_at_once) {
+    TestDialog modal(L"Plain_E");
+    modal.OnCommand(IDCANCEL, &listener, &Listener::TakeEvent);
+    EXPECT_EQ(modal.RunWith([&] { SendCommand(modal.Handle(), IDCANCEL, 0, nullptr); }), 2);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+TEST_F(DialogCommands, the_escape_key_ends_with_result_2) {
+    TestDialog modal(L"Plain_E");
+    // The steps return without ending the dialog, so that the posted key arrives; they must not hide it.
+    INT_PTR result = 0;
+    modal.OnInitialise(&listener, &Listener::TakeEvent);
+    result = modal.RunWith([&] {
+        MSG key{GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+        IsDialogMessageW(modal.Handle(), &key);
+    });
+    EXPECT_EQ(result, 2);
+}
+
+TEST_F(DialogCommands, cancel_of_a_control_is_raised_and_ends_nothing) {
+    TestDialog modal(L"Plain_E");
+    modal.OnCommand(IDCANCEL, &listener, &Listener::TakeEvent);
+    EXPECT_EQ(
+        modal.RunWith([&] { SendCommand(modal.Handle(), IDCANCEL, BN_CLICKED, modal.Item(PLAIN_BUTTON)); }),
+        TestDialog::LeftOpen);
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+TEST_F(DialogCommands, of_a_real_click_are_raised_by_the_control_s_id) {
+    dialog.OnCommand(PLAIN_BUTTON, &listener, &Listener::TakeEvent, 4);
+    SendMessageW(dialog.Item(PLAIN_BUTTON), BM_CLICK, 0, 0);
+    ASSERT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener.events[0].extra, 4U);
+}
+
+TEST_F(DialogCommands, of_a_control_are_translated_by_its_class_and_raised_by_its_id) {
+    struct Row {
+        int control;
+        int native;
+        EventCode code;
+    };
+    const Row rows[] = {
+        {PLAIN_BUTTON, BN_KILLFOCUS, 86},  {PLAIN_BUTTON, BN_SETFOCUS, 130},
+        {PLAIN_FIRST_EDIT, EN_CHANGE, 13}, {PLAIN_FIRST_EDIT, EN_MAXTEXT, 89},
+        {PLAIN_LIST, LBN_DBLCLK, 32},      {PLAIN_LIST, LBN_SELCHANGE, 121},
+    };
+    for (const Row& row : rows) {
+        listener.events.clear();
+        dialog.OnEvent(row.code, static_cast<EventSource>(row.control), &listener, &Listener::TakeEvent);
+        SendCommand(dialog.Handle(), row.control, row.native, dialog.Item(row.control));
+        EXPECT_EQ(listener.events.size(), 1U) << row.control << " " << row.native;
+    }
+}
+
+// Even when the control has an object: the dialog asks the class.
+TEST_F(DialogCommands, of_a_control_with_an_object_are_translated_by_its_class_too) {
+    const Control wrapped(&dialog, dialog.Item(PLAIN_BUTTON), L"Edit");
+    dialog.OnEvent(event::ButtonDoubleClicked, PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    SendCommand(dialog.Handle(), PLAIN_BUTTON, BN_DBLCLK, wrapped.Handle());
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+// The system spells the class with capitals.
+TEST_F(DialogCommands, of_a_combo_box_are_not_translated) {
+    Listener translated;
+    dialog.OnEvent(event::SelectionChanged, PLAIN_COMBO, &translated, &Listener::TakeEvent);
+    dialog.OnCommand(PLAIN_COMBO, &listener, &Listener::TakeEvent);
+    wchar_t name[32] = L"";
+    GetClassNameW(dialog.Item(PLAIN_COMBO), name, 32);
+    ASSERT_EQ(std::wstring(name), L"ComboBox");
+    SendCommand(dialog.Handle(), PLAIN_COMBO, CBN_SELCHANGE, dialog.Item(PLAIN_COMBO));
+    EXPECT_TRUE(translated.events.empty());
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+TEST_F(DialogCommands, of_an_unknown_class_translate_to_0) {
+    EXPECT_EQ(TestDialog::TranslateByClassName(dialog.Handle(), 5), 0U) << "the class Dialog";
+    EXPECT_EQ(TestDialog::TranslateByClassName(nullptr, 5), 0U);
+    EXPECT_EQ(TestDialog::TranslateByClassName(dialog.Item(PLAIN_BUTTON), 5), 33U);
+}
+
+TEST_F(DialogCommands, leave_no_trace_of_the_translation_in_the_map) {
+    const HWND button = dialog.Item(PLAIN_BUTTON);
+    EXPECT_EQ(TestDialog::TranslateByClassName(button, 5), 33U);
+    EXPECT_EQ(Application::Windows()->Find(button), nullptr);
+    const Control wrapped(&dialog, button, L"Button");
+    EXPECT_EQ(TestDialog::TranslateByClassName(button, 5), 33U);
+    EXPECT_EQ(Application::Windows()->Find(button), &wrapped);
+}
+
+class DialogNotifications : public DialogEvents {};
+
+TEST_F(DialogNotifications, of_a_control_without_an_object_are_raised_by_its_id) {
+    dialog.OnEvent(event::DateTimeChanged, PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    NMHDR header{dialog.Item(PLAIN_PICKER), PLAIN_PICKER, static_cast<UINT>(-759)};
+    SendMessageW(dialog.Handle(), WM_NOTIFY, PLAIN_PICKER, reinterpret_cast<LPARAM>(&header));
+    ASSERT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener.events[0].argument, reinterpret_cast<std::intptr_t>(&header));
+}
+
+TEST_F(DialogNotifications, common_to_all_controls_are_translated_by_the_dialog) {
+    dialog.OnEvent(event::DoubleClick, PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    SendNotification(dialog.Handle(), dialog.Item(PLAIN_PICKER), PLAIN_PICKER, NM_DBLCLK);
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+TEST_F(DialogNotifications, of_a_control_with_an_object_are_translated_by_that_object) {
+    const Control wrapped(&dialog, dialog.Item(PLAIN_PICKER), L"SysTabControl32");
+    dialog.OnEvent(event::SelectionChanged, PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    SendNotification(dialog.Handle(), wrapped.Handle(), PLAIN_PICKER, static_cast<UINT>(-551));
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+class DialogControls : public DialogEvents {};
+
+TEST_F(DialogControls, are_wrapped_without_being_owned) {
+    const HWND button = dialog.Item(PLAIN_BUTTON);
+    {
+        const Control wrapped(&dialog, button, L"Button");
+        EXPECT_FALSE(wrapped.OwnsHandle());
+    }
+    EXPECT_TRUE(IsWindow(button));
+}
+
+TEST_F(DialogControls, notify_by_their_id) {
+    Control wrapped(&dialog, dialog.Item(PLAIN_BUTTON), L"Button");
+    wrapped.OnNotification(event::Command, &listener, &Listener::TakeEvent, 3);
+    SendMessageW(wrapped.Handle(), BM_CLICK, 0, 0);
+    ASSERT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener.events[0].extra, 3U);
+    MessageRecord record;
+    EXPECT_FALSE(
+        dialog.RaiseEvent(event::Command, reinterpret_cast<EventSource>(wrapped.Handle()), 0, record));
+}
+
+TEST_F(DialogControls, raise_enter_in_a_field_instead_of_the_default_command) {
+    TextField field(&dialog, dialog.Item(PLAIN_FIRST_EDIT));
+    EXPECT_FALSE(field.OwnsHandle());
+    Listener command;
+    dialog.OnCommand(IDOK, &command, &Listener::TakeEvent);
+    field.OnNotification(event::EnterKey, &listener, &Listener::TakeEvent);
+    SetFocus(field.Handle());
+    TypeKey(field.Handle(), VK_RETURN, dialog.Handle());
+    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_TRUE(command.events.empty());
+}
+
+TEST_F(DialogControls, pass_tab_on_to_the_next_control_unless_a_field_asks_for_it) {
+    TextField field(&dialog, dialog.Item(PLAIN_FIRST_EDIT));
+    ComboBox combo(&dialog, dialog.Item(PLAIN_COMBO));
+    field.OnNotification(event::TabKey, &listener, &Listener::TakeEvent);
+    SetFocus(field.Handle());
+    TypeKey(field.Handle(), VK_TAB, dialog.Handle());
+    EXPECT_EQ(GetFocus(), combo.Edit().Handle());
+    EXPECT_TRUE(listener.events.empty());
+
+    field.TurnOnTabNotification();
+    SetFocus(field.Handle());
+    TypeKey(field.Handle(), VK_TAB, dialog.Handle());
+    EXPECT_EQ(GetFocus(), field.Handle()) << "where it goes is the handler's affair";
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
+TEST_F(DialogControls, raise_a_combo_box_s_keys_under_the_dialog_s_keyboard_rules) {
+    ComboBox combo(&dialog, dialog.Item(PLAIN_COMBO));
+    combo.TurnOnTabNotification();
+    Listener tabs;
+    combo.OnNotification(event::EnterKey, &listener, &Listener::TakeEvent);
+    combo.OnNotification(event::TabKey, &tabs, &Listener::TakeEvent);
+    SetFocus(combo.Edit().Handle());
+    TypeKey(combo.Edit().Handle(), VK_RETURN, dialog.Handle());
+    TypeKey(combo.Edit().Handle(), VK_TAB, dialog.Handle());
+    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(tabs.events.size(), 1U);
+    EXPECT_EQ(GetFocus(), combo.Edit().Handle());
+}
+
+TEST_F(DialogControls, of_a_wrapped_combo_box_outlive_the_wrapper) {
+    const HWND box = dialog.Item(PLAIN_COMBO);
+    const HWND edit = GetWindow(box, GW_CHILD);
+    ASSERT_NE(edit, nullptr);
+    {
+        ComboBox wrapper(&dialog, box);
+        EXPECT_EQ(wrapper.Edit().Handle(), edit);
+        EXPECT_FALSE(wrapper.OwnsHandle());
+        EXPECT_FALSE(wrapper.Edit().OwnsHandle());
+    }
+    EXPECT_TRUE(IsWindow(box));
+    EXPECT_TRUE(IsWindow(edit));
+}
+
+}  // namespace

@@ -1,0 +1,24 @@
+#ifndef QUORIN_TESTS_DIALOG_IDS_H
+#define QUORIN_TESTS_DIALOG_IDS_H
+
+// The ids in dialogs.rc. Read by the resource compiler as well as by C++.
+
+#define PLAIN_FIRST_EDIT 701
+#define PLAIN_COMBO 702
+#define PLAIN_BUTTON 703
+#define PLAIN_LIST 704
+#define PLAIN_PICKER 705
+
+#define TITLED_OTHER_STATIC 12001
+#define TITLED_STATIC_BEFORE 12499
+#define TITLED_STATIC_LAST 12509
+#define TITLED_STATIC_BEHIND 12510
+
+#define VIEW_MENU_BAR 811
+#define VIEW_MENU 811
+#define VIEW_ACCELERATORS 812
+#define VIEW_ICON 813
+#define VIEW_MISSING_BAR 899
+#define VIEW_COMMAND 40901
+
+#endif

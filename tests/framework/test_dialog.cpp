@@ -1,0 +1,36 @@
+#include "tests/framework/test_dialog.h"
+
+#include <utility>
+
+namespace {
+
+constexpr UINT StepsMessage = WM_APP + 100;
+
+}  // namespace
+
+PropertySet TemplateProperties(const wchar_t* templateName) {
+    PropertySet properties;
+    properties.SetText(property::DialogTemplate, templateName);
+    return properties;
+}
+
+INT_PTR TestDialog::RunWith(std::function<void()> stepsToTake) {
+    steps = std::move(stepsToTake);
+    OnMessage(StepsMessage, this, &TestDialog::OnSteps);
+    return RunModal();
+}
+
+LRESULT TestDialog::OnInitDialog(MessageRecord& record) {
+    PostMessageW(Handle(), StepsMessage, 0, 0);
+    if (bar == DialogBar::CancelAndOk) return Dialog::OnInitDialog(record);
+    CallInitialisation(record);
+    SetUpShell(FullScreenFlags(), bar);
+    return 1;
+}
+
+LRESULT TestDialog::OnSteps(MessageRecord&) {
+    steps();
+    // One that is ending is hidden already.
+    if (IsWindow(Handle()) && IsWindowVisible(Handle())) End(LeftOpen);
+    return 1;
+}
