@@ -1,0 +1,43 @@
+#include "search/content_matches.h"
+
+#include <cstring>
+
+#include "app/app_globals.h"
+#include "platform/windows_ce.h"
+#include "search/byte_reader.h"
+#include "search/find_bytes.h"
+#include "search/line_readers.h"
+
+namespace {
+
+const char* ReadLine(const SearchConditions& conditions, ByteReader& reader) {
+    char(&line)[LineBufferSize] = SharedLineBuffer();
+    if (!conditions.Has(SearchConditions::IgnoreCase)) return ReadLineExact(line, LineReaderSize, reader);
+    return ReadLineUpper(line, LineReaderSize, reader, Globals().codeConversionAvailable);
+}
+
+// A line counts up to its first NUL only, and a reader's none ends the file even where it has more.
+bool FileContains(std::FILE* file, const SearchConditions& conditions) {
+    const char* const pattern = conditions.contentPattern;
+    const auto patternLength = static_cast<int>(std::strlen(pattern));
+    FileByteReader reader(file);
+    while (const char* const line = ReadLine(conditions, reader)) {
+        const auto lineLength = static_cast<int>(std::strlen(line));
+        if (FindBytes(line, lineLength, pattern, patternLength) != nullptr) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool ContentMatches(const SearchConditions& conditions, const wchar_t* fullPath,
+                    const WIN32_FIND_DATAW& entry) {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return false;
+    std::FILE* const file = ce::OpenForReading(fullPath);
+    if (file == nullptr) return false;
+    // The byte reader brings a buffer of its own.
+    std::setvbuf(file, nullptr, _IONBF, 0);
+    const bool contains = FileContains(file, conditions);
+    std::fclose(file);
+    return contains;
+}

@@ -1,0 +1,57 @@
+#include "search/line_readers.h"
+
+#include "search/double_byte_text.h"
+
+namespace {
+
+constexpr int EndOfFile = -1;
+constexpr int CarriageReturn = 13;
+constexpr int LineFeed = 10;
+
+char sharedLine[LineBufferSize];
+
+// Terminates the line; null for one in which nothing was stored.
+char* FinishLine(char* buffer, int size, int stored) {
+    if (size <= 0) return nullptr;
+    buffer[stored] = '\0';
+    return stored > 0 ? buffer : nullptr;
+}
+
+}  // namespace
+
+char (&SharedLineBuffer())[LineBufferSize] {
+    return sharedLine;
+}
+
+char* ReadLineExact(char* buffer, int size, ByteReader& reader) {
+    int stored = 0;
+    for (int step = 0; step < size - 1; ++step) {
+        const int byte = reader.Next();
+        if (byte == EndOfFile) break;
+        // Dropped, but its step counts: so a chunk of nothing but these ends the scan of the file.
+        if (byte == CarriageReturn) continue;
+        buffer[stored++] = static_cast<char>(byte);
+        if (byte == LineFeed) break;
+    }
+    return FinishLine(buffer, size, stored);
+}
+
+char* ReadLineUpper(char* buffer, int size, ByteReader& reader, bool doubleByteAware) {
+    int stored = 0;
+    for (int step = 0; step < size - 2; ++step) {
+        const int next = reader.Next();
+        // The line feed is not stored: an empty line looks like the end of the file, deliberately.
+        if (next == EndOfFile || next == LineFeed) break;
+        if (next == CarriageReturn) continue;
+        const auto byte = static_cast<unsigned char>(next);
+        if (doubleByteAware && IsLeadByte(byte)) {
+            const int trail = reader.Next();
+            if (trail == EndOfFile) break;
+            buffer[stored++] = static_cast<char>(byte);
+            buffer[stored++] = static_cast<char>(trail);
+        } else {
+            buffer[stored++] = static_cast<char>(UpperCaseByte(byte));
+        }
+    }
+    return FinishLine(buffer, size, stored);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+// One search from start to end.
+
+#include "search/condition_source.h"
+#include "search/match_sink.h"
+#include "search/search_conditions.h"
+#include "search/search_progress.h"
+
+// Fills the conditions from the source, clears the sink and walks the location; returns when the walk has
+// ended or was stopped. Dispatches messages on the way, so the caller sees to it that no second search starts
+// meanwhile.
+void RunSearch(SearchConditions& conditions, const ConditionSource& source, MatchSink& sink,
+               SearchProgress& progress);

@@ -1,0 +1,50 @@
+#pragma once
+
+// The shifts of FindWide and FindBytes, in one array shared by both on purpose: 65,536 entries, one for each
+// UTF-16 unit, and directly behind them 256 for bytes. A byte is taken as a signed number, so that the bytes
+// 0x80 to 0xFF use the last 128 entries of the part for units. What an earlier search left there decides
+// which matches are found after such a byte; that is deliberate.
+
+#include <cstdint>
+
+class ShiftTable {
+  public:
+    static constexpr int UnitEntries = 65536;
+    static constexpr int ByteEntries = 256;
+    static constexpr int Entries = UnitEntries + ByteEntries;
+
+    constexpr ShiftTable() = default;
+    ShiftTable(const ShiftTable&) = delete;
+    ShiftTable& operator=(const ShiftTable&) = delete;
+
+    // Sets all 65,536 entries of units to the shift.
+    void FillUnits(std::int32_t shift);
+    void SetUnit(wchar_t unit, std::int32_t shift);
+    std::int32_t ForUnit(wchar_t unit) const { return entries[static_cast<std::uint16_t>(unit)]; }
+
+    // Sets the 256 entries behind those of units to the shift. The bytes 0x80 to 0xFF, whose entries lie
+    // before, keep theirs.
+    void FillBytes(std::int32_t shift);
+    void SetByte(char byte, std::int32_t shift) { entries[ByteIndex(byte)] = shift; }
+    std::int32_t ForByte(char byte) const { return entries[ByteIndex(byte)]; }
+
+    // For tests: the table as it is when the program starts (all 0), and one entry by its place in the array,
+    // 0 to Entries - 1.
+    void Clear();
+    std::int32_t EntryAt(int index) const { return entries[index]; }
+
+  private:
+    static constexpr int ByteIndex(char byte) { return UnitEntries + static_cast<signed char>(byte); }
+    static constexpr int FirstSharedUnit = UnitEntries - 128;
+    static constexpr int MostNotedUnits = 260;
+
+    std::int32_t entries[Entries] = {};
+    // What FillUnits last wrote, and the units set since: with the same shift asked for again, only those and
+    // the entries shared with bytes have to be written.
+    std::int32_t unitFill = 0;
+    int notedCount = 0;
+    std::uint16_t notedUnits[MostNotedUnits] = {};
+};
+
+// The one table of the process.
+[[nodiscard]] ShiftTable& SharedShiftTable();

@@ -1,0 +1,18 @@
+#include "search/size_bound.h"
+
+SizeAnswer SizeBoundOf(int selectedIndex, std::uint32_t position, std::uint32_t& bound) {
+    constexpr int KilobyteBits = 10;
+    switch (selectedIndex) {
+        case 0:
+            bound = 0;
+            return SizeAnswer::None;
+        case 1:
+            bound = position << KilobyteBits;
+            return SizeAnswer::Min;
+        case 2:
+            bound = position << KilobyteBits;
+            return SizeAnswer::Max;
+        default:
+            return SizeAnswer::None;
+    }
+}

@@ -1,0 +1,32 @@
+#include "search/test_entry.h"
+
+#include <cwchar>
+
+#include "search/content_matches.h"
+#include "search/date_and_size_filter.h"
+#include "search/find_wide.h"
+#include "search/join_path.h"
+
+namespace {
+
+bool NamePasses(const wchar_t* name, const wchar_t* substring) {
+    if (substring[0] == L'\0') return true;
+    return FindWide(name, static_cast<int>(std::wcslen(name)), substring,
+                    static_cast<int>(std::wcslen(substring))) != nullptr;
+}
+
+}  // namespace
+
+bool TestEntry(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
+    if (walk.PumpAndPollStop()) return false;
+    if (!PassesDateAndSize(walk.conditions, entry)) return true;
+    if (!NamePasses(entry.cFileName, walk.nameSubstring)) return true;
+    wchar_t fullPath[MAX_PATH];
+    if (!JoinPath(fullPath, folder, entry.cFileName)) return true;
+    if (walk.conditions.Has(SearchConditions::ContentString) &&
+        !ContentMatches(walk.conditions, fullPath, entry)) {
+        return true;
+    }
+    walk.sink.AddMatch(fullPath, entry);
+    return true;
+}
