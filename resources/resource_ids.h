@@ -1,0 +1,146 @@
+#ifndef QUORIN_RESOURCE_IDS_H
+#define QUORIN_RESOURCE_IDS_H
+
+// Every id of the resources, in blocks by kind. Read by the resource compiler as well as by C++.
+
+// Icons
+#define ICON_PROGRAM 101
+#define ICON_QUESTION_FILE 10000
+#define ICON_DEVICE 10001
+#define ICON_FOLDER 10002
+#define ICON_OPEN_FOLDER 10003
+#define ICON_DOCUMENT 10004
+#define ICON_APPLICATION 10005
+#define ICON_SHORTCUT_MARK 10006
+#define ICON_DELETE 10011
+#define ICON_REPLACE_FILE 10022
+#define ICON_REPLACE 10032
+
+// Menus and menu bars: the same number names a menu and the bar that opens it.
+#define MENU_ENGLISH 101
+#define MENU_JAPANESE 102
+#define MENU_BAR_DIALOG 28701
+#define BITMAP_DIALOG_BAR 28702
+#define ACCELERATORS_MAIN 101
+
+// The drop-down buttons of the menu bars
+#define COMMAND_MENU_FILE 100
+#define COMMAND_MENU_VIEW 200
+#define COMMAND_MENU_OPTION 300
+
+// Strings
+#define STRING_PRODUCT_NAME 101
+#define STRING_VERSION 102
+#define STRING_LEGAL_NOTICE 103
+#define STRING_CONTACT_1 104
+#define STRING_CONTACT_2 105
+#define STRING_MENU_FILE_JAPANESE 10001
+#define STRING_MENU_VIEW_JAPANESE 10002
+#define STRING_MENU_OPTION_JAPANESE 10003
+#define STRING_MENU_FILE_ENGLISH 10101
+#define STRING_MENU_VIEW_ENGLISH 10102
+#define STRING_MENU_OPTION_ENGLISH 10103
+
+// A dialog's own job, posted to itself once it is shown
+#define COMMAND_RUN 10000
+
+// Push buttons
+#define BUTTON_YES_TO_ALL 20
+#define BUTTON_BROWSE 10201
+#define BUTTON_UNINSTALL 10201
+#define BUTTON_STOP 10201
+// Check boxes
+#define CHECK_READ_ONLY 10301
+#define CHECK_ARCHIVE 10302
+#define CHECK_HIDDEN 10303
+#define CHECK_SYSTEM 10304
+#define CHECK_SUBFOLDERS 10301
+// Combo boxes of the name page
+#define COMBO_NAME 10401
+#define COMBO_LOCATION 10402
+// Combo boxes of the size page
+#define COMBO_FILE_TYPE 10401
+#define COMBO_FILE_SIZE 10402
+// Edits
+#define EDIT_TARGET 10701
+#define EDIT_CONTENT 10701
+#define EDIT_KILOBYTES 10701
+#define EDIT_DAYS 10702
+// Radio buttons of the date page
+#define RADIO_ALL_FILES 11201
+#define RADIO_BETWEEN 11202
+#define RADIO_PAST 11204
+// Spins
+#define SPIN_KILOBYTES 11601
+#define SPIN_DAYS 11602
+// Icons in dialogs
+#define STATIC_ICON 10901
+#define STATIC_EXISTING_ICON 10902
+#define STATIC_NEW_ICON 10903
+// Labels of the properties sheet
+#define LABEL_TYPE 11701
+#define LABEL_LOCATION 11702
+#define LABEL_SIZE 11703
+#define LABEL_ATTRIBUTES 11704
+#define LABEL_MODIFIED 11705
+// Statics of the questions
+#define STATIC_QUESTION 11901
+#define STATIC_EXISTING_DETAILS 11904
+#define STATIC_NEW_DETAILS 11905
+// Statics of the General page
+#define STATIC_DISPLAY_NAME 11901
+#define STATIC_TYPE 11902
+#define STATIC_LOCATION 11903
+#define STATIC_SIZE 11904
+#define STATIC_MODIFIED 11905
+// Statics of the Shortcut page
+#define STATIC_TARGET_TYPE 11902
+#define LABEL_TARGET_SIZE 11903
+#define LABEL_TARGET_MODIFIED 11904
+#define STATIC_TARGET_SIZE 11905
+#define STATIC_TARGET_MODIFIED 11906
+// Statics of the About box
+#define STATIC_PRODUCT_NAME 11901
+#define STATIC_VERSION 11902
+#define STATIC_LEGAL_NOTICE 11903
+#define STATIC_PROGRAM_MEMORY 11904
+#define STATIC_DATA_STORE 11905
+#define STATIC_STORAGE_CARD 11906
+#define STATIC_SECOND_STORAGE_CARD 11907
+#define STATIC_CONTACT_1 11910
+#define STATIC_CONTACT_2 11911
+// Statics of the progress dialog
+#define LABEL_SOURCE 11901
+#define STATIC_SOURCE 11902
+#define LABEL_DESTINATION 11903
+#define STATIC_DESTINATION 11904
+// Statics of the abort dialog
+#define STATIC_FOLDER 11901
+// The folder browser's tree
+#define TREE_FOLDERS 12001
+// Date pickers
+#define PICKER_FROM 12101
+#define PICKER_TO 12102
+// The title line of a dialog
+#define STATIC_TITLE 12500
+
+// Menu commands
+#define COMMAND_FIND 40100
+#define COMMAND_OPEN 40101
+#define COMMAND_ADD_TO_START_MENU 40102
+#define COMMAND_DELETE 40103
+#define COMMAND_RENAME 40104
+#define COMMAND_PROPERTIES 40105
+#define COMMAND_EXIT 40107
+#define COMMAND_VIEW_BAR_FIRST 40201
+#define COMMAND_VIEW_BAR_LAST 40203
+#define COMMAND_LARGE_ICON 40204
+#define COMMAND_SMALL_ICON 40205
+#define COMMAND_DETAILS 40206
+#define COMMAND_VIEW_STATUS 40207
+#define COMMAND_CHECK_CASE 40301
+#define COMMAND_SAVE_RESULT 40302
+#define COMMAND_NEW_CONDITION 40303
+#define COMMAND_ABOUT 40901
+
+#endif

@@ -1,0 +1,113 @@
+#include "tests/resources/page_window.h"
+
+#include <commctrl.h>
+
+#include "tests/resources/program_module.h"
+
+namespace {
+
+constexpr int TabControlHeight = 126;
+
+INT_PTR CALLBACK DialogProcedure(HWND, UINT message, WPARAM, LPARAM) {
+    return message == WM_INITDIALOG;
+}
+
+}  // namespace
+
+void PrintTo(const PageCase& page, std::ostream* out) {
+    for (const wchar_t* letter = page.templateName; *letter != 0; ++letter)
+        *out << static_cast<char>(*letter);
+    *out << "_on_" << page.screenWidth;
+}
+
+std::vector<PageCase> OnBothScreens(const std::vector<PageCase>& pages) {
+    std::vector<PageCase> cases;
+    for (const int width : {PocketScreen, HandheldScreen})
+        for (PageCase page : pages) {
+            page.screenWidth = width;
+            cases.push_back(page);
+        }
+    return cases;
+}
+
+HWND MakeDialog(const wchar_t* templateName, HWND parent) {
+    const HRSRC found = FindResourceW(ProgramModule(), templateName, RT_DIALOG);
+    if (found == nullptr) return nullptr;
+    const HGLOBAL loaded = LoadResource(ProgramModule(), found);
+    return CreateDialogIndirectParamW(GetModuleHandleW(nullptr),
+                                      static_cast<const DLGTEMPLATE*>(LockResource(loaded)), parent,
+                                      DialogProcedure, 0);
+}
+
+void PageWindow::SetUpTestSuite() {
+    const INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_WIN95_CLASSES | ICC_DATE_CLASSES};
+    InitCommonControlsEx(&classes);
+}
+
+void PageWindow::SetUp() {
+    frame = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, GetParam().screenWidth, 294, nullptr, nullptr,
+                            nullptr, nullptr);
+    ASSERT_NE(frame, nullptr);
+    tabs = CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE, 0, 0, GetParam().screenWidth,
+                           TabControlHeight, frame, nullptr, nullptr, nullptr);
+    ASSERT_NE(tabs, nullptr);
+    const bool japanese = GetParam().japanese;
+    AppendTab(japanese ? L"名前と場所" : L"Name");
+    AppendTab(japanese ? L"日付" : L"Date");
+    AppendTab(japanese ? L"その他" : L"Etc");
+    MakePage();
+}
+
+void PageWindow::TearDown() {
+    if (frame != nullptr) DestroyWindow(frame);
+}
+
+void PageWindow::AppendTab(const wchar_t* caption) {
+    TCITEMW item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = const_cast<wchar_t*>(caption);
+    SendMessageW(tabs, TCM_INSERTITEMW, static_cast<WPARAM>(TabCtrl_GetItemCount(tabs)),
+                 reinterpret_cast<LPARAM>(&item));
+}
+
+void PageWindow::MakePage() {
+    RECT display = {};
+    GetClientRect(tabs, &display);
+    SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&display));
+    page = MakeDialog(GetParam().templateName, tabs);
+    ASSERT_NE(page, nullptr);
+    MoveWindow(page, display.left, display.top, display.right - display.left, display.bottom - display.top,
+               FALSE);
+    for (HWND child = GetWindow(page, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(Describe(child));
+    ASSERT_FALSE(children.empty());
+}
+
+ChildWindow PageWindow::Describe(HWND child) const {
+    wchar_t name[64] = {};
+    GetClassNameW(child, name, 64);
+    wchar_t text[MAX_PATH] = {};
+    GetWindowTextW(child, text, MAX_PATH);
+    ChildWindow described = {child, name, text, {}};
+    std::erase(described.text, L'&');
+    GetWindowRect(child, &described.rectangle);
+    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&described.rectangle), 2);
+    return described;
+}
+
+SIZE PageWindow::Measure(const std::wstring& text) const {
+    const HDC context = GetDC(page);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = SelectObject(context, font);
+    SIZE size = {};
+    GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
+    SelectObject(context, before);
+    ReleaseDC(page, context);
+    return size;
+}
+
+void PageWindow::ExpectFits(const std::wstring& text, LONG width, LONG height) const {
+    const SIZE needed = Measure(text);
+    EXPECT_LE(needed.cx, width) << testing::PrintToString(text);
+    EXPECT_LE(needed.cy, height) << testing::PrintToString(text);
+}

@@ -1,0 +1,42 @@
+#include "tests/resources/program_module.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+HMODULE LoadProgram() {
+#ifdef QUORIN_READS_THE_PROGRAM
+    wchar_t self[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, self, MAX_PATH);
+    std::wstring folder(self);
+    for (int level = 0; level < 2; ++level)
+        folder.resize(folder.find_last_of(L'\\'));
+    const std::wstring path = folder + L"\\quorinsearch.exe";
+    const HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    if (module == nullptr) {
+        std::fprintf(stderr, "%ls cannot be read\n", path.c_str());
+        std::exit(1);
+    }
+    return module;
+#else
+    return GetModuleHandleW(nullptr);
+#endif
+}
+
+}  // namespace
+
+HMODULE ProgramModule() {
+    static const HMODULE module = LoadProgram();
+    return module;
+}
+
+std::vector<unsigned char> ResourceBytes(const wchar_t* name, const wchar_t* type) {
+    const HRSRC found = FindResourceW(ProgramModule(), name, type);
+    if (found == nullptr) return {};
+    const HGLOBAL loaded = LoadResource(ProgramModule(), found);
+    const auto* bytes = static_cast<const unsigned char*>(LockResource(loaded));
+    if (bytes == nullptr) return {};
+    return {bytes, bytes + SizeofResource(ProgramModule(), found)};
+}
