@@ -1,0 +1,29 @@
+#pragma once
+
+// The base of the three condition pages: a child dialog without the set-up and the bar of a dialog proper.
+
+#include "framework/control.h"
+#include "framework/dialog.h"
+
+class ConditionPage : public Dialog {
+  public:
+    void Show() { ShowWindow(Handle(), SW_SHOW); }
+    void Hide() { ShowWindow(Handle(), SW_HIDE); }
+
+    // "New condition".
+    virtual void Reset() = 0;
+
+  protected:
+    ConditionPage(WindowObject* parentObject, const PropertySet& properties) : Dialog(parentObject, properties) {}
+
+    // Wraps the controls and gives them their first contents.
+    virtual void SetUpControls() = 0;
+    LRESULT OnInitDialog(MessageRecord& record) override;
+
+    [[nodiscard]] HWND Item(int id) const { return DialogItem(*this, id); }
+    LRESULT SendToItem(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    [[nodiscard]] bool IsChecked(int id) const;
+};
+
+// A set that holds just the name of a template.
+[[nodiscard]] PropertySet TemplateProperties(const wchar_t* templateName);

@@ -1,0 +1,111 @@
+#include "conditions/date_page.h"
+
+#include "app/language.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+// Lower bound 1 in the high word, upper bound 999 in the low word; kept as this very number.
+constexpr LPARAM DaysRange = 66535;
+
+constexpr WORD MonthsBack = 3;
+constexpr WORD MonthsInYear = 12;
+
+}  // namespace
+
+SYSTEMTIME ThreeMonthsEarlier(const SYSTEMTIME& date) {
+    SYSTEMTIME earlier = date;
+    if (date.wMonth > MonthsBack) {
+        earlier.wMonth = static_cast<WORD>(date.wMonth - MonthsBack);
+    } else {
+        earlier.wMonth = static_cast<WORD>(date.wMonth + MonthsInYear - MonthsBack);
+        earlier.wYear = static_cast<WORD>(date.wYear - 1);
+    }
+    return earlier;
+}
+
+DatePage::DatePage(WindowObject* parentObject)
+    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Date_E", L"Date_J"))) {
+    OnCommand(RADIO_ALL_FILES, this, &DatePage::OnAllFiles);
+    OnCommand(RADIO_BETWEEN, this, &DatePage::OnBetween);
+    OnCommand(RADIO_PAST, this, &DatePage::OnPast);
+}
+
+void DatePage::SetUpControls() {
+    // Three letters for the year, as the handheld is given it.
+    const auto format = reinterpret_cast<LPARAM>(L"yyy/MM/dd");
+    SendToItem(PICKER_FROM, DTM_SETFORMATW, 0, format);
+    SendToItem(PICKER_TO, DTM_SETFORMATW, 0, format);
+    SendToItem(SPIN_DAYS, UDM_SETRANGE, 0, DaysRange);
+    Reset();
+}
+
+void DatePage::Reset() {
+    CheckRadioButton(Handle(), RADIO_ALL_FILES, RADIO_PAST, RADIO_ALL_FILES);
+    SetPickersFromClock();
+    EnablePickers(false);
+    EnableDays(false);
+    SendToItem(SPIN_DAYS, UDM_SETPOS, 0, 1);
+}
+
+void DatePage::SetPickersFromClock() {
+    SYSTEMTIME now{};
+    ce::GetSystemTime(&now);
+    // A day that the earlier month lacks is for the picker to refuse.
+    const SYSTEMTIME earlier = ThreeMonthsEarlier(now);
+    SendToItem(PICKER_TO, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&now));
+    SendToItem(PICKER_FROM, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&earlier));
+}
+
+LRESULT DatePage::OnAllFiles(EventArguments&) {
+    if (!IsChecked(RADIO_ALL_FILES)) return 0;
+    EnablePickers(false);
+    EnableDays(false);
+    return 0;
+}
+
+LRESULT DatePage::OnBetween(EventArguments&) {
+    if (!IsChecked(RADIO_BETWEEN)) return 0;
+    EnablePickers(true);
+    EnableDays(false);
+    return 0;
+}
+
+LRESULT DatePage::OnPast(EventArguments&) {
+    if (!IsChecked(RADIO_PAST)) return 0;
+    EnablePickers(false);
+    EnableDays(true);
+    // The size page's ids, which this page lacks: without effect, and kept.
+    EnableWindow(Item(EDIT_KILOBYTES), FALSE);
+    EnableWindow(Item(SPIN_KILOBYTES), FALSE);
+    return 0;
+}
+
+void DatePage::EnablePickers(bool enable) {
+    EnableWindow(Item(PICKER_FROM), enable);
+    EnableWindow(Item(PICKER_TO), enable);
+}
+
+void DatePage::EnableDays(bool enable) {
+    EnableWindow(Item(EDIT_DAYS), enable);
+    EnableWindow(Item(SPIN_DAYS), enable);
+}
+
+bool DatePage::DateRangeChosen(DateRange& range) const {
+    if (IsChecked(RADIO_ALL_FILES)) return false;
+    if (IsChecked(RADIO_BETWEEN)) {
+        range = BetweenDates(PickedDate(PICKER_FROM), PickedDate(PICKER_TO));
+    } else if (IsChecked(RADIO_PAST)) {
+        SYSTEMTIME now{};
+        ce::GetSystemTime(&now);
+        range = PastDays(now, ce::SpinPosition(Item(SPIN_DAYS)));
+    }
+    // With nothing checked, which never happens, the range stays unset.
+    return true;
+}
+
+SYSTEMTIME DatePage::PickedDate(int picker) const {
+    SYSTEMTIME date{};
+    SendToItem(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&date));
+    return date;
+}

@@ -1,0 +1,85 @@
+#include "conditions/folder_browse_dialog.h"
+
+#include <new>
+
+#include "app/language.h"
+#include "conditions/folder_tree.h"
+#include "framework/control.h"
+#include "framework/property_keys.h"
+#include "framework/wait_cursor.h"
+#include "platform/root_name.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr int ImageSize = 16;
+constexpr int TreeIcons[] = {ICON_DEVICE, ICON_FOLDER, ICON_OPEN_FOLDER};
+
+PropertySet BrowseTemplate() {
+    PropertySet properties;
+    properties.SetText(property::DialogTemplate, InLanguage(L"EBrowseDialog_E", L"EBrowseDialog_J"));
+    return properties;
+}
+
+}  // namespace
+
+FolderBrowseDialog::FolderBrowseDialog(WindowObject* parentObject, const wchar_t* captionText)
+    : Dialog(parentObject, BrowseTemplate()), caption(captionText) {
+    OnCommand(IDOK, this, &FolderBrowseDialog::OnOk);
+}
+
+FolderBrowseDialog::~FolderBrowseDialog() {
+    if (folderImages != nullptr) ImageList_Destroy(folderImages);
+}
+
+LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
+    chosenPath.reset();
+    SetWindowTextW(Handle(), caption);
+    folderTree = DialogItem(*this, TREE_FOLDERS);
+    LoadImages();
+    BuildTree();
+    const LRESULT result = Dialog::OnInitDialog(record);
+    Centre();
+    return result;
+}
+
+void FolderBrowseDialog::LoadImages() {
+    if (folderImages != nullptr) ImageList_Destroy(folderImages);
+    folderImages = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
+    for (const int id : TreeIcons) {
+        const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
+                                                        ImageSize, ImageSize, LR_DEFAULTCOLOR));
+        ImageList_ReplaceIcon(folderImages, -1, icon);
+        if (icon != nullptr) DestroyIcon(icon);
+    }
+    SendMessageW(folderTree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages));
+}
+
+// The whole tree at once, so that it can then be browsed without the file system.
+void FolderBrowseDialog::BuildTree() {
+    wchar_t rootName[MAX_PATH];
+    RootDisplayName(rootName);
+    HTREEITEM root = nullptr;
+    SendMessageW(folderTree, WM_SETREDRAW, FALSE, 0);
+    {
+        const WaitCursor waiting;
+        root = FillFolderTree(folderTree, rootName);
+    }
+    SendMessageW(folderTree, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(folderTree, nullptr, TRUE);
+    SendMessageW(folderTree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
+}
+
+// With nothing selected the dialog stays open.
+LRESULT FolderBrowseDialog::OnOk(EventArguments&) {
+    const auto selected =
+        reinterpret_cast<HTREEITEM>(SendMessageW(folderTree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    if (selected == nullptr) return 0;
+    wchar_t path[MAX_PATH];
+    if (!PathOfItem(folderTree, selected, path)) return 0;
+    chosenPath.reset(new (std::nothrow) wchar_t[MAX_PATH]);
+    if (chosenPath == nullptr) return 0;
+    std::copy(std::begin(path), std::end(path), chosenPath.get());
+    End(ResultOk);
+    return 0;
+}

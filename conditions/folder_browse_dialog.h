@@ -1,0 +1,32 @@
+#pragma once
+
+// Picks a folder from a tree of every folder of the device.
+
+#include <memory>
+
+#include "framework/dialog.h"
+
+class FolderBrowseDialog : public Dialog {
+  public:
+    // The caption is kept, not copied.
+    FolderBrowseDialog(WindowObject* parent, const wchar_t* caption);
+    ~FolderBrowseDialog() override;
+
+    // The result of the last run: null unless it ended with OK and a folder selected. A terminated path of at
+    // most 259 units that begins with "\" and does not end in one, unless it is the root itself.
+    [[nodiscard]] const wchar_t* ChosenPath() const { return chosenPath.get(); }
+
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override;
+
+  private:
+    LRESULT OnOk(EventArguments& arguments);
+
+    void LoadImages();
+    void BuildTree();
+
+    const wchar_t* caption;
+    std::unique_ptr<wchar_t[]> chosenPath;
+    HWND folderTree = nullptr;
+    HIMAGELIST folderImages = nullptr;
+};

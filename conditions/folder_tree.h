@@ -1,0 +1,16 @@
+#pragma once
+
+// The tree of all folders in a tree view, and the way from an item back to its path.
+
+#include "platform/windows_ce.h"
+
+constexpr int RootImage = 0;
+constexpr int FolderImage = 1;
+constexpr int OpenFolderImage = 2;
+
+// Inserts the root item and, below it, every folder of the device, each level in the reverse of the order in
+// which the system lists it. Returns the root item.
+HTREEITEM FillFolderTree(HWND tree, const wchar_t* rootName);
+
+// The full path of the item: "\" for the root. False when it does not fit.
+[[nodiscard]] bool PathOfItem(HWND tree, HTREEITEM item, wchar_t (&path)[MAX_PATH]);

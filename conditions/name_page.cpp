@@ -1,0 +1,125 @@
+#include "conditions/name_page.h"
+
+#include <cwchar>
+#include <iterator>
+
+#include "app/language.h"
+#include "conditions/folder_browse_dialog.h"
+#include "conditions/search_history.h"
+#include "framework/property_keys.h"
+#include "platform/format_text.h"
+#include "platform/registry_key.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr WPARAM ContentLimit = 260;
+
+constexpr const wchar_t* SubFolderValue = L"Sub Folder";
+
+// The path of a key below the program's own.
+struct SubKeyPath {
+    SubKeyPath(const wchar_t* parent, const wchar_t* name) {
+        FormatText(text, std::size(text), L"%s\\%s", parent, name);
+    }
+    wchar_t text[MAX_PATH];
+};
+
+}  // namespace
+
+NamePage::NamePage(WindowObject* parentObject, HWND findTarget)
+    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Name_E", L"Name_J"))), searchWindow(findTarget) {}
+
+void NamePage::SetUpControls() {
+    PropertySet comboProperties;
+    comboProperties.Set(property::TabNotification, 1);
+
+    name = std::make_unique<HistoryCombo>(this, Item(COMBO_NAME), comboProperties);
+    name->OnNotification(event::TabKey, this, &NamePage::OnTabInName);
+    name->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_NAME);
+    name->AddToHistory(L"*.txt");
+    name->AddToHistory(L"*.log");
+
+    SendToItem(EDIT_CONTENT, EM_LIMITTEXT, ContentLimit);
+
+    location = std::make_unique<HistoryCombo>(this, Item(COMBO_LOCATION), comboProperties);
+    location->OnNotification(event::TabKey, this, &NamePage::OnTabInLocation);
+    location->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_LOCATION);
+
+    content = std::make_unique<TextField>(this, Item(EDIT_CONTENT));
+    content->OnNotification(event::EnterKey, this, &NamePage::OnEnterInContent);
+
+    OnCommand(BUTTON_BROWSE, this, &NamePage::OnBrowse);
+}
+
+void NamePage::Reset() {
+    SetWindowTextW(Item(COMBO_NAME), L"");
+    SetWindowTextW(Item(COMBO_LOCATION), L"");
+}
+
+void NamePage::LoadSettings(const wchar_t* registryPath) {
+    if (Handle() == nullptr) return;
+    LoadHistory(*name, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
+    LoadHistory(*location, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
+    DWORD subFolders = 0;
+    if (ReadRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, subFolders) != ERROR_SUCCESS) subFolders = 0;
+    SendToItem(CHECK_SUBFOLDERS, BM_SETCHECK, subFolders != 0 ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void NamePage::SaveSettings(const wchar_t* registryPath) const {
+    if (Handle() == nullptr) return;
+    SaveHistory(*name, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
+    SaveHistory(*location, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
+    WriteRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, SubFoldersChecked() ? 1 : 0);
+}
+
+void NamePage::LocationText(wchar_t (&text)[MAX_PATH]) const {
+    GetDlgItemTextW(Handle(), COMBO_LOCATION, text, MAX_PATH);
+}
+
+void NamePage::NameText(wchar_t (&text)[MAX_PATH]) const { GetDlgItemTextW(Handle(), COMBO_NAME, text, MAX_PATH); }
+
+void NamePage::ContentText(wchar_t (&text)[MAX_PATH]) const {
+    GetDlgItemTextW(Handle(), EDIT_CONTENT, text, MAX_PATH);
+}
+
+bool NamePage::SubFoldersChecked() const { return IsChecked(CHECK_SUBFOLDERS); }
+
+LRESULT NamePage::OnEnterInCombo(EventArguments& arguments) {
+    HistoryCombo& combo = arguments.extra == COMBO_NAME ? *name : *location;
+    wchar_t text[MAX_PATH] = L"";
+    GetWindowTextW(combo.Handle(), text, MAX_PATH);
+    combo.AddToHistory(text);
+    StartSearch();
+    return 0;
+}
+
+LRESULT NamePage::OnEnterInContent(EventArguments&) {
+    StartSearch();
+    return 0;
+}
+
+LRESULT NamePage::OnTabInName(EventArguments& arguments) {
+    const bool backwards = arguments.argument != 0;
+    SetFocus(backwards ? ParentHandle() : Item(EDIT_CONTENT));
+    return 0;
+}
+
+LRESULT NamePage::OnTabInLocation(EventArguments& arguments) {
+    const bool backwards = arguments.argument != 0;
+    HWND next = Item(backwards ? EDIT_CONTENT : BUTTON_BROWSE);
+    // A disabled button takes no focus; the way goes on behind it.
+    if (!IsWindowEnabled(next)) next = GetNextDlgTabItem(Handle(), next, FALSE);
+    SetFocus(next);
+    return 0;
+}
+
+LRESULT NamePage::OnBrowse(EventArguments&) {
+    FolderBrowseDialog browser(this, InLanguage(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"));
+    if (browser.RunModal() != ResultOk || browser.ChosenPath() == nullptr) return 0;
+    location->AddToHistory(browser.ChosenPath());
+    SetWindowTextW(location->Handle(), browser.ChosenPath());
+    return 0;
+}
+
+void NamePage::StartSearch() { PostMessageW(searchWindow, WM_COMMAND, COMMAND_FIND, 0); }

@@ -1,0 +1,43 @@
+#pragma once
+
+// The first page: name, contained text, folder to start in, sub-folders.
+
+#include "conditions/condition_page.h"
+#include "conditions/history_combo.h"
+
+class NamePage : public ConditionPage {
+  public:
+    // Enter in a text field posts the find command to the search window.
+    NamePage(WindowObject* parent, HWND searchWindow);
+
+    // Empties name and location; the contained text, the sub-folder setting and the histories stay.
+    void Reset() override;
+
+    // Both histories and the sub-folder setting, under the current user's root. The path is the program's own
+    // key. Failures are silent: loading then leaves what the page started with, saving loses the lists.
+    void LoadSettings(const wchar_t* registryPath);
+    void SaveSettings(const wchar_t* registryPath) const;
+
+    // The texts as they stand in the fields, cut at 259 units.
+    void LocationText(wchar_t (&text)[MAX_PATH]) const;
+    void NameText(wchar_t (&text)[MAX_PATH]) const;
+    void ContentText(wchar_t (&text)[MAX_PATH]) const;
+    [[nodiscard]] bool SubFoldersChecked() const;
+
+  protected:
+    void SetUpControls() override;
+
+  private:
+    LRESULT OnEnterInCombo(EventArguments& arguments);
+    LRESULT OnEnterInContent(EventArguments& arguments);
+    LRESULT OnTabInName(EventArguments& arguments);
+    LRESULT OnTabInLocation(EventArguments& arguments);
+    LRESULT OnBrowse(EventArguments& arguments);
+
+    void StartSearch();
+
+    HWND searchWindow;
+    std::unique_ptr<HistoryCombo> name;
+    std::unique_ptr<HistoryCombo> location;
+    std::unique_ptr<TextField> content;
+};

@@ -1,0 +1,55 @@
+#include "conditions/search_history.h"
+
+#include <cwchar>
+#include <iterator>
+
+#include "platform/format_text.h"
+#include "platform/registry_key.h"
+
+namespace {
+
+// One fewer than the combo holds, deliberately: the newest of ten saved entries is not read back.
+constexpr int MostLoadedEntries = 9;
+
+constexpr int EntryCapacity = MAX_PATH;
+
+// A value's name is its entry's number.
+struct ValueName {
+    explicit ValueName(int number) { FormatText(text, std::size(text), L"%d", number); }
+    wchar_t text[16];
+};
+
+// The combo's entry, cut to nothing when it is longer than an entry may be.
+void ReadEntry(const HistoryCombo& combo, WPARAM index, wchar_t (&text)[EntryCapacity]) {
+    text[0] = L'\0';
+    if (SendMessageW(combo.Handle(), CB_GETLBTEXTLEN, index, 0) >= EntryCapacity) return;
+    SendMessageW(combo.Handle(), CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text));
+}
+
+}  // namespace
+
+bool LoadHistory(HistoryCombo& combo, HKEY root, const wchar_t* path) {
+    RegistryKey key(root);
+    if (!key.Open(path)) return false;
+    SendMessageW(combo.Handle(), CB_RESETCONTENT, 0, 0);
+    for (int n = 0; n < MostLoadedEntries; ++n) {
+        // Empty to its end: a value that is no text is taken as it was read, without a terminator.
+        wchar_t text[EntryCapacity] = L"";
+        if (!key.QueryString(ValueName(n).text, text, sizeof text)) break;
+        combo.AddToHistory(text);
+    }
+    return true;
+}
+
+bool SaveHistory(const HistoryCombo& combo, HKEY root, const wchar_t* path) {
+    RegistryKey key(root);
+    if (!key.Create(path)) return false;
+    const auto count = static_cast<int>(SendMessageW(combo.Handle(), CB_GETCOUNT, 0, 0));
+    for (int n = 0; n < count; ++n) {
+        wchar_t text[EntryCapacity];
+        ReadEntry(combo, static_cast<WPARAM>(count - 1 - n), text);
+        const auto size = static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t));
+        RegSetValueExW(key.Handle(), ValueName(n).text, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size);
+    }
+    return true;
+}

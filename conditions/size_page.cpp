@@ -1,0 +1,60 @@
+#include "conditions/size_page.h"
+
+#include <cwchar>
+
+#include "app/language.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr WORD LargestKilobytes = 32767;
+
+}  // namespace
+
+SizePage::SizePage(WindowObject* parentObject, const FileTypeList* types)
+    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Size_E", L"Size_J"))), fileTypes(types) {}
+
+void SizePage::SetUpControls() {
+    for (const wchar_t* entry : {L"", InLanguage(L"Min", L"最低"), InLanguage(L"Max", L"最高")}) {
+        SendToItem(COMBO_FILE_SIZE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+    }
+    SendToItem(SPIN_KILOBYTES, UDM_SETRANGE, 0, MAKELPARAM(LargestKilobytes, 0));
+    FillFileTypes();
+    Reset();
+}
+
+void SizePage::FillFileTypes() {
+    const auto insert = [this](int index, const wchar_t* text, const wchar_t* extensions) {
+        SendToItem(COMBO_FILE_TYPE, CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text));
+        SendToItem(COMBO_FILE_TYPE, CB_SETITEMDATA, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(extensions));
+    };
+    insert(0, InLanguage(L"All files and folders", L"すべてのﾌｧｲﾙとﾌｫﾙﾀﾞ"), L".*");
+    const int count = fileTypes != nullptr ? fileTypes->Count() : 0;
+    for (int i = 0; i < count; ++i) insert(i + 1, fileTypes->Description(i), fileTypes->Extensions(i));
+    SendToItem(COMBO_FILE_TYPE, CB_SETCURSEL, 0);
+}
+
+void SizePage::Reset() {
+    SendToItem(COMBO_FILE_TYPE, CB_SETCURSEL, 0);
+    SendToItem(COMBO_FILE_SIZE, CB_SETCURSEL, 0);
+    SetWindowTextW(Item(EDIT_KILOBYTES), L"");
+    // Sent to the edit rather than to the spin, so it changes nothing and the edit stays empty; kept.
+    SendToItem(EDIT_KILOBYTES, UDM_SETPOS, 0, 0);
+}
+
+int SizePage::TypeIndex() const { return static_cast<int>(SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL)); }
+
+void SizePage::TypeExtensions(wchar_t (&text)[MAX_PATH]) const {
+    text[0] = L'\0';
+    const LRESULT selected = SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL);
+    const LRESULT data = SendToItem(COMBO_FILE_TYPE, CB_GETITEMDATA, static_cast<WPARAM>(selected));
+    if (selected == CB_ERR || data == CB_ERR) return;
+    std::wcsncpy(text, reinterpret_cast<const wchar_t*>(data), MAX_PATH - 1);
+    text[MAX_PATH - 1] = L'\0';
+}
+
+SizeAnswer SizePage::SizeBound(std::uint32_t& bound) const {
+    const auto selected = static_cast<int>(SendToItem(COMBO_FILE_SIZE, CB_GETCURSEL));
+    return SizeBoundOf(selected, ce::SpinPosition(Item(SPIN_KILOBYTES)), bound);
+}

@@ -1,0 +1,85 @@
+#include "fileops/file_actions.h"
+
+#include <span>
+
+#include "app/language.h"
+#include "fileops/message_boxes.h"
+#include "platform/windows_ce.h"
+
+namespace {
+
+// What a failure code is called. A "%s" in the text is the first path given to the call.
+struct FailureText {
+    DWORD code;
+    const wchar_t* english;
+    const wchar_t* japanese;
+};
+using FailureTexts = std::span<const FailureText>;
+
+// Known to the handheld only.
+constexpr DWORD ErrorSwapError = 999;
+
+constexpr FailureText DeleteTexts[] = {{ERROR_ACCESS_DENIED, L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"}};
+
+constexpr FailureText MoveTexts[] = {
+    {ERROR_SHARING_VIOLATION, L"%s is in use", L"%s は使用中です"},
+    {ERROR_DISK_FULL, L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです"},
+};
+
+// A third wording for the full disk, and another meaning of code 87 in Japanese: both intended.
+constexpr FailureText CopyTexts[] = {
+    {ERROR_DISK_FULL, L"The disk is full", L"ﾃﾞｨｽｸがいっぱいです"},
+    {ERROR_CRC, L"CRC ERROR %s", L"CRCｴﾗｰ %s"},
+    {ERROR_INVALID_PARAMETER, L"Invalid parameter", L"ﾌｧｲﾙが壊れているかもしれません"},
+    {ErrorSwapError, L"SWAP ERROR %s", L"ｽﾜｯﾌﾟｴﾗｰ %s"},
+    {ERROR_SHARING_VIOLATION, L"%s is in use", L"%s は使用中です"},
+    {ERROR_USER_MAPPED_FILE, L"%s is in use", L"%s は使用中です"},
+};
+
+constexpr FailureText CreateDirectoryTexts[] = {
+    {ERROR_PATH_NOT_FOUND, L"Can't find the path specified. '%s'", L"ﾃﾞｨﾚｸﾄﾘﾊﾟｽ '%s'が見つかりません。"},
+    {ERROR_DISK_FULL, L"There is not enough space on the disk.", L"ﾃﾞｨｽｸに十分な空き領域がありません。"},
+};
+
+constexpr FailureText RemoveDirectoryTexts[] = {
+    {ERROR_DIR_NOT_EMPTY, L"Folder not empty", L"ﾌｫﾙﾀﾞが空でありません"}};
+
+// Reports the last error: by its own text, or by the other one with its number.
+bool Report(HWND owner, const wchar_t* path, FailureTexts texts, const wchar_t* anyOther) {
+    const DWORD code = GetLastError();
+    for (const FailureText& text : texts) {
+        if (text.code != code) continue;
+        ShowError(owner, InLanguage(text.english, text.japanese), path);
+        return false;
+    }
+    ShowError(owner, anyOther, static_cast<int>(code));
+    return false;
+}
+
+}  // namespace
+
+bool DeleteFileOrReport(HWND owner, const wchar_t* path) {
+    return ce::DeleteFileW(path) || Report(owner, path, DeleteTexts, L"Error DeleteFile %d");
+}
+
+bool MoveFileOrReport(HWND owner, const wchar_t* from, const wchar_t* to) {
+    return ce::MoveFileW(from, to) || Report(owner, from, MoveTexts, L"Error Move file %d");
+}
+
+bool CopyFileOrReport(HWND owner, const wchar_t* from, const wchar_t* to, bool failIfExists) {
+    return ce::CopyFileW(from, to, failIfExists) || Report(owner, from, CopyTexts, L"Error CopyFile %d");
+}
+
+bool CreateDirectoryOrReport(HWND owner, const wchar_t* path, SECURITY_ATTRIBUTES* security) {
+    return ce::CreateDirectoryW(path, security) ||
+           Report(owner, path, CreateDirectoryTexts, L"Error CreateDirectory %d");
+}
+
+bool SetAttributesOrReport(HWND owner, const wchar_t* path, DWORD attributes) {
+    return ce::SetFileAttributesW(path, attributes) || Report(owner, path, {}, L"Error SetFileAttribute %d");
+}
+
+bool RemoveDirectoryOrReport(HWND owner, const wchar_t* path) {
+    return ce::RemoveDirectoryW(path) ||
+           Report(owner, path, RemoveDirectoryTexts, L"Error RemoveDirectory %d");
+}

@@ -1,0 +1,130 @@
+#include "fileops/question_texts.h"
+
+#include <iterator>
+
+#include "app/app_globals.h"
+#include "app/language.h"
+#include "fileops/file_facts.h"
+#include "platform/format_text.h"
+#include "platform/windows_ce.h"
+#include "resources/resource_ids.h"
+#include "search/split_path.h"
+
+namespace {
+
+constexpr UINT ShellIconFlags = SHGFI_ICON | SHGFI_DISPLAYNAME | SHGFI_TYPENAME;
+
+struct TextPair {
+    const wchar_t* english;
+    const wchar_t* japanese;
+};
+
+constexpr TextPair DeleteReadOnly = {
+    L"The file '%s' is a read-only file. Are you sure you want to delete it?",
+    L"ﾌｧｲﾙ '%s' は読み取り専用です。削除してもよろしいですか?"};
+constexpr TextPair DeleteProgram = {
+    L"The file '%s' is a program.\n\nIf you remove it, you will no longer be able to run this program or edit "
+    L"some documents. Are you sure you want to delete it?",
+    L"ﾌｧｲﾙ '%s' はﾌﾟﾛｸﾞﾗﾑです。\n\n削除すると、このﾌﾟﾛｸﾞﾗﾑは実行できなくなり、また一部の文書は編集できなくなります。"
+    L"\n削除してもよろしいですか?"};
+// The English text ends without a question, unlike the Japanese one; both stay.
+constexpr TextPair DeleteSystem = {
+    L"The file '%s' is a system file.\n\nIf you remove it, your computer or one of your programs may no longer "
+    L"work correctly.",
+    L"ﾌｧｲﾙ '%s' はｼｽﾃﾑ ﾌｧｲﾙです。\n\n削除すると、ｼｽﾃﾑやｱﾌﾟﾘｹｰｼｮﾝが正しく作動しなくなる可能性があります。"
+    L"\n削除してもよろしいですか?"};
+constexpr TextPair DeleteOther = {L"Are you sure you want to delete '%s'?", L"'%s' を削除してもよろしいですか?"};
+
+constexpr TextPair DeleteFolder = {L"Are you sure you want to remove the folder '%s' and all its contents?",
+                                   L"ﾌｫﾙﾀﾞ'%s'とﾌｫﾙﾀﾞ内のすべてのﾌｧｲﾙを削除してもよろしいですか?"};
+
+constexpr TextPair ReplaceSystem = {
+    L"This folder already contains a system file called '%s'.",
+    L"このﾌｫﾙﾀﾞには既にｼｽﾃﾑﾌｧｲﾙ %s が存在します。現在あるﾌｧｲﾙを、新しいﾌｧｲﾙで上書きしますか?"};
+constexpr TextPair ReplaceReadOnly = {
+    L"This folder already contains a read-only file called '%s'.",
+    L"このﾌｫﾙﾀﾞには既に読み取り専用ﾌｧｲﾙ %s が存在します。現在あるﾌｧｲﾙを、新しいﾌｧｲﾙで上書きしますか?"};
+constexpr TextPair ReplaceOther = {
+    L"This folder already contains a file called '%s'.",
+    L"このﾌｫﾙﾀﾞには既に %s というﾌｧｲﾙが存在します。現在あるﾌｧｲﾙを、新しいﾌｧｲﾙで上書きしますか?"};
+
+constexpr TextPair ReplaceFolder = {
+    L"This folder already contains a folder called '%s'.\n\nIf the files in the existing folder have the same "
+    L"name as files in the folder you are moving, do you want to replace the existing files?",
+    L"このﾌｫﾙﾀﾞにはすでに'%s'というﾌｫﾙﾀﾞが存在します。\n\n現在のﾌｫﾙﾀﾞのﾌｧｲﾙと新しいﾌｫﾙﾀﾞのﾌｧｲﾙが同じ名前の場合、"
+    L"新しいﾌｧｲﾙで上書きしますか?"};
+
+void SetText(HWND dialog, int id, const TextPair& text, const wchar_t* name) {
+    wchar_t question[MAX_PATH + 400];
+    FormatText(question, std::size(question), InLanguage(text.english, text.japanese), name);
+    SetDlgItemTextW(dialog, id, question);
+}
+
+void SetTitle(HWND dialog, const wchar_t* english, const wchar_t* japanese) {
+    SetWindowTextW(dialog, InLanguage(english, japanese));
+}
+
+void SetIcon(HWND dialog, int id, HICON icon) {
+    SendDlgItemMessageW(dialog, id, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+}
+
+void SetProgramIcon(HWND dialog, int resource) {
+    SetIcon(dialog, STATIC_ICON, LoadIconW(Globals().instance, MAKEINTRESOURCEW(resource)));
+}
+
+void ShowFile(HWND dialog, int detailsId, int iconId, const wchar_t* path) {
+    if (path == nullptr) return;
+    wchar_t details[FileDetailsCapacity];
+    FormatFileDetails(path, details);
+    SetDlgItemTextW(dialog, detailsId, details);
+    SHFILEINFOW info{};
+    ce::SHGetFileInfo(path, 0, &info, sizeof info, ShellIconFlags);
+    SetIcon(dialog, iconId, info.hIcon);
+}
+
+// The tests are made on the folder that holds the file, not on the file itself: that is how the program
+// behaves, and it is kept.
+const TextPair& FileDeleteText(const wchar_t* folder) {
+    if (HasAttribute(folder, FILE_ATTRIBUTE_READONLY)) return DeleteReadOnly;
+    if (IsProgramFile(folder)) return DeleteProgram;
+    if (HasAttribute(folder, FILE_ATTRIBUTE_SYSTEM)) return DeleteSystem;
+    return DeleteOther;
+}
+
+const TextPair& FileReplaceText(const wchar_t* existing) {
+    if (HasAttribute(existing, FILE_ATTRIBUTE_SYSTEM)) return ReplaceSystem;
+    if (HasAttribute(existing, FILE_ATTRIBUTE_READONLY)) return ReplaceReadOnly;
+    return ReplaceOther;
+}
+
+}  // namespace
+
+void FillFolderDeleteText(HWND dialog, const void* folderPath) {
+    SetTitle(dialog, L"Confirm Folder Delete", L"ﾌｫﾙﾀﾞの削除の確認");
+    SetProgramIcon(dialog, ICON_DELETE);
+    SetText(dialog, STATIC_QUESTION, DeleteFolder, SplitPath(static_cast<const wchar_t*>(folderPath)).name);
+}
+
+void FillFileDeleteText(HWND dialog, const void* filePath) {
+    SetTitle(dialog, L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認");
+    SetProgramIcon(dialog, ICON_DELETE);
+    const PathParts parts = SplitPath(static_cast<const wchar_t*>(filePath));
+    SetText(dialog, STATIC_QUESTION, FileDeleteText(parts.folder), parts.name);
+}
+
+void FillFileReplaceText(HWND dialog, const void* replacePaths) {
+    const auto& paths = *static_cast<const ReplacePaths*>(replacePaths);
+    if (paths.existingFile != nullptr) {
+        SetText(dialog, STATIC_QUESTION, FileReplaceText(paths.existingFile), SplitPath(paths.existingFile).name);
+    }
+    ShowFile(dialog, STATIC_EXISTING_DETAILS, STATIC_EXISTING_ICON, paths.existingFile);
+    ShowFile(dialog, STATIC_NEW_DETAILS, STATIC_NEW_ICON, paths.newFile);
+}
+
+void FillFolderReplaceText(HWND dialog, const void* folderPath) {
+    SetTitle(dialog, L"Confirm Folder Replace", L"ﾌｫﾙﾀﾞの置換の確認");
+    SetProgramIcon(dialog, ICON_REPLACE);
+    SetText(dialog, STATIC_QUESTION, ReplaceFolder, static_cast<const wchar_t*>(folderPath));
+    // The template's own Japanese label means to delete all.
+    SetDlgItemTextW(dialog, BUTTON_YES_TO_ALL, InLanguage(L"Yes to &All", L"すべて上書き(&A)"));
+}

@@ -1,0 +1,134 @@
+#include "results/file_icon_cache.h"
+
+#include <cwchar>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "app/app_globals.h"
+#include "resources/resource_ids.h"
+#include "results/file_type_table.h"
+
+namespace {
+
+constexpr int LargeSize = 32;
+constexpr int SmallSize = 16;
+constexpr int FixedIcons[] = {ICON_DOCUMENT, ICON_APPLICATION, ICON_FOLDER, ICON_SHORTCUT_MARK};
+constexpr int ShortcutOverlay = 1;
+
+// Owns a list of images.
+class ImageList {
+  public:
+    explicit ImageList(int imageSize)
+        : size(imageSize), handle(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
+    ~ImageList() { ImageList_Destroy(handle); }
+    ImageList(const ImageList&) = delete;
+    ImageList& operator=(const ImageList&) = delete;
+
+    [[nodiscard]] HIMAGELIST Handle() const { return handle; }
+
+    void LoadFixedIcons() {
+        ImageList_Remove(handle, -1);
+        for (const int id : FixedIcons) {
+            const auto icon = static_cast<HICON>(
+                LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+            Take(icon);
+        }
+        ImageList_SetOverlayImage(handle, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
+    }
+
+    // Appends the icon, frees it and returns its index.
+    int Take(HICON icon) {
+        const int index = ImageList_ReplaceIcon(handle, -1, icon);
+        if (icon != nullptr) DestroyIcon(icon);
+        return index;
+    }
+
+    // Appends the shell's icon of a file.
+    int TakeShellIcon(const wchar_t* path, DWORD attributes, UINT flags) {
+        SHFILEINFOW info{};
+        ce::SHGetFileInfo(path, attributes, &info, sizeof info, SHGFI_ICON | SHGFI_USEFILEATTRIBUTES | flags);
+        return Take(info.hIcon);
+    }
+
+  private:
+    int size;
+    HIMAGELIST handle;
+};
+
+bool EndsIn(const std::wstring& path, const wchar_t* suffix) {
+    const std::size_t length = std::wcslen(suffix);
+    return path.size() > length && path.compare(path.size() - length, length, suffix) == 0;
+}
+
+// What a file's icon is known by, and which kind it is of.
+struct IconKey {
+    std::wstring text;
+    unsigned kind = 0;
+    int fallback = FileIconCache::DocumentImage;
+};
+
+IconKey KeyOf(const wchar_t* path, const FileTypeTable* types) {
+    IconKey key{path};
+    CharLowerBuffW(key.text.data(), static_cast<DWORD>(key.text.size()));
+    if (EndsIn(key.text, L".exe")) {
+        key.kind = FileIconCache::Applications;
+        key.fallback = FileIconCache::ApplicationImage;
+    } else if (EndsIn(key.text, L".ic2") || EndsIn(key.text, L".ico")) {
+        key.kind = FileIconCache::IconFiles;
+    } else if (const wchar_t* typeKey = types != nullptr ? types->TypeKeyOf(path) : L""; typeKey[0] != L'\0') {
+        key.text = typeKey;
+        key.kind = FileIconCache::RegisteredTypes;
+    }
+    return key;
+}
+
+}  // namespace
+
+struct FileIconCache::Shared {
+    ImageList large{LargeSize};
+    ImageList small{SmallSize};
+    FileTypeTable types;
+    std::unique_ptr<StringHashTable> icons;  // from key to image index
+};
+
+FileIconCache::Shared* FileIconCache::shared = nullptr;
+int FileIconCache::liveObjects = 0;
+
+FileIconCache::FileIconCache() {
+    if (liveObjects++ > 0) return;
+    shared = new (std::nothrow) Shared;
+    Fill();
+}
+
+FileIconCache::~FileIconCache() {
+    if (--liveObjects > 0) return;
+    delete shared;
+    shared = nullptr;
+}
+
+void FileIconCache::Fill() {
+    if (shared == nullptr) return;
+    shared->icons.reset(new (std::nothrow) StringHashTable);
+    shared->large.LoadFixedIcons();
+    shared->small.LoadFixedIcons();
+}
+
+int FileIconCache::ImageOf(const wchar_t* path, DWORD attributes, unsigned kinds) {
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return FolderImage;
+    const IconKey key = KeyOf(path, Types());
+    if (shared == nullptr || shared->icons == nullptr) return key.fallback;
+    const std::uintptr_t known = shared->icons->Lookup(key.text.c_str());
+    if (known != 0) return static_cast<int>(known);
+    if ((kinds & key.kind) == 0) return key.fallback;
+    const int index = shared->large.TakeShellIcon(path, attributes, 0);
+    shared->small.TakeShellIcon(path, attributes, SHGFI_SMALLICON);
+    shared->icons->Insert(key.text.c_str(), static_cast<std::uintptr_t>(index));
+    return index;
+}
+
+HIMAGELIST FileIconCache::LargeImages() const { return shared != nullptr ? shared->large.Handle() : nullptr; }
+
+HIMAGELIST FileIconCache::SmallImages() const { return shared != nullptr ? shared->small.Handle() : nullptr; }
+
+const FileTypeTable* FileIconCache::Types() const { return shared != nullptr ? &shared->types : nullptr; }

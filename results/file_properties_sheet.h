@@ -1,0 +1,23 @@
+#pragma once
+
+// The properties of one file: a General page, and a Shortcut page when it is a shortcut.
+
+#include "results/general_page.h"
+#include "results/shortcut_page.h"
+
+class FilePropertiesSheet : public PropertySheetDialog {
+  public:
+    FilePropertiesSheet(WindowObject* owner, const wchar_t* caption);
+
+    // The path stays the caller's and outlives the sheet.
+    void SetPath(const wchar_t* path);
+
+    [[nodiscard]] bool HasShortcutPage() const { return shortcutPage != nullptr; }
+
+  private:
+    static constexpr std::size_t ShortcutPageIndex = 1;
+
+    WindowObject* owner;
+    std::unique_ptr<GeneralPage> generalPage;
+    std::unique_ptr<ShortcutPage> shortcutPage;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+// What the pages of the properties sheet share.
+
+#include "framework/property_set.h"
+#include "platform/windows_ce.h"
+
+// A set that names the page's template.
+[[nodiscard]] PropertySet NamedPage(const wchar_t* templateName);
+
+// Puts the icon into the page's icon static, which frees it with the page. Null leaves the static empty.
+void ShowIcon(HWND page, HICON icon);
+
+// The directory record of the path itself; false when nothing is found.
+[[nodiscard]] bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data);

@@ -1,0 +1,100 @@
+#include "results/result_commands.h"
+
+#include <string>
+
+#include "app/language.h"
+#include "fileops/confirmation_dialog.h"
+#include "fileops/file_actions.h"
+#include "fileops/file_facts.h"
+#include "fileops/message_boxes.h"
+#include "fileops/question_texts.h"
+#include "results/file_properties_sheet.h"
+#include "results/shortcut_maker.h"
+#include "results/shortcut_target.h"
+#include "search/join_path.h"
+
+namespace {
+
+void Execute(HWND owner, const wchar_t* file, const wchar_t* arguments) {
+    SHELLEXECUTEINFOW info{};
+    info.cbSize = sizeof info;
+    info.hwnd = owner;
+    info.lpFile = file;
+    info.lpParameters = arguments;
+    info.nShow = SW_SHOWNORMAL;
+    // The shell reports its own failures.
+    ce::ShellExecuteExW(&info);
+}
+
+void OpenShortcut(const wchar_t* path) {
+    wchar_t target[TargetCapacity];
+    if (!ce::SHGetShortcutTarget(path, target, TargetCapacity)) return;
+    const ShortcutTarget parts = SplitTarget(target);
+    if (HasAttribute(parts.program, FILE_ATTRIBUTE_DIRECTORY)) return;
+    Execute(nullptr, parts.program, parts.arguments);
+}
+
+// A new name may be as long as the edit allows; the system tells of one that is too long.
+std::wstring NewPath(const wchar_t* folder, const wchar_t* name) {
+    wchar_t path[MAX_PATH];
+    if (JoinPath(path, folder, name)) return path;
+    return std::wstring(folder) + L'\\' + name;
+}
+
+}  // namespace
+
+void ResultCommands::Open() {
+    wchar_t path[MAX_PATH];
+    if (list.SelectedPath(path) < 0) return;
+    if (IsShortcut(path)) {
+        OpenShortcut(path);
+    } else if (!HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY)) {
+        Execute(owner.Handle(), path, nullptr);
+    }
+}
+
+void ResultCommands::AddToStartMenu() {
+    wchar_t path[MAX_PATH];
+    if (list.SelectedPath(path) < 0) return;
+    MakeShortcut(path, InLanguage(L"\\Windows\\Start Menu\\Programs", L"\\Windows\\ｽﾀｰﾄ ﾒﾆｭｰ\\ﾌﾟﾛｸﾞﾗﾑ"),
+                 ShortcutForm::Plain);
+}
+
+void ResultCommands::Delete() {
+    wchar_t path[MAX_PATH];
+    const int row = list.SelectedPath(path);
+    if (row < 0) return;
+    if (AskQuestion(&owner, YesNoTemplate(), &FillFileDeleteText, path) != ConfirmResult::Yes) return;
+    if (DeleteFileOrReport(owner.Handle(), path)) list.DeleteRow(row);
+}
+
+void ResultCommands::BeginRename() {
+    const int row = list.SelectedRow();
+    if (row >= 0) SendMessageW(list.Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+}
+
+void ResultCommands::EndRename(const NMLVDISPINFOW& edited) {
+    const LVITEMW& item = edited.item;
+    if ((item.mask & LVIF_TEXT) == 0 || item.pszText == nullptr) return;
+    // The control's buffer does not outlive the message boxes.
+    const std::wstring newName = item.pszText;
+    wchar_t folder[MAX_PATH];
+    wchar_t oldName[MAX_PATH];
+    wchar_t oldPath[MAX_PATH];
+    list.ReadCell(item.iItem, ResultColumn::Folder, folder);
+    list.ReadCell(item.iItem, ResultColumn::Name, oldName);
+    if (!JoinPath(oldPath, folder, oldName)) return;
+    if (MoveFileOrReport(owner.Handle(), oldPath, NewPath(folder, newName.c_str()).c_str())) {
+        list.SetCell(item.iItem, ResultColumn::Name, newName.c_str());
+    } else {
+        ShowError(owner.Handle(), InLanguage(L"Can't rename the file", L"名前の変更に失敗しました"));
+    }
+}
+
+void ResultCommands::ShowProperties() {
+    wchar_t path[MAX_PATH];
+    if (list.SelectedPath(path) < 0) return;
+    FilePropertiesSheet sheet(&owner, L"");
+    sheet.SetPath(path);
+    sheet.Run();
+}

@@ -1,0 +1,220 @@
+#include "results/result_list.h"
+
+#include <algorithm>
+#include <iterator>
+#include <new>
+
+#include "app/language.h"
+#include "framework/property_keys.h"
+#include "framework/wait_cursor.h"
+#include "results/file_type_table.h"
+#include "results/result_sorting.h"
+#include "results/row_texts.h"
+#include "search/join_path.h"
+
+namespace {
+
+struct ColumnDescription {
+    const wchar_t* english;
+    const wchar_t* japanese;
+    int width;  // in pixels, the same in both languages
+    int format;
+};
+
+constexpr ColumnDescription Columns[ResultColumnCount] = {
+    {L"Name", L"名前", 100, LVCFMT_LEFT},     {L"Folder", L"ﾌｫﾙﾀﾞ名", 140, LVCFMT_LEFT},
+    {L"Size", L"ｻｲｽﾞ", 40, LVCFMT_RIGHT},      {L"Type", L"種類", 74, LVCFMT_LEFT},
+    {L"Modified", L"更新日時", 104, LVCFMT_LEFT},
+};
+
+constexpr DWORD ViewMask = 3;
+
+// A redraw is due no sooner than this, and no sooner than ten times what the last one cost.
+constexpr ULONGLONG RefreshInterval = 250;
+constexpr ULONGLONG RefreshCostFactor = 10;
+
+// The image lists are the cache's, not the control's to destroy.
+PropertySet& WithListStyle(PropertySet& properties) {
+    properties.Add(property::Style,
+                   LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE | LVS_EDITLABELS | LVS_SHAREIMAGELISTS | WS_TABSTOP);
+    return properties;
+}
+
+}  // namespace
+
+ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
+    : ListView(parentObject, WithListStyle(properties)),
+      iconCache(new (std::nothrow) FileIconCache),
+      typeNames(iconCache != nullptr ? iconCache->Types() : nullptr) {
+    const LRESULT style = SendMessageW(Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+    SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, style | LVS_EX_FULLROWSELECT);
+    AttachImages();
+    InsertColumns();
+    OnNotification(event::ColumnClick, this, &ResultList::OnColumnClick);
+    Subclass();
+    OnMessage(WM_SYSKEYDOWN, this, &ResultList::OnSystemKeyDown);
+    OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemCharacter);
+}
+
+void ResultList::AttachImages() {
+    if (iconCache == nullptr) return;
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(iconCache->SmallImages()));
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(iconCache->LargeImages()));
+}
+
+void ResultList::InsertColumns() {
+    for (int i = 0; i < ResultColumnCount; ++i) {
+        const ColumnDescription& description = Columns[i];
+        LVCOLUMNW column{};
+        column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
+        column.fmt = i == 0 ? LVCFMT_LEFT : description.format;
+        column.cx = description.width;
+        column.pszText = const_cast<wchar_t*>(InLanguage(description.english, description.japanese));
+        SendMessageW(Handle(), LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+void ResultList::BeginFilling() {
+    if (filling) return;
+    filling = true;
+    rowsPending = false;
+    nextRefresh = GetTickCount64() + RefreshInterval;
+    SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+}
+
+void ResultList::EndFilling() {
+    if (!filling) return;
+    filling = false;
+    SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void ResultList::Clear() {
+    SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+    rowsPending = true;
+}
+
+void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) {
+    LVITEMW item{};
+    item.mask = LVIF_IMAGE | LVIF_PARAM;
+    item.iItem = RowCount();
+    item.lParam = item.iItem;
+    item.iImage = iconCache != nullptr
+                      ? iconCache->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
+                      : FileIconCache::DocumentImage;
+    const auto row = static_cast<int>(SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+
+    wchar_t folder[MAX_PATH];
+    FolderOfResult(fullPath, folder);
+    SetCell(row, ResultColumn::Type, typeNames.Of(fullPath, entry.dwFileAttributes));
+    SetCell(row, ResultColumn::Name, entry.cFileName);
+    SetCell(row, ResultColumn::Folder, folder);
+    // A folder's size cell stays empty.
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+        wchar_t size[RowTextCapacity];
+        FormatResultSize(entry.nFileSizeLow, size);
+        SetCell(row, ResultColumn::Size, size);
+    }
+    FILETIME localFileTime{};
+    SYSTEMTIME local{};
+    ce::FileTimeToLocalFileTime(&entry.ftLastWriteTime, &localFileTime);
+    FileTimeToSystemTime(&localFileTime, &local);
+    wchar_t modified[2 * RowTextCapacity];
+    FormatResultTime(local, modified);
+    SetCell(row, ResultColumn::Modified, modified);
+    rowsPending = true;
+}
+
+void ResultList::Refresh() {
+    if (filling && rowsPending && GetTickCount64() >= nextRefresh) ShowPending();
+}
+
+void ResultList::ShowPending() {
+    const ULONGLONG start = GetTickCount64();
+    SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
+    rowsPending = false;
+    const ULONGLONG end = GetTickCount64();
+    const ULONGLONG pause = (end - start) * RefreshCostFactor;
+    nextRefresh = end + (pause > RefreshInterval ? pause : RefreshInterval);
+}
+
+int ResultList::RowCount() const { return static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0)); }
+
+void ResultList::SetCell(int row, ResultColumn column, const wchar_t* text) {
+    LVITEMW item{};
+    item.iSubItem = static_cast<int>(column);
+    item.pszText = const_cast<wchar_t*>(text);
+    SendMessageW(Handle(), LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+void ResultList::ReadCell(int row, ResultColumn column, wchar_t (&text)[MAX_PATH]) const {
+    text[0] = L'\0';
+    LVITEMW item{};
+    item.iSubItem = static_cast<int>(column);
+    item.pszText = text;
+    item.cchTextMax = static_cast<int>(std::size(text));
+    SendMessageW(Handle(), LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+int ResultList::SelectedRow() const {
+    return static_cast<int>(
+        SendMessageW(Handle(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_SELECTED, 0)));
+}
+
+void ResultList::DeleteRow(int row) { SendMessageW(Handle(), LVM_DELETEITEM, static_cast<WPARAM>(row), 0); }
+
+int ResultList::SelectedPath(wchar_t (&path)[MAX_PATH]) const {
+    const int row = SelectedRow();
+    if (row < 0) return -1;
+    wchar_t name[MAX_PATH];
+    wchar_t joined[MAX_PATH];
+    ReadCell(row, ResultColumn::Folder, joined);
+    ReadCell(row, ResultColumn::Name, name);
+    // A path that did not fit was never listed, but a cell can be renamed.
+    if (!JoinPath(joined, joined, name)) return -1;
+    std::copy(std::begin(joined), std::end(joined), path);
+    return row;
+}
+
+void ResultList::SelectRow(int row) {
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED;
+    item.state = LVIS_SELECTED;
+    SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+int ResultList::SelectedCount() const {
+    return static_cast<int>(SendMessageW(Handle(), LVM_GETSELECTEDCOUNT, 0, 0));
+}
+
+void ResultList::SetView(DWORD view) {
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
+    SetWindowLongPtrW(Handle(), GWL_STYLE, (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
+}
+
+LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
+    if (sortColumn < 0) return 0;
+    const WaitCursor waiting;
+    const int clicked = reinterpret_cast<const NMLISTVIEW*>(arguments.argument)->iSubItem;
+    sortAscending = clicked != sortColumn || !sortAscending;
+    sortColumn = clicked;
+    SortRows(Handle(), sortColumn, sortAscending);
+    return 0;
+}
+
+// The handheld's list reports Enter with Alt held like any key; the desktop's keeps it to itself.
+LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
+    if (record.wParam != VK_RETURN) return DefaultProcessing(record);
+    NMLVKEYDOWN key{};
+    key.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_KEYDOWN)};
+    key.wVKey = VK_RETURN;
+    SendMessageW(GetParent(Handle()), WM_NOTIFY, key.hdr.idFrom, reinterpret_cast<LPARAM>(&key));
+    return 0;
+}
+
+// The character of the key above would look for a menu of that name and beep.
+LRESULT ResultList::OnSystemCharacter(MessageRecord& record) {
+    return record.wParam == VK_RETURN ? 0 : DefaultProcessing(record);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+// The list of found files in the lower part of the main window. It is the only store of what was found: the
+// full path of a row is rebuilt from its Folder and Name cells.
+
+#include "framework/control.h"
+#include "results/file_icon_cache.h"
+#include "results/result_column.h"
+#include "results/type_names.h"
+#include "search/match_sink.h"
+
+class ResultList : public ListView, public MatchSink {
+  public:
+    ResultList(WindowObject* parent, PropertySet& properties);
+
+    // While a search fills the list it is redrawn only a few times a second: drawing each row costs a
+    // thousand times as much as adding it.
+    void BeginFilling();
+    void EndFilling();
+
+    // MatchSink. A row's parameter is the number of rows before it, which it keeps for good.
+    void Clear() override;
+    void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override;
+    void Refresh() override;
+
+    [[nodiscard]] int RowCount() const;
+
+    // The index of the selected row; -1 when there is none.
+    [[nodiscard]] int SelectedRow() const;
+
+    // The same, and its full path is written; -1, with the path left alone, when there is
+    // none.
+    int SelectedPath(wchar_t (&path)[MAX_PATH]) const;
+
+    void SetCell(int row, ResultColumn column, const wchar_t* text);
+    void ReadCell(int row, ResultColumn column, wchar_t (&text)[MAX_PATH]) const;
+
+    // The other rows keep their numbers.
+    void DeleteRow(int row);
+    void SelectRow(int row);
+    [[nodiscard]] int SelectedCount() const;
+
+    // LVS_ICON, LVS_SMALLICON or LVS_REPORT.
+    void SetView(DWORD view);
+
+  private:
+    void AttachImages();
+    void InsertColumns();
+    LRESULT OnColumnClick(EventArguments& arguments);
+    LRESULT OnSystemKeyDown(MessageRecord& record);
+    LRESULT OnSystemCharacter(MessageRecord& record);
+    void ShowPending();
+
+    // The column of the last sort, by its number; a negative one would mean the order of finding.
+    int sortColumn = 0;
+    bool sortAscending = true;
+    std::unique_ptr<FileIconCache> iconCache;  // null when there was no memory for it
+    TypeNames typeNames;
+    bool filling = false;
+    bool rowsPending = false;
+    ULONGLONG nextRefresh = 0;  // in milliseconds of GetTickCount64
+};

@@ -1,0 +1,70 @@
+#include "results/shortcut_page.h"
+
+#include <iterator>
+
+#include "app/language.h"
+#include "fileops/file_facts.h"
+#include "framework/control.h"
+#include "platform/format_text.h"
+#include "resources/resource_ids.h"
+#include "results/page_items.h"
+#include "results/shortcut_target.h"
+
+namespace {
+
+constexpr DWORD BytesInKilobyte = 1024;
+
+// What a folder as target has no value for.
+constexpr int FileOnlyItems[] = {LABEL_TARGET_SIZE, LABEL_TARGET_MODIFIED, STATIC_TARGET_SIZE,
+                                 STATIC_TARGET_MODIFIED};
+
+}  // namespace
+
+ShortcutPage::ShortcutPage(WindowObject* parentObject)
+    : PropertySheetPage(parentObject, InLanguage(L"Shortcut", L"ｼｮｰﾄｶｯﾄ"),
+                        NamedPage(InLanguage(L"EFilePropShortcutPage_E", L"EFilePropShortcutPage_J"))) {
+    OnApply(this, &ShortcutPage::OnApplyChanges);
+}
+
+void ShortcutPage::SetUpControls() {
+    SHFILEINFOW info{};
+    ce::SHGetFileInfo(path, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME);
+    ShowIcon(Handle(), info.hIcon);
+    SetDlgItemTextW(Handle(), STATIC_DISPLAY_NAME, info.szDisplayName);
+    wchar_t target[MAX_PATH];
+    if (!ce::SHGetShortcutTarget(path, target, MAX_PATH)) return;
+    SetDlgItemTextW(Handle(), EDIT_TARGET, target);
+    RemoveEnclosingQuotes(target);
+    ShowTarget(target);
+}
+
+void ShortcutPage::ShowTarget(const wchar_t* target) {
+    SHFILEINFOW info{};
+    ce::SHGetFileInfo(target, 0, &info, sizeof info, SHGFI_TYPENAME);
+    SetDlgItemTextW(Handle(), STATIC_TARGET_TYPE, info.szTypeName);
+    WIN32_FIND_DATAW data{};
+    if (!FindFile(target, data)) return;
+    if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        for (const int id : FileOnlyItems) ShowWindow(DialogItem(*this, id), SW_HIDE);
+        return;
+    }
+    wchar_t text[FileDetailsCapacity];
+    // Unlike the General page, this one knows plain bytes.
+    if (data.nFileSizeLow < BytesInKilobyte) {
+        FormatText(text, std::size(text), L"%d bytes", data.nFileSizeLow);
+    } else {
+        FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
+    }
+    SetDlgItemTextW(Handle(), STATIC_TARGET_SIZE, text);
+    FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
+    SetDlgItemTextW(Handle(), STATIC_TARGET_MODIFIED, text);
+}
+
+// The shortcut is written anew on every apply, edited or not, and the text as it was typed.
+LRESULT ShortcutPage::OnApplyChanges(EventArguments&) {
+    wchar_t target[MAX_PATH] = L"";
+    GetDlgItemTextW(Handle(), EDIT_TARGET, target, MAX_PATH);
+    ce::DeleteFileW(path);
+    ce::SHCreateShortcut(path, target);
+    return 0;
+}

@@ -1,0 +1,25 @@
+#include "results/sort_keys.h"
+
+#include <cwchar>
+
+namespace {
+
+constexpr int KilobyteShift = 10;
+constexpr int MegabyteShift = 20;
+
+std::int32_t ShiftLeft(std::int32_t number, int bits) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(number) << bits);
+}
+
+}  // namespace
+
+std::int32_t ParseShownSize(const wchar_t* text) {
+    const auto number = static_cast<std::int32_t>(std::wcstol(text, nullptr, 10));
+    const wchar_t* unit = std::wcspbrk(text, L"KM");
+    if (unit == nullptr) return number;
+    return ShiftLeft(number, *unit == L'K' ? KilobyteShift : MegabyteShift);
+}
+
+int CompareSizes(std::int32_t first, std::int32_t second) { return first > second ? 1 : first < second ? -1 : 0; }
+
+int CompareTexts(const wchar_t* first, const wchar_t* second) { return _wcsicmp(first, second); }

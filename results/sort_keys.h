@@ -1,0 +1,16 @@
+#pragma once
+
+// How the cells of a column compare: by what they show, not by what the files are. So all files that show 1K
+// are equal, a folder sorts as size 0, and the year 99 comes after 02.
+
+#include <cstdint>
+
+// A cell is compared by its first 127 units.
+constexpr int SortTextCapacity = 128;
+
+// The bytes that a Size cell stands for ("12K" is 12,288); 0 for a folder's empty cell.
+[[nodiscard]] std::int32_t ParseShownSize(const wchar_t* text);
+
+// Both are negative, zero or positive, in ascending order; texts compare without regard to letter case.
+[[nodiscard]] int CompareSizes(std::int32_t first, std::int32_t second);
+[[nodiscard]] int CompareTexts(const wchar_t* first, const wchar_t* second);

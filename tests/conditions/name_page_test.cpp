@@ -1,0 +1,107 @@
+#include "conditions/name_page.h"
+
+#include "tests/conditions/page_test.h"
+
+using Texts = std::vector<std::wstring>;
+
+class NamePageTest : public PageTest {
+  protected:
+    void OpenPage() {
+        page = std::make_unique<NamePage>(Host(), HostHandle());
+        Open(*page);
+    }
+
+    std::unique_ptr<NamePage> page;
+};
+
+TEST_F(NamePageTest, the_name_starts_with_log_and_offers_log_and_txt) {
+    OpenPage();
+    EXPECT_EQ(TextOf(COMBO_NAME), L"*.log");
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+    EXPECT_EQ(Send(COMBO_NAME, CB_GETCURSEL), 0);
+}
+
+TEST_F(NamePageTest, the_other_fields_start_empty_and_the_box_clear) {
+    OpenPage();
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
+    EXPECT_EQ(TextOf(EDIT_CONTENT), L"");
+    EXPECT_FALSE(page->SubFoldersChecked());
+}
+
+TEST_F(NamePageTest, the_content_takes_260_units) {
+    OpenPage();
+    EXPECT_EQ(Send(EDIT_CONTENT, EM_GETLIMITTEXT), 260);
+}
+
+TEST_F(NamePageTest, the_template_is_the_english_one) {
+    OpenPage();
+    EXPECT_EQ(TextOf(CHECK_SUBFOLDERS), L"Include &Subfolders");
+    EXPECT_EQ(TextOf(BUTTON_BROWSE), L"&Browse");
+}
+
+TEST_F(NamePageTest, the_template_is_the_japanese_one_on_a_japanese_surface) {
+    UseJapanese();
+    OpenPage();
+    EXPECT_EQ(TextOf(CHECK_SUBFOLDERS), L"ｻﾌﾞﾌｫﾙﾀﾞも探す(&S)");
+    EXPECT_EQ(TextOf(BUTTON_BROWSE), L"参照(&B)");
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+}
+
+TEST_F(NamePageTest, a_reset_empties_name_and_location_alone) {
+    OpenPage();
+    SetText(COMBO_NAME, L"abc");
+    SetText(COMBO_LOCATION, L"\\f");
+    SetText(EDIT_CONTENT, L"kept");
+    Click(CHECK_SUBFOLDERS);
+    page->Reset();
+    EXPECT_EQ(TextOf(COMBO_NAME), L"");
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
+    EXPECT_EQ(TextOf(EDIT_CONTENT), L"kept");
+    EXPECT_TRUE(page->SubFoldersChecked());
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+}
+
+TEST_F(NamePageTest, the_search_reads_the_fields_as_they_stand) {
+    OpenPage();
+    SetText(COMBO_NAME, L"*.日本");
+    SetText(COMBO_LOCATION, L"\\My Documents");
+    SetText(EDIT_CONTENT, L"  ");
+    Click(CHECK_SUBFOLDERS);
+    wchar_t text[MAX_PATH];
+    page->NameText(text);
+    EXPECT_EQ(std::wstring(text), L"*.日本");
+    page->LocationText(text);
+    EXPECT_EQ(std::wstring(text), L"\\My Documents");
+    page->ContentText(text);
+    EXPECT_EQ(std::wstring(text), L"  ");
+    EXPECT_TRUE(page->SubFoldersChecked());
+}
+
+TEST_F(NamePageTest, texts_longer_than_the_search_takes_are_cut_at_259_units) {
+    OpenPage();
+    const std::wstring longText(300, L'x');
+    for (const int id : {COMBO_NAME, COMBO_LOCATION, EDIT_CONTENT})
+        SetText(id, longText);
+    wchar_t text[MAX_PATH];
+    page->NameText(text);
+    EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
+    page->LocationText(text);
+    EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
+    page->ContentText(text);
+    EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
+}
+
+TEST_F(NamePageTest, empty_fields_read_as_empty_texts) {
+    OpenPage();
+    page->Reset();
+    wchar_t text[MAX_PATH] = L"#";
+    page->NameText(text);
+    EXPECT_EQ(std::wstring(text), L"");
+    text[0] = L'#';
+    page->LocationText(text);
+    EXPECT_EQ(std::wstring(text), L"");
+    text[0] = L'#';
+    page->ContentText(text);
+    EXPECT_EQ(std::wstring(text), L"");
+}
