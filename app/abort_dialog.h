@@ -1,0 +1,48 @@
+#pragma once
+
+// The "Finding..." dialog: it runs the search as its own job, shows the folder that is being walked and
+// offers Abort.
+
+#include "framework/dialog.h"
+#include "resources/resource_ids.h"
+#include "search/search_progress.h"
+
+class AbortDialog : public Dialog, public SearchProgress {
+  public:
+    explicit AbortDialog(WindowObject* parent);
+
+    // The job: called once the dialog is shown; the dialog closes when it returns.
+    template <class Target>
+    void OnRun(Target* target, LRESULT (Target::*method)(EventArguments&)) {
+        OnEvent(event::DialogRun, COMMAND_RUN, target, method);
+    }
+
+    // Whether the dialog is on the screen or still on its way out of its job.
+    [[nodiscard]] bool IsRunning() const { return running; }
+
+    INT_PTR RunModal() override;
+
+    // What the Abort button does.
+    void Abort();
+
+    // SearchProgress. The text lags behind the walk by up to a tenth of a second.
+    void EnterFolder(const wchar_t* folder) override;
+    bool StopRequested() override;
+
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override;
+    LRESULT OnWmCommand(MessageRecord& record) override;
+
+  private:
+    LRESULT OnButtonKey(MessageRecord& record);
+    void RunJob(MessageRecord& record);
+    void ShowFolder();
+
+    std::unique_ptr<WindowObject> button;
+    bool abortRequested = false;
+    bool running = false;
+    bool jobStarted = false;
+    bool folderPending = false;
+    ULONGLONG lastShown = 0;  // in milliseconds of GetTickCount64
+    wchar_t folderText[MAX_PATH] = L"";
+};

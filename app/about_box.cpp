@@ -1,0 +1,98 @@
+#include "app/about_box.h"
+
+#include "app/language.h"
+#include "app/memory_lines.h"
+#include "app/uninstall.h"
+#include "fileops/message_boxes.h"
+#include "framework/control.h"
+#include "framework/property_keys.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr int StringCapacity = 260;
+constexpr int TitleHeight = -12;
+
+struct StringPlace {
+    UINT string;
+    int control;
+};
+
+constexpr StringPlace StringPlaces[] = {
+    {STRING_PRODUCT_NAME, STATIC_PRODUCT_NAME}, {STRING_VERSION, STATIC_VERSION},
+    {STRING_LEGAL_NOTICE, STATIC_LEGAL_NOTICE}, {STRING_CONTACT_1, STATIC_CONTACT_1},
+    {STRING_CONTACT_2, STATIC_CONTACT_2},
+};
+
+PropertySet AboutTemplate() {
+    PropertySet properties;
+    properties.SetText(property::DialogTemplate, InLanguage(L"EAboutDialog_E", L"EAboutDialog_J"));
+    return properties;
+}
+
+HFONT CreateTitleFont() {
+    LOGFONTW font{};
+    font.lfHeight = TitleHeight;
+    font.lfWeight = FW_BOLD;
+    font.lfCharSet = DEFAULT_CHARSET;
+    return CreateFontIndirectW(&font);
+}
+
+}  // namespace
+
+AboutBox::AboutBox(WindowObject* parentObject) : Dialog(parentObject, AboutTemplate()), titleFont(CreateTitleFont()) {
+    OnCommand(IDOK, this, &AboutBox::OnOk);
+    OnCommand(BUTTON_UNINSTALL, this, &AboutBox::OnUninstall);
+}
+
+AboutBox::~AboutBox() { DeleteObject(titleFont); }
+
+void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
+    makerKey = maker;
+    productKey = product;
+}
+
+LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
+    ShowStrings();
+    if (productKey.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
+    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont), TRUE);
+    ShowMemory();
+    return Dialog::OnInitDialog(record);
+}
+
+// A string that cannot be loaded leaves the template's text.
+void AboutBox::ShowStrings() {
+    for (const StringPlace& place : StringPlaces) {
+        wchar_t text[StringCapacity];
+        if (LoadStringW(Globals().instance, place.string, text, StringCapacity) > 0) {
+            SetDlgItemTextW(Handle(), place.control, text);
+        }
+    }
+}
+
+void AboutBox::ShowMemory() {
+    wchar_t line[MemoryLineCapacity];
+    if (ProgramMemoryLine(line)) SetDlgItemTextW(Handle(), STATIC_PROGRAM_MEMORY, line);
+    if (DataStoreLine(line)) SetDlgItemTextW(Handle(), STATIC_DATA_STORE, line);
+    for (int card = 0; card < ListedStorageCards; ++card) {
+        if (StorageCardLine(card, line)) SetDlgItemTextW(Handle(), STATIC_STORAGE_CARD + card, line);
+    }
+}
+
+LRESULT AboutBox::OnOk(EventArguments&) {
+    End(ResultOk);
+    return 0;
+}
+
+// The box's own way, for an owner that binds none of its own: it asks first, and closes the owner whether the
+// keys could be removed or not.
+LRESULT AboutBox::OnUninstall(EventArguments&) {
+    if (productKey.empty()) return 0;
+    if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK) return 0;
+    if (DeleteRegistryKey(HKEY_CURRENT_USER, productKey.c_str()) == ERROR_SUCCESS && !makerKey.empty() &&
+        !HasSubKey(HKEY_CURRENT_USER, makerKey.c_str())) {
+        DeleteRegistryKey(HKEY_CURRENT_USER, makerKey.c_str());
+    }
+    PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
+    return 0;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+// The About box: product, version, legal notice, free memory, and the Uninstall button.
+
+#include <string>
+
+#include "framework/dialog.h"
+
+class AboutBox : public Dialog {
+  public:
+    explicit AboutBox(WindowObject* parent);
+    ~AboutBox() override;
+
+    // The registry keys of the maker and the product; without a product key the Uninstall button is hidden.
+    void SetRegistryKeys(const wchar_t* maker, const wchar_t* product);
+
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override;
+
+  private:
+    LRESULT OnOk(EventArguments& arguments);
+    LRESULT OnUninstall(EventArguments& arguments);
+
+    void ShowStrings();
+    void ShowMemory();
+
+    std::wstring makerKey;
+    std::wstring productKey;
+    HFONT titleFont;
+};

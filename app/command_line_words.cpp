@@ -1,0 +1,50 @@
+#include "app/command_line_words.h"
+
+#include <cstddef>
+#include <cwchar>
+#include <new>
+
+namespace {
+
+bool IsBlank(wchar_t unit) {
+    return unit == L' ' || unit == L'\t';
+}
+
+wchar_t* SkipBlanks(wchar_t* at) {
+    while (IsBlank(*at))
+        ++at;
+    return at;
+}
+
+wchar_t* EndOfWord(wchar_t* word, bool quoted) {
+    while (*word != L'\0' && !(quoted ? *word == L'"' : IsBlank(*word)))
+        ++word;
+    return word;
+}
+
+}  // namespace
+
+CommandLineWords::CommandLineWords(const wchar_t* commandLine) {
+    const std::size_t units = std::wcslen(commandLine) + 1;
+    text = new (std::nothrow) wchar_t[units];
+    if (text == nullptr) return;
+    std::wmemcpy(text, commandLine, units);
+    Split();
+}
+
+CommandLineWords::~CommandLineWords() {
+    delete[] text;
+}
+
+void CommandLineWords::Split() {
+    wchar_t* at = SkipBlanks(text);
+    while (*at != L'\0' && count < MostWords) {
+        const bool quoted = *at == L'"';
+        if (quoted) ++at;
+        words[count++] = at;
+        at = EndOfWord(at, quoted);
+        if (*at == L'\0') return;
+        *at = L'\0';
+        at = SkipBlanks(at + 1);
+    }
+}

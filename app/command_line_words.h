@@ -1,0 +1,27 @@
+#pragma once
+
+// The command line cut into words. The words are kept for the application object; none is interpreted.
+
+class CommandLineWords {
+  public:
+    static constexpr int MostWords = 128;
+
+    // Copies the command line. Blanks and tabs part the words; a word that starts with a double quote runs to
+    // the next one, and the quotes are no part of it. Words beyond the 128th are dropped; without memory
+    // there are none.
+    explicit CommandLineWords(const wchar_t* commandLine);
+    CommandLineWords(const CommandLineWords&) = delete;
+    CommandLineWords& operator=(const CommandLineWords&) = delete;
+    ~CommandLineWords();
+
+    int Count() const { return count; }
+    // Count() terminated texts, which live as long as this object.
+    const wchar_t* const* List() const { return words; }
+
+  private:
+    void Split();
+
+    wchar_t* text = nullptr;
+    int count = 0;
+    const wchar_t* words[MostWords] = {};
+};

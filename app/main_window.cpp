@@ -1,0 +1,293 @@
+#include "app/main_window.h"
+
+#include "app/case_option.h"
+#include "app/language.h"
+#include "app/page_conditions.h"
+#include "app/page_navigation.h"
+#include "app/product.h"
+#include "app/uninstall.h"
+#include "fileops/message_boxes.h"
+#include "framework/property_keys.h"
+#include "resources/resource_ids.h"
+#include "search/run_search.h"
+
+namespace {
+
+constexpr int TabControlHeight = 126;
+
+// The commands that act on the selected row.
+constexpr UINT SelectionCommands[] = {COMMAND_OPEN, COMMAND_ADD_TO_START_MENU, COMMAND_DELETE, COMMAND_RENAME,
+                                   COMMAND_PROPERTIES};
+
+constexpr UINT RoutedCommands[] = {
+    COMMAND_FIND,       COMMAND_OPEN,        COMMAND_ADD_TO_START_MENU, COMMAND_DELETE,      COMMAND_RENAME,
+    COMMAND_PROPERTIES, COMMAND_EXIT,        COMMAND_LARGE_ICON,        COMMAND_SMALL_ICON,  COMMAND_DETAILS,
+    COMMAND_VIEW_STATUS, COMMAND_CHECK_CASE, COMMAND_SAVE_RESULT,       COMMAND_NEW_CONDITION, COMMAND_ABOUT};
+
+void PlaceProperties(PropertySet& properties, LONG x, LONG y, LONG width, LONG height) {
+    properties.Set(property::X, static_cast<PropertyValue>(x));
+    properties.Set(property::Y, static_cast<PropertyValue>(y));
+    properties.Set(property::Width, static_cast<PropertyValue>(width));
+    properties.Set(property::Height, static_cast<PropertyValue>(height));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Application& application)
+    : ApplicationView(nullptr, title, properties, &application) {
+    AddBarButtons();
+    CreateDialogs();
+    OnMessage(WM_CLOSE, this, &MainWindow::OnWmClose);
+    SetInitialMenuState();
+    const RECT area = LayoutRectangle();
+    CreateTabControl(area);
+    CreatePages();
+    CreateResultList(area);
+    RouteCommands();
+    ShowPage(0);
+    namePage->LoadSettings(ProductRegistryKey);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::AddBarButtons() {
+    if (CommandBar() == nullptr) return;
+    const HWND bar = CommandBar()->Handle();
+    TBADDBITMAP standard{HINST_COMMCTRL, IDB_STD_SMALL_COLOR};
+    SendMessageW(bar, TB_ADDBITMAP, 15, reinterpret_cast<LPARAM>(&standard));
+    TBADDBITMAP view{HINST_COMMCTRL, IDB_VIEW_SMALL_COLOR};
+    SendMessageW(bar, TB_ADDBITMAP, 12, reinterpret_cast<LPARAM>(&view));
+    TBBUTTON buttons[] = {{STD_FIND, COMMAND_FIND, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1},
+                          {STD_PROPERTIES, COMMAND_PROPERTIES, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1}};
+    SendMessageW(bar, TB_ADDBUTTONSW, 2, reinterpret_cast<LPARAM>(buttons));
+}
+
+void MainWindow::CreateDialogs() {
+    aboutBox = std::make_unique<AboutBox>(this);
+    aboutBox->SetRegistryKeys(MakerRegistryKey, ProductRegistryKey);
+    // Bound later than the box's own routine, so this one is found first.
+    aboutBox->OnCommand(BUTTON_UNINSTALL, this, &MainWindow::OnUninstall);
+    abortDialog = std::make_unique<AbortDialog>(this);
+    abortDialog->OnRun(this, &MainWindow::OnSearchRun);
+}
+
+void MainWindow::SetInitialMenuState() {
+    EnableResultCommands(false);
+    // The commands 40201 to 40203 and 40207 stand in no menu; their marks change nothing and are kept.
+    CheckMenuRadioItem(Menu(), COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST, COMMAND_VIEW_BAR_FIRST, MF_BYCOMMAND);
+    CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, COMMAND_DETAILS, MF_BYCOMMAND);
+    CheckMenuItem(Menu(), COMMAND_VIEW_STATUS, MF_BYCOMMAND | MF_CHECKED);
+    CheckMenuItem(Menu(), COMMAND_CHECK_CASE, MF_BYCOMMAND | MF_CHECKED);
+    EnableMenuItem(Menu(), COMMAND_SAVE_RESULT, MF_BYCOMMAND | MF_GRAYED);
+}
+
+void MainWindow::CreateTabControl(const RECT& area) {
+    PropertySet properties;
+    PlaceProperties(properties, area.left, area.top, area.right - area.left, TabControlHeight);
+    properties.Set(property::Style, WS_TABSTOP | WS_CLIPSIBLINGS);
+    tabControl = std::make_unique<TabControl>(this, properties);
+    SendMessageW(tabControl->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    tabControl->Subclass();
+    tabControl->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
+    tabControl->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);
+    tabControl->OnNotification(event::SelectionChanged, this, &MainWindow::OnPageChanged);
+    tabControl->AppendItem(InLanguage(L"Name", L"名前と場所"));
+    tabControl->AppendItem(InLanguage(L"Date", L"日付"));
+    tabControl->AppendItem(InLanguage(L"Etc", L"その他"));
+}
+
+void MainWindow::CreatePages() {
+    namePage = std::make_unique<NamePage>(tabControl.get(), Handle());
+    datePage = std::make_unique<DatePage>(tabControl.get());
+    sizePage = std::make_unique<SizePage>(tabControl.get(), &fileTypes);
+    const RECT area = tabControl->DisplayArea();
+    for (int i = 0; i < PageCount; ++i) {
+        ConditionPage& page = *Page(i);
+        page.MarkAsPage();
+        page.CreateModeless();
+        page.Move(area.left, area.top, area.right - area.left, area.bottom - area.top);
+    }
+}
+
+void MainWindow::CreateResultList(const RECT& area) {
+    PropertySet properties;
+    PlaceProperties(properties, area.left, area.top + TabControlHeight, area.right - area.left,
+                    area.bottom - area.top - TabControlHeight);
+    properties.Set(property::Style, WS_TABSTOP);
+    results = std::make_unique<ResultList>(this, properties);
+    resultCommands = std::make_unique<ResultCommands>(*this, *results);
+    results->OnNotification(event::DoubleClick, this, &MainWindow::OnResultDoubleClick);
+    results->OnNotification(event::KeyDown, this, &MainWindow::OnResultKeyDown);
+    results->OnNotification(event::ItemChanged, this, &MainWindow::OnResultChanged);
+    results->OnNotification(event::EndLabelEdit, this, &MainWindow::OnResultRenamed);
+}
+
+void MainWindow::RouteCommands() {
+    for (const UINT command : RoutedCommands) OnCommand(command, this, &MainWindow::OnMenuCommand, command);
+}
+
+ConditionPage* MainWindow::Page(int index) const {
+    ConditionPage* const pages[PageCount] = {namePage.get(), datePage.get(), sizePage.get()};
+    return pages[index];
+}
+
+void MainWindow::ShowPage(int index) {
+    Page(currentPage)->Hide();
+    tabControl->Select(index);
+    Page(index)->Show();
+    currentPage = index;
+    SetFocus(tabControl->Handle());
+}
+
+LRESULT MainWindow::OnPageChanged(EventArguments&) {
+    ShowPage(tabControl->Selected());
+    return 0;
+}
+
+LRESULT MainWindow::OnTabControlKeyDown(MessageRecord& record) {
+    if (record.wParam != VK_TAB) return tabControl->DefaultProcessing(record);
+    const bool backwards = GetKeyState(VK_SHIFT) < 0;
+    SetFocus(backwards ? results->Handle() : FirstTabStop(Page(currentPage)->Handle()));
+    return 0;
+}
+
+LRESULT MainWindow::OnTabControlChar(MessageRecord& record) {
+    return record.wParam == L'\t' ? 0 : tabControl->DefaultProcessing(record);
+}
+
+bool MainWindow::PreTranslate(MSG& message) {
+    if (ApplicationView::PreTranslate(message)) return true;
+    return NavigateByKey(message, {tabControl->Handle(), Page(currentPage)->Handle(), results->Handle()});
+}
+
+LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
+    // A command that arrives in the middle of a search, past the disabled menus, is dropped; leaving is not.
+    const auto command = static_cast<UINT>(arguments.extra);
+    if (!abortDialog->IsRunning() || command == COMMAND_EXIT) RunCommand(command);
+    UpdateWindow(Handle());
+    return 0;
+}
+
+void MainWindow::RunCommand(UINT command) {
+    switch (command) {
+        case COMMAND_FIND: Find(); break;
+        case COMMAND_EXIT: PostMessageW(Handle(), WM_CLOSE, 0, 0); break;
+        case COMMAND_LARGE_ICON: SetResultView(command, LVS_ICON); break;
+        case COMMAND_SMALL_ICON: SetResultView(command, LVS_SMALLICON); break;
+        case COMMAND_DETAILS: SetResultView(command, LVS_REPORT); break;
+        case COMMAND_CHECK_CASE: ToggleCaseOption(Menu()); break;
+        case COMMAND_NEW_CONDITION: ResetConditions(); break;
+        case COMMAND_ABOUT: ShowAbout(); break;
+        default: RunResultCommand(command); break;
+    }
+}
+
+// "Save Result" and the command 40207 are routed here like the others, and do nothing.
+void MainWindow::RunResultCommand(UINT command) {
+    switch (command) {
+        case COMMAND_OPEN: resultCommands->Open(); break;
+        case COMMAND_ADD_TO_START_MENU: resultCommands->AddToStartMenu(); break;
+        case COMMAND_DELETE: resultCommands->Delete(); break;
+        case COMMAND_RENAME: resultCommands->BeginRename(); break;
+        case COMMAND_PROPERTIES: resultCommands->ShowProperties(); break;
+        default: return;
+    }
+    // A row that was deleted tells nobody that it was selected.
+    if (results->SelectedCount() == 0) EnableResultCommands(false);
+}
+
+// Enter or a double click in the list.
+void MainWindow::Activate() {
+    const bool altHeld = GetKeyState(VK_MENU) < 0;
+    RunResultCommand(altHeld ? COMMAND_PROPERTIES : COMMAND_OPEN);
+    UpdateWindow(Handle());
+}
+
+LRESULT MainWindow::OnResultDoubleClick(EventArguments&) {
+    Activate();
+    return 0;
+}
+
+LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
+    if (reinterpret_cast<const NMLVKEYDOWN*>(arguments.argument)->wVKey == VK_RETURN) Activate();
+    return 0;
+}
+
+// The control is told to forget the text: the cell follows the file, not the editing.
+LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
+    resultCommands->EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
+    UpdateWindow(Handle());
+    return FALSE;
+}
+
+void MainWindow::Find() {
+    abortDialog->RunModal();
+    UpdateWindow(Handle());
+    results->SelectRow(0);
+    if (results->SelectedCount() == 0) EnableResultCommands(false);
+    SetFocus(results->Handle());
+    if (closeAfterSearch) PostMessageW(Handle(), WM_CLOSE, 0, 0);
+}
+
+LRESULT MainWindow::OnSearchRun(EventArguments&) {
+    const PageConditions source(*namePage, *datePage, *sizePage, Menu());
+    results->BeginFilling();
+    RunSearch(conditions, source, *results, *abortDialog);
+    results->EndFilling();
+    return 0;
+}
+
+// The search stands on this window's objects: it is ended first, and the window closes when it has unwound.
+LRESULT MainWindow::OnWmClose(MessageRecord& record) {
+    if (!abortDialog->IsRunning()) return DefaultProcessing(record);
+    closeAfterSearch = true;
+    abortDialog->Abort();
+    return 0;
+}
+
+LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
+    if (!skipSaving && namePage != nullptr) namePage->SaveSettings(ProductRegistryKey);
+    return ApplicationView::OnWmDestroy(record);
+}
+
+void MainWindow::ShowAbout() { aboutBox->RunModal(); }
+
+LRESULT MainWindow::OnUninstall(EventArguments&) {
+    aboutBox->End(Dialog::ResultCancel);
+    UpdateWindow(Handle());
+    if (!RemoveRegistryKeys(HKEY_CURRENT_USER, MakerRegistryKey, ProductRegistryKey)) {
+        ShowError(Handle(), InLanguage(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!"));
+        return 0;
+    }
+    skipSaving = true;
+    PostMessageW(Handle(), WM_CLOSE, 0, 0);
+    return 0;
+}
+
+void MainWindow::SetResultView(UINT command, DWORD view) {
+    results->SetView(view);
+    CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, command, MF_BYCOMMAND);
+}
+
+void MainWindow::ResetConditions() {
+    for (int i = 0; i < PageCount; ++i) Page(i)->Reset();
+}
+
+void MainWindow::EnableResultCommands(bool enable) {
+    for (const UINT command : SelectionCommands) {
+        EnableMenuItem(Menu(), command, static_cast<UINT>(enable ? MF_ENABLED : MF_GRAYED));
+    }
+}
+
+LRESULT MainWindow::OnResultChanged(EventArguments& arguments) {
+    const auto& change = *reinterpret_cast<const NMLISTVIEW*>(arguments.argument);
+    if ((change.uChanged & LVIF_STATE) == 0) return 0;
+    const bool wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
+    const bool isSelected = (change.uNewState & LVIS_SELECTED) != 0;
+    if (!wasSelected && isSelected) {
+        EnableResultCommands(true);
+    } else if (wasSelected && !isSelected && results->SelectedCount() == 0) {
+        EnableResultCommands(false);
+    }
+    return 0;
+}

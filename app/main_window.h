@@ -1,0 +1,81 @@
+#pragma once
+
+// The program's one top-level window: menu bar, the tab control with the three condition pages, and the
+// result list. It owns every long-lived object and routes the commands.
+
+#include "app/abort_dialog.h"
+#include "conditions/date_page.h"
+#include "conditions/name_page.h"
+#include "conditions/size_page.h"
+#include "framework/application_view.h"
+#include "app/about_box.h"
+#include "app/registered_file_types.h"
+#include "results/result_commands.h"
+#include "results/result_list.h"
+#include "search/search_conditions.h"
+
+class MainWindow : public ApplicationView {
+  public:
+    MainWindow(const wchar_t* title, PropertySet& properties, Application& application);
+    ~MainWindow() override;
+
+    bool PreTranslate(MSG& message) override;
+
+  protected:
+    LRESULT OnWmDestroy(MessageRecord& record) override;
+    void ShowAbout() override;
+
+    // Keys and characters of the tab control.
+    virtual LRESULT OnTabControlKeyDown(MessageRecord& record);
+    virtual LRESULT OnTabControlChar(MessageRecord& record);
+
+  private:
+    static constexpr int PageCount = 3;
+
+    // Construction, in this order.
+    void AddBarButtons();
+    void CreateDialogs();
+    void SetInitialMenuState();
+    void CreateTabControl(const RECT& area);
+    void CreatePages();
+    void CreateResultList(const RECT& area);
+    void RouteCommands();
+
+    LRESULT OnWmClose(MessageRecord& record);
+    LRESULT OnMenuCommand(EventArguments& arguments);
+    LRESULT OnPageChanged(EventArguments& arguments);
+    LRESULT OnResultDoubleClick(EventArguments& arguments);
+    LRESULT OnResultKeyDown(EventArguments& arguments);
+    LRESULT OnResultChanged(EventArguments& arguments);
+    LRESULT OnResultRenamed(EventArguments& arguments);
+    LRESULT OnUninstall(EventArguments& arguments);
+    LRESULT OnSearchRun(EventArguments& arguments);
+
+    void RunCommand(UINT command);
+    void RunResultCommand(UINT command);
+    void Activate();
+    void Find();
+    void SetResultView(UINT command, DWORD view);
+    void ResetConditions();
+    void EnableResultCommands(bool enable);
+    void ShowPage(int index);
+    [[nodiscard]] ConditionPage* Page(int index) const;
+
+    SearchConditions conditions;
+    int currentPage = 0;
+    bool closeAfterSearch = false;
+    // Set by an uninstall: the keys just removed are not written again.
+    bool skipSaving = false;
+
+    RegisteredFileTypes fileTypes;
+
+    // Deleted from the last to the first: the pages in tab order, the list, the tab control, the dialogs.
+    std::unique_ptr<AboutBox> aboutBox;
+    std::unique_ptr<AbortDialog> abortDialog;
+    std::unique_ptr<TabControl> tabControl;
+    std::unique_ptr<ResultList> results;
+    std::unique_ptr<ResultCommands> resultCommands;
+    std::unique_ptr<SizePage> sizePage;
+    std::unique_ptr<DatePage> datePage;
+    std::unique_ptr<NamePage> namePage;
+};

@@ -1,0 +1,68 @@
+#include "app/page_navigation.h"
+
+namespace {
+
+bool IsShiftDown() { return GetKeyState(VK_SHIFT) < 0; }
+
+bool WantsMessage(HWND control, MSG& message) {
+    const LRESULT code =
+        SendMessageW(control, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+    return (code & (DLGC_WANTMESSAGE | DLGC_WANTTAB)) != 0;
+}
+
+bool IsPushButton(HWND control) {
+    return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+}
+
+// The page's own child that holds the focus: of a combo box the box, not the edit in it.
+HWND PageControlOf(HWND page, HWND focus) {
+    while (focus != nullptr && GetParent(focus) != page) focus = GetParent(focus);
+    return focus;
+}
+
+// A text field that gets the focus by Tab has its text selected, as in any dialog.
+void FocusControl(HWND control) {
+    SetFocus(control);
+    if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageW(control, EM_SETSEL, 0, -1);
+}
+
+void LeavePage(const NavigationStops& stops, HWND control, bool backwards) {
+    const HWND next = GetNextDlgTabItem(stops.page, control, backwards);
+    const HWND end = backwards ? LastTabStop(stops.page) : FirstTabStop(stops.page);
+    if (next == nullptr || next == end) {
+        SetFocus(backwards ? stops.tabControl : stops.list);
+    } else {
+        FocusControl(next);
+    }
+}
+
+bool OnTab(MSG& message, const NavigationStops& stops) {
+    const bool backwards = IsShiftDown();
+    if (message.hwnd == stops.list) {
+        FocusControl(backwards ? LastTabStop(stops.page) : stops.tabControl);
+        return true;
+    }
+    if (!IsChild(stops.page, message.hwnd) || WantsMessage(message.hwnd, message)) return false;
+    LeavePage(stops, PageControlOf(stops.page, message.hwnd), backwards);
+    return true;
+}
+
+}  // namespace
+
+HWND FirstTabStop(HWND page) { return GetNextDlgTabItem(page, nullptr, FALSE); }
+
+HWND LastTabStop(HWND page) { return GetNextDlgTabItem(page, FirstTabStop(page), TRUE); }
+
+bool NavigateByKey(MSG& message, const NavigationStops& stops) {
+    const bool isKey = message.message == WM_KEYDOWN;
+    if (isKey && message.wParam == VK_TAB) return OnTab(message, stops);
+    if (!IsChild(stops.page, message.hwnd)) return false;
+    if (isKey && message.wParam == VK_RETURN) {
+        if (!IsPushButton(message.hwnd)) return false;
+        SendMessageW(message.hwnd, BM_CLICK, 0, 0);
+        return true;
+    }
+    // Esc would hide a page as if it were a dialog that can be cancelled.
+    if (isKey && message.wParam == VK_ESCAPE) return false;
+    return IsDialogMessageW(stops.page, &message) != 0;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+// The keyboard's way through the main window: tab control, controls of the shown page, result list, and
+// round again with Tab, the other way with Shift+Tab; mnemonics and arrows within the page.
+
+#include "platform/windows_ce.h"
+
+struct NavigationStops {
+    HWND tabControl;
+    HWND page;  // the shown one
+    HWND list;
+};
+
+// Takes a message of the loop when it is a key of these rules. A field that wants Tab or Enter for itself
+// gets it.
+[[nodiscard]] bool NavigateByKey(MSG& message, const NavigationStops& stops);
+
+// The page's first and last control that Tab stops at, or null.
+[[nodiscard]] HWND FirstTabStop(HWND page);
+[[nodiscard]] HWND LastTabStop(HWND page);

@@ -1,0 +1,57 @@
+#include "app/run.h"
+
+#include <memory>
+
+#include "app/command_line_words.h"
+#include "app/main_window.h"
+#include "app/product.h"
+#include "app/start_up.h"
+#include "framework/application.h"
+#include "framework/property_keys.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr int ExitRunningAlready = 1;
+
+// The button-face colour plus one, as the handheld numbers it: colour index 16 with the system-colour flag.
+constexpr PropertyValue ButtonFaceBrush = 0x40000010;
+
+}  // namespace
+
+void DescribeMainWindow(PropertySet& properties) {
+    properties.SetText(property::ClassName, MainWindowClass);
+    properties.Set(property::SmallIcon, ICON_PROGRAM);
+    properties.Set(property::MenuBar,
+                   Globals().menuLanguage == UiLanguage::Japanese ? MENU_JAPANESE : MENU_ENGLISH);
+    properties.Set(property::Accelerators, ACCELERATORS_MAIN);
+    properties.Set(property::ClassBackground, ButtonFaceBrush);
+    // For the date pickers of the date page.
+    properties.Set(property::ExtraControlClasses, ICC_DATE_CLASSES);
+}
+
+int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showCommand) {
+    AppGlobals& globals = GlobalsForStartUp();
+    globals.instance = instance;
+    globals.commandLine = commandLine;
+    globals.showCommand = showCommand;
+    ProbePlatform(globals);
+    DecideLanguage(globals);
+    const CommandLineWords words(commandLine);
+    if (BringRunningCopyForward()) {
+        ReleaseConversionLibrary(globals);
+        return ExitRunningAlready;
+    }
+
+    int exitCode = 0;
+    {
+        Application application(ProductName, words.Count(), words.List());
+        PropertySet properties;
+        DescribeMainWindow(properties);
+        const auto mainWindow = std::make_unique<MainWindow>(ProductName, properties, application);
+        mainWindow->Show();
+        exitCode = application.Run();
+    }
+    ReleaseConversionLibrary(globals);
+    return exitCode;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "framework/property_set.h"
+#include "platform/system_types.h"
+
+// What the main window is made from, in the language of the start-up record.
+void DescribeMainWindow(PropertySet& properties);
+
+// A whole run of the program, from the entry's arguments to the exit code: that of the message loop, or 1
+// when another copy runs already.
+int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showCommand);

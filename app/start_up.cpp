@@ -1,0 +1,79 @@
+#include "app/start_up.h"
+
+#include "app/product.h"
+#include "platform/registry_key.h"
+#include "platform/windows_ce.h"
+#include "search/system_text_conversion.h"
+#include "search/text_conversion.h"
+
+namespace {
+
+constexpr int PocketPcScreenWidth = 240;
+constexpr int PocketPcScreenHeight = 320;
+
+bool ShellHasInputPanel() {
+    const HMODULE shell = ce::LoadLibraryW(L"aygshell.dll");
+    if (shell == nullptr) return false;
+    const bool found = ce::GetProcAddressW(shell, L"SHSipInfo") != nullptr;
+    ce::FreeLibrary(shell);
+    return found;
+}
+
+// On a system that is not Japanese: with the library Shift-JIS can be searched for, without it only the low
+// bytes of the text.
+void InstallConversionLibrary(AppGlobals& globals) {
+    globals.toMultiByte = &DefaultToMultiByte;
+    globals.toWide = &DefaultToWide;
+    if (globals.conversionLibrary == nullptr) globals.conversionLibrary = ce::LoadLibraryW(L"TKCONV.DLL");
+    if (globals.conversionLibrary == nullptr) return;
+    UseConversionLibrary(
+        reinterpret_cast<UnicodeToSjisFunction>(ce::GetProcAddressW(globals.conversionLibrary, L"unicode2sjis")),
+        reinterpret_cast<SjisToUnicodeFunction>(ce::GetProcAddressW(globals.conversionLibrary, L"sjis2unicode")));
+    globals.toMultiByte = &LibraryToMultiByte;
+    globals.toWide = &LibraryToWide;
+    globals.codeConversionAvailable = true;
+}
+
+bool IsLanguageSwapped() {
+    DWORD change = 0;
+    return ReadRegistryDword(HKEY_CURRENT_USER, MakerRegistryKey, L"Change language", change) == ERROR_SUCCESS &&
+           change != 0;
+}
+
+}  // namespace
+
+void ProbePlatform(AppGlobals& globals) {
+    globals.screenWidth = ce::GetSystemMetrics(SM_CXSCREEN);
+    globals.screenHeight = ce::GetSystemMetrics(SM_CYSCREEN);
+    globals.pocketPc = ShellHasInputPanel() || (globals.screenWidth == PocketPcScreenWidth &&
+                                                globals.screenHeight == PocketPcScreenHeight);
+}
+
+void DecideLanguage(AppGlobals& globals) {
+    bool japanese = PRIMARYLANGID(ce::GetSystemDefaultLangID()) == LANG_JAPANESE;
+    globals.codeConversionAvailable = false;
+    if (japanese) {
+        globals.toMultiByte = &SystemToMultiByte;
+        globals.toWide = &SystemToWide;
+    } else {
+        InstallConversionLibrary(globals);
+    }
+    // Only now, deliberately: the conversion stays that of the system's own language.
+    if (IsLanguageSwapped()) japanese = !japanese;
+    globals.uiLanguage = japanese ? UiLanguage::Japanese : UiLanguage::English;
+    globals.menuLanguage = globals.uiLanguage;
+}
+
+void ReleaseConversionLibrary(AppGlobals& globals) {
+    if (globals.conversionLibrary == nullptr) return;
+    UseConversionLibrary(nullptr, nullptr);
+    ce::FreeLibrary(globals.conversionLibrary);
+    globals.conversionLibrary = nullptr;
+}
+
+bool BringRunningCopyForward() {
+    const HWND window = FindWindowW(MainWindowClass, nullptr);
+    if (window == nullptr) return false;
+    SetForegroundWindow(window);
+    return true;
+}

@@ -1,0 +1,22 @@
+#include "app/uninstall.h"
+
+bool HasSubKey(HKEY root, const wchar_t* path) {
+    HKEY key = nullptr;
+    if (ce::RegOpenKeyExW(root, path, 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
+    wchar_t name[MAX_PATH];
+    DWORD length = MAX_PATH;
+    const bool found = RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+    RegCloseKey(key);
+    return found;
+}
+
+LONG DeleteRegistryKey(HKEY root, const wchar_t* path) {
+    const LONG error = ce::RegDeleteKeyW(root, path);
+    return error == ERROR_INVALID_PARAMETER ? ERROR_SUCCESS : error;
+}
+
+bool RemoveRegistryKeys(HKEY root, const wchar_t* makerKey, const wchar_t* productKey) {
+    if (DeleteRegistryKey(root, productKey) != ERROR_SUCCESS) return false;
+    if (!HasSubKey(root, makerKey)) DeleteRegistryKey(root, makerKey);
+    return true;
+}

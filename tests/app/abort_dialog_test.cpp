@@ -1,0 +1,270 @@
+// The "Finding..." dialog with a job of the test's own.
+
+#include "app/abort_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "search/pump_one_message.h"
+#include "tests/support/message_pump.h"
+#include "tests/support/test_world.h"
+
+namespace {
+
+// What the dialog runs.
+class Job : public WindowObject {
+  public:
+    Job() : WindowObject(nullptr, nullptr) {}
+    LRESULT Run(EventArguments&) {
+        ++runs;
+        if (work) work();
+        return 0;
+    }
+
+    std::function<void()> work;
+    int runs = 0;
+};
+
+}  // namespace
+
+class AbortDialogTest : public testing::Test {
+  protected:
+    void Make(UiLanguage language = UiLanguage::English) {
+        GlobalsForStartUp().uiLanguage = language;
+        dialog = std::make_unique<AbortDialog>(&host.Object());
+        dialog->OnRun(&job, &Job::Run);
+    }
+    INT_PTR RunWith(const std::function<void()>& work) {
+        job.work = work;
+        return dialog->RunModal();
+    }
+    [[nodiscard]] HWND Button() const { return GetDlgItem(dialog->Handle(), IDCANCEL); }
+    [[nodiscard]] std::wstring FolderText() const {
+        wchar_t text[512] = L"";
+        GetDlgItemTextW(dialog->Handle(), STATIC_FOLDER, text, 512);
+        return text;
+    }
+    // Lets what was posted arrive, as a search does.
+    static void PumpAsASearchDoes() {
+        ExpectMessages();
+        while (PumpOneMessage() == PumpOutcome::Dispatched) {
+        }
+    }
+
+  private:
+    TestWorld world;
+
+  protected:
+    HostWindow host;
+    Job job;
+    std::unique_ptr<AbortDialog> dialog;
+};
+
+TEST_F(AbortDialogTest, the_job_runs_once_the_dialog_is_shown_and_the_result_is_1) {
+    Make();
+    bool visible = false;
+    EXPECT_EQ(RunWith([&] { visible = IsWindowVisible(dialog->Handle()) != FALSE; }), 1);
+    EXPECT_TRUE(visible);
+    EXPECT_EQ(job.runs, 1);
+    EXPECT_EQ(dialog->Handle(), nullptr);
+}
+
+TEST_F(AbortDialogTest, its_texts_are_english) {
+    Make();
+    wchar_t caption[64] = L"";
+    wchar_t button[64] = L"";
+    RunWith([&] {
+        GetWindowTextW(dialog->Handle(), caption, 64);
+        GetWindowTextW(Button(), button, 64);
+    });
+    EXPECT_EQ(std::wstring(caption), L"Finding...");
+    EXPECT_EQ(std::wstring(button), L"Abort");
+}
+
+TEST_F(AbortDialogTest, its_texts_are_japanese) {
+    Make(UiLanguage::Japanese);
+    wchar_t caption[64] = L"";
+    wchar_t button[64] = L"";
+    RunWith([&] {
+        GetWindowTextW(dialog->Handle(), caption, 64);
+        GetWindowTextW(Button(), button, 64);
+    });
+    EXPECT_EQ(std::wstring(caption), L"検索中...");
+    EXPECT_EQ(std::wstring(button), L"中断");
+}
+
+TEST_F(AbortDialogTest, its_bar_has_cancel_alone) {
+    Make();
+    LRESULT buttons = 0;
+    TBBUTTON first = {};
+    RunWith([&] {
+        buttons = SendMessageW(dialog->MenuBar(), TB_BUTTONCOUNT, 0, 0);
+        SendMessageW(dialog->MenuBar(), TB_GETBUTTON, 0, reinterpret_cast<LPARAM>(&first));
+    });
+    EXPECT_EQ(buttons, 1);
+    EXPECT_EQ(first.idCommand, IDCANCEL);
+}
+
+TEST_F(AbortDialogTest, its_parent_takes_no_input_meanwhile_and_does_afterwards) {
+    Make();
+    bool enabled = true;
+    RunWith([&] { enabled = IsWindowEnabled(host.Handle()) != FALSE; });
+    EXPECT_FALSE(enabled);
+    EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+}
+
+TEST_F(AbortDialogTest, the_abort_button_sets_the_flag_and_the_result_is_2) {
+    Make();
+    bool before = true;
+    bool after = false;
+    EXPECT_EQ(RunWith([&] {
+                  before = dialog->StopRequested();
+                  PostMessageW(Button(), BM_CLICK, 0, 0);
+                  PumpAsASearchDoes();
+                  after = dialog->StopRequested();
+              }),
+              2);
+    EXPECT_FALSE(before);
+    EXPECT_TRUE(after);
+}
+
+TEST_F(AbortDialogTest, the_bars_cancel_and_closing_the_dialog_abort_as_well) {
+    Make();
+    for (const UINT message : {UINT{WM_COMMAND}, UINT{WM_CLOSE}}) {
+        bool stopped = false;
+        EXPECT_EQ(RunWith([&] {
+                      PostMessageW(dialog->Handle(), message, message == WM_COMMAND ? IDCANCEL : 0, 0);
+                      PumpAsASearchDoes();
+                      stopped = dialog->StopRequested();
+                  }),
+                  2);
+        EXPECT_TRUE(stopped) << message;
+    }
+}
+
+TEST_F(AbortDialogTest, enter_and_escape_on_the_button_abort) {
+    Make();
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
+        bool stopped = false;
+        HWND focus = nullptr;
+        EXPECT_EQ(RunWith([&] {
+                      focus = GetFocus();
+                      EXPECT_EQ(focus, Button());
+                      PostMessageW(Button(), WM_KEYDOWN, key, 1);
+                      PumpAsASearchDoes();
+                      stopped = dialog->StopRequested();
+                  }),
+                  2);
+        EXPECT_TRUE(stopped) << key;
+    }
+}
+
+TEST_F(AbortDialogTest, another_key_on_the_button_aborts_nothing) {
+    Make();
+    bool stopped = true;
+    EXPECT_EQ(RunWith([&] {
+                  PostMessageW(Button(), WM_KEYDOWN, 'A', 1);
+                  PostMessageW(Button(), WM_KEYDOWN, VK_TAB, 1);
+                  PumpAsASearchDoes();
+                  stopped = dialog->StopRequested();
+              }),
+              1);
+    EXPECT_FALSE(stopped);
+}
+
+TEST_F(AbortDialogTest, the_flag_is_clear_again_in_the_next_run) {
+    Make();
+    EXPECT_EQ(RunWith([&] { dialog->Abort(); }), 2);
+    bool stopped = true;
+    EXPECT_EQ(RunWith([&] { stopped = dialog->StopRequested(); }), 1);
+    EXPECT_FALSE(stopped);
+    EXPECT_EQ(job.runs, 2);
+}
+
+TEST_F(AbortDialogTest, a_second_run_command_in_the_middle_starts_nothing) {
+    Make();
+    EXPECT_EQ(RunWith([&] {
+                  PostMessageW(dialog->Handle(), WM_COMMAND, COMMAND_RUN, 0);
+                  PumpAsASearchDoes();
+              }),
+              1);
+    EXPECT_EQ(job.runs, 1);
+}
+
+TEST_F(AbortDialogTest, it_says_that_it_is_running_until_it_has_returned) {
+    Make();
+    EXPECT_FALSE(dialog->IsRunning());
+    bool during = false;
+    bool afterAbort = false;
+    RunWith([&] {
+        during = dialog->IsRunning();
+        dialog->Abort();
+        afterAbort = dialog->IsRunning();
+    });
+    EXPECT_TRUE(during);
+    EXPECT_TRUE(afterAbort);
+    EXPECT_FALSE(dialog->IsRunning());
+}
+
+TEST_F(AbortDialogTest, the_first_folder_is_shown_at_once) {
+    Make();
+    std::wstring shown;
+    RunWith([&] {
+        dialog->EnterFolder(L"\\Program Files & more");
+        shown = FolderText();
+    });
+    EXPECT_EQ(shown, L"\\Program Files & more");
+}
+
+TEST_F(AbortDialogTest, a_folder_that_follows_at_once_waits_and_the_latest_one_is_shown) {
+    Make();
+    std::wstring atOnce, later;
+    RunWith([&] {
+        dialog->EnterFolder(L"\\first");
+        dialog->EnterFolder(L"\\second");
+        dialog->EnterFolder(L"\\third");
+        atOnce = FolderText();
+        Sleep(150);
+        EXPECT_FALSE(dialog->StopRequested());
+        later = FolderText();
+    });
+    EXPECT_EQ(atOnce, L"\\first");
+    EXPECT_EQ(later, L"\\third");
+}
+
+TEST_F(AbortDialogTest, a_folder_after_a_pause_is_shown_at_once) {
+    Make();
+    std::wstring shown;
+    RunWith([&] {
+        dialog->EnterFolder(L"\\first");
+        Sleep(150);
+        dialog->EnterFolder(L"\\second");
+        shown = FolderText();
+    });
+    EXPECT_EQ(shown, L"\\second");
+}
+
+TEST_F(AbortDialogTest, a_folder_name_of_any_length_is_cut_at_259_units) {
+    Make();
+    std::wstring shown;
+    const std::wstring longName(400, L'f');
+    RunWith([&] {
+        dialog->EnterFolder(longName.c_str());
+        shown = FolderText();
+    });
+    EXPECT_EQ(shown, std::wstring(259, L'f'));
+}
+
+TEST_F(AbortDialogTest, a_new_run_starts_without_the_last_runs_folder) {
+    Make();
+    RunWith([&] { dialog->EnterFolder(L"\\old"); });
+    std::wstring shown = L"?";
+    RunWith([&] {
+        Sleep(150);
+        EXPECT_FALSE(dialog->StopRequested());
+        shown = FolderText();
+    });
+    EXPECT_EQ(shown, L"");
+}
