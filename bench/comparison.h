@@ -1,0 +1,19 @@
+#pragma once
+
+// The program's way of doing something against the bare way, run in turns so that both meet the same machine.
+
+#include <functional>
+#include <string>
+
+struct Comparison {
+    std::string name;
+    std::function<void()> ours;
+    std::function<void()> bare;
+};
+
+// Runs both once unmeasured and then `runs` times in turns, and prints one line: the best time of each in
+// milliseconds, the ratio of the two, and the ratio of the medians.
+void MeasureAndPrint(const Comparison& comparison, int runs);
+
+// The heading of those lines.
+void PrintHeading();

@@ -1,0 +1,23 @@
+#pragma once
+
+// A drive whose root is a folder of the test's: the program that is started on it has that folder as "\".
+
+#include <string>
+
+class DeviceDrive {
+  public:
+    // Throws std::runtime_error when no letter is free or the system refuses.
+    explicit DeviceDrive(const std::wstring& folder);
+    ~DeviceDrive();
+    DeviceDrive(const DeviceDrive&) = delete;
+    DeviceDrive& operator=(const DeviceDrive&) = delete;
+
+    // "Q:"
+    [[nodiscard]] const std::wstring& Letter() const { return letter; }
+    // "Q:\"
+    [[nodiscard]] std::wstring Root() const { return letter + L"\\"; }
+
+  private:
+    std::wstring letter;
+    std::wstring folder;
+};

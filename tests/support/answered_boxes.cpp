@@ -1,0 +1,59 @@
+#include "tests/support/answered_boxes.h"
+
+#include <algorithm>
+
+namespace {
+
+AnsweredBoxes* current = nullptr;
+
+std::wstring TextOf(HWND window) {
+    wchar_t text[1024] = L"";
+    SendMessageW(window, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+BOOL CALLBACK CollectText(HWND window, LPARAM box) {
+    reinterpret_cast<SeenBox*>(box)->texts.push_back(TextOf(window));
+    return TRUE;
+}
+
+bool IsDialog(HWND window) {
+    wchar_t name[32] = L"";
+    GetClassNameW(window, name, 32);
+    return std::wstring(name) == L"#32770" && (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) == 0;
+}
+
+}  // namespace
+
+AnsweredBoxes::AnsweredBoxes(std::initializer_list<int> wanted) : answers(wanted) {
+    current = this;
+    hook = SetWindowsHookExW(WH_CBT, HookProcedure, nullptr, GetCurrentThreadId());
+}
+
+AnsweredBoxes::~AnsweredBoxes() {
+    UnhookWindowsHookEx(hook);
+    current = nullptr;
+}
+
+bool AnsweredBoxes::Shows(const SeenBox& box, const std::wstring& text) {
+    return std::find(box.texts.begin(), box.texts.end(), text) != box.texts.end();
+}
+
+LRESULT CALLBACK AnsweredBoxes::HookProcedure(int code, WPARAM wParam, LPARAM lParam) {
+    const auto window = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_ACTIVATE && current != nullptr && IsDialog(window)) current->Answer(window);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// A box is activated when its controls and texts are in place; the answer is posted, since it is not shown
+// yet.
+void AnsweredBoxes::Answer(HWND box) {
+    if (std::find(answered.begin(), answered.end(), box) != answered.end()) return;
+    const std::size_t next = std::min(answered.size(), answers.size() - 1);
+    answered.push_back(box);
+    SeenBox record;
+    record.caption = TextOf(box);
+    EnumChildWindows(box, CollectText, reinterpret_cast<LPARAM>(&record));
+    seen.push_back(record);
+    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answers[next]), 0);
+}

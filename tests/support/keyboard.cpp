@@ -1,0 +1,64 @@
+#include "tests/support/keyboard.h"
+
+#include <vector>
+
+#include "tests/support/driver_error.h"
+
+namespace {
+
+INPUT Key(WORD key, WORD unit, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = unit != 0 ? unit : static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+void SendInputs(std::vector<INPUT>& inputs) {
+    const UINT count = static_cast<UINT>(inputs.size());
+    if (SendInput(count, inputs.data(), sizeof(INPUT)) != count) throw DriverError("the keys were not taken");
+}
+
+INPUT Mouse(DWORD flags, POINT point) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    // Absolute places run from 0 to 65535 over the screen; half a pixel is added so that the way back hits.
+    input.mi.dx = (point.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (point.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
+    input.mi.dwFlags = flags | MOUSEEVENTF_ABSOLUTE;
+    return input;
+}
+
+}  // namespace
+
+void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
+    std::vector<INPUT> inputs;
+    for (const WORD modifier : modifiers)
+        inputs.push_back(Key(modifier, 0, 0));
+    inputs.push_back(Key(key, 0, 0));
+    inputs.push_back(Key(key, 0, KEYEVENTF_KEYUP));
+    for (const WORD modifier : modifiers)
+        inputs.push_back(Key(modifier, 0, KEYEVENTF_KEYUP));
+    SendInputs(inputs);
+}
+
+void TypeText(const std::wstring& text) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : text) {
+        inputs.push_back(Key(0, unit, KEYEVENTF_UNICODE));
+        inputs.push_back(Key(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
+    }
+    SendInputs(inputs);
+}
+
+void ClickAt(POINT point) {
+    std::vector<INPUT> inputs = {Mouse(MOUSEEVENTF_MOVE, point), Mouse(MOUSEEVENTF_LEFTDOWN, point),
+                                 Mouse(MOUSEEVENTF_LEFTUP, point)};
+    SendInputs(inputs);
+}
+
+void DoubleClickAt(POINT point) {
+    ClickAt(point);
+    ClickAt(point);
+}

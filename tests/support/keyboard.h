@@ -1,0 +1,19 @@
+#pragma once
+
+// Real key strokes and clicks: they go to whatever window has the focus or lies under the point, as a
+// user's do.
+
+#include <windows.h>
+
+#include <initializer_list>
+#include <string>
+
+// Presses and releases the key while the modifiers (VK_SHIFT, VK_CONTROL, VK_MENU) are held down.
+void PressKey(WORD key, std::initializer_list<WORD> modifiers = {});
+
+// Types the text as characters.
+void TypeText(const std::wstring& text);
+
+// Clicks the left button at a point of the screen.
+void ClickAt(POINT point);
+void DoubleClickAt(POINT point);

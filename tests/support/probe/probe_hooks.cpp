@@ -1,0 +1,124 @@
+// The two hook procedures that the driver installs on the program's thread.
+
+#include <windows.h>
+
+#include "tests/support/probe/answers.h"
+#include "tests/support/probe/probe_protocol.h"
+#include "tests/support/probe/search_watch.h"
+
+namespace probe {
+namespace {
+
+void Answer(Exchange& exchange) {
+    AnswerWriter writer(exchange);
+    const int* numbers = exchange.numbers;
+    switch (exchange.question) {
+        case Question::Counters:
+            AnswerCounters(writer);
+            break;
+        case Question::List:
+            AnswerList(writer);
+            break;
+        case Question::Rows:
+            AnswerRows(writer, numbers[0], numbers[1]);
+            break;
+        case Question::Columns:
+            AnswerColumns(writer);
+            break;
+        case Question::Menu:
+            AnswerMenu(writer);
+            break;
+        case Question::Bar:
+            AnswerBar(writer);
+            break;
+        case Question::Tabs:
+            AnswerTabs(writer);
+            break;
+        case Question::Control:
+            AnswerControl(writer, numbers[0], numbers[1]);
+            break;
+        case Question::Combo:
+            AnswerCombo(writer, numbers[0], numbers[1]);
+            break;
+        case Question::Picker:
+            AnswerPicker(writer, numbers[0], numbers[1]);
+            break;
+        case Question::Spin:
+            AnswerSpin(writer, numbers[0], numbers[1]);
+            break;
+        case Question::Focus:
+            AnswerFocus(writer);
+            break;
+        case Question::Dialogs:
+            AnswerDialogs(writer);
+            break;
+        case Question::Windows:
+            AnswerWindows(writer);
+            break;
+        case Question::SetPicker:
+            SetPicker(numbers[0], numbers[1], numbers[2]);
+            break;
+        case Question::SetFocus:
+            FocusControl(numbers[0], numbers[1]);
+            break;
+        case Question::SelectRow:
+            SelectRow(numbers[0], numbers[1] != 0);
+            break;
+        case Question::ArmHold:
+            ArmHold(numbers[0], numbers[1]);
+            break;
+        case Question::Repaint:
+            Repaint();
+            break;
+        default:
+            return;
+    }
+    exchange.answered = TRUE;
+}
+
+void AnswerThroughSection() {
+    wchar_t name[64];
+    wsprintfW(name, SectionNameFormat, GetCurrentProcessId());
+    const HANDLE section = OpenFileMappingW(FILE_MAP_ALL_ACCESS, FALSE, name);
+    if (section == nullptr) return;
+    auto* exchange =
+        static_cast<Exchange*>(MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(Exchange)));
+    if (exchange != nullptr) {
+        Answer(*exchange);
+        UnmapViewOfFile(exchange);
+    }
+    CloseHandle(section);
+}
+
+}  // namespace
+}  // namespace probe
+
+extern "C" {
+
+__declspec(dllexport) LRESULT CALLBACK ProbeSentMessage(int code, WPARAM wParam, LPARAM lParam) {
+    static const UINT question = RegisterWindowMessageW(probe::QuestionMessageName);
+    if (code == HC_ACTION) {
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (message.message == question) probe::AnswerThroughSection();
+        probe::WatchSentMessage(message);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+__declspec(dllexport) LRESULT CALLBACK ProbeTakenMessage(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && wParam == PM_REMOVE) {
+        probe::WatchTakenMessage(*reinterpret_cast<const MSG*>(lParam));
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// The library stays in the program until it ends: a hold outlives the hooks of the driver that asked for it.
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        HMODULE pinned = nullptr;
+        GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                           reinterpret_cast<const wchar_t*>(instance), &pinned);
+    }
+    return TRUE;
+}
+}

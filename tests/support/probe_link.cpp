@@ -1,0 +1,125 @@
+#include "tests/support/probe_link.h"
+
+#include "tests/support/deadline.h"
+#include "tests/support/driver_error.h"
+
+namespace {
+
+std::wstring OwnFolder() {
+    wchar_t path[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::wstring text = path;
+    return text.substr(0, text.find_last_of(L'\\') + 1);
+}
+
+HMODULE LoadProbe() {
+    const std::wstring folder = OwnFolder();
+    HMODULE library = LoadLibraryW((folder + L"quorin_probe.dll").c_str());
+    if (library == nullptr) library = LoadLibraryW((folder + L"tests\\quorin_probe.dll").c_str());
+    if (library == nullptr) throw DriverError("quorin_probe.dll is neither beside the driver nor in tests");
+    return library;
+}
+
+HHOOK InstallHook(int kind, HMODULE library, const char* procedure, DWORD thread) {
+    const auto address = reinterpret_cast<HOOKPROC>(GetProcAddress(library, procedure));
+    return address == nullptr ? nullptr : SetWindowsHookExW(kind, address, library, thread);
+}
+
+std::vector<Record> SplitAnswer(const probe::Exchange& exchange) {
+    std::vector<Record> records;
+    Record record;
+    std::wstring field;
+    for (DWORD i = 0; i < exchange.length; ++i) {
+        const wchar_t unit = exchange.answer[i];
+        if (unit == probe::FieldEnd) {
+            record.push_back(field);
+            field.clear();
+        } else if (unit == probe::RecordEnd) {
+            records.push_back(record);
+            record.clear();
+        } else {
+            field += unit;
+        }
+    }
+    return records;
+}
+
+}  // namespace
+
+ProbeLink::ProbeLink(HWND mainWindow) : window(mainWindow) {
+    const DWORD thread = GetWindowThreadProcessId(window, &processId);
+    if (thread == 0) throw DriverError("the main window is gone");
+    wchar_t name[64];
+    wsprintfW(name, probe::SectionNameFormat, processId);
+    section =
+        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(probe::Exchange), name);
+    void* view = section == nullptr ? nullptr : MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, 0);
+    exchange = static_cast<probe::Exchange*>(view);
+    try {
+        library = LoadProbe();
+    } catch (...) {
+        Close();
+        throw;
+    }
+    sentHook = InstallHook(WH_CALLWNDPROC, library, "ProbeSentMessage", thread);
+    takenHook = InstallHook(WH_GETMESSAGE, library, "ProbeTakenMessage", thread);
+    if (exchange == nullptr || sentHook == nullptr || takenHook == nullptr) {
+        Close();
+        throw DriverError("the probe could not be brought into the program");
+    }
+}
+
+ProbeLink::~ProbeLink() {
+    Close();
+}
+
+void ProbeLink::Close() {
+    if (sentHook != nullptr) UnhookWindowsHookEx(sentHook);
+    if (takenHook != nullptr) UnhookWindowsHookEx(takenHook);
+    if (exchange != nullptr) UnmapViewOfFile(exchange);
+    if (section != nullptr) CloseHandle(section);
+    if (library != nullptr) FreeLibrary(library);
+}
+
+std::vector<Record> ProbeLink::Ask(probe::Question question, int first, int second, int third) {
+    exchange->question = question;
+    exchange->numbers[0] = first;
+    exchange->numbers[1] = second;
+    exchange->numbers[2] = third;
+    exchange->answered = FALSE;
+    static const UINT message = RegisterWindowMessageW(probe::QuestionMessageName);
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(window, message, 0, 0, SMTO_NORMAL, StepDeadline, &result);
+    const std::string name = "question " + std::to_string(static_cast<DWORD>(question));
+    if (!exchange->answered) throw DriverError("the program did not answer the probe's " + name);
+    if (exchange->truncated) throw DriverError("the probe's answer was too long for " + name);
+    return SplitAnswer(*exchange);
+}
+
+HANDLE ProbeLink::NamedEvent(const wchar_t* format) const {
+    wchar_t name[64];
+    wsprintfW(name, format, processId);
+    return CreateEventW(nullptr, TRUE, FALSE, name);
+}
+
+void ProbeLink::WaitForQueue() {
+    const HANDLE taken = NamedEvent(probe::SyncEventNameFormat);
+    ResetEvent(taken);
+    PostMessageW(window, RegisterWindowMessageW(probe::SyncMessageName), 0, 0);
+    const DWORD answer = WaitForSingleObject(taken, StepDeadline);
+    CloseHandle(taken);
+    if (answer != WAIT_OBJECT_0) throw DriverError("the program does not take messages from its queue");
+}
+
+bool ProbeLink::WaitForHold(DWORD milliseconds) {
+    const HANDLE held = NamedEvent(probe::HeldEventNameFormat);
+    const DWORD answer = WaitForSingleObject(held, milliseconds);
+    CloseHandle(held);
+    return answer == WAIT_OBJECT_0;
+}
+
+void ProbeLink::ReleaseHold() {
+    const HANDLE release = NamedEvent(probe::ReleaseEventNameFormat);
+    SetEvent(release);
+    CloseHandle(release);
+}

@@ -1,0 +1,203 @@
+#include "tests/support/program_driver.h"
+
+#include <commctrl.h>
+
+#include "resources/resource_ids.h"
+#include "tests/support/keyboard.h"
+
+namespace {
+
+BOOL CALLBACK TakeDialogWithFolder(HWND window, LPARAM result) {
+    if (GetDlgItem(window, STATIC_FOLDER) == nullptr) return TRUE;
+    *reinterpret_cast<HWND*>(result) = window;
+    return FALSE;
+}
+
+BOOL CALLBACK TakePage(HWND window, LPARAM result) {
+    if (GetDlgItem(window, CHECK_SUBFOLDERS) != nullptr) reinterpret_cast<HWND*>(result)[NamePage] = window;
+    if (GetDlgItem(window, RADIO_ALL_FILES) != nullptr) reinterpret_cast<HWND*>(result)[DatePage] = window;
+    if (GetDlgItem(window, SPIN_KILOBYTES) != nullptr) reinterpret_cast<HWND*>(result)[SizePage] = window;
+    return TRUE;
+}
+
+}  // namespace
+
+void ProgramDriver::Start(const ProgramStart& start) {
+    program = std::make_unique<RunningProgram>();
+    program->Start(start);
+    WaitUntil("the main window", [this] {
+        window = program->MainWindow();
+        if (window == nullptr && !program->IsRunning())
+            throw DriverError("the program ended before its window came");
+        return window != nullptr && IsWindowVisible(window);
+    });
+    Connect();
+}
+
+void ProgramDriver::Attach(DWORD milliseconds) {
+    WaitUntil(
+        "the main window",
+        [this] {
+            window = FindWindowW(L"QuorinSearch", nullptr);
+            return window != nullptr && IsWindowVisible(window);
+        },
+        milliseconds);
+    program = std::make_unique<RunningProgram>();
+    program->Attach(window);
+    Connect();
+}
+
+// A window that is visible may still be under construction; it is ready when it takes posted messages, unless
+// a search is being held.
+void ProgramDriver::Connect() {
+    link = std::make_unique<ProbeLink>(window);
+    if (!Searching()) link->WaitForQueue();
+}
+
+DWORD ProgramDriver::Close() {
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    return WaitForEnd();
+}
+
+DWORD ProgramDriver::WaitForEnd() {
+    const std::optional<DWORD> code = program->ExitCode(StepDeadline);
+    if (!code) throw DriverError("the program does not end");
+    link.reset();
+    return *code;
+}
+
+void ProgramDriver::Kill() {
+    if (program != nullptr) program->Kill();
+    link.reset();
+}
+
+HWND ProgramDriver::ControlWindow(int page, int id) {
+    HWND pages[3] = {};
+    if (page >= 0) {
+        EnumChildWindows(window, TakePage, reinterpret_cast<LPARAM>(pages));
+        const HWND control = GetDlgItem(pages[page], id);
+        if (control != nullptr) return control;
+    } else {
+        HWND dialog = nullptr;
+        EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), TakeDialogWithFolder,
+                          reinterpret_cast<LPARAM>(&dialog));
+        const HWND control = GetDlgItem(dialog, id);
+        if (control != nullptr) return control;
+    }
+    throw DriverError("there is no control " + std::to_string(id) + " on page " + std::to_string(page));
+}
+
+void ProgramDriver::Fill(const NameConditions& conditions) {
+    if (conditions.name) SetText(NamePage, COMBO_NAME, *conditions.name);
+    if (conditions.contains) SetText(NamePage, EDIT_CONTENT, *conditions.contains);
+    if (conditions.location) SetText(NamePage, COMBO_LOCATION, *conditions.location);
+    if (conditions.subFolders) SetCheck(NamePage, CHECK_SUBFOLDERS, *conditions.subFolders);
+}
+
+void ProgramDriver::SetText(int page, int id, const std::wstring& text) {
+    SendMessageW(ControlWindow(page, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void ProgramDriver::SetCheck(int page, int id, bool checked) {
+    SendMessageW(ControlWindow(page, id), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void ProgramDriver::Click(int page, int id) {
+    SendMessageW(ControlWindow(page, id), BM_CLICK, 0, 0);
+}
+
+void ProgramDriver::SelectEntry(int page, int id, int index) {
+    SendMessageW(ControlWindow(page, id), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+}
+
+void ProgramDriver::SetSpin(int page, int id, int position) {
+    SendMessageW(ControlWindow(page, id), UDM_SETPOS, 0, position);
+}
+
+void ProgramDriver::SetDate(int page, int id, int yearMonthDay) {
+    link->Ask(probe::Question::SetPicker, page, id, yearMonthDay);
+}
+
+void ProgramDriver::ShowPage(int page) {
+    const RECT tab = Tabs().at(static_cast<std::size_t>(page)).rectangle;
+    const HWND control = FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr);
+    POINT centre = {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2};
+    ScreenToClient(control, &centre);
+    const LPARAM place = MAKELPARAM(centre.x, centre.y);
+    PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    PostMessageW(control, WM_LBUTTONUP, 0, place);
+    WaitUntil("page " + std::to_string(page), [&] { return CurrentPage() == page; });
+    link->WaitForQueue();
+}
+
+void ProgramDriver::SendMenuCommand(UINT command) {
+    PostMessageW(window, WM_COMMAND, command, 0);
+    link->WaitForQueue();
+}
+
+void ProgramDriver::PostFind() {
+    PostMessageW(window, WM_COMMAND, COMMAND_FIND, 0);
+}
+
+void ProgramDriver::BeginFind() {
+    const int before = SearchesBegun();
+    PostFind();
+    WaitUntil("the search to begin", [&] { return SearchesBegun() > before; });
+}
+
+void ProgramDriver::Find() {
+    BeginFind();
+    WaitForEndOfSearch();
+}
+
+bool ProgramDriver::FindAndHold(int rows, DWORD longest) {
+    link->Ask(probe::Question::ArmHold, rows, static_cast<int>(longest));
+    BeginFind();
+    bool held = false;
+    WaitUntil("the search to be held", [&] {
+        held = link->WaitForHold(0);
+        return held || !Searching();
+    });
+    return held;
+}
+
+void ProgramDriver::Release() {
+    link->ReleaseHold();
+}
+
+void ProgramDriver::WaitForEndOfSearch(DWORD milliseconds) {
+    WaitUntil(
+        "the end of the search", [this] { return !Searching(); }, milliseconds);
+    link->WaitForQueue();
+}
+
+void ProgramDriver::PressAbort() {
+    const HWND button = ControlWindow(probe::FindingDialogPage, IDCANCEL);
+    PostMessageW(GetParent(button), WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(button));
+}
+
+void ProgramDriver::BringForward() {
+    if (GetForegroundWindow() != window) SetForegroundWindow(window);
+    WaitUntil("the main window in front", [this] { return GetForegroundWindow() == window; });
+}
+
+void ProgramDriver::FocusControl(int page, int id) {
+    BringForward();
+    link->Ask(probe::Question::SetFocus, page, id);
+    WaitUntil("the focus on control " + std::to_string(id), [&] { return HasFocus(page, id); });
+}
+
+void ProgramDriver::FocusTab() {
+    BringForward();
+    link->Ask(probe::Question::SetFocus, 0, 0);
+    WaitUntil("the focus on the tabs", [&] { return TabHasFocus(); });
+}
+
+void ProgramDriver::SelectRow(int row, bool select) {
+    link->Ask(probe::Question::SelectRow, row, select ? 1 : 0);
+}
+
+void ProgramDriver::Repaint() {
+    link->Ask(probe::Question::Repaint);
+}

@@ -1,0 +1,71 @@
+#include "tests/support/running_program.h"
+
+#include "tests/support/driver_error.h"
+#include "tests/support/utf8.h"
+
+RunningProgram::~RunningProgram() {
+    if (job != nullptr) Kill();
+    if (process != nullptr) CloseHandle(process);
+    if (job != nullptr) CloseHandle(job);
+}
+
+void RunningProgram::Start(const ProgramStart& start) {
+    // Wine starts its desktop's process when a program first needs it. It must not be a child of this
+    // program, in whose job it would end with it and leave all later programs without a desktop.
+    GetDesktopWindow();
+    job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = static_cast<WORD>(start.showCommand);
+    std::wstring commandLine = L"\"" + start.path + L"\"";
+    if (!start.arguments.empty()) commandLine += L" " + start.arguments;
+    const wchar_t* folder = start.workingFolder.empty() ? nullptr : start.workingFolder.c_str();
+    PROCESS_INFORMATION started = {};
+    if (!CreateProcessW(start.path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                        nullptr, folder, &startup, &started)) {
+        throw DriverError("cannot start " + Utf8(start.path) + ", error " + std::to_string(GetLastError()));
+    }
+    process = started.hProcess;
+    processId = started.dwProcessId;
+    AssignProcessToJobObject(job, process);
+    ResumeThread(started.hThread);
+    CloseHandle(started.hThread);
+}
+
+void RunningProgram::Attach(HWND mainWindow) {
+    GetWindowThreadProcessId(mainWindow, &processId);
+    process = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, processId);
+    if (process == nullptr) throw DriverError("the program's process cannot be opened");
+}
+
+std::optional<DWORD> RunningProgram::ExitCode(DWORD milliseconds) const {
+    DWORD code = 0;
+    if (WaitForSingleObject(process, milliseconds) != WAIT_OBJECT_0) return std::nullopt;
+    GetExitCodeProcess(process, &code);
+    return code;
+}
+
+bool RunningProgram::IsRunning() const {
+    return process != nullptr && WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+}
+
+void RunningProgram::Kill() {
+    if (!IsRunning()) return;
+    TerminateProcess(process, 0xDEAD);
+    WaitForSingleObject(process, 5000);
+}
+
+HWND RunningProgram::MainWindow() const {
+    for (HWND window = FindWindowExW(nullptr, nullptr, L"QuorinSearch", nullptr); window != nullptr;
+         window = FindWindowExW(nullptr, window, L"QuorinSearch", nullptr)) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == processId) return window;
+    }
+    return nullptr;
+}

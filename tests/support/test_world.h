@@ -1,0 +1,36 @@
+#pragma once
+
+// What start-up leaves behind for the windows: the start-up record and the application object. And a plain
+// window for a control or a page to stand in.
+
+#include "app/app_globals.h"
+#include "framework/application.h"
+#include "framework/container_window.h"
+
+class TestWorld {
+  public:
+    // Windows made from here on speak this language and load this program's resources.
+    explicit TestWorld(UiLanguage language = UiLanguage::English);
+    ~TestWorld();
+    TestWorld(const TestWorld&) = delete;
+    TestWorld& operator=(const TestWorld&) = delete;
+
+    [[nodiscard]] Application& TheApplication() { return application; }
+
+  private:
+    AppGlobals before;
+    Application application;
+};
+
+// A visible top-level window of 230 x 280 pixels.
+class HostWindow {
+  public:
+    HostWindow();
+
+    [[nodiscard]] ContainerWindow& Object() { return window; }
+    [[nodiscard]] HWND Handle() const { return window.Handle(); }
+
+  private:
+    PropertySet properties;
+    ContainerWindow window;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+// Between UTF-16 and UTF-8, for messages and output of tests; unpaired surrogates become U+FFFD.
+
+#include <windows.h>
+
+#include <string>
+
+inline std::string Utf8(const std::wstring& text) {
+    const int length = static_cast<int>(text.size());
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(), size, nullptr, nullptr);
+    return bytes;
+}

@@ -1,0 +1,166 @@
+# shellcheck shell=bash disable=SC2034,SC2154 # variables are shared between these files
+
+# Running the test programs: those for this machine first, then those for Windows in two lanes at once, one per
+# language, each going from screen to screen.
+
+logDir=$buildDir/test-logs
+programDeadline=${QUORIN_TEST_DEADLINE:-240}
+testFilter='*'
+
+# No zone of the machine's: nine hours ahead of UTC, so that a mix-up of the two cannot pass unseen.
+testZone=JST-9
+
+# test_programs PRESET: the names of all that the build declares, whether they could be built or not.
+test_programs() {
+    ninja -C "$buildDir/$1" -t targets all | sed -n 's|^tests/\([A-Za-z0-9_]*_tests\)\(\.exe\)\{0,1\}: .*|\1|p' | sort -u
+}
+
+# check_test_programs PRESET...: a build without tests must not pass for one whose tests passed.
+check_test_programs() {
+    local preset
+    for preset in "$@"; do
+        [[ -n $(test_programs "$preset") ]] || fail "the build '$preset' declares no test program"
+    done
+}
+
+# run_tests PLACE PROGRAM COMMAND WORD...: runs one program, writes its log and one line of results. Status 1 when
+# the program itself failed, so that the caller makes its world anew.
+run_tests() {
+    local place=$1 program=$2 log status=0 needsTests=yes began=$SECONDS
+    shift 2
+    log=$logDir/$place/$program.log
+    mkdir -p "${log%/*}"
+    [[ $testFilter == '*' ]] || needsTests=no
+    timeout -k 10 "$programDeadline" "$@" --gtest_color=no --gtest_filter="$testFilter" \
+        </dev/null >"$log" 2>&1 || status=$?
+    sed -i 's/\r$//' "$log"
+    tally "$log" "$status" "$needsTests"
+    printf '%d %d %d\n' "$passed" "$failed" "$skipped" >>"$logDir/$place/results"
+    printf '%-16s %-26s %5d passed %3d failed %3d s\n' "$place" "$program" "$passed" "$failed" "$((SECONDS - began))"
+    if ((failed > 0)); then
+        printf -- '--- %s, %s: %s\n%s\n---\n' "$place" "$program" "${tallyNote:-tests failed}" "$(failure_report "$log")"
+    fi
+    [[ -z $tallyNote ]]
+}
+
+# run_native_tests: the rules, with sanitizers.
+run_native_tests() {
+    local program scratch
+    scratch=$(mktemp -d "$buildDir/native-tests.XXXXXX")
+    at_exit rm -rf "$scratch"
+    for program in $(test_programs native); do
+        (cd "$scratch" && TZ=$testZone run_tests native "$program" "$buildDir/native/tests/$program") || true
+    done
+}
+
+# run_script_tests: the scripts' own tests.
+run_script_tests() {
+    local script
+    [[ $testFilter == '*' ]] || return 0
+    for script in "$root"/tests/tools/*_test.sh; do
+        run_tests scripts "$(basename "$script" .sh)" bash "$script" || true
+    done
+}
+
+# open_world LANGUAGE SCREEN: the rest of the subshell runs in a fresh world with an empty device.
+open_world() {
+    local world=$prefixDir/test-$1-$2
+    scratchDevice=$buildDir/test-device-$1-$2
+    rm -rf "$scratchDevice"
+    mkdir -p "$scratchDevice"
+    make_world "$world" "$1" "$2"
+    map_drives "$world" "$scratchDevice"
+    wine_environment "$world" "$1"
+    export TZ=$testZone QUORIN_WORLD_LANGUAGE=$1 QUORIN_WORLD_SCREEN=$2
+    start_screen "$2"
+    at_exit stop_wine
+    open_desktop "$2"
+}
+
+# run_in_world PLACE PROGRAM: a program that failed as a whole may leave others behind, so all are ended then.
+run_in_world() {
+    if ! (cd "$scratchDevice" && run_tests "$1" "$2" "$wine" "P:\\tests\\$2.exe"); then
+        stop_wine
+        open_desktop "$QUORIN_WORLD_SCREEN"
+    fi
+}
+
+# has_no_window PROGRAM: such programs do not care for the screen and run in a language's first world only.
+has_no_window() {
+    case $1 in
+        search_* | tkconv_* | *_rules_tests | *_allocation_tests | platform_files_tests | platform_names_tests) true ;;
+        *) false ;;
+    esac
+}
+
+# run_world LANGUAGE SCREEN FIRST: every Windows test program that belongs there.
+run_world() (
+    local program override place=$1-$2
+    arm_cleanups
+    open_world "$1" "$2"
+    for program in $(test_programs release); do
+        if [[ $program == program_tests* ]]; then
+            for override in 0 1; do
+                export QUORIN_WORLD_OVERRIDE=$override
+                run_in_world "$place-$override" "$program"
+                unset QUORIN_WORLD_OVERRIDE
+            done
+        elif [[ $3 == yes ]] || ! has_no_window "$program"; then
+            run_in_world "$place" "$program"
+        fi
+    done
+    rm -rf "$scratchDevice"
+)
+
+# run_lane LANGUAGE: status 1 when a world could not be opened.
+run_lane() {
+    run_world "$1" 240x320 yes
+    run_world "$1" 640x240 no
+}
+
+declare -A lanes=()
+
+# end_lanes: for a run that is broken off. A lane listens when its current program has ended.
+end_lanes() {
+    local language screen
+    for language in "${!lanes[@]}"; do
+        kill "${lanes[$language]}" 2>/dev/null || true
+        for screen in 240x320 640x240; do
+            WINEPREFIX=$prefixDir/test-$language-$screen timeout 10 "$wineServer" -k >/dev/null 2>&1 || true
+        done
+        wait "${lanes[$language]}" 2>/dev/null || true
+    done
+}
+
+# run_lanes: both languages at once. A lane that breaks is one failure more.
+run_lanes() {
+    local language
+    at_exit end_lanes
+    for language in en ja; do
+        run_lane "$language" &
+        lanes[$language]=$!
+    done
+    for language in en ja; do
+        if ! wait "${lanes[$language]}"; then
+            say "the lane '$language' broke off"
+            mkdir -p "$logDir/lane-$language"
+            echo '0 1 0' >"$logDir/lane-$language/results"
+        fi
+        unset "lanes[$language]"
+    done
+}
+
+# closing_line: adds everything up; status 1 when anything failed or nothing ran.
+closing_line() {
+    local passed failed skipped
+    read -r passed failed skipped < <(cat "$logDir"/*/results 2>/dev/null |
+        awk '{ p += $1; f += $2; s += $3 } END { print p + 0, f + 0, s + 0 }')
+    if ((passed + failed + skipped == 0)); then
+        say "no test was run"
+        failed=1
+    fi
+    printf '%d passed, %d failed' "$passed" "$failed"
+    ((skipped == 0)) || printf ', %d skipped' "$skipped"
+    printf '\n'
+    ((failed == 0))
+}

@@ -1,0 +1,163 @@
+// Drives the running program for a script, one step a call. Every step has a deadline; a step that fails
+// says on standard error what it waited for. Status: 0 done, 1 failed, 2 not understood.
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_driver.h"
+#include "tests/support/utf8.h"
+
+namespace {
+
+constexpr char Usage[] =
+    "usage: quorin_driver STEP\n"
+    "  wait-window SECONDS          waits for the main window\n"
+    "  fill [--name TEXT] [--contains TEXT] [--location TEXT] [--subfolders 0|1]\n"
+    "  page NUMBER                  shows a condition page: 0 name, 1 date, 2 the other\n"
+    "  find [--hold [ROWS]]         starts a search; holds it once the list has ROWS rows (0)\n"
+    "  release                      lets the held search go on\n"
+    "  wait-done [SECONDS]          waits for the end of the search (60)\n"
+    "  rows                         prints the rows: path, size, type and time, separated by tabs\n"
+    "  state                        prints what the main window shows, one item a line\n"
+    "  command NUMBER               sends a menu command\n"
+    "  close                        closes the program and waits for its end\n";
+
+struct UsageError {};
+
+using Words = std::vector<std::wstring>;
+
+constexpr DWORD AttachDeadline = 10000;
+
+void Print(const std::wstring& text) {
+    const std::string line = Utf8(text) + "\n";
+    std::fwrite(line.data(), 1, line.size(), stdout);
+}
+
+int ToNumber(const std::wstring& word) {
+    if (word.empty() || word.size() > 6 || word.find_first_not_of(L"0123456789") != std::wstring::npos) {
+        throw UsageError();
+    }
+    return std::stoi(word);
+}
+
+// The number at this place, or the default when the step was given without it.
+int NumberAt(const Words& words, std::size_t place, int otherwise) {
+    return words.size() > place ? ToNumber(words[place]) : otherwise;
+}
+
+void Fill(ProgramDriver& driver, const Words& words) {
+    NameConditions conditions;
+    for (std::size_t i = 1; i < words.size(); i += 2) {
+        if (i + 1 >= words.size()) throw UsageError();
+        const std::wstring& value = words[i + 1];
+        if (words[i] == L"--name") {
+            conditions.name = value;
+        } else if (words[i] == L"--contains") {
+            conditions.contains = value;
+        } else if (words[i] == L"--location") {
+            conditions.location = value;
+        } else if (words[i] == L"--subfolders") {
+            conditions.subFolders = ToNumber(value) != 0;
+        } else {
+            throw UsageError();
+        }
+    }
+    driver.Fill(conditions);
+}
+
+void Find(ProgramDriver& driver, const Words& words) {
+    if (words.size() == 1) {
+        driver.BeginFind();
+        return;
+    }
+    if (words[1] != L"--hold") throw UsageError();
+    if (!driver.FindAndHold(NumberAt(words, 2, 0))) {
+        std::fputs("quorin_driver: the search ended before it could be held\n", stderr);
+    }
+}
+
+void PrintRows(ProgramDriver& driver) {
+    const std::vector<RowState> rows = driver.Rows();
+    const std::vector<std::wstring> paths = driver.RowPaths();
+    for (std::size_t i = 0; i < rows.size() && i < paths.size(); ++i) {
+        Print(paths[i] + L'\t' + rows[i].size + L'\t' + rows[i].type + L'\t' + rows[i].modified);
+    }
+}
+
+void PrintState(ProgramDriver& driver) {
+    const ListState list = driver.List();
+    Print(L"rows " + std::to_wstring(list.count));
+    Print(L"selected " + std::to_wstring(list.selected));
+    Print(L"page " + std::to_wstring(driver.CurrentPage()));
+    Print(L"focus " + driver.FocusPath());
+    for (const TabState& tab : driver.Tabs())
+        Print(L"tab " + tab.caption);
+    for (const ColumnState& column : driver.Columns())
+        Print(L"column " + column.heading);
+    for (const MenuItemState& item : driver.Menu()) {
+        if (item.Separator()) continue;
+        const std::wstring marks =
+            std::wstring(item.Grayed() ? L" gray" : L"") + (item.Checked() ? L" checked" : L"");
+        Print(L"menu " + std::to_wstring(item.id) + L' ' + item.text + marks);
+    }
+    const std::optional<DialogState> finding = driver.FindingDialog();
+    if (finding) Print(L"finding " + finding->caption);
+}
+
+void Run(const Words& words) {
+    if (words.empty()) throw UsageError();
+    const std::wstring& step = words[0];
+    ProgramDriver driver;
+    if (step == L"wait-window") {
+        if (words.size() != 2) throw UsageError();
+        driver.Attach(static_cast<DWORD>(ToNumber(words[1])) * 1000);
+        return;
+    }
+    driver.Attach(AttachDeadline);
+    if (step == L"fill") {
+        Fill(driver, words);
+    } else if (step == L"page" && words.size() == 2) {
+        const int page = ToNumber(words[1]);
+        if (page > SizePage) throw UsageError();
+        driver.ShowPage(page);
+    } else if (step == L"find") {
+        Find(driver, words);
+    } else if (step == L"release") {
+        driver.Release();
+    } else if (step == L"wait-done") {
+        driver.WaitForEndOfSearch(static_cast<DWORD>(NumberAt(words, 1, 60)) * 1000);
+    } else if (step == L"rows") {
+        PrintRows(driver);
+    } else if (step == L"state") {
+        PrintState(driver);
+    } else if (step == L"command" && words.size() == 2) {
+        driver.SendMenuCommand(static_cast<UINT>(ToNumber(words[1])));
+    } else if (step == L"close") {
+        const DWORD code = driver.Close();
+        if (code != 0) throw DriverError("the program ended with exit code " + std::to_string(code));
+    } else {
+        throw UsageError();
+    }
+}
+
+}  // namespace
+
+int wmain(int argumentCount, wchar_t** arguments) {
+    // Lines end as a script on any system expects them.
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+    try {
+        Run(Words(arguments + 1, arguments + argumentCount));
+        return 0;
+    } catch (const UsageError&) {
+        std::fputs(Usage, stderr);
+        return 2;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "quorin_driver: %s\n", error.what());
+        return 1;
+    }
+}
