@@ -25,6 +25,7 @@ INT_PTR AbortDialog::RunModal() {
     running = true;
     jobStarted = false;
     lastShown = 0;
+    folderPending = false;
     const INT_PTR result = Dialog::RunModal();
     running = false;
     button.reset();

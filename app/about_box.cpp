@@ -5,6 +5,7 @@
 #include "app/uninstall.h"
 #include "fileops/message_boxes.h"
 #include "framework/control.h"
+#include "framework/dialog_fit.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"
 
@@ -57,7 +58,11 @@ LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     if (productKey.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
     SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont), TRUE);
     ShowMemory();
-    return Dialog::OnInitDialog(record);
+    KeepTitleLineFree(Handle());
+    FitToScreen(Handle(), STATIC_CONTACT_2);
+    const LRESULT result = Dialog::OnInitDialog(record);
+    Centre();
+    return result;
 }
 
 // A string that cannot be loaded leaves the template's text.
@@ -77,6 +82,7 @@ void AboutBox::ShowMemory() {
     for (int card = 0; card < ListedStorageCards; ++card) {
         if (StorageCardLine(card, line)) SetDlgItemTextW(Handle(), STATIC_STORAGE_CARD + card, line);
     }
+    for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id) WidenToText(Handle(), id);
 }
 
 LRESULT AboutBox::OnOk(EventArguments&) {

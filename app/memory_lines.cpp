@@ -10,11 +10,13 @@ constexpr int KilobyteShift = 10;
 }  // namespace
 
 void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes, wchar_t (&line)[MemoryLineCapacity]) {
-    const std::uint64_t percentage = bytes.total != 0 ? bytes.free * 100 / bytes.total : 0;
+    const std::uint64_t free = bytes.free >> KilobyteShift;
+    const std::uint64_t total = bytes.total >> KilobyteShift;
+    // Of whole kilobytes, as they are shown: 1,023 free bytes are none.
+    const std::uint64_t percentage = total != 0 ? free * 100 / total : 0;
     // Kilobytes of today's memories still fit in the 32 bits of the format.
-    FormatText(line, MemoryLineCapacity, L"%s: %d/%dKB (%d%%)", label,
-               static_cast<std::uint32_t>(bytes.free >> KilobyteShift),
-               static_cast<std::uint32_t>(bytes.total >> KilobyteShift), static_cast<std::uint32_t>(percentage));
+    FormatText(line, MemoryLineCapacity, L"%s: %d/%dKB (%d%%)", label, static_cast<std::uint32_t>(free),
+               static_cast<std::uint32_t>(total), static_cast<std::uint32_t>(percentage));
 }
 
 bool ProgramMemoryLine(wchar_t (&line)[MemoryLineCapacity]) {

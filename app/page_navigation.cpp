@@ -47,6 +47,17 @@ bool OnTab(MSG& message, const NavigationStops& stops) {
     return true;
 }
 
+// A label's letter leads to its field from the tab control and the list as well: the page is asked as if it had
+// got the key itself.
+bool OnMnemonic(const MSG& message, const NavigationStops& stops) {
+    if (message.hwnd != stops.tabControl && message.hwnd != stops.list) return false;
+    // Enter and the blank have meanings of their own with Alt.
+    if (message.wParam <= L' ') return false;
+    MSG asked = message;
+    asked.hwnd = stops.page;
+    return IsDialogMessageW(stops.page, &asked) != 0;
+}
+
 }  // namespace
 
 HWND FirstTabStop(HWND page) { return GetNextDlgTabItem(page, nullptr, FALSE); }
@@ -56,6 +67,7 @@ HWND LastTabStop(HWND page) { return GetNextDlgTabItem(page, FirstTabStop(page),
 bool NavigateByKey(MSG& message, const NavigationStops& stops) {
     const bool isKey = message.message == WM_KEYDOWN;
     if (isKey && message.wParam == VK_TAB) return OnTab(message, stops);
+    if (message.message == WM_SYSCHAR && OnMnemonic(message, stops)) return true;
     if (!IsChild(stops.page, message.hwnd)) return false;
     if (isKey && message.wParam == VK_RETURN) {
         if (!IsPushButton(message.hwnd)) return false;

@@ -5,6 +5,7 @@
 #include "app/language.h"
 #include "conditions/folder_tree.h"
 #include "framework/control.h"
+#include "framework/dialog_fit.h"
 #include "framework/property_keys.h"
 #include "framework/wait_cursor.h"
 #include "platform/root_name.h"
@@ -35,12 +36,26 @@ FolderBrowseDialog::~FolderBrowseDialog() {
 LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
     chosenPath.reset();
     SetWindowTextW(Handle(), caption);
+    KeepTitleLineFree(Handle());
     folderTree = DialogItem(*this, TREE_FOLDERS);
     LoadImages();
     BuildTree();
     const LRESULT result = Dialog::OnInitDialog(record);
+    StretchTree();
     Centre();
     return result;
+}
+
+// Down to the menu bar, with the margin that the template leaves beside it.
+void FolderBrowseDialog::StretchTree() {
+    RECT client{};
+    RECT tree{};
+    GetClientRect(Handle(), &client);
+    GetWindowRect(folderTree, &tree);
+    MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&tree), 2);
+    const LONG bottom = client.bottom - ce::MenuBarHeight - tree.left;
+    const LONG right = client.right - tree.left;
+    MoveWindow(folderTree, tree.left, tree.top, right - tree.left, bottom - tree.top, TRUE);
 }
 
 void FolderBrowseDialog::LoadImages() {

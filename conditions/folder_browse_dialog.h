@@ -22,6 +22,7 @@ class FolderBrowseDialog : public Dialog {
   private:
     LRESULT OnOk(EventArguments& arguments);
 
+    void StretchTree();
     void LoadImages();
     void BuildTree();
 

@@ -1,16 +1,24 @@
 #include "fileops/confirmation_dialog.h"
 
 #include "app/language.h"
+#include "framework/dialog_fit.h"
 #include "framework/property_keys.h"
+#include "resources/resource_ids.h"
 
 namespace {
 
 constexpr UINT Answers[] = {1, 3, 4, 5, 6, 7, 20};
 
+constexpr int FileIconStatics[] = {STATIC_EXISTING_ICON, STATIC_NEW_ICON};
+
 PropertySet NamedTemplate(const wchar_t* name) {
     PropertySet properties;
     properties.SetText(property::DialogTemplate, name);
     return properties;
+}
+
+HICON IconIn(HWND dialog, int id) {
+    return reinterpret_cast<HICON>(SendDlgItemMessageW(dialog, id, STM_GETIMAGE, IMAGE_ICON, 0));
 }
 
 }  // namespace
@@ -38,14 +46,40 @@ ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const wchar_t* name,
     OnCommand(IDCANCEL, this, &ConfirmationDialog::OnAnswer, IDCANCEL);
 }
 
+ConfirmationDialog::~ConfirmationDialog() { FreeFileIcons(); }
+
 ConfirmResult ConfirmationDialog::Ask() {
     const INT_PTR result = RunModal();
     return result > 0 ? static_cast<ConfirmResult>(result) : ConfirmResult::Cancel;
 }
 
+LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
+    const LRESULT result = Dialog::OnInitDialog(record);
+    Centre();
+    return result;
+}
+
 LRESULT ConfirmationDialog::OnFill(EventArguments&) {
+    FreeFileIcons();
+    HICON before[FileIcons];
+    for (int i = 0; i < FileIcons; ++i) before[i] = IconIn(Handle(), FileIconStatics[i]);
     fill(Handle(), argument);
+    for (int i = 0; i < FileIcons; ++i) {
+        const HICON now = IconIn(Handle(), FileIconStatics[i]);
+        fileIcons[i] = now != before[i] ? now : nullptr;
+    }
+    KeepTitleLineFree(Handle());
+    GrowToText(Handle(), STATIC_QUESTION);
+    FitToScreen(Handle(), STATIC_QUESTION);
     return 0;
+}
+
+// A static frees no icon that it was given, and the shell hands out copies.
+void ConfirmationDialog::FreeFileIcons() {
+    for (HICON& icon : fileIcons) {
+        if (icon != nullptr) DestroyIcon(icon);
+        icon = nullptr;
+    }
 }
 
 LRESULT ConfirmationDialog::OnAnswer(EventArguments& arguments) {

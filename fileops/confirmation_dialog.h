@@ -8,7 +8,8 @@
 // The id of the button that ended the dialog.
 enum class ConfirmResult { Cancel = 2, Yes = 6, No = 7, YesToAll = 20 };
 
-// Fills title, icon and texts; the argument is what the caller gave.
+// Fills title, icon and texts; the argument is what the caller gave. Another icon that it puts in the place of
+// a file's is the dialog's to free.
 using QuestionRoutine = void (*)(HWND dialog, const void* argument);
 
 // The templates, in the user's language.
@@ -22,15 +23,25 @@ class ConfirmationDialog : public Dialog {
     // The owner's window owns the dialog. The argument has to live until the dialog is over.
     ConfirmationDialog(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill, const void* argument);
 
+    ~ConfirmationDialog() override;
+
     // Asks; a dialog that cannot be made counts as Cancel.
     [[nodiscard]] ConfirmResult Ask();
 
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override;
+
   private:
+    static constexpr int FileIcons = 2;
+
     LRESULT OnFill(EventArguments& arguments);
     LRESULT OnAnswer(EventArguments& arguments);
+    void FreeFileIcons();
 
     QuestionRoutine fill;
     const void* argument;
+    // Of the existing and the new file, from the shell; null where the template's own is shown.
+    HICON fileIcons[FileIcons] = {};
 };
 
 // Builds the question, asks it and destroys it.

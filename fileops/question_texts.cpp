@@ -79,7 +79,8 @@ void ShowFile(HWND dialog, int detailsId, int iconId, const wchar_t* path) {
     SetDlgItemTextW(dialog, detailsId, details);
     SHFILEINFOW info{};
     ce::SHGetFileInfo(path, 0, &info, sizeof info, ShellIconFlags);
-    SetIcon(dialog, iconId, info.hIcon);
+    // Without one the template's own stays.
+    if (info.hIcon != nullptr) SetIcon(dialog, iconId, info.hIcon);
 }
 
 // The tests are made on the folder that holds the file, not on the file itself: that is how the program

@@ -11,6 +11,8 @@ namespace {
 
 constexpr LONG RightMargin = 3;
 constexpr LONG GapBelowText = 4;
+// The row of the title line; a heading of ten dialog units reaches it where the font is large.
+constexpr LONG TitleLineY = 24;
 // Where a second column starts: below the title line.
 constexpr LONG ColumnTop = 28;
 // Places and sizes in dialog units are rounded one by one, so neighbours may overlap by a pixel.
@@ -81,6 +83,18 @@ bool HasRoomForTwoColumns(HWND dialog) {
     return RoomFor(dialog).cx >= 2 * ClientSizeOf(dialog).cx;
 }
 
+// The screen may be a little narrower than the template.
+void CutToWidth(HWND dialog) {
+    const LONG right = std::min(ClientSizeOf(dialog).cx, RoomFor(dialog).cx);
+    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        RECT place = PlaceOf(control);
+        if (place.right <= right) continue;
+        place.right = right;
+        Place(control, place);
+    }
+}
+
 void SetClientSize(HWND dialog, SIZE client) {
     const SIZE frame = FrameOf(dialog);
     const RECT screen = ce::ScreenArea();
@@ -146,6 +160,7 @@ void GrowToText(HWND dialog, int id) {
 }
 
 void FitToScreen(HWND dialog, int lastKept) {
+    CutToWidth(dialog);
     const SIZE room = RoomFor(dialog);
     SIZE client = ClientSizeOf(dialog);
     if (client.cy <= room.cy) return;
@@ -157,4 +172,13 @@ void FitToScreen(HWND dialog, int lastKept) {
     }
     client.cy = std::min(std::max(PartBelow(dialog, 0).bottom + GapBelowText, LONG{0}), room.cy);
     SetClientSize(dialog, client);
+}
+
+void KeepTitleLineFree(HWND dialog) {
+    const HWND heading = GetDlgItem(dialog, STATIC_TITLE);
+    if (heading == nullptr) return;
+    RECT place = PlaceOf(heading);
+    if (place.bottom <= TitleLineY) return;
+    place.bottom = TitleLineY;
+    Place(heading, place);
 }

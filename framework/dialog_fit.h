@@ -13,6 +13,10 @@ void WidenToText(HWND dialog, int id);
 // dialog grows with it where the screen allows; there the text ends where the screen does.
 void GrowToText(HWND dialog, int id);
 
-// Leaves the dialog no higher than the screen with its menu bar. If its controls need more than that and the
-// screen is wide enough, everything below the control lastKept moves into a second column on the right.
+// Leaves the dialog no higher than the screen with its menu bar, and no control beyond its right edge. If the
+// controls need more than that height and the screen is wide enough, everything below the control lastKept
+// moves into a second column on the right.
 void FitToScreen(HWND dialog, int lastKept);
+
+// Takes the heading's static off the title line that the dialog draws below it.
+void KeepTitleLineFree(HWND dialog);

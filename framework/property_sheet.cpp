@@ -5,12 +5,14 @@
 #include "app/app_globals.h"
 #include "framework/application.h"
 #include "framework/centring.h"
+#include "framework/sheet_fit.h"
 
 namespace {
 
 // Told once the sheet's window stands: it is brought to the middle of its owner and onto the screen.
 int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED) return 0;
+    CutSheetToScreen(sheet);
     RECT own{};
     RECT parent{};
     GetWindowRect(sheet, &own);
@@ -81,7 +83,8 @@ void PropertySheetDialog::Run() {
     if (handles.empty()) return;
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
-    header.dwFlags = PSH_USECALLBACK | PSH_NOCONTEXTHELP;
+    // Three buttons do not fit a small screen.
+    header.dwFlags = PSH_USECALLBACK | PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
     header.hwndParent = owner != nullptr ? owner->Handle() : nullptr;
     header.hInstance = Globals().instance;
     header.pszCaption = caption;

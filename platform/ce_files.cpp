@@ -87,6 +87,6 @@ BOOL RemoveFolder(const wchar_t* path) {
 }  // namespace
 
 ce::FileCalls ce::fileCalls = {
-    StartListing, NextOfListing, EndListing, OpenShared, GetAttributes, SetAttributes,
-    Delete,       Move,          Copy,       CreateFolder,   RemoveFolder,  LeadsElsewhere,
+    StartListing, NextOfListing, EndListing, OpenShared,   GetAttributes, SetAttributes,
+    Delete,       Move,          Copy,       CreateFolder, RemoveFolder,  LeadsElsewhere,
 };

@@ -36,6 +36,14 @@ void MakeRoomForBar(HWND dialog) {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// The desktop's shell knows no path without a drive.
+DWORD_PTR GetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
+    wchar_t full[MAX_PATH];
+    const DWORD length = GetFullPathNameW(path, MAX_PATH, full, nullptr);
+    const bool fits = length > 0 && length < MAX_PATH;
+    return ::SHGetFileInfoW(fits ? full : path, attributes, info, size, flags);
+}
+
 }  // namespace
 
 BOOL SHCreateMenuBar(MenuBarInfo* info) {
@@ -65,9 +73,7 @@ BOOL SHInitDialog(const DialogInitInfo* info) {
 }
 
 ShellCalls shellCalls = {
-    [](const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
-        return ::SHGetFileInfoW(path, attributes, info, size, flags);
-    },
+    GetFileInfo,
 };
 
 }  // namespace ce

@@ -259,7 +259,10 @@ TEST_F(AbortDialogTest, a_folder_name_of_any_length_is_cut_at_259_units) {
 
 TEST_F(AbortDialogTest, a_new_run_starts_without_the_last_runs_folder) {
     Make();
-    RunWith([&] { dialog->EnterFolder(L"\\old"); });
+    RunWith([&] {
+        dialog->EnterFolder(L"\\old");
+        dialog->EnterFolder(L"\\older");
+    });
     std::wstring shown = L"?";
     RunWith([&] {
         Sleep(150);

@@ -1,5 +1,5 @@
-// Messages that arrive in the middle of a search. The test's own enumeration lists as many files as the search
-// will take, and does something to the program when the tenth of them is listed.
+// Messages that arrive in the middle of a search. The test's own enumeration lists as many files as the
+// search will take, and does something to the program when the tenth of them is listed.
 
 #include <functional>
 
@@ -50,7 +50,7 @@ class DuringSearch : public MainWindowTest {
     // A whole search in which this happens.
     void FindWith(const std::function<void()>& event) {
         disturbance = event;
-        PostMessageW(Handle(), WM_COMMAND, COMMAND_FIND, 0);
+        PostCommand(COMMAND_FIND);
         PumpQueue();
     }
     // The same in the program's own loop, up to its end.
@@ -67,7 +67,8 @@ class DuringSearch : public MainWindowTest {
   private:
     Replaced<decltype(ce::fileCalls.findFirstFile)> first{ce::fileCalls.findFirstFile, &FirstFile};
     Replaced<decltype(ce::fileCalls.findNextFile)> next{ce::fileCalls.findNextFile, &NextFile};
-    Replaced<decltype(ce::fileCalls.findClose)> close{ce::fileCalls.findClose, [](HANDLE) -> BOOL { return TRUE; }};
+    Replaced<decltype(ce::fileCalls.findClose)> close{ce::fileCalls.findClose,
+                                                      [](HANDLE) -> BOOL { return TRUE; }};
 };
 
 TEST_F(DuringSearch, undisturbed_it_finds_every_file_once) {
@@ -89,8 +90,8 @@ TEST_F(DuringSearch, abort_keeps_what_was_found_and_selects_the_first_row) {
 
 TEST_F(DuringSearch, a_second_find_is_dropped) {
     FindWith([this] {
-        PostMessageW(Handle(), WM_COMMAND, COMMAND_FIND, 0);
-        PostMessageW(Handle(), WM_COMMAND, COMMAND_FIND, 0);
+        PostCommand(COMMAND_FIND);
+        PostCommand(COMMAND_FIND);
     });
     EXPECT_EQ(listings, 1);
     EXPECT_EQ(RowCount(), LastFile);
@@ -98,9 +99,10 @@ TEST_F(DuringSearch, a_second_find_is_dropped) {
 
 TEST_F(DuringSearch, other_commands_are_dropped) {
     FindWith([this] {
-        for (const UINT command : {COMMAND_LARGE_ICON, COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION, COMMAND_ABOUT,
-                                   COMMAND_DELETE, COMMAND_PROPERTIES, COMMAND_RENAME, COMMAND_OPEN}) {
-            PostMessageW(Handle(), WM_COMMAND, command, 0);
+        for (const int command :
+             {COMMAND_LARGE_ICON, COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION, COMMAND_ABOUT, COMMAND_DELETE,
+              COMMAND_PROPERTIES, COMMAND_RENAME, COMMAND_OPEN}) {
+            PostCommand(command);
         }
     });
     EXPECT_EQ(RowCount(), LastFile);
@@ -110,7 +112,7 @@ TEST_F(DuringSearch, other_commands_are_dropped) {
 }
 
 TEST_F(DuringSearch, after_the_search_commands_work_again) {
-    FindWith([this] { PostMessageW(Handle(), WM_COMMAND, COMMAND_CHECK_CASE, 0); });
+    FindWith([this] { PostCommand(COMMAND_CHECK_CASE); });
     Command(COMMAND_CHECK_CASE);
     EXPECT_FALSE(IsMarked(COMMAND_CHECK_CASE));
     FindWith(nullptr);
@@ -140,26 +142,26 @@ TEST_F(DuringSearch, the_main_window_takes_no_input_meanwhile) {
 }
 
 TEST_F(DuringSearch, closing_the_window_ends_the_search_and_then_the_program) {
-    const HWND window = Handle();
-    EXPECT_EQ(EndIn([window] { PostMessageW(window, WM_CLOSE, 0, 0); }), 0);
+    const HWND main = Handle();
+    EXPECT_EQ(EndIn([main] { PostMessageW(main, WM_CLOSE, 0, 0); }), 0);
     ExpectStoppedEarly();
-    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(IsWindow(main));
     EXPECT_EQ(Dialog(), nullptr);
 }
 
 TEST_F(DuringSearch, closing_in_the_middle_saves_the_settings) {
-    const HWND window = Handle();
-    EXPECT_EQ(EndIn([window] { PostMessageW(window, WM_CLOSE, 0, 0); }), 0);
+    const HWND main = Handle();
+    EXPECT_EQ(EndIn([main] { PostMessageW(main, WM_CLOSE, 0, 0); }), 0);
     HKEY key = nullptr;
     ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, ProductRegistryKey, 0, KEY_READ, &key), ERROR_SUCCESS);
     RegCloseKey(key);
 }
 
 TEST_F(DuringSearch, exit_in_the_middle_ends_the_search_and_the_program) {
-    const HWND window = Handle();
-    EXPECT_EQ(EndIn([window] { PostMessageW(window, WM_COMMAND, COMMAND_EXIT, 0); }), 0);
+    const HWND main = Handle();
+    EXPECT_EQ(EndIn([main] { PostMessageW(main, WM_COMMAND, COMMAND_EXIT, 0); }), 0);
     ExpectStoppedEarly();
-    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(IsWindow(main));
 }
 
 TEST_F(DuringSearch, a_quit_in_the_middle_ends_the_search_and_the_program_with_its_code) {
@@ -171,22 +173,22 @@ TEST_F(DuringSearch, a_quit_in_the_middle_ends_the_search_and_the_program_with_i
 }
 
 TEST_F(DuringSearch, a_window_that_is_closed_twice_closes_once) {
-    const HWND window = Handle();
-    EXPECT_EQ(EndIn([window] {
-                  PostMessageW(window, WM_CLOSE, 0, 0);
-                  PostMessageW(window, WM_CLOSE, 0, 0);
+    const HWND main = Handle();
+    EXPECT_EQ(EndIn([main] {
+                  PostMessageW(main, WM_CLOSE, 0, 0);
+                  PostMessageW(main, WM_CLOSE, 0, 0);
               }),
               0);
-    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(IsWindow(main));
 }
 
 TEST_F(DuringSearch, abort_and_close_at_once_end_the_program) {
-    const HWND window = Handle();
-    EXPECT_EQ(EndIn([window] {
+    const HWND main = Handle();
+    EXPECT_EQ(EndIn([main] {
                   PostMessageW(Dialog(), WM_COMMAND, IDCANCEL, 0);
-                  PostMessageW(window, WM_CLOSE, 0, 0);
+                  PostMessageW(main, WM_CLOSE, 0, 0);
               }),
               0);
     ExpectStoppedEarly();
-    EXPECT_FALSE(IsWindow(window));
+    EXPECT_FALSE(IsWindow(main));
 }

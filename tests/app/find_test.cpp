@@ -20,7 +20,7 @@ class Find : public MainWindowTest {
     }
     // The command is posted, as the pages do it.
     void RunFind() {
-        PostMessageW(Handle(), WM_COMMAND, COMMAND_FIND, 0);
+        PostCommand(COMMAND_FIND);
         PumpQueue();
     }
     [[nodiscard]] Texts SortedNames() const {
@@ -63,7 +63,7 @@ TEST_F(Find, nothing_found_leaves_an_empty_list_with_the_focus_and_gray_commands
     FindNames(L"*.none");
     EXPECT_EQ(RowCount(), 0);
     EXPECT_EQ(GetFocus(), List());
-    for (const UINT command : {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES})
+    for (const int command : {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES})
         EXPECT_TRUE(IsGray(command)) << command;
 }
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr UINT SelectionItems[] = {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES};
+constexpr int SelectionItems[] = {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES};
 
 }  // namespace
 
@@ -14,8 +14,8 @@ class MainWindowCommands : public MainWindowTest {
     void SetUp() override { Open(); }
 
     LONG View() const { return GetWindowLongW(List(), GWL_STYLE) & LVS_TYPEMASK; }
-    void ExpectViewMark(UINT marked) const {
-        for (const UINT command : {COMMAND_LARGE_ICON, COMMAND_SMALL_ICON, COMMAND_DETAILS})
+    void ExpectViewMark(int marked) const {
+        for (const int command : {COMMAND_LARGE_ICON, COMMAND_SMALL_ICON, COMMAND_DETAILS})
             EXPECT_EQ(IsMarked(command), command == marked) << command;
     }
     void AddRow(const wchar_t* name) const {
@@ -27,7 +27,7 @@ class MainWindowCommands : public MainWindowTest {
         SendMessageW(List(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
     }
     void ExpectSelectionCommands(bool enabled) const {
-        for (const UINT command : SelectionItems)
+        for (const int command : SelectionItems)
             EXPECT_EQ(!IsGray(command), enabled) << command;
     }
 };
@@ -71,7 +71,7 @@ TEST_F(MainWindowCommands, new_condition_resets_all_three_pages) {
 
 TEST_F(MainWindowCommands, save_result_and_40207_and_unknown_commands_change_nothing) {
     AddRow(L"a");
-    for (const UINT command : {UINT{COMMAND_SAVE_RESULT}, UINT{COMMAND_VIEW_STATUS}, UINT{40299}, UINT{1}})
+    for (const int command : {COMMAND_SAVE_RESULT, COMMAND_VIEW_STATUS, 40299, 1})
         Command(command);
     EXPECT_EQ(RowCount(), 1);
     EXPECT_TRUE(IsGray(COMMAND_SAVE_RESULT));
@@ -83,7 +83,7 @@ TEST_F(MainWindowCommands, save_result_and_40207_and_unknown_commands_change_not
 TEST_F(MainWindowCommands, result_commands_with_no_row_selected_do_nothing) {
     AddRow(L"a");
     const AnsweredBoxes boxes({IDCANCEL});
-    for (const UINT command :
+    for (const int command :
          {COMMAND_OPEN, COMMAND_ADD_TO_START_MENU, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES}) {
         Command(command);
     }

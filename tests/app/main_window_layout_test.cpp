@@ -58,7 +58,8 @@ TEST_F(MainWindowLayout, the_three_pages_are_children_of_the_tab_control_and_lie
         ASSERT_NE(Page(i), nullptr);
         EXPECT_EQ(GetParent(Page(i)), Tab());
         const RECT place = PlaceOf(Page(i));
-        EXPECT_TRUE(place.left >= 0 && place.top > 0 && place.right <= tab.right && place.bottom <= tab.bottom);
+        EXPECT_TRUE(place.left >= 0 && place.top > 0 && place.right <= tab.right &&
+                    place.bottom <= tab.bottom);
     }
 }
 

@@ -35,8 +35,9 @@ TBBUTTONINFOW ButtonInfo(HWND bar, int command) {
     TBBUTTONINFOW info = {};
     info.cbSize = sizeof info;
     info.dwMask = TBIF_IMAGE | TBIF_STATE | TBIF_STYLE;
-    EXPECT_GE(SendMessageW(bar, TB_GETBUTTONINFOW, static_cast<WPARAM>(command), reinterpret_cast<LPARAM>(&info)),
-              0)
+    EXPECT_GE(
+        SendMessageW(bar, TB_GETBUTTONINFOW, static_cast<WPARAM>(command), reinterpret_cast<LPARAM>(&info)),
+        0)
         << command;
     return info;
 }
@@ -58,10 +59,11 @@ TEST_F(MainWindowStart, the_window_bears_the_products_name_as_class_and_title) {
 
 TEST_F(MainWindowStart, commands_on_results_and_save_result_are_gray_and_no_others) {
     Open();
-    for (const UINT command : {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES, COMMAND_SAVE_RESULT})
+    for (const int command :
+         {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES, COMMAND_SAVE_RESULT})
         EXPECT_TRUE(IsGray(command)) << command;
-    for (const UINT command : {COMMAND_EXIT, COMMAND_LARGE_ICON, COMMAND_SMALL_ICON, COMMAND_DETAILS, COMMAND_ABOUT,
-                               COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION}) {
+    for (const int command : {COMMAND_EXIT, COMMAND_LARGE_ICON, COMMAND_SMALL_ICON, COMMAND_DETAILS,
+                              COMMAND_ABOUT, COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION}) {
         EXPECT_FALSE(IsGray(command)) << command;
     }
 }
@@ -83,8 +85,8 @@ TEST_F(MainWindowStart, details_has_the_radio_mark_and_the_case_option_its_check
 
 TEST_F(MainWindowStart, commands_without_a_menu_item_stand_in_no_menu) {
     Open();
-    for (const UINT command : {COMMAND_ADD_TO_START_MENU, COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST,
-                               COMMAND_VIEW_STATUS, COMMAND_FIND}) {
+    for (const int command : {COMMAND_ADD_TO_START_MENU, COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST,
+                              COMMAND_VIEW_STATUS, COMMAND_FIND}) {
         EXPECT_EQ(MenuState(command), UINT(-1)) << command;
     }
 }
@@ -151,8 +153,8 @@ TEST_F(MainWindowStart, without_a_menu_bar_the_window_stands_and_its_commands_do
     EXPECT_NE(bare.Handle(), nullptr);
     EXPECT_EQ(bare.MenuBar(), nullptr);
     EXPECT_EQ(bare.Menu(), nullptr);
-    for (const UINT command : {COMMAND_LARGE_ICON, COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION})
-        SendMessageW(bare.Handle(), WM_COMMAND, command, 0);
+    for (const int command : {COMMAND_LARGE_ICON, COMMAND_CHECK_CASE, COMMAND_NEW_CONDITION})
+        SendMessageW(bare.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
     const HWND list = FindWindowExW(bare.Handle(), nullptr, WC_LISTVIEWW, nullptr);
     EXPECT_EQ(GetWindowLongW(list, GWL_STYLE) & LVS_TYPEMASK, LVS_ICON);
 }

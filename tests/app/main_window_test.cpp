@@ -27,8 +27,8 @@ void MainWindowTest::Open(UiLanguage language) {
     PumpQueue();
 }
 
-int MainWindowTest::RunToTheEnd(UINT firstCommand) {
-    PostMessageW(Handle(), WM_COMMAND, firstCommand, 0);
+int MainWindowTest::RunToTheEnd(int firstCommand) {
+    PostCommand(firstCommand);
     return world.TheApplication().Run();
 }
 
@@ -58,16 +58,13 @@ int MainWindowTest::ShownPage() const {
     return shown;
 }
 
-void MainWindowTest::Command(UINT command) {
-    SendMessageW(Handle(), WM_COMMAND, command, 0);
-}
-
 void MainWindowTest::Key(HWND target, int key, std::initializer_list<int> modifiers) {
     const HeldKeys held(modifiers);
     MSG message = KeyDownMessage(target, key);
-    if (Window().PreTranslate(message)) return;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+    if (!Window().PreTranslate(message)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     PumpQueue();
 }
 

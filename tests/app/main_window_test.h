@@ -32,7 +32,7 @@ class MainWindowTest : public testing::Test {
     // Deletes the object, and the window with it where it is still there.
     void Discard() { window.reset(); }
     // As start-up does: opens, posts a command, and lives until the program ends. The exit code.
-    int RunToTheEnd(UINT firstCommand);
+    int RunToTheEnd(int firstCommand);
 
     [[nodiscard]] MainWindow& Window() { return *window; }
     [[nodiscard]] HWND Handle() const { return window->Handle(); }
@@ -42,21 +42,30 @@ class MainWindowTest : public testing::Test {
     [[nodiscard]] HWND Item(int page, int id) const { return GetDlgItem(Page(page), id); }
     [[nodiscard]] HWND EditOf(int comboId) const { return GetWindow(Item(NamePageIndex, comboId), GW_CHILD); }
     [[nodiscard]] std::wstring TextOf(int page, int id) const;
-    void SetText(int page, int id, const std::wstring& text) const { SetWindowTextW(Item(page, id), text.c_str()); }
+    void SetText(int page, int id, const std::wstring& text) const {
+        SetWindowTextW(Item(page, id), text.c_str());
+    }
     LRESULT Send(int page, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(Item(page, id), message, wParam, lParam);
     }
     [[nodiscard]] int ShownPage() const;
-    [[nodiscard]] UINT MenuState(UINT command) const { return GetMenuState(window->Menu(), command, MF_BYCOMMAND); }
-    [[nodiscard]] bool IsGray(UINT command) const { return (MenuState(command) & MF_GRAYED) != 0; }
-    [[nodiscard]] bool IsMarked(UINT command) const { return (MenuState(command) & MF_CHECKED) != 0; }
+    [[nodiscard]] UINT MenuState(int command) const {
+        return GetMenuState(window->Menu(), static_cast<UINT>(command), MF_BYCOMMAND);
+    }
+    [[nodiscard]] bool IsGray(int command) const { return (MenuState(command) & MF_GRAYED) != 0; }
+    [[nodiscard]] bool IsMarked(int command) const { return (MenuState(command) & MF_CHECKED) != 0; }
 
     // A command of the menu, handled when this returns.
-    void Command(UINT command);
+    void Command(int command) const { SendMessageW(Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0); }
+    void PostCommand(int command) const {
+        PostMessageW(Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    }
     // A key message as the program's loop treats it.
     void Key(HWND target, int key, std::initializer_list<int> modifiers = {});
 
-    [[nodiscard]] int RowCount() const { return static_cast<int>(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0)); }
+    [[nodiscard]] int RowCount() const {
+        return static_cast<int>(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0));
+    }
     [[nodiscard]] Texts RowNames() const;
     void SelectRow(int row, bool select = true) const;
 

@@ -20,8 +20,8 @@ class RunningCopy {
         windowClass.lpszClassName = L"QuorinSearch";
         // Kept for good: an earlier test may have registered the class.
         RegisterClassW(&windowClass);
-        window = CreateWindowW(L"QuorinSearch", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr,
-                               nullptr);
+        window = CreateWindowW(L"QuorinSearch", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
+                               nullptr, nullptr);
     }
     ~RunningCopy() { DestroyWindow(window); }
     [[nodiscard]] HWND Window() const { return window; }
@@ -102,12 +102,13 @@ TEST_F(Run, one_run_can_follow_another) {
 
 TEST_F(Run, while_a_copy_runs_another_ends_with_1_and_brings_the_first_forward) {
     const RunningCopy copy;
-    const HWND other = CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 60, 0, 50, 50, nullptr, nullptr, nullptr,
-                                     nullptr);
+    const HWND other = CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 60, 0, 50, 50, nullptr, nullptr,
+                                     nullptr, nullptr);
     SetForegroundWindow(other);
     EXPECT_EQ(RunQuorinSearch(GetModuleHandleW(nullptr), L"", SW_SHOWNORMAL), 1);
     EXPECT_EQ(GetForegroundWindow(), copy.Window());
-    EXPECT_EQ(FindWindowExW(nullptr, copy.Window(), L"QuorinSearch", nullptr), nullptr) << "it built a window";
+    EXPECT_EQ(FindWindowExW(nullptr, copy.Window(), L"QuorinSearch", nullptr), nullptr)
+        << "it built a window";
     EXPECT_EQ(Globals().conversionLibrary, nullptr);
     DestroyWindow(other);
 }

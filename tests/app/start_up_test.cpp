@@ -39,7 +39,9 @@ FakeSystem fake;
 const HMODULE Shell = reinterpret_cast<HMODULE>(0x1000);
 const HMODULE Library = reinterpret_cast<HMODULE>(0x2000);
 
-unsigned short HiraganaA(unsigned short unit) { return unit == 0x3042 ? 0x82A0 : unit; }
+unsigned short HiraganaA(unsigned short unit) {
+    return unit == 0x3042 ? 0x82A0 : unit;
+}
 unsigned short HiraganaAFrom(unsigned char lead, unsigned char trail) {
     return lead == 0x82 && trail == 0xA0 ? 0x3042 : 0;
 }
@@ -62,7 +64,8 @@ BOOL FreeFake(HMODULE module) {
 
 FARPROC FindFake(HMODULE module, const wchar_t* name) {
     const std::wstring wanted = name;
-    if (module == Shell) return fake.shellHasInputPanel && wanted == L"SHSipInfo" ? FARPROC(&HiraganaA) : nullptr;
+    if (module == Shell)
+        return fake.shellHasInputPanel && wanted == L"SHSipInfo" ? FARPROC(&HiraganaA) : nullptr;
     if (!fake.libraryHasExports) return nullptr;
     if (wanted == L"unicode2sjis") return FARPROC(&HiraganaA);
     if (wanted == L"sjis2unicode") return FARPROC(&HiraganaAFrom);
@@ -73,7 +76,8 @@ class StartUpTest : public testing::Test {
   protected:
     void SetUp() override {
         fake = FakeSystem();
-        hadChange = ReadRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore) == ERROR_SUCCESS;
+        hadChange =
+            ReadRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore) == ERROR_SUCCESS;
         RemoveChange();
     }
     void TearDown() override {
@@ -101,9 +105,9 @@ class StartUpTest : public testing::Test {
         return globals.pocketPc;
     }
     void Decide() { DecideLanguage(globals); }
-    void ExpectLanguage(UiLanguage language) const {
-        EXPECT_EQ(globals.uiLanguage, language);
-        EXPECT_EQ(globals.menuLanguage, language);
+    void ExpectLanguage(UiLanguage expected) const {
+        EXPECT_EQ(globals.uiLanguage, expected);
+        EXPECT_EQ(globals.menuLanguage, expected);
     }
     void ExpectPair(ToMultiByteRoutine toMultiByte, ToWideRoutine toWide, bool available) const {
         EXPECT_EQ(globals.toMultiByte, toMultiByte);
@@ -119,14 +123,16 @@ class StartUpTest : public testing::Test {
     AppGlobals globals;
 
   private:
-    Replaced<decltype(ce::systemCalls.getSystemMetrics)> metrics{
-        ce::systemCalls.getSystemMetrics,
-        [](int index) { return index == SM_CXSCREEN ? fake.width : index == SM_CYSCREEN ? fake.height : -1; }};
-    Replaced<decltype(ce::systemCalls.getSystemDefaultLangId)> language{
+    Replaced<decltype(ce::systemCalls.getSystemMetrics)> replacedMetrics{
+        ce::systemCalls.getSystemMetrics, [](int index) {
+            return index == SM_CXSCREEN ? fake.width : index == SM_CYSCREEN ? fake.height : -1;
+        }};
+    Replaced<decltype(ce::systemCalls.getSystemDefaultLangId)> replacedLanguage{
         ce::systemCalls.getSystemDefaultLangId, []() -> LANGID { return fake.language; }};
-    Replaced<decltype(ce::systemCalls.loadLibrary)> load{ce::systemCalls.loadLibrary, &LoadFake};
-    Replaced<decltype(ce::systemCalls.freeLibrary)> release{ce::systemCalls.freeLibrary, &FreeFake};
-    Replaced<decltype(ce::systemCalls.getProcAddress)> find{ce::systemCalls.getProcAddress, &FindFake};
+    Replaced<decltype(ce::systemCalls.loadLibrary)> replacedLoad{ce::systemCalls.loadLibrary, &LoadFake};
+    Replaced<decltype(ce::systemCalls.freeLibrary)> replacedFree{ce::systemCalls.freeLibrary, &FreeFake};
+    Replaced<decltype(ce::systemCalls.getProcAddress)> replacedFind{ce::systemCalls.getProcAddress,
+                                                                    &FindFake};
 
     bool hadChange = false;
     DWORD changeBefore = 0;

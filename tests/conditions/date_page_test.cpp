@@ -55,14 +55,15 @@ class DatePageTest : public PageTest {
     }
     // A click's notification without the click.
     void Notify(int id) const {
-        SendMessageW(page->Handle(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(Item(id)));
+        SendMessageW(page->Handle(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(Item(id)));
     }
 
     std::unique_ptr<DatePage> page;
 
   private:
     Replaced<decltype(ce::systemCalls.getSystemTime)> replaced{ce::systemCalls.getSystemTime,
-                                                           [](SYSTEMTIME* now) { *now = clockTime; }};
+                                                               [](SYSTEMTIME* now) { *now = clockTime; }};
 };
 
 TEST_F(DatePageTest, all_files_is_checked_and_everything_else_disabled) {

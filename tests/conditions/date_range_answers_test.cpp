@@ -46,7 +46,7 @@ class DateRangeAnswers : public PageTest {
 
   private:
     Replaced<decltype(ce::systemCalls.getSystemTime)> clockTime{ce::systemCalls.getSystemTime,
-                                                           [](SYSTEMTIME* now) { *now = Now; }};
+                                                                [](SYSTEMTIME* now) { *now = Now; }};
 
   protected:
     DatePage page;

@@ -19,8 +19,9 @@ class HistoryComboFixture : public testing::Test {
     // With the properties that the set holds at the first use.
     HistoryCombo& Combo() {
         if (combo == nullptr) {
-            const HWND window = CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0, 0,
-                                                100, 100, host.Handle(), nullptr, nullptr, nullptr);
+            const HWND window =
+                CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0, 0, 100,
+                                100, host.Handle(), nullptr, nullptr, nullptr);
             combo = std::make_unique<HistoryCombo>(&host.Object(), window, properties);
         }
         return *combo;
@@ -37,7 +38,8 @@ class HistoryComboFixture : public testing::Test {
         Entries entries;
         const auto count = static_cast<WPARAM>(SendMessageW(Combo().Handle(), CB_GETCOUNT, 0, 0));
         for (WPARAM i = 0; i < count; ++i) {
-            const auto length = static_cast<std::size_t>(SendMessageW(Combo().Handle(), CB_GETLBTEXTLEN, i, 0));
+            const auto length =
+                static_cast<std::size_t>(SendMessageW(Combo().Handle(), CB_GETLBTEXTLEN, i, 0));
             std::wstring text(length, L'\0');
             SendMessageW(Combo().Handle(), CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text.data()));
             entries.push_back(text);

@@ -1,7 +1,8 @@
 #include "tests/conditions/page_test.h"
 
 PageTest::PageTest() {
-    INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS | ICC_DATE_CLASSES};
+    INITCOMMONCONTROLSEX classes = {sizeof classes,
+                                    ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS | ICC_DATE_CLASSES};
     InitCommonControlsEx(&classes);
     SetWindowSubclass(host.Handle(), &CountFinds, 1, reinterpret_cast<DWORD_PTR>(this));
 }
@@ -12,7 +13,8 @@ PageTest::~PageTest() {
 
 LRESULT CALLBACK PageTest::CountFinds(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                       DWORD_PTR test) {
-    if (message == WM_COMMAND && wParam == COMMAND_FIND && lParam == 0) ++reinterpret_cast<PageTest*>(test)->finds;
+    if (message == WM_COMMAND && wParam == COMMAND_FIND && lParam == 0)
+        ++reinterpret_cast<PageTest*>(test)->finds;
     return DefSubclassProc(window, message, wParam, lParam);
 }
 

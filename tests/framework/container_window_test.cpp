@@ -256,6 +256,12 @@ TEST_F(ContainerFocus, goes_to_the_window_when_nothing_was_remembered) {
     EXPECT_EQ(GetFocus(), fresh.Handle());
 }
 
+TEST_F(ContainerFocus, inside_the_window_stays_when_nothing_was_remembered) {
+    SetFocus(other);
+    Activate(WA_ACTIVE);
+    EXPECT_EQ(GetFocus(), other);
+}
+
 TEST_F(ContainerFocus, is_not_sought_in_a_control_that_is_gone) {
     SetFocus(other);
     Activate(WA_INACTIVE);

@@ -69,6 +69,29 @@ TEST_F(TextFields, leave_a_key_to_the_input_method_that_composes) {
     EXPECT_TRUE(tabs.events.empty());
 }
 
+WNDPROC editProcedure = nullptr;
+std::wstring seenCharacters;
+
+LRESULT CALLBACK NoteCharacters(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CHAR) seenCharacters += static_cast<wchar_t>(wParam);
+    return CallWindowProcW(editProcedure, window, message, wParam, lParam);
+}
+
+TEST_F(TextFields, keep_the_characters_of_their_keys_from_the_edit) {
+    seenCharacters.clear();
+    const HWND edit = MakeControl(L"Edit", ES_AUTOHSCROLL);
+    editProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NoteCharacters)));
+    TextField watched(&window, edit);
+    for (const WPARAM key : {WPARAM{L'A'}, WPARAM{VK_RETURN}, WPARAM{VK_TAB}})
+        TypeKey(edit, key);
+    EXPECT_EQ(seenCharacters, L"a\t");
+    watched.TurnOnTabNotification();
+    for (const WPARAM key : {WPARAM{L'B'}, WPARAM{VK_RETURN}, WPARAM{VK_TAB}})
+        TypeKey(edit, key);
+    EXPECT_EQ(seenCharacters, L"a\tb");
+}
+
 TEST_F(TextFields, take_other_characters_as_any_edit_does) {
     for (const wchar_t unit : {L'x', L'日', L'*', L' '})
         SendMessageW(field.Handle(), WM_CHAR, unit, 1);

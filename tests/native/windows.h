@@ -1,7 +1,7 @@
 #pragma once
 
-// The few records and calls of the system that the rules need, for the build on this machine. wchar_t is wider
-// here than on the target; the rules keep to units up to 0xFFFF.
+// The few records and calls of the system that the rules need, for the build on this machine. wchar_t is
+// wider here than on the target; the rules keep to units up to 0xFFFF.
 
 #include <cstdarg>
 #include <cstdint>
@@ -65,7 +65,8 @@ inline int _vsnwprintf(wchar_t* text, std::size_t capacity, const wchar_t* forma
 #define LOCALE_SYSTEM_DEFAULT 0x0800
 
 // Writes the number with two digits for each of the letters that the picture can hold, and quoted text as it
-// stands: enough for pictures like yy'/'MM'/'dd. Returns the length with the terminator, 0 when it does not fit.
+// stands: enough for pictures like yy'/'MM'/'dd. Returns the length with the terminator, 0 when it does not
+// fit.
 inline int FormatByPicture(const SYSTEMTIME& time, const wchar_t* picture, wchar_t* text, int capacity) {
     int length = 0;
     const auto put = [&](wchar_t unit) {

@@ -13,7 +13,8 @@ class Controls : public testing::Test {
     Controls() {
         INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_UPDOWN_CLASS};
         InitCommonControlsEx(&classes);
-        parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+        parent =
+            CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
     }
     ~Controls() override { DestroyWindow(parent); }
 

@@ -1,6 +1,6 @@
 // The keyboard's way through the program, with real keys.
 
-#include "tests/support/keyboard.h"
+#include "tests/support/user_input.h"
 #include <algorithm>
 
 #include "resources/resource_ids.h"

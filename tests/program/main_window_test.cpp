@@ -6,7 +6,7 @@
 
 #include "resources/resource_ids.h"
 #include "tests/program/program_test.h"
-#include "tests/support/keyboard.h"
+#include "tests/support/user_input.h"
 
 namespace {
 

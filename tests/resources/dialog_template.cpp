@@ -81,7 +81,8 @@ bool ReadDialogTemplate(const wchar_t* name, DialogTemplate& dialog) {
     if (dialog.style == 0xFFFF0001) return false;
     dialog.extendedStyle = reader.DoubleWord();
     const int count = reader.Word();
-    reader.Skip(4);
+    dialog.x = reader.Number();
+    dialog.y = reader.Number();
     dialog.width = reader.Number();
     dialog.height = reader.Number();
     if (!reader.TextOrOrdinal(false).empty()) return false;  // a menu

@@ -22,6 +22,8 @@ struct TemplateControl {
 struct DialogTemplate {
     DWORD style = 0;
     DWORD extendedStyle = 0;
+    int x = 0;
+    int y = 0;
     int width = 0;
     int height = 0;
     std::wstring title;

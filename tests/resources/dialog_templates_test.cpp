@@ -1,4 +1,5 @@
-// Every dialog template against the written controls: class, id, text, style and order, in both languages.
+// The condition pages and the abort dialog against the written controls: class, id, text, style and order,
+// in both languages.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -10,27 +11,18 @@
 
 #include <commctrl.h>
 
+#include "tests/resources/dialog_expectations.h"
 #include "tests/resources/dialog_template.h"
 
 namespace {
 
-struct Expected {
-    const wchar_t* className;
-    int id;
-    const wchar_t* text;
-    DWORD styleMask;  // the bits that are laid down
-    DWORD style;      // and how they have to be
-};
-
-constexpr int Label = -1;
 constexpr DWORD ComboKind = 3;
-constexpr DWORD ButtonKind = BS_TYPEMASK;
 // An ampersand is shown, a long name without a blank breaks.
 constexpr DWORD FolderStyle = SS_NOPREFIX | SS_EDITCONTROL;
 constexpr DWORD SpinStyle = UDS_AUTOBUDDY | UDS_SETBUDDYINT | UDS_ARROWKEYS | UDS_ALIGNRIGHT;
 
 // In the order of the Tab key.
-const std::vector<Expected> NameEnglish = {
+const std::vector<ExpectedControl> NameEnglish = {
     {L"Static", Label, L"&Name:", 0, 0},
     {L"ComboBox", 10401, L"", ComboKind | WS_TABSTOP, CBS_DROPDOWN | WS_TABSTOP},
     {L"Static", Label, L"&Contain string:", 0, 0},
@@ -40,7 +32,7 @@ const std::vector<Expected> NameEnglish = {
     {L"Button", 10201, L"&Browse", ButtonKind | WS_TABSTOP, BS_PUSHBUTTON | WS_TABSTOP},
     {L"Button", 10301, L"Include &Subfolders", ButtonKind | WS_TABSTOP, BS_AUTOCHECKBOX | WS_TABSTOP},
 };
-const std::vector<Expected> NameJapanese = {
+const std::vector<ExpectedControl> NameJapanese = {
     {L"Static", Label, L"名前(&N)", 0, 0},
     {L"ComboBox", 10401, L"", ComboKind | WS_TABSTOP, CBS_DROPDOWN | WS_TABSTOP},
     {L"Static", Label, L"含まれる文字列(&C)", 0, 0},
@@ -50,7 +42,7 @@ const std::vector<Expected> NameJapanese = {
     {L"Button", 10201, L"参照(&B)", ButtonKind | WS_TABSTOP, BS_PUSHBUTTON | WS_TABSTOP},
     {L"Button", 10301, L"ｻﾌﾞﾌｫﾙﾀﾞも探す(&S)", ButtonKind | WS_TABSTOP, BS_AUTOCHECKBOX | WS_TABSTOP},
 };
-const std::vector<Expected> DateEnglish = {
+const std::vector<ExpectedControl> DateEnglish = {
     {L"Button", 11201, L"&All Files", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON | WS_GROUP},
     {L"Button", 11202, L"&Between", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON},
     {L"Button", 11204, L"Paste&d", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON},
@@ -60,7 +52,7 @@ const std::vector<Expected> DateEnglish = {
     {L"msctls_updown32", 11602, L"", SpinStyle, SpinStyle},
     {L"Static", Label, L"Days", 0, 0},
 };
-const std::vector<Expected> DateJapanese = {
+const std::vector<ExpectedControl> DateJapanese = {
     {L"Button", 11201, L"すべてのﾌｧｲﾙ(&A)", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON | WS_GROUP},
     {L"Button", 11202, L"日付指定(&B)", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON},
     {L"Button", 11204, L"過去(&D)", ButtonKind | WS_GROUP, BS_AUTORADIOBUTTON},
@@ -70,7 +62,7 @@ const std::vector<Expected> DateJapanese = {
     {L"msctls_updown32", 11602, L"", SpinStyle, SpinStyle},
     {L"Static", Label, L"日間", 0, 0},
 };
-const std::vector<Expected> SizeEnglish = {
+const std::vector<ExpectedControl> SizeEnglish = {
     {L"Static", Label, L"File &Type", 0, 0},
     {L"ComboBox", 10401, L"", ComboKind | WS_VSCROLL | WS_TABSTOP,
      CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP},
@@ -80,7 +72,7 @@ const std::vector<Expected> SizeEnglish = {
     {L"msctls_updown32", 11601, L"", SpinStyle, SpinStyle},
     {L"Static", Label, L"KB", 0, 0},
 };
-const std::vector<Expected> SizeJapanese = {
+const std::vector<ExpectedControl> SizeJapanese = {
     {L"Static", Label, L"種類(&T)", 0, 0},
     {L"ComboBox", 10401, L"", ComboKind | WS_VSCROLL | WS_TABSTOP,
      CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP},
@@ -90,31 +82,14 @@ const std::vector<Expected> SizeJapanese = {
     {L"msctls_updown32", 11601, L"", SpinStyle, SpinStyle},
     {L"Static", Label, L"KB", 0, 0},
 };
-const std::vector<Expected> AbortEnglish = {
+const std::vector<ExpectedControl> AbortEnglish = {
     {L"Static", 11901, L"", FolderStyle, FolderStyle},
     {L"Button", 2, L"Abort", ButtonKind | WS_TABSTOP, BS_PUSHBUTTON | WS_TABSTOP},
 };
-const std::vector<Expected> AbortJapanese = {
+const std::vector<ExpectedControl> AbortJapanese = {
     {L"Static", 11901, L"", FolderStyle, FolderStyle},
     {L"Button", 2, L"中断", ButtonKind | WS_TABSTOP, BS_PUSHBUTTON | WS_TABSTOP},
 };
-
-void ExpectControls(const wchar_t* name, const std::vector<Expected>& expected) {
-    DialogTemplate dialog;
-    ASSERT_TRUE(ReadDialogTemplate(name, dialog));
-    ASSERT_EQ(dialog.controls.size(), expected.size());
-    for (std::size_t index = 0; index < expected.size(); ++index) {
-        SCOPED_TRACE("control " + std::to_string(index));
-        const TemplateControl& control = dialog.controls[index];
-        // A class is found whatever the case of its name; the resource compiler writes capitals.
-        EXPECT_EQ(lstrcmpiW(control.className.c_str(), expected[index].className), 0)
-            << testing::PrintToString(control.className);
-        EXPECT_EQ(control.id, expected[index].id);
-        EXPECT_EQ(control.text, expected[index].text);
-        EXPECT_EQ(control.style & expected[index].styleMask, expected[index].style);
-        EXPECT_EQ(control.style & (WS_CHILD | WS_VISIBLE), DWORD{WS_CHILD | WS_VISIBLE});
-    }
-}
 
 TEST(DialogTemplates, the_english_name_page_reads_as_written) {
     ExpectControls(L"NAME_E", NameEnglish);

@@ -1,40 +1,123 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string>
+#include <vector>
 
 #include "tests/resources/program_module.h"
 
 namespace {
 
-TEST(Images, the_programs_icon_holds_a_small_and_a_large_picture) {
-    const std::vector<unsigned char> group = ResourceBytes(MAKEINTRESOURCEW(101), RT_GROUP_ICON);
-    ASSERT_GE(group.size(), 6u);
-    const std::size_t count = group[4];
-    ASSERT_EQ(group.size(), 6 + 14 * count);
-    std::set<int> sizes;
-    for (std::size_t index = 0; index < count; ++index)
-        sizes.insert(group[6 + 14 * index]);
-    EXPECT_EQ(sizes, (std::set<int>{16, 32}));
-}
+constexpr int Icons[] = {101, 10000, 10001, 10002, 10003, 10004, 10005, 10006, 10011, 10022, 10032};
+constexpr int ShortcutMark = 10006;
+constexpr COLORREF White = RGB(255, 255, 255);
+// None of the drawings has it.
+constexpr COLORREF Background = RGB(255, 0, 255);
 
-TEST(Images, the_programs_icon_is_transparent_around_its_drawing) {
-    for (const int size : {16, 32}) {
+// An icon drawn on a background, pixel by pixel.
+class DrawnIcon {
+  public:
+    DrawnIcon(int id, int size, COLORREF background) {
         const auto icon =
-            static_cast<HICON>(LoadImageW(ProgramModule(), MAKEINTRESOURCEW(101), IMAGE_ICON, size, size, 0));
-        ASSERT_NE(icon, nullptr);
+            static_cast<HICON>(LoadImageW(ProgramModule(), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, 0));
+        EXPECT_NE(icon, nullptr);
         const HDC screen = GetDC(nullptr);
-        const HDC memory = CreateCompatibleDC(screen);
-        const HBITMAP canvas = CreateCompatibleBitmap(screen, size, size);
-        const HGDIOBJ before = SelectObject(memory, canvas);
-        PatBlt(memory, 0, 0, size, size, WHITENESS);
+        memory = CreateCompatibleDC(screen);
+        canvas = CreateCompatibleBitmap(screen, size, size);
+        before = SelectObject(memory, canvas);
+        const HBRUSH brush = CreateSolidBrush(background);
+        const RECT area = {0, 0, size, size};
+        FillRect(memory, &area, brush);
         DrawIconEx(memory, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
-        EXPECT_EQ(GetPixel(memory, size - 1, 0), RGB(255, 255, 255));
-        EXPECT_NE(GetPixel(memory, size / 2, size / 2), RGB(255, 255, 255));
+        DeleteObject(brush);
+        ReleaseDC(nullptr, screen);
+        DestroyIcon(icon);
+    }
+    ~DrawnIcon() {
         SelectObject(memory, before);
         DeleteObject(canvas);
         DeleteDC(memory);
-        ReleaseDC(nullptr, screen);
-        DestroyIcon(icon);
+    }
+    DrawnIcon(const DrawnIcon&) = delete;
+    DrawnIcon& operator=(const DrawnIcon&) = delete;
+
+    [[nodiscard]] COLORREF At(int x, int y) const { return GetPixel(memory, x, y); }
+
+  private:
+    HDC memory;
+    HBITMAP canvas;
+    HGDIOBJ before;
+};
+
+TEST(Images, every_icon_holds_a_small_and_a_large_picture) {
+    for (const int id : Icons) {
+        SCOPED_TRACE(id);
+        const std::vector<unsigned char> group = ResourceBytes(MAKEINTRESOURCEW(id), RT_GROUP_ICON);
+        ASSERT_GE(group.size(), 6u);
+        const std::size_t count = group[4];
+        ASSERT_EQ(group.size(), 6 + 14 * count);
+        std::set<int> sizes;
+        for (std::size_t index = 0; index < count; ++index)
+            sizes.insert(group[6 + 14 * index]);
+        EXPECT_EQ(sizes, (std::set<int>{16, 32}));
+    }
+}
+
+TEST(Images, every_icon_is_transparent_around_its_drawing) {
+    for (const int id : Icons)
+        for (const int size : {16, 32}) {
+            SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(size));
+            const DrawnIcon icon(id, size, Background);
+            EXPECT_EQ(icon.At(size - 1, 0), Background);
+            int drawn = 0;
+            for (int y = 0; y < size; ++y)
+                for (int x = 0; x < size; ++x)
+                    if (icon.At(x, y) != Background) ++drawn;
+            EXPECT_GE(drawn, size * size / 8);
+            EXPECT_LT(drawn, size * size);
+        }
+}
+
+TEST(Images, every_icon_is_clear_on_white) {
+    for (const int id : Icons)
+        for (const int size : {16, 32}) {
+            SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(size));
+            const DrawnIcon icon(id, size, White);
+            int dark = 0;
+            for (int y = 0; y < size; ++y)
+                for (int x = 0; x < size; ++x) {
+                    const COLORREF colour = icon.At(x, y);
+                    if (GetRValue(colour) + GetGValue(colour) + GetBValue(colour) <= 3 * 0x80) ++dark;
+                }
+            EXPECT_GE(dark, 2 * size);
+        }
+}
+
+TEST(Images, no_two_icons_look_the_same) {
+    for (const int size : {16, 32})
+        for (const int first : Icons)
+            for (const int second : Icons) {
+                if (first >= second) continue;
+                const DrawnIcon one(first, size, White);
+                const DrawnIcon other(second, size, White);
+                int different = 0;
+                for (int y = 0; y < size; ++y)
+                    for (int x = 0; x < size; ++x)
+                        if (one.At(x, y) != other.At(x, y)) ++different;
+                EXPECT_GE(different, size) << first << " and " << second << " at " << size;
+            }
+}
+
+// It is laid over a file's icon, of which most has to stay visible.
+TEST(Images, the_shortcut_mark_stands_in_the_lower_left_corner_alone) {
+    for (const int size : {16, 32}) {
+        const DrawnIcon mark(ShortcutMark, size, Background);
+        EXPECT_NE(mark.At(0, size - 1), Background);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                if (x <= size * 9 / 16 && y >= size * 6 / 16) continue;
+                EXPECT_EQ(mark.At(x, y), Background);
+            }
     }
 }
 

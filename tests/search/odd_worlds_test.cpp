@@ -70,9 +70,7 @@ TEST(OddWorlds, a_link_to_a_folder_of_the_same_tree_finds_nothing_twice) {
 
 TEST(OddWorlds, ten_thousand_files_in_one_folder_are_found_each_once) {
     TempTree tree;
-    tree.AddFolder(L"many");
-    for (int i = 0; i < 10000; ++i)
-        tree.AddFile(L"many\\file " + std::to_wstring(i) + L".txt");
+    tree.AddNumberedFiles(L"many", 10000);
     const Texts paths = Search(Below(tree.Root(), L"*.txt"));
     EXPECT_EQ(paths.size(), 10000U);
     EXPECT_EQ(std::set<std::wstring>(paths.begin(), paths.end()).size(), 10000U);

@@ -12,15 +12,27 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-BOOL CALLBACK CollectText(HWND window, LPARAM box) {
-    reinterpret_cast<SeenBox*>(box)->texts.push_back(TextOf(window));
+bool IsOfClass(HWND window, const wchar_t* expected) {
+    wchar_t name[32] = L"";
+    GetClassNameW(window, name, 32);
+    return lstrcmpiW(name, expected) == 0;
+}
+
+bool IsMarkedVisible(HWND window) {
+    return (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+BOOL CALLBACK CollectControl(HWND window, LPARAM seenBox) {
+    auto& box = *reinterpret_cast<SeenBox*>(seenBox);
+    box.texts.push_back(TextOf(window));
+    if (IsOfClass(window, L"Button") && IsMarkedVisible(window)) box.buttons.push_back(GetDlgCtrlID(window));
+    if (IsOfClass(window, L"Static") && box.icon == nullptr)
+        box.icon = reinterpret_cast<HICON>(SendMessageW(window, STM_GETICON, 0, 0));
     return TRUE;
 }
 
 bool IsDialog(HWND window) {
-    wchar_t name[32] = L"";
-    GetClassNameW(window, name, 32);
-    return std::wstring(name) == L"#32770" && (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) == 0;
+    return IsOfClass(window, L"#32770") && (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) == 0;
 }
 
 }  // namespace
@@ -53,7 +65,8 @@ void AnsweredBoxes::Answer(HWND box) {
     answered.push_back(box);
     SeenBox record;
     record.caption = TextOf(box);
-    EnumChildWindows(box, CollectText, reinterpret_cast<LPARAM>(&record));
+    record.owner = GetWindow(box, GW_OWNER);
+    EnumChildWindows(box, CollectControl, reinterpret_cast<LPARAM>(&record));
     seen.push_back(record);
     PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answers[next]), 0);
 }

@@ -13,7 +13,10 @@
 struct SeenBox {
     std::wstring caption;
     std::vector<std::wstring>
-        texts;  // of its controls, in their order; a message box's message is among them
+        texts;                 // of its controls, in their order; a message box's message is among them
+    std::vector<int> buttons;  // the ids of its visible push buttons, in their order
+    HICON icon = nullptr;      // the first that is shown
+    HWND owner = nullptr;
 };
 
 class AnsweredBoxes {

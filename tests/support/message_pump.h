@@ -6,6 +6,7 @@
 
 #include <functional>
 
-// Dispatches what is in the queue; with a condition, until it holds, or fails to within the time.
+// Dispatches what is in the queue; with a condition, until it holds, or fails to within the time. A quit
+// stays in the queue, for the program's own loop.
 void PumpQueue();
 [[nodiscard]] bool PumpUntil(const std::function<bool()>& condition, DWORD milliseconds = 10000);

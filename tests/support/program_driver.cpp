@@ -3,7 +3,7 @@
 #include <commctrl.h>
 
 #include "resources/resource_ids.h"
-#include "tests/support/keyboard.h"
+#include "tests/support/user_input.h"
 
 namespace {
 

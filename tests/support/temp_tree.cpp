@@ -59,7 +59,7 @@ bool RunHostShell(const std::wstring& folder, const std::wstring& script) {
 // The host's tools are no processes of Wine's that could be waited for, so what they do is.
 template <typename Condition>
 bool WaitFor(Condition holds) {
-    for (int tries = 0; tries < 1000; ++tries) {
+    for (int tries = 0; tries < 6000; ++tries) {
         if (holds()) return true;
         Sleep(10);
     }
@@ -82,11 +82,12 @@ TempTree::TempTree() {
 }
 
 TempTree::~TempTree() {
-    for (const std::wstring& link : hostLinks) {
-        RunHostShell(root, L"rm '" + link + L"'");
-        std::wstring path = link;
-        std::replace(path.begin(), path.end(), L'/', L'\\');
-        EXPECT_TRUE(WaitFor([&] { return !IsLink(Literal(Path(path))); }));
+    for (const std::wstring& relative : hostMade) {
+        std::wstring hostName = relative;
+        std::replace(hostName.begin(), hostName.end(), L'\\', L'/');
+        RunHostShell(root, L"rm -r '" + hostName + L"'");
+        const std::wstring path = Literal(Path(relative));
+        EXPECT_TRUE(WaitFor([&] { return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES; }));
     }
     DeleteTree(Literal(root));
     EXPECT_EQ(GetFileAttributesW(root.c_str()), INVALID_FILE_ATTRIBUTES)
@@ -140,7 +141,7 @@ bool TempTree::AddFolderLink(std::wstring_view relative, std::wstring_view targe
     for (std::wstring* hostPath : {&hostTarget, &hostName})
         std::replace(hostPath->begin(), hostPath->end(), L'\\', L'/');
     if (!RunHostShell(root, L"ln -s '" + hostTarget + L"' '" + hostName + L"'")) return false;
-    hostLinks.push_back(hostName);
+    hostMade.emplace_back(relative);
     return WaitFor([&] { return IsLink(Literal(Path(relative))); });
 }
 
@@ -153,6 +154,7 @@ void TempTree::AddNumberedFiles(std::wstring_view folder, int count) {
                                L" | xargs -d '\\n' touch && touch 'all made'")) {
         EXPECT_TRUE(WaitFor([&] { return GetFileAttributesW(done.c_str()) != INVALID_FILE_ATTRIBUTES; }));
         EXPECT_TRUE(DeleteFileW(done.c_str()));
+        hostMade.push_back(std::wstring(folder));
         return;
     }
     for (int i = 0; i < count; ++i) {

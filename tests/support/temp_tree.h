@@ -34,8 +34,8 @@ class TempTree {
 
   private:
     std::wstring root;
-    // Relative, with "/" between the names: links that the host made and has to delete.
-    std::vector<std::wstring> hostLinks;
+    // Relative: what the host made and has to delete.
+    std::vector<std::wstring> hostMade;
 };
 
 // The path in the form in which the system takes it unit by unit.

@@ -14,6 +14,6 @@ void PressKey(WORD key, std::initializer_list<WORD> modifiers = {});
 // Types the text as characters.
 void TypeText(const std::wstring& text);
 
-// Clicks the left button at a point of the screen.
+// Moves the mouse to a point of the screen and clicks the left button there, once the mouse stays there: a
+// window that has only just come up still gets the system's own news of where the mouse is.
 void ClickAt(POINT point);
-void DoubleClickAt(POINT point);

@@ -1,10 +1,12 @@
-#include "tests/support/keyboard.h"
+#include "tests/support/user_input.h"
 
 #include <vector>
 
-#include "tests/support/driver_error.h"
+#include "tests/support/deadline.h"
 
 namespace {
+
+constexpr DWORD MousePause = 50;
 
 INPUT Key(WORD key, WORD unit, DWORD flags) {
     INPUT input = {};
@@ -30,6 +32,17 @@ INPUT Mouse(DWORD flags, POINT point) {
     return input;
 }
 
+void SendOne(const INPUT& input) {
+    std::vector<INPUT> inputs = {input};
+    SendInputs(inputs);
+}
+
+bool MouseIsAt(POINT point) {
+    POINT now = {};
+    GetCursorPos(&now);
+    return now.x == point.x && now.y == point.y;
+}
+
 }  // namespace
 
 void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
@@ -53,12 +66,12 @@ void TypeText(const std::wstring& text) {
 }
 
 void ClickAt(POINT point) {
-    std::vector<INPUT> inputs = {Mouse(MOUSEEVENTF_MOVE, point), Mouse(MOUSEEVENTF_LEFTDOWN, point),
-                                 Mouse(MOUSEEVENTF_LEFTUP, point)};
-    SendInputs(inputs);
-}
-
-void DoubleClickAt(POINT point) {
-    ClickAt(point);
-    ClickAt(point);
+    WaitUntil("the mouse to stay where it was moved", [&] {
+        SendOne(Mouse(MOUSEEVENTF_MOVE, point));
+        Sleep(MousePause);
+        return MouseIsAt(point);
+    });
+    SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, point));
+    Sleep(MousePause);
+    SendOne(Mouse(MOUSEEVENTF_LEFTUP, point));
 }

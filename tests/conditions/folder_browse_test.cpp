@@ -1,0 +1,207 @@
+// The folder browser from its real template, and the name page's button that opens it.
+
+#include "conditions/folder_browse_dialog.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "conditions/name_page.h"
+#include "tests/conditions/page_test.h"
+#include "tests/conditions/tree_reading.h"
+#include "tests/search/fake_folders.h"
+
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+// What the user does with the next dialog that comes up, once.
+std::function<void(HWND)> nextDoing;
+
+LRESULT CALLBACK WatchActivation(int code, WPARAM wParam, LPARAM lParam) {
+    const auto window = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_ACTIVATE && nextDoing && GetDlgItem(window, TREE_FOLDERS) != nullptr) {
+        const std::function<void(HWND)> doing = std::exchange(nextDoing, nullptr);
+        doing(window);
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+HWND TreeIn(HWND dialog) {
+    return GetDlgItem(dialog, TREE_FOLDERS);
+}
+
+std::wstring TextOfWindow(HWND window) {
+    wchar_t text[MAX_PATH] = L"";
+    GetWindowTextW(window, text, MAX_PATH);
+    return text;
+}
+
+void PostOk(HWND dialog) {
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+}
+
+void Choose(HWND dialog, const Names& names) {
+    TreeView_SelectItem(TreeIn(dialog), ItemAt(TreeIn(dialog), names));
+    PostOk(dialog);
+}
+
+}  // namespace
+
+class FolderBrowse : public PageTest {
+  protected:
+    FolderBrowse() {
+        const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
+        InitCommonControlsEx(&classes);
+        hook = SetWindowsHookExW(WH_CBT, WatchActivation, nullptr, GetCurrentThreadId());
+        folders.AddFolder(L"\\", L"My Documents");
+        folders.AddFolder(L"\\", L"A");
+        folders.AddFolder(L"\\A", L"B");
+    }
+    ~FolderBrowse() override {
+        UnhookWindowsHookEx(hook);
+        nextDoing = nullptr;
+    }
+
+    // Runs the dialog while the user does this with it.
+    INT_PTR Run(FolderBrowseDialog& dialog, const std::function<void(HWND)>& doing) {
+        nextDoing = doing;
+        return dialog.RunModal();
+    }
+
+    FakeFolders folders;
+
+  private:
+    HHOOK hook;
+};
+
+TEST_F(FolderBrowse, shows_the_whole_tree_with_the_root_open_and_drawing_on) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    Run(dialog, [](HWND window) {
+        EXPECT_EQ(TextOfWindow(window), L"Select Folder");
+        EXPECT_EQ(TextOfWindow(GetDlgItem(window, STATIC_TITLE)), L"Browse folder");
+        const HWND tree = TreeIn(window);
+        EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {})), (Names{L"A", L"My Documents"}));
+        EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"A"})), (Names{L"B"}));
+        EXPECT_NE(TreeView_GetItemState(tree, ItemAt(tree, {}), TVIS_EXPANDED) & TVIS_EXPANDED, 0u);
+        const auto images =
+            reinterpret_cast<HIMAGELIST>(SendMessageW(tree, TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+        EXPECT_EQ(ImageList_GetImageCount(images), 3);
+        int width = 0;
+        int height = 0;
+        EXPECT_TRUE(ImageList_GetIconSize(images, &width, &height));
+        EXPECT_EQ(width, 16);
+        EXPECT_EQ(height, 16);
+        EXPECT_TRUE(IsWindowVisible(tree) || (GetWindowLongW(tree, GWL_STYLE) & WS_VISIBLE) != 0);
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+}
+
+TEST_F(FolderBrowse, is_japanese_on_a_japanese_surface) {
+    UseJapanese();
+    FolderBrowseDialog dialog(Host(), L"ﾌｫﾙﾀﾞ選択");
+    Run(dialog, [](HWND window) {
+        EXPECT_EQ(TextOfWindow(window), L"ﾌｫﾙﾀﾞ選択");
+        EXPECT_EQ(TextOfWindow(GetDlgItem(window, STATIC_TITLE)), L"ﾌｫﾙﾀﾞの参照");
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+}
+
+TEST_F(FolderBrowse, returns_a_backslash_for_the_root) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    EXPECT_EQ(Run(dialog, [](HWND window) { Choose(window, {}); }), 1);
+    EXPECT_STREQ(dialog.ChosenPath(), L"\\");
+}
+
+TEST_F(FolderBrowse, returns_the_path_of_a_folder_two_levels_down) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    EXPECT_EQ(Run(dialog, [](HWND window) { Choose(window, {L"A", L"B"}); }), 1);
+    EXPECT_STREQ(dialog.ChosenPath(), L"\\A\\B");
+}
+
+TEST_F(FolderBrowse, stays_open_on_ok_without_a_selection) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    bool stillOpen = false;
+    const INT_PTR result = Run(dialog, [&](HWND window) {
+        TreeView_SelectItem(TreeIn(window), nullptr);
+        SendMessageW(window, WM_COMMAND, IDOK, 0);
+        stillOpen = dialog.ChosenPath() == nullptr && IsWindow(window);
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_TRUE(stillOpen);
+    EXPECT_EQ(result, 2);
+    EXPECT_EQ(dialog.ChosenPath(), nullptr);
+}
+
+TEST_F(FolderBrowse, forgets_the_last_choice_when_it_is_cancelled) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    ASSERT_EQ(Run(dialog, [](HWND window) { Choose(window, {L"A"}); }), 1);
+    EXPECT_EQ(Run(dialog, [](HWND window) { PostMessageW(window, WM_COMMAND, IDCANCEL, 0); }), 2);
+    EXPECT_EQ(dialog.ChosenPath(), nullptr);
+}
+
+TEST_F(FolderBrowse, is_cancelled_by_escape_and_by_its_close_box) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    EXPECT_EQ(Run(dialog, [](HWND window) { PostMessageW(TreeIn(window), WM_KEYDOWN, VK_ESCAPE, 1); }), 2);
+    EXPECT_EQ(Run(dialog, [](HWND window) { PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0); }), 2);
+}
+
+TEST_F(FolderBrowse, is_closed_by_enter_with_what_is_selected) {
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    const INT_PTR result = Run(dialog, [](HWND window) {
+        TreeView_SelectItem(TreeIn(window), ItemAt(TreeIn(window), {L"My Documents"}));
+        PostMessageW(TreeIn(window), WM_KEYDOWN, VK_RETURN, 1);
+    });
+    EXPECT_EQ(result, 1);
+    EXPECT_STREQ(dialog.ChosenPath(), L"\\My Documents");
+}
+
+class BrowseButton : public FolderBrowse {
+  protected:
+    void OpenPage() {
+        page = std::make_unique<NamePage>(Host(), HostHandle());
+        Open(*page);
+        SetText(COMBO_LOCATION, L"\\before");
+    }
+
+    std::unique_ptr<NamePage> page;
+};
+
+TEST_F(BrowseButton, puts_the_chosen_folder_into_the_location_and_its_history) {
+    OpenPage();
+    std::wstring caption;
+    nextDoing = [&](HWND window) {
+        caption = TextOfWindow(window);
+        Choose(window, {L"A", L"B"});
+    };
+    Click(BUTTON_BROWSE);
+    EXPECT_EQ(caption, L"Select Folder");
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"\\A\\B");
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), (Names{L"\\A\\B"}));
+}
+
+TEST_F(BrowseButton, has_a_japanese_caption_on_a_japanese_surface) {
+    UseJapanese();
+    OpenPage();
+    std::wstring caption;
+    nextDoing = [&](HWND window) {
+        caption = TextOfWindow(window);
+        Choose(window, {});
+    };
+    Click(BUTTON_BROWSE);
+    EXPECT_EQ(caption, L"ﾌｫﾙﾀﾞ選択");
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"\\");
+}
+
+TEST_F(BrowseButton, leaves_the_location_when_the_browser_is_cancelled) {
+    OpenPage();
+    bool cameUp = false;
+    nextDoing = [&](HWND window) {
+        cameUp = true;
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    };
+    Click(BUTTON_BROWSE);
+    EXPECT_TRUE(cameUp);
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"\\before");
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Names());
+}

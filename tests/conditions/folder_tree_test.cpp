@@ -1,0 +1,148 @@
+// The tree of folders over made listings: order, images, links, and the way back to a path.
+
+#include "conditions/folder_tree.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/conditions/tree_reading.h"
+#include "tests/search/fake_folders.h"
+#include "tests/support/test_world.h"
+
+using Names = std::vector<std::wstring>;
+
+class FolderTree : public testing::Test {
+  protected:
+    FolderTree() {
+        const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
+        InitCommonControlsEx(&classes);
+        tree = CreateWindowExW(0, WC_TREEVIEWW, L"", WS_CHILD, 0, 0, 200, 200, host.Handle(), nullptr,
+                               nullptr, nullptr);
+    }
+
+    HTREEITEM Fill() { return FillFolderTree(tree, L"My Pocket PC"); }
+    // The path of the item found by the names from the root down.
+    std::wstring PathTo(const Names& names) {
+        wchar_t path[MAX_PATH] = L"";
+        EXPECT_TRUE(PathOfItem(tree, ItemAt(tree, names), path));
+        return path;
+    }
+
+    TestWorld world;
+    HostWindow host;
+    FakeFolders folders;
+    HWND tree = nullptr;
+};
+
+TEST_F(FolderTree, has_the_root_with_its_name_alone_at_the_top) {
+    folders.AddFolder(L"\\", L"Windows");
+    const HTREEITEM root = Fill();
+    EXPECT_EQ(TreeView_GetRoot(tree), root);
+    EXPECT_EQ(TreeView_GetNextSibling(tree, root), nullptr);
+    EXPECT_EQ(TextOfItem(tree, root), L"My Pocket PC");
+}
+
+TEST_F(FolderTree, lists_each_level_in_the_reverse_of_the_systems_order) {
+    folders.AddFolder(L"\\", L"b");
+    folders.AddFolder(L"\\", L"c");
+    folders.AddFolder(L"\\", L"a");
+    folders.AddFolder(L"\\c", L"2");
+    folders.AddFolder(L"\\c", L"1");
+    const HTREEITEM root = Fill();
+    EXPECT_EQ(ChildrenOf(tree, root), (Names{L"a", L"c", L"b"}));
+    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"c"})), (Names{L"1", L"2"}));
+    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"a"})), Names());
+}
+
+TEST_F(FolderTree, leaves_files_out) {
+    folders.AddFile(L"\\", L"a.txt");
+    folders.AddFolder(L"\\", L"b");
+    folders.AddFile(L"\\", L"c.txt");
+    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"b"}));
+}
+
+TEST_F(FolderTree, shows_hidden_and_system_folders_too) {
+    folders.AddFolder(L"\\", L"hidden", FILE_ATTRIBUTE_HIDDEN);
+    folders.AddFolder(L"\\", L"system", FILE_ATTRIBUTE_SYSTEM);
+    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"system", L"hidden"}));
+}
+
+TEST_F(FolderTree, shows_the_device_and_closed_and_open_folders) {
+    folders.AddFolder(L"\\", L"a");
+    const HTREEITEM root = Fill();
+    EXPECT_EQ(ImagesOf(tree, root), (std::pair{0, 0}));
+    EXPECT_EQ(ImagesOf(tree, ItemAt(tree, {L"a"})), (std::pair{1, 2}));
+}
+
+TEST_F(FolderTree, asks_for_every_name_in_every_folder_once) {
+    folders.AddFolder(L"\\", L"a");
+    folders.AddFolder(L"\\a", L"b");
+    Fill();
+    EXPECT_EQ(folders.listed, (Names{L"\\*.*", L"\\a\\*.*", L"\\a\\b\\*.*"}));
+}
+
+TEST_F(FolderTree, goes_on_after_a_folder_that_cannot_be_listed) {
+    folders.AddFolder(L"\\", L"a");
+    folders.AddFolder(L"\\", L"b");
+    folders.AddFolder(L"\\b", L"c");
+    folders.FailListing(L"\\a", ERROR_ACCESS_DENIED);
+    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"b", L"a"}));
+    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"b"})), (Names{L"c"}));
+}
+
+TEST_F(FolderTree, is_the_root_alone_when_nothing_can_be_listed) {
+    folders.FailListing(L"\\", ERROR_NOT_READY);
+    EXPECT_EQ(ChildrenOf(tree, Fill()), Names());
+}
+
+TEST_F(FolderTree, shows_a_link_but_does_not_follow_it) {
+    folders.AddFolder(L"\\", L"loop", FILE_ATTRIBUTE_REPARSE_POINT);
+    folders.AddFolder(L"\\loop", L"inside");
+    folders.SetFolderLink(L"\\loop");
+    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"loop"}));
+    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"loop"})), Names());
+}
+
+TEST_F(FolderTree, gives_the_root_as_a_backslash) {
+    Fill();
+    EXPECT_EQ(PathTo({}), L"\\");
+}
+
+TEST_F(FolderTree, gives_full_paths_without_a_closing_backslash) {
+    folders.AddFolder(L"\\", L"A");
+    folders.AddFolder(L"\\A", L"B");
+    folders.AddFolder(L"\\A\\B", L"日本 語");
+    Fill();
+    EXPECT_EQ(PathTo({L"A"}), L"\\A");
+    EXPECT_EQ(PathTo({L"A", L"B"}), L"\\A\\B");
+    EXPECT_EQ(PathTo({L"A", L"B", L"日本 語"}), L"\\A\\B\\日本 語");
+}
+
+TEST_F(FolderTree, gives_a_path_of_259_units_and_refuses_a_longer_one) {
+    const std::wstring first(200, L'f');
+    const std::wstring fits(57, L'g');
+    const std::wstring tooLong(58, L'h');
+    folders.AddFolder(L"\\", first);
+    folders.AddFolder(L"\\" + first, fits);
+    folders.AddFolder(L"\\" + first, tooLong);
+    Fill();
+    EXPECT_EQ(PathTo({first, fits}), L"\\" + first + L"\\" + fits);
+    wchar_t path[MAX_PATH];
+    EXPECT_FALSE(PathOfItem(tree, ItemAt(tree, {first, tooLong}), path));
+}
+
+TEST_F(FolderTree, ends_where_paths_become_too_long) {
+    std::wstring folder;
+    for (int level = 0; level < 200; ++level) {
+        folders.AddFolder(folder.empty() ? L"\\" : folder, L"f");
+        folder += L"\\f";
+    }
+    HTREEITEM item = Fill();
+    int depth = 0;
+    while ((item = TreeView_GetChild(tree, item)) != nullptr)
+        ++depth;
+    // The deepest listing is of 255 units with its "\*.*": 127 levels of "\f", whose children are shown.
+    EXPECT_EQ(depth, 128);
+}
