@@ -41,12 +41,15 @@ HFONT CreateTitleFont() {
 
 }  // namespace
 
-AboutBox::AboutBox(WindowObject* parentObject) : Dialog(parentObject, AboutTemplate()), titleFont(CreateTitleFont()) {
+AboutBox::AboutBox(WindowObject* parentObject)
+    : Dialog(parentObject, AboutTemplate()), titleFont(CreateTitleFont()) {
     OnCommand(IDOK, this, &AboutBox::OnOk);
     OnCommand(BUTTON_UNINSTALL, this, &AboutBox::OnUninstall);
 }
 
-AboutBox::~AboutBox() { DeleteObject(titleFont); }
+AboutBox::~AboutBox() {
+    DeleteObject(titleFont);
+}
 
 void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
     makerKey = maker;
@@ -82,7 +85,8 @@ void AboutBox::ShowMemory() {
     for (int card = 0; card < ListedStorageCards; ++card) {
         if (StorageCardLine(card, line)) SetDlgItemTextW(Handle(), STATIC_STORAGE_CARD + card, line);
     }
-    for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id) WidenToText(Handle(), id);
+    for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
+        WidenToText(Handle(), id);
 }
 
 LRESULT AboutBox::OnOk(EventArguments&) {
@@ -94,7 +98,8 @@ LRESULT AboutBox::OnOk(EventArguments&) {
 // keys could be removed or not.
 LRESULT AboutBox::OnUninstall(EventArguments&) {
     if (productKey.empty()) return 0;
-    if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK) return 0;
+    if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK)
+        return 0;
     if (DeleteRegistryKey(HKEY_CURRENT_USER, productKey.c_str()) == ERROR_SUCCESS && !makerKey.empty() &&
         !HasSubKey(HKEY_CURRENT_USER, makerKey.c_str())) {
         DeleteRegistryKey(HKEY_CURRENT_USER, makerKey.c_str());

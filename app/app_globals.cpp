@@ -4,6 +4,10 @@ namespace {
 AppGlobals startUpRecord;
 }
 
-const AppGlobals& Globals() { return startUpRecord; }
+const AppGlobals& Globals() {
+    return startUpRecord;
+}
 
-AppGlobals& GlobalsForStartUp() { return startUpRecord; }
+AppGlobals& GlobalsForStartUp() {
+    return startUpRecord;
+}

@@ -17,12 +17,13 @@ constexpr int TabControlHeight = 126;
 
 // The commands that act on the selected row.
 constexpr UINT SelectionCommands[] = {COMMAND_OPEN, COMMAND_ADD_TO_START_MENU, COMMAND_DELETE, COMMAND_RENAME,
-                                   COMMAND_PROPERTIES};
+                                      COMMAND_PROPERTIES};
 
-constexpr UINT RoutedCommands[] = {
-    COMMAND_FIND,       COMMAND_OPEN,        COMMAND_ADD_TO_START_MENU, COMMAND_DELETE,      COMMAND_RENAME,
-    COMMAND_PROPERTIES, COMMAND_EXIT,        COMMAND_LARGE_ICON,        COMMAND_SMALL_ICON,  COMMAND_DETAILS,
-    COMMAND_VIEW_STATUS, COMMAND_CHECK_CASE, COMMAND_SAVE_RESULT,       COMMAND_NEW_CONDITION, COMMAND_ABOUT};
+constexpr UINT RoutedCommands[] = {COMMAND_FIND,        COMMAND_OPEN,          COMMAND_ADD_TO_START_MENU,
+                                   COMMAND_DELETE,      COMMAND_RENAME,        COMMAND_PROPERTIES,
+                                   COMMAND_EXIT,        COMMAND_LARGE_ICON,    COMMAND_SMALL_ICON,
+                                   COMMAND_DETAILS,     COMMAND_VIEW_STATUS,   COMMAND_CHECK_CASE,
+                                   COMMAND_SAVE_RESULT, COMMAND_NEW_CONDITION, COMMAND_ABOUT};
 
 void PlaceProperties(PropertySet& properties, LONG x, LONG y, LONG width, LONG height) {
     properties.Set(property::X, static_cast<PropertyValue>(x));
@@ -74,7 +75,8 @@ void MainWindow::CreateDialogs() {
 void MainWindow::SetInitialMenuState() {
     EnableResultCommands(false);
     // The commands 40201 to 40203 and 40207 stand in no menu; their marks change nothing and are kept.
-    CheckMenuRadioItem(Menu(), COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST, COMMAND_VIEW_BAR_FIRST, MF_BYCOMMAND);
+    CheckMenuRadioItem(Menu(), COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST, COMMAND_VIEW_BAR_FIRST,
+                       MF_BYCOMMAND);
     CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, COMMAND_DETAILS, MF_BYCOMMAND);
     CheckMenuItem(Menu(), COMMAND_VIEW_STATUS, MF_BYCOMMAND | MF_CHECKED);
     CheckMenuItem(Menu(), COMMAND_CHECK_CASE, MF_BYCOMMAND | MF_CHECKED);
@@ -86,7 +88,8 @@ void MainWindow::CreateTabControl(const RECT& area) {
     PlaceProperties(properties, area.left, area.top, area.right - area.left, TabControlHeight);
     properties.Set(property::Style, WS_TABSTOP | WS_CLIPSIBLINGS);
     tabControl = std::make_unique<TabControl>(this, properties);
-    SendMessageW(tabControl->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    SendMessageW(tabControl->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
+                 FALSE);
     tabControl->Subclass();
     tabControl->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
     tabControl->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);
@@ -123,7 +126,8 @@ void MainWindow::CreateResultList(const RECT& area) {
 }
 
 void MainWindow::RouteCommands() {
-    for (const UINT command : RoutedCommands) OnCommand(command, this, &MainWindow::OnMenuCommand, command);
+    for (const UINT command : RoutedCommands)
+        OnCommand(command, this, &MainWindow::OnMenuCommand, command);
 }
 
 ConditionPage* MainWindow::Page(int index) const {
@@ -170,27 +174,56 @@ LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
 
 void MainWindow::RunCommand(UINT command) {
     switch (command) {
-        case COMMAND_FIND: Find(); break;
-        case COMMAND_EXIT: PostMessageW(Handle(), WM_CLOSE, 0, 0); break;
-        case COMMAND_LARGE_ICON: SetResultView(command, LVS_ICON); break;
-        case COMMAND_SMALL_ICON: SetResultView(command, LVS_SMALLICON); break;
-        case COMMAND_DETAILS: SetResultView(command, LVS_REPORT); break;
-        case COMMAND_CHECK_CASE: ToggleCaseOption(Menu()); break;
-        case COMMAND_NEW_CONDITION: ResetConditions(); break;
-        case COMMAND_ABOUT: ShowAbout(); break;
-        default: RunResultCommand(command); break;
+        case COMMAND_FIND:
+            Find();
+            break;
+        case COMMAND_EXIT:
+            PostMessageW(Handle(), WM_CLOSE, 0, 0);
+            break;
+        case COMMAND_LARGE_ICON:
+            SetResultView(command, LVS_ICON);
+            break;
+        case COMMAND_SMALL_ICON:
+            SetResultView(command, LVS_SMALLICON);
+            break;
+        case COMMAND_DETAILS:
+            SetResultView(command, LVS_REPORT);
+            break;
+        case COMMAND_CHECK_CASE:
+            ToggleCaseOption(Menu());
+            break;
+        case COMMAND_NEW_CONDITION:
+            ResetConditions();
+            break;
+        case COMMAND_ABOUT:
+            ShowAbout();
+            break;
+        default:
+            RunResultCommand(command);
+            break;
     }
 }
 
 // "Save Result" and the command 40207 are routed here like the others, and do nothing.
 void MainWindow::RunResultCommand(UINT command) {
     switch (command) {
-        case COMMAND_OPEN: resultCommands->Open(); break;
-        case COMMAND_ADD_TO_START_MENU: resultCommands->AddToStartMenu(); break;
-        case COMMAND_DELETE: resultCommands->Delete(); break;
-        case COMMAND_RENAME: resultCommands->BeginRename(); break;
-        case COMMAND_PROPERTIES: resultCommands->ShowProperties(); break;
-        default: return;
+        case COMMAND_OPEN:
+            resultCommands->Open();
+            break;
+        case COMMAND_ADD_TO_START_MENU:
+            resultCommands->AddToStartMenu();
+            break;
+        case COMMAND_DELETE:
+            resultCommands->Delete();
+            break;
+        case COMMAND_RENAME:
+            resultCommands->BeginRename();
+            break;
+        case COMMAND_PROPERTIES:
+            resultCommands->ShowProperties();
+            break;
+        default:
+            return;
     }
     // A row that was deleted tells nobody that it was selected.
     if (results->SelectedCount() == 0) EnableResultCommands(false);
@@ -250,7 +283,9 @@ LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
     return ApplicationView::OnWmDestroy(record);
 }
 
-void MainWindow::ShowAbout() { aboutBox->RunModal(); }
+void MainWindow::ShowAbout() {
+    aboutBox->RunModal();
+}
 
 LRESULT MainWindow::OnUninstall(EventArguments&) {
     aboutBox->End(Dialog::ResultCancel);
@@ -270,7 +305,8 @@ void MainWindow::SetResultView(UINT command, DWORD view) {
 }
 
 void MainWindow::ResetConditions() {
-    for (int i = 0; i < PageCount; ++i) Page(i)->Reset();
+    for (int i = 0; i < PageCount; ++i)
+        Page(i)->Reset();
 }
 
 void MainWindow::EnableResultCommands(bool enable) {

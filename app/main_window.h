@@ -4,12 +4,12 @@
 // result list. It owns every long-lived object and routes the commands.
 
 #include "app/abort_dialog.h"
+#include "app/about_box.h"
+#include "app/registered_file_types.h"
 #include "conditions/date_page.h"
 #include "conditions/name_page.h"
 #include "conditions/size_page.h"
 #include "framework/application_view.h"
-#include "app/about_box.h"
-#include "app/registered_file_types.h"
 #include "results/result_commands.h"
 #include "results/result_list.h"
 #include "search/search_conditions.h"

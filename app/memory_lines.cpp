@@ -9,7 +9,8 @@ constexpr int KilobyteShift = 10;
 
 }  // namespace
 
-void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes, wchar_t (&line)[MemoryLineCapacity]) {
+void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes,
+                      wchar_t (&line)[MemoryLineCapacity]) {
     const std::uint64_t free = bytes.free >> KilobyteShift;
     const std::uint64_t total = bytes.total >> KilobyteShift;
     // Of whole kilobytes, as they are shown: 1,023 free bytes are none.

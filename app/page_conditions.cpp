@@ -2,4 +2,6 @@
 
 #include "app/case_option.h"
 
-std::uint32_t PageConditions::CaseOptionState() const { return ::CaseOptionState(menu); }
+std::uint32_t PageConditions::CaseOptionState() const {
+    return ::CaseOptionState(menu);
+}

@@ -17,10 +17,14 @@ class PageConditions final : public ConditionSource {
     void NameText(wchar_t (&text)[MAX_PATH]) const override { namePage.NameText(text); }
     void ContentText(wchar_t (&text)[MAX_PATH]) const override { namePage.ContentText(text); }
     [[nodiscard]] bool SubFoldersChecked() const override { return namePage.SubFoldersChecked(); }
-    [[nodiscard]] bool DateRangeChosen(DateRange& range) const override { return datePage.DateRangeChosen(range); }
+    [[nodiscard]] bool DateRangeChosen(DateRange& range) const override {
+        return datePage.DateRangeChosen(range);
+    }
     [[nodiscard]] int TypeIndex() const override { return sizePage.TypeIndex(); }
     void TypeExtensions(wchar_t (&text)[MAX_PATH]) const override { sizePage.TypeExtensions(text); }
-    [[nodiscard]] SizeAnswer SizeBound(std::uint32_t& bound) const override { return sizePage.SizeBound(bound); }
+    [[nodiscard]] SizeAnswer SizeBound(std::uint32_t& bound) const override {
+        return sizePage.SizeBound(bound);
+    }
     [[nodiscard]] std::uint32_t CaseOptionState() const override;
 
   private:

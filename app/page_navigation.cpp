@@ -2,7 +2,9 @@
 
 namespace {
 
-bool IsShiftDown() { return GetKeyState(VK_SHIFT) < 0; }
+bool IsShiftDown() {
+    return GetKeyState(VK_SHIFT) < 0;
+}
 
 bool WantsMessage(HWND control, MSG& message) {
     const LRESULT code =
@@ -16,14 +18,16 @@ bool IsPushButton(HWND control) {
 
 // The page's own child that holds the focus: of a combo box the box, not the edit in it.
 HWND PageControlOf(HWND page, HWND focus) {
-    while (focus != nullptr && GetParent(focus) != page) focus = GetParent(focus);
+    while (focus != nullptr && GetParent(focus) != page)
+        focus = GetParent(focus);
     return focus;
 }
 
 // A text field that gets the focus by Tab has its text selected, as in any dialog.
 void FocusControl(HWND control) {
     SetFocus(control);
-    if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageW(control, EM_SETSEL, 0, -1);
+    if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
+        SendMessageW(control, EM_SETSEL, 0, -1);
 }
 
 void LeavePage(const NavigationStops& stops, HWND control, bool backwards) {
@@ -47,8 +51,8 @@ bool OnTab(MSG& message, const NavigationStops& stops) {
     return true;
 }
 
-// A label's letter leads to its field from the tab control and the list as well: the page is asked as if it had
-// got the key itself.
+// A label's letter leads to its field from the tab control and the list as well: the page is asked as if it
+// had got the key itself.
 bool OnMnemonic(const MSG& message, const NavigationStops& stops) {
     if (message.hwnd != stops.tabControl && message.hwnd != stops.list) return false;
     // Enter and the blank have meanings of their own with Alt.
@@ -60,9 +64,13 @@ bool OnMnemonic(const MSG& message, const NavigationStops& stops) {
 
 }  // namespace
 
-HWND FirstTabStop(HWND page) { return GetNextDlgTabItem(page, nullptr, FALSE); }
+HWND FirstTabStop(HWND page) {
+    return GetNextDlgTabItem(page, nullptr, FALSE);
+}
 
-HWND LastTabStop(HWND page) { return GetNextDlgTabItem(page, FirstTabStop(page), TRUE); }
+HWND LastTabStop(HWND page) {
+    return GetNextDlgTabItem(page, FirstTabStop(page), TRUE);
+}
 
 bool NavigateByKey(MSG& message, const NavigationStops& stops) {
     const bool isKey = message.message == WM_KEYDOWN;

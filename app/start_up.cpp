@@ -26,9 +26,10 @@ void InstallConversionLibrary(AppGlobals& globals) {
     globals.toWide = &DefaultToWide;
     if (globals.conversionLibrary == nullptr) globals.conversionLibrary = ce::LoadLibraryW(L"TKCONV.DLL");
     if (globals.conversionLibrary == nullptr) return;
-    UseConversionLibrary(
-        reinterpret_cast<UnicodeToSjisFunction>(ce::GetProcAddressW(globals.conversionLibrary, L"unicode2sjis")),
-        reinterpret_cast<SjisToUnicodeFunction>(ce::GetProcAddressW(globals.conversionLibrary, L"sjis2unicode")));
+    UseConversionLibrary(reinterpret_cast<UnicodeToSjisFunction>(
+                             ce::GetProcAddressW(globals.conversionLibrary, L"unicode2sjis")),
+                         reinterpret_cast<SjisToUnicodeFunction>(
+                             ce::GetProcAddressW(globals.conversionLibrary, L"sjis2unicode")));
     globals.toMultiByte = &LibraryToMultiByte;
     globals.toWide = &LibraryToWide;
     globals.codeConversionAvailable = true;
@@ -36,7 +37,8 @@ void InstallConversionLibrary(AppGlobals& globals) {
 
 bool IsLanguageSwapped() {
     DWORD change = 0;
-    return ReadRegistryDword(HKEY_CURRENT_USER, MakerRegistryKey, L"Change language", change) == ERROR_SUCCESS &&
+    return ReadRegistryDword(HKEY_CURRENT_USER, MakerRegistryKey, L"Change language", change) ==
+               ERROR_SUCCESS &&
            change != 0;
 }
 

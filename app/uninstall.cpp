@@ -5,7 +5,8 @@ bool HasSubKey(HKEY root, const wchar_t* path) {
     if (ce::RegOpenKeyExW(root, path, 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
     wchar_t name[MAX_PATH];
     DWORD length = MAX_PATH;
-    const bool found = RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+    const bool found =
+        RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
     RegCloseKey(key);
     return found;
 }

@@ -13,7 +13,9 @@ LRESULT ConditionPage::SendToItem(int id, UINT message, WPARAM wParam, LPARAM lP
     return SendMessageW(Item(id), message, wParam, lParam);
 }
 
-bool ConditionPage::IsChecked(int id) const { return SendToItem(id, BM_GETCHECK) != 0; }
+bool ConditionPage::IsChecked(int id) const {
+    return SendToItem(id, BM_GETCHECK) != 0;
+}
 
 PropertySet TemplateProperties(const wchar_t* templateName) {
     PropertySet properties;

@@ -14,7 +14,8 @@ class ConditionPage : public Dialog {
     virtual void Reset() = 0;
 
   protected:
-    ConditionPage(WindowObject* parentObject, const PropertySet& properties) : Dialog(parentObject, properties) {}
+    ConditionPage(WindowObject* parentObject, const PropertySet& properties)
+        : Dialog(parentObject, properties) {}
 
     // Wraps the controls and gives them their first contents.
     virtual void SetUpControls() = 0;

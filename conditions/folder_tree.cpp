@@ -27,10 +27,12 @@ void FillItem(HWND tree, HTREEITEM item, const wchar_t* folder) {
     const HANDLE search = ce::FindFirstFileW(path, &entry);
     if (search == INVALID_HANDLE_VALUE) return;
     do {
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName)) continue;
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
+            continue;
         const HTREEITEM child = InsertItem(tree, item, entry.cFileName, FolderImage, OpenFolderImage);
         // What a link leads to stands elsewhere in the tree, or leads round in a loop.
-        if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry)) FillItem(tree, child, path);
+        if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
+            FillItem(tree, child, path);
     } while (ce::FindNextFileW(search, &entry));
     ce::FindClose(search);
 }

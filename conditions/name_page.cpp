@@ -28,7 +28,8 @@ struct SubKeyPath {
 }  // namespace
 
 NamePage::NamePage(WindowObject* parentObject, HWND findTarget)
-    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Name_E", L"Name_J"))), searchWindow(findTarget) {}
+    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Name_E", L"Name_J"))),
+      searchWindow(findTarget) {}
 
 void NamePage::SetUpControls() {
     PropertySet comboProperties;
@@ -62,7 +63,8 @@ void NamePage::LoadSettings(const wchar_t* registryPath) {
     LoadHistory(*name, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
     LoadHistory(*location, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
     DWORD subFolders = 0;
-    if (ReadRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, subFolders) != ERROR_SUCCESS) subFolders = 0;
+    if (ReadRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, subFolders) != ERROR_SUCCESS)
+        subFolders = 0;
     SendToItem(CHECK_SUBFOLDERS, BM_SETCHECK, subFolders != 0 ? BST_CHECKED : BST_UNCHECKED);
 }
 
@@ -77,13 +79,17 @@ void NamePage::LocationText(wchar_t (&text)[MAX_PATH]) const {
     GetDlgItemTextW(Handle(), COMBO_LOCATION, text, MAX_PATH);
 }
 
-void NamePage::NameText(wchar_t (&text)[MAX_PATH]) const { GetDlgItemTextW(Handle(), COMBO_NAME, text, MAX_PATH); }
+void NamePage::NameText(wchar_t (&text)[MAX_PATH]) const {
+    GetDlgItemTextW(Handle(), COMBO_NAME, text, MAX_PATH);
+}
 
 void NamePage::ContentText(wchar_t (&text)[MAX_PATH]) const {
     GetDlgItemTextW(Handle(), EDIT_CONTENT, text, MAX_PATH);
 }
 
-bool NamePage::SubFoldersChecked() const { return IsChecked(CHECK_SUBFOLDERS); }
+bool NamePage::SubFoldersChecked() const {
+    return IsChecked(CHECK_SUBFOLDERS);
+}
 
 LRESULT NamePage::OnEnterInCombo(EventArguments& arguments) {
     HistoryCombo& combo = arguments.extra == COMBO_NAME ? *name : *location;
@@ -122,4 +128,6 @@ LRESULT NamePage::OnBrowse(EventArguments&) {
     return 0;
 }
 
-void NamePage::StartSearch() { PostMessageW(searchWindow, WM_COMMAND, COMMAND_FIND, 0); }
+void NamePage::StartSearch() {
+    PostMessageW(searchWindow, WM_COMMAND, COMMAND_FIND, 0);
+}

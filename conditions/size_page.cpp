@@ -25,13 +25,15 @@ void SizePage::SetUpControls() {
 
 void SizePage::FillFileTypes() {
     const auto insert = [this](int index, const wchar_t* text, const wchar_t* extensions) {
-        SendToItem(COMBO_FILE_TYPE, CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text));
+        SendToItem(COMBO_FILE_TYPE, CB_INSERTSTRING, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(text));
         SendToItem(COMBO_FILE_TYPE, CB_SETITEMDATA, static_cast<WPARAM>(index),
                    reinterpret_cast<LPARAM>(extensions));
     };
     insert(0, InLanguage(L"All files and folders", L"すべてのﾌｧｲﾙとﾌｫﾙﾀﾞ"), L".*");
     const int count = fileTypes != nullptr ? fileTypes->Count() : 0;
-    for (int i = 0; i < count; ++i) insert(i + 1, fileTypes->Description(i), fileTypes->Extensions(i));
+    for (int i = 0; i < count; ++i)
+        insert(i + 1, fileTypes->Description(i), fileTypes->Extensions(i));
     SendToItem(COMBO_FILE_TYPE, CB_SETCURSEL, 0);
 }
 
@@ -43,7 +45,9 @@ void SizePage::Reset() {
     SendToItem(EDIT_KILOBYTES, UDM_SETPOS, 0, 0);
 }
 
-int SizePage::TypeIndex() const { return static_cast<int>(SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL)); }
+int SizePage::TypeIndex() const {
+    return static_cast<int>(SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL));
+}
 
 void SizePage::TypeExtensions(wchar_t (&text)[MAX_PATH]) const {
     text[0] = L'\0';

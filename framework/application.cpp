@@ -7,9 +7,13 @@ Application::Application(const wchar_t* productName, int count, const wchar_t* c
     current = this;
 }
 
-Application::~Application() { current = nullptr; }
+Application::~Application() {
+    current = nullptr;
+}
 
-WindowMap* Application::Windows() { return current != nullptr ? &current->windows : nullptr; }
+WindowMap* Application::Windows() {
+    return current != nullptr ? &current->windows : nullptr;
+}
 
 int Application::Run() {
     MSG message{};

@@ -22,7 +22,8 @@ PropertySet& WithViewDefaults(PropertySet& properties) {
 void InitialiseControls(const PropertySet& properties) {
     INITCOMMONCONTROLSEX classes{};
     classes.dwSize = sizeof classes;
-    classes.dwICC = StandardControlClasses | static_cast<DWORD>(properties.Get(property::ExtraControlClasses));
+    classes.dwICC =
+        StandardControlClasses | static_cast<DWORD>(properties.Get(property::ExtraControlClasses));
     InitCommonControlsEx(&classes);
 }
 
@@ -40,7 +41,8 @@ ApplicationView::ApplicationView(WindowObject* parentObject, const wchar_t* titl
     InitialiseControls(properties);
     CreateMenuBar(properties);
     if (properties.Has(property::Accelerators)) {
-        accelerators = LoadAcceleratorsW(Globals().instance, ResourceName(properties, property::Accelerators));
+        accelerators =
+            LoadAcceleratorsW(Globals().instance, ResourceName(properties, property::Accelerators));
     }
     OnMessage(WM_SIZE, this, &ApplicationView::OnWmSize);
     OnMessage(WM_HELP, this, &ApplicationView::OnWmHelp);
@@ -50,8 +52,8 @@ ApplicationView::~ApplicationView() = default;
 
 void ApplicationView::SetSmallIcon(const PropertySet& properties) {
     if (!properties.Has(property::SmallIcon)) return;
-    const HANDLE icon = LoadImageW(Globals().instance, ResourceName(properties, property::SmallIcon), IMAGE_ICON,
-                                   SmallIconSize, SmallIconSize, LR_DEFAULTCOLOR);
+    const HANDLE icon = LoadImageW(Globals().instance, ResourceName(properties, property::SmallIcon),
+                                   IMAGE_ICON, SmallIconSize, SmallIconSize, LR_DEFAULTCOLOR);
     SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
 }
 

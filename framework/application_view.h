@@ -10,7 +10,8 @@ class ApplicationView : public ContainerWindow, public MainView {
   public:
     // Makes the window and its bars from the set; with an application given it becomes its main view. A menu
     // bar that cannot be made leaves the view without bar and menu.
-    ApplicationView(WindowObject* parent, const wchar_t* title, PropertySet& properties, Application* application);
+    ApplicationView(WindowObject* parent, const wchar_t* title, PropertySet& properties,
+                    Application* application);
     ~ApplicationView() override;
 
     // The client area less the menu bar.

@@ -15,9 +15,10 @@ RECT FreeAreaOf(const RECT& parent, LONG screenWidth, LONG screenHeight) {
 
 }  // namespace
 
-POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, LONG screenWidth, LONG screenHeight) {
-    const RECT area =
-        parent != nullptr ? FreeAreaOf(*parent, screenWidth, screenHeight) : RECT{0, 0, screenWidth, screenHeight};
+POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, LONG screenWidth,
+                      LONG screenHeight) {
+    const RECT area = parent != nullptr ? FreeAreaOf(*parent, screenWidth, screenHeight)
+                                        : RECT{0, 0, screenWidth, screenHeight};
     LONG x = area.left + (area.right - area.left - dialogWidth) / 2;
     LONG y = area.top + (area.bottom - area.top - dialogHeight) / 2;
     x = std::max(std::min(x, screenWidth - dialogWidth), LONG{0});

@@ -35,7 +35,9 @@ void ContainerWindow::RouteMessages() {
     OnMessage(WM_DESTROY, this, &ContainerWindow::OnWmDestroy);
 }
 
-NativeCodeTable ContainerWindow::NativeCodes() const { return CommonNotificationCodes(); }
+NativeCodeTable ContainerWindow::NativeCodes() const {
+    return CommonNotificationCodes();
+}
 
 LRESULT ContainerWindow::OnWmCommand(MessageRecord& record) {
     const auto control = reinterpret_cast<HWND>(record.lParam);
@@ -70,8 +72,9 @@ EventCode ContainerWindow::TranslateNotification(std::uint32_t native, NativeCod
 
 LRESULT ContainerWindow::OnWmDrawItem(MessageRecord& record) {
     const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(record.lParam);
-    const EventSource source = ObjectOf(item->hwndItem) != nullptr ? reinterpret_cast<EventSource>(item->hwndItem)
-                                                                   : static_cast<EventSource>(item->CtlID);
+    const EventSource source = ObjectOf(item->hwndItem) != nullptr
+                                   ? reinterpret_cast<EventSource>(item->hwndItem)
+                                   : static_cast<EventSource>(item->CtlID);
     RaiseEvent(event::DrawItem, source, record.lParam, record);
     return 1;
 }
@@ -96,4 +99,6 @@ bool ContainerWindow::HoldsWindow(HWND window) const {
     return window != nullptr && (window == Handle() || IsChild(Handle(), window));
 }
 
-LRESULT ContainerWindow::OnWmDestroy(MessageRecord&) { return 0; }
+LRESULT ContainerWindow::OnWmDestroy(MessageRecord&) {
+    return 0;
+}

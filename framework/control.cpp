@@ -13,11 +13,15 @@ PropertySet& WithControlDefaults(PropertySet& properties, const wchar_t* classNa
     return properties;
 }
 
-bool IsShiftDown() { return GetKeyState(VK_SHIFT) < 0; }
+bool IsShiftDown() {
+    return GetKeyState(VK_SHIFT) < 0;
+}
 
 }  // namespace
 
-HWND DialogItem(const WindowObject& dialog, int id) { return GetDlgItem(dialog.Handle(), id); }
+HWND DialogItem(const WindowObject& dialog, int id) {
+    return GetDlgItem(dialog.Handle(), id);
+}
 
 Control::Control(WindowObject* parentObject, const wchar_t* className, PropertySet& properties)
     : WindowObject(parentObject, L"", WithControlDefaults(properties, className)),
@@ -35,9 +39,13 @@ int TabControl::AppendItem(const wchar_t* text) {
         SendMessageW(Handle(), TCM_INSERTITEMW, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(&item)));
 }
 
-int TabControl::Selected() const { return static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0)); }
+int TabControl::Selected() const {
+    return static_cast<int>(SendMessageW(Handle(), TCM_GETCURSEL, 0, 0));
+}
 
-void TabControl::Select(int index) { SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(index), 0); }
+void TabControl::Select(int index) {
+    SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
+}
 
 RECT TabControl::DisplayArea() const {
     RECT area{};
@@ -54,9 +62,13 @@ TextField::TextField(WindowObject* parentObject, HWND edit, Ownership ownership)
     OnMessage(WM_GETDLGCODE, this, &TextField::OnGetDialogCode);
 }
 
-std::span<const EventCode> TextField::OwnEvents() const { return KeyEvents; }
+std::span<const EventCode> TextField::OwnEvents() const {
+    return KeyEvents;
+}
 
-bool TextField::Takes(WPARAM key) const { return key == VK_RETURN || (key == VK_TAB && tabNotification); }
+bool TextField::Takes(WPARAM key) const {
+    return key == VK_RETURN || (key == VK_TAB && tabNotification);
+}
 
 // While an input method composes, its keys arrive as VK_PROCESSKEY and are none of ours.
 LRESULT TextField::OnKeyDown(MessageRecord& record) {
@@ -79,18 +91,22 @@ LRESULT TextField::OnCharacter(MessageRecord& record) {
 LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
     const LRESULT usual = DefaultProcessing(record);
     const auto* message = reinterpret_cast<const MSG*>(record.lParam);
-    const bool wanted = message != nullptr && (message->message == WM_KEYDOWN || message->message == WM_CHAR) &&
+    const bool wanted = message != nullptr &&
+                        (message->message == WM_KEYDOWN || message->message == WM_CHAR) &&
                         Takes(message->wParam);
     return wanted ? usual | DLGC_WANTMESSAGE : usual;
 }
 
 ComboBox::ComboBox(WindowObject* parentObject, HWND existing)
-    : Control(parentObject, existing, L"combobox"), edit(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
+    : Control(parentObject, existing, L"combobox"),
+      edit(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
     edit.OnNotification(event::EnterKey, this, &ComboBox::OnEditKey, event::EnterKey);
     edit.OnNotification(event::TabKey, this, &ComboBox::OnEditKey, event::TabKey);
 }
 
-std::span<const EventCode> ComboBox::OwnEvents() const { return KeyEvents; }
+std::span<const EventCode> ComboBox::OwnEvents() const {
+    return KeyEvents;
+}
 
 LRESULT ComboBox::OnEditKey(EventArguments& arguments) {
     if (IsListOpen()) {
@@ -100,9 +116,11 @@ LRESULT ComboBox::OnEditKey(EventArguments& arguments) {
         if (IsListOpen()) SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
         if (enter) return 0;
     }
-    RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()), arguments.argument,
-               arguments.record);
+    RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()),
+               arguments.argument, arguments.record);
     return arguments.record.result;
 }
 
-bool ComboBox::IsListOpen() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0; }
+bool ComboBox::IsListOpen() const {
+    return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
+}

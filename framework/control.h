@@ -26,13 +26,15 @@ class Control : public WindowObject {
 class ListView : public Control {
   public:
     static constexpr const wchar_t* ClassName = L"SysListView32";
-    ListView(WindowObject* parentObject, PropertySet& properties) : Control(parentObject, ClassName, properties) {}
+    ListView(WindowObject* parentObject, PropertySet& properties)
+        : Control(parentObject, ClassName, properties) {}
 };
 
 class TabControl : public Control {
   public:
     static constexpr const wchar_t* ClassName = L"SysTabControl32";
-    TabControl(WindowObject* parentObject, PropertySet& properties) : Control(parentObject, ClassName, properties) {}
+    TabControl(WindowObject* parentObject, PropertySet& properties)
+        : Control(parentObject, ClassName, properties) {}
 
     // Appends an item with this text; returns its index, or -1.
     int AppendItem(const wchar_t* text);

@@ -28,7 +28,9 @@ HFONT CreateDialogFont() {
     return CreateFontIndirectW(&font);
 }
 
-HBRUSH WhiteBrush() { return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)); }
+HBRUSH WhiteBrush() {
+    return static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+}
 
 NativeCodeTable NativeCodesByClassName(HWND control) {
     wchar_t className[ClassNameCapacity] = L"";
@@ -38,7 +40,8 @@ NativeCodeTable NativeCodesByClassName(HWND control) {
 
 DWORD FullScreenFlagsOf(const PropertySet& properties) {
     PropertyValue flags = 0;
-    return properties.Lookup(property::FullScreenFlags, flags) ? static_cast<DWORD>(flags) : DefaultFullScreenFlags;
+    return properties.Lookup(property::FullScreenFlags, flags) ? static_cast<DWORD>(flags)
+                                                               : DefaultFullScreenFlags;
 }
 
 }  // namespace
@@ -69,8 +72,9 @@ Dialog::~Dialog() {
 const DLGTEMPLATE* Dialog::FindTemplate() const {
     const HINSTANCE instance = Globals().instance;
     const HRSRC resource = FindResourceW(instance, templateName, RT_DIALOG);
-    return resource != nullptr ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
-                               : nullptr;
+    return resource != nullptr
+               ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
+               : nullptr;
 }
 
 void Dialog::CreateModeless() {
@@ -134,7 +138,9 @@ INT_PTR Dialog::Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wP
     return object->Dispatch(record);
 }
 
-LRESULT Dialog::DefaultProcessing(MessageRecord&) { return 0; }
+LRESULT Dialog::DefaultProcessing(MessageRecord&) {
+    return 0;
+}
 
 LRESULT Dialog::OnWmCommand(MessageRecord& record) {
     const auto control = reinterpret_cast<HWND>(record.lParam);
@@ -217,8 +223,8 @@ void Dialog::Centre() {
     const LONG width = own.right - own.left;
     const LONG height = own.bottom - own.top;
     const POINT corner =
-        CentredPosition(width, height, hasParent ? &parentRectangle : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
-                        ce::GetSystemMetrics(SM_CYSCREEN));
+        CentredPosition(width, height, hasParent ? &parentRectangle : nullptr,
+                        ce::GetSystemMetrics(SM_CXSCREEN), ce::GetSystemMetrics(SM_CYSCREEN));
     MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
 }
 
@@ -243,4 +249,6 @@ LRESULT Dialog::OnWmCtlColorStatic(MessageRecord& record) {
 }
 
 // Dialogs are white on the handheld, whatever the desktop's colour for them is.
-LRESULT Dialog::OnWmCtlColorDialog(MessageRecord&) { return reinterpret_cast<LRESULT>(WhiteBrush()); }
+LRESULT Dialog::OnWmCtlColorDialog(MessageRecord&) {
+    return reinterpret_cast<LRESULT>(WhiteBrush());
+}

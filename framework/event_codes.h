@@ -49,7 +49,7 @@ constexpr EventCode VerticalScroll = 147;
 
 // Raised by text fields on themselves; they stand for no native code.
 constexpr EventCode EnterKey = 200;
-constexpr EventCode Apply = 202;  // a property sheet's page is to take over its changes
+constexpr EventCode Apply = 202;   // a property sheet's page is to take over its changes
 constexpr EventCode TabKey = 201;  // the argument is 1 with Shift held, else 0
 
 }  // namespace event

@@ -15,7 +15,9 @@ void DeleteAll(Entry* entry) {
 
 }  // namespace
 
-MessageTable::~MessageTable() { DeleteAll(head); }
+MessageTable::~MessageTable() {
+    DeleteAll(head);
+}
 
 void MessageTable::Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra) {
     auto* entry = new (std::nothrow) MessageEntry{message, target, method, extra, head};
@@ -24,11 +26,14 @@ void MessageTable::Add(UINT message, WindowObject* target, MessageMethod method,
 
 const MessageEntry* MessageTable::Find(UINT message) const {
     const MessageEntry* entry = head;
-    while (entry != nullptr && entry->message != message) entry = entry->next;
+    while (entry != nullptr && entry->message != message)
+        entry = entry->next;
     return entry;
 }
 
-EventTable::~EventTable() { DeleteAll(head); }
+EventTable::~EventTable() {
+    DeleteAll(head);
+}
 
 void EventTable::Add(EventCode code, EventSource source, WindowObject* target, EventMethod method,
                      std::uintptr_t extra) {
@@ -38,6 +43,7 @@ void EventTable::Add(EventCode code, EventSource source, WindowObject* target, E
 
 const EventEntry* EventTable::Find(EventCode code, EventSource source) const {
     const EventEntry* entry = head;
-    while (entry != nullptr && (entry->code != code || entry->source != source)) entry = entry->next;
+    while (entry != nullptr && (entry->code != code || entry->source != source))
+        entry = entry->next;
     return entry;
 }

@@ -73,7 +73,8 @@ class EventTable {
     EventTable& operator=(const EventTable&) = delete;
 
     // Lost silently when there is no memory for it.
-    void Add(EventCode code, EventSource source, WindowObject* target, EventMethod method, std::uintptr_t extra);
+    void Add(EventCode code, EventSource source, WindowObject* target, EventMethod method,
+             std::uintptr_t extra);
     // The newest entry for the event from this source, or null.
     [[nodiscard]] const EventEntry* Find(EventCode code, EventSource source) const;
 

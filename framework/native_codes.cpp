@@ -5,57 +5,63 @@
 
 namespace {
 
-constexpr std::uint32_t Code(int native) { return static_cast<std::uint32_t>(native); }
+constexpr std::uint32_t Code(int native) {
+    return static_cast<std::uint32_t>(native);
+}
 
 constexpr NativeCode ListBoxCodes[] = {
-    {Code(1), event::SelectionChanged},   {Code(2), event::DoubleClick}, {Code(3), event::SelectionCancelled},
-    {Code(4), event::FocusGained},        {Code(5), event::FocusLost},   {Code(-2), event::OutOfMemory},
+    {Code(1), event::SelectionChanged}, {Code(2), event::DoubleClick}, {Code(3), event::SelectionCancelled},
+    {Code(4), event::FocusGained},      {Code(5), event::FocusLost},   {Code(-2), event::OutOfMemory},
 };
 
 constexpr NativeCode EditCodes[] = {
-    {Code(0x100), event::FocusGained}, {Code(0x200), event::FocusLost},   {Code(0x300), event::TextChanged},
-    {Code(0x400), event::EditUpdated}, {Code(0x500), event::OutOfMemory}, {Code(0x501), event::MaximumText},
+    {Code(0x100), event::FocusGained},      {Code(0x200), event::FocusLost},
+    {Code(0x300), event::TextChanged},      {Code(0x400), event::EditUpdated},
+    {Code(0x500), event::OutOfMemory},      {Code(0x501), event::MaximumText},
     {Code(0x601), event::HorizontalScroll}, {Code(0x602), event::VerticalScroll},
 };
 
 constexpr NativeCode ButtonCodes[] = {
-    {Code(0), event::Command},
-    {Code(1), event::ButtonPaint},
-    {Code(2), event::ButtonHighlighted},
-    {Code(3), event::ButtonUnhighlighted},
-    {Code(4), event::ButtonDisabled},
-    {Code(5), event::ButtonDoubleClicked},
-    {Code(6), event::FocusGained},
-    {Code(7), event::FocusLost},
+    {Code(0), event::Command},           {Code(1), event::ButtonPaint},
+    {Code(2), event::ButtonHighlighted}, {Code(3), event::ButtonUnhighlighted},
+    {Code(4), event::ButtonDisabled},    {Code(5), event::ButtonDoubleClicked},
+    {Code(6), event::FocusGained},       {Code(7), event::FocusLost},
 };
 
 constexpr NativeCode ComboBoxCodes[] = {
-    {Code(1), event::SelectionChanged},  {Code(2), event::DoubleClick},
-    {Code(3), event::FocusGained},       {Code(4), event::FocusLost},
-    {Code(5), event::ComboEditChanged},  {Code(6), event::ComboEditUpdated},
-    {Code(7), event::DropDownOpened},    {Code(8), event::DropDownClosed},
-    {Code(9), event::SelectionEndedOk},  {Code(10), event::SelectionEndedCancel},
+    {Code(1), event::SelectionChanged}, {Code(2), event::DoubleClick},
+    {Code(3), event::FocusGained},      {Code(4), event::FocusLost},
+    {Code(5), event::ComboEditChanged}, {Code(6), event::ComboEditUpdated},
+    {Code(7), event::DropDownOpened},   {Code(8), event::DropDownClosed},
+    {Code(9), event::SelectionEndedOk}, {Code(10), event::SelectionEndedCancel},
     {Code(-1), event::OutOfMemory},
 };
 
 constexpr NativeCode RebarCodes[] = {
-    {Code(-836), 44}, {Code(-835), event::RebarBeginDrag}, {Code(-834), event::RebarAutoSize},
-    {Code(-833), 87}, {Code(-831), 62},
+    {Code(-836), 44},
+    {Code(-835), event::RebarBeginDrag},
+    {Code(-834), event::RebarAutoSize},
+    {Code(-833), 87},
+    {Code(-831), 62},
 };
 
 constexpr NativeCode UpDownCodes[] = {{Code(-722), event::PositionChanging}};
 
 constexpr NativeCode DatePickerCodes[] = {
-    {Code(-759), event::DateTimeChanged}, {Code(-754), event::DropDownOpened},
-    {Code(-753), event::DropDownClosed},  {Code(-745), 146},
-    {Code(-744), 151},                    {Code(-743), 52},
+    {Code(-759), event::DateTimeChanged},
+    {Code(-754), event::DropDownOpened},
+    {Code(-753), event::DropDownClosed},
+    {Code(-745), 146},
+    {Code(-744), 151},
+    {Code(-743), 52},
     {Code(-742), 53},
 };
 
 // This program looks at no header of its own; the pairs name the header's counterparts of the list view.
 constexpr NativeCode HeaderCodes[] = {
-    {Code(-329), 56}, {Code(-328), 27}, {Code(-327), 28}, {Code(-326), 43}, {Code(-325), 59}, {Code(-323), 60},
-    {Code(-322), 20}, {Code(-321), 76}, {Code(-320), 77}, {Code(-311), 8},  {Code(-310), 5},
+    {Code(-329), 56}, {Code(-328), 27}, {Code(-327), 28}, {Code(-326), 43},
+    {Code(-325), 59}, {Code(-323), 60}, {Code(-322), 20}, {Code(-321), 76},
+    {Code(-320), 77}, {Code(-311), 8},  {Code(-310), 5},
 };
 
 constexpr NativeCode ListViewCodes[] = {
@@ -98,8 +104,9 @@ constexpr NativeCode TreeViewCodes[] = {
     {Code(-412), event::KeyDown},
 };
 
-constexpr NativeCode TabControlCodes[] = {
-    {Code(-552), event::SelectionChanging}, {Code(-551), event::SelectionChanged}, {Code(-550), event::KeyDown}};
+constexpr NativeCode TabControlCodes[] = {{Code(-552), event::SelectionChanging},
+                                          {Code(-551), event::SelectionChanged},
+                                          {Code(-550), event::KeyDown}};
 
 constexpr NativeCode CommonCodes[] = {{Code(-3), event::DoubleClick}};
 
@@ -127,8 +134,9 @@ constexpr ControlClass ControlClasses[] = {
 }  // namespace
 
 EventCode TranslateNativeCode(NativeCodeTable table, std::uint32_t native, EventCode missing) {
-    const auto found = std::lower_bound(table.begin(), table.end(), native,
-                                        [](const NativeCode& pair, std::uint32_t code) { return pair.native < code; });
+    const auto found =
+        std::lower_bound(table.begin(), table.end(), native,
+                         [](const NativeCode& pair, std::uint32_t code) { return pair.native < code; });
     return found != table.end() && found->native == native ? found->code : missing;
 }
 
@@ -139,4 +147,6 @@ NativeCodeTable NativeCodesOfClass(const wchar_t* className) {
     return {};
 }
 
-NativeCodeTable CommonNotificationCodes() { return CommonCodes; }
+NativeCodeTable CommonNotificationCodes() {
+    return CommonCodes;
+}

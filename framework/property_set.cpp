@@ -4,7 +4,9 @@
 
 namespace {
 
-bool IsStyleKey(PropertyKey key) { return key == property::Style || key == property::ExtendedStyle; }
+bool IsStyleKey(PropertyKey key) {
+    return key == property::Style || key == property::ExtendedStyle;
+}
 
 }  // namespace
 
@@ -39,7 +41,9 @@ bool PropertySet::Lookup(PropertyKey key, PropertyValue& value) const {
     return index >= 0;
 }
 
-bool PropertySet::Has(PropertyKey key) const { return IndexOf(key) >= 0; }
+bool PropertySet::Has(PropertyKey key) const {
+    return IndexOf(key) >= 0;
+}
 
 int PropertySet::IndexOf(PropertyKey key) const {
     for (int i = 0; i < count; ++i) {

@@ -29,7 +29,8 @@ int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
 
 }  // namespace
 
-PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* title, const PropertySet& properties)
+PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* title,
+                                     const PropertySet& properties)
     : Dialog(parentObject, properties), titleText(title, title + std::wcslen(title) + 1) {}
 
 HPROPSHEETPAGE PropertySheetPage::CreatePage() {

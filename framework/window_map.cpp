@@ -37,4 +37,6 @@ bool WindowMap::Remove(HWND window) {
     return false;
 }
 
-std::size_t WindowMap::BucketOf(HWND window) { return reinterpret_cast<std::uintptr_t>(window) % BucketCount; }
+std::size_t WindowMap::BucketOf(HWND window) {
+    return reinterpret_cast<std::uintptr_t>(window) % BucketCount;
+}

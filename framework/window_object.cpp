@@ -16,9 +16,13 @@ constexpr int ClassNameCapacity = 128;
 // The name is odd, but classes made without one are known by it.
 constexpr const wchar_t* DefaultClassName = L"Value";
 
-DWORD StyleOf(const PropertySet& properties, PropertyKey key) { return static_cast<DWORD>(properties.Get(key)); }
+DWORD StyleOf(const PropertySet& properties, PropertyKey key) {
+    return static_cast<DWORD>(properties.Get(key));
+}
 
-int NumberOf(const PropertySet& properties, PropertyKey key) { return static_cast<int>(properties.Get(key)); }
+int NumberOf(const PropertySet& properties, PropertyKey key) {
+    return static_cast<int>(properties.Get(key));
+}
 
 }  // namespace
 
@@ -32,7 +36,8 @@ WindowObject::WindowObject(WindowObject* parentObject, const wchar_t* title, Pro
     Create(title, properties);
 }
 
-WindowObject::WindowObject(WindowObject* parentObject, HWND existing, Ownership ownership) : parent(parentObject) {
+WindowObject::WindowObject(WindowObject* parentObject, HWND existing, Ownership ownership)
+    : parent(parentObject) {
     if (existing == nullptr) return;
     Attach(existing);
     ownsHandle = ownership == Ownership::Owned ||
@@ -53,8 +58,8 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
     const wchar_t* className = properties.GetText(property::ClassName);
     const HWND window = ce::CreateWindowExW(
         StyleOf(properties, property::ExtendedStyle), className, title, StyleOf(properties, property::Style),
-        NumberOf(properties, property::X), NumberOf(properties, property::Y), NumberOf(properties, property::Width),
-        NumberOf(properties, property::Height), ParentHandle(),
+        NumberOf(properties, property::X), NumberOf(properties, property::Y),
+        NumberOf(properties, property::Width), NumberOf(properties, property::Height), ParentHandle(),
         reinterpret_cast<HMENU>(properties.Get(property::ControlId)), Globals().instance,
         reinterpret_cast<void*>(properties.Get(property::CreationParameter)));
     if (window == nullptr) {
@@ -77,11 +82,12 @@ void WindowObject::Detach() {
 
 void WindowObject::Subclass() {
     if (savedProcedure != nullptr || handle == nullptr) return;
-    savedProcedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
-        handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FrameworkWindowProcedure)));
+    savedProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FrameworkWindowProcedure)));
 }
 
-bool WindowObject::RaiseEvent(EventCode code, EventSource source, std::intptr_t argument, MessageRecord& record) {
+bool WindowObject::RaiseEvent(EventCode code, EventSource source, std::intptr_t argument,
+                              MessageRecord& record) {
     const EventEntry* entry = events != nullptr ? events->Find(code, source) : nullptr;
     if (entry == nullptr) return false;
     EventArguments arguments{entry->extra, argument, record};
@@ -95,11 +101,17 @@ RECT WindowObject::LayoutRectangle() const {
     return client;
 }
 
-void WindowObject::Move(int x, int y, int width, int height) { MoveWindow(handle, x, y, width, height, TRUE); }
+void WindowObject::Move(int x, int y, int width, int height) {
+    MoveWindow(handle, x, y, width, height, TRUE);
+}
 
-NativeCodeTable WindowObject::NativeCodes() const { return {}; }
+NativeCodeTable WindowObject::NativeCodes() const {
+    return {};
+}
 
-std::span<const EventCode> WindowObject::OwnEvents() const { return {}; }
+std::span<const EventCode> WindowObject::OwnEvents() const {
+    return {};
+}
 
 LRESULT WindowObject::DefaultProcessing(MessageRecord& record) {
     if (savedProcedure != nullptr) {
@@ -115,8 +127,8 @@ LRESULT WindowObject::Dispatch(MessageRecord& record) {
     return (entry->target->*entry->method)(record);
 }
 
-void WindowObject::AddEventHandler(EventCode code, EventSource source, WindowObject* target, EventMethod method,
-                                   std::uintptr_t extra) {
+void WindowObject::AddEventHandler(EventCode code, EventSource source, WindowObject* target,
+                                   EventMethod method, std::uintptr_t extra) {
     if (events == nullptr) events.reset(new (std::nothrow) EventTable);
     if (events != nullptr) events->Add(code, source, target, method, extra);
 }

@@ -52,8 +52,8 @@ class WindowObject {
         AddMessageHandler(message, target, static_cast<MessageMethod>(method), extra);
     }
     template <class Target>
-    void OnEvent(EventCode code, EventSource source, Target* target, LRESULT (Target::*method)(EventArguments&),
-                 std::uintptr_t extra = 0) {
+    void OnEvent(EventCode code, EventSource source, Target* target,
+                 LRESULT (Target::*method)(EventArguments&), std::uintptr_t extra = 0) {
         AddEventHandler(code, source, target, static_cast<EventMethod>(method), extra);
     }
     template <class Target>

@@ -48,7 +48,9 @@ Held<IPersistFile> FileOf(IShellLinkW& link) {
     return Held<IPersistFile>(file);
 }
 
-bool HasBlank(const std::wstring& text) { return text.find_first_of(L" \t") != std::wstring::npos; }
+bool HasBlank(const std::wstring& text) {
+    return text.find_first_of(L" \t") != std::wstring::npos;
+}
 
 // "NN#target", where NN counts the target's bytes, in the system's code page.
 std::wstring ReadTextShortcut(const wchar_t* path) {
@@ -126,7 +128,9 @@ BOOL CreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
     return file != nullptr && SUCCEEDED(file->Save(shortcut, TRUE));
 }
 
-BOOL Execute(SHELLEXECUTEINFOW* info) { return ::ShellExecuteExW(info); }
+BOOL Execute(SHELLEXECUTEINFOW* info) {
+    return ::ShellExecuteExW(info);
+}
 
 }  // namespace
 

@@ -28,6 +28,8 @@ inline BOOL SHCreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
     return shortcutCalls.create(shortcut, target);
 }
 
-inline BOOL ShellExecuteExW(SHELLEXECUTEINFOW* info) { return shortcutCalls.execute(info); }
+inline BOOL ShellExecuteExW(SHELLEXECUTEINFOW* info) {
+    return shortcutCalls.execute(info);
+}
 
 }  // namespace ce

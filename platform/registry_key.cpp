@@ -9,8 +9,7 @@ bool RegistryKey::Open(const wchar_t* path) {
 
 bool RegistryKey::Create(const wchar_t* path) {
     Close();
-    const LONG error =
-        ce::RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    const LONG error = ce::RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
     if (error == ERROR_SUCCESS) return true;
     key = nullptr;
     return false;
@@ -24,7 +23,8 @@ void RegistryKey::Close() {
 bool RegistryKey::QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const {
     DWORD type = REG_NONE;
     DWORD size = sizeInBytes;
-    if (ce::RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS) {
+    if (ce::RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) !=
+        ERROR_SUCCESS) {
         buffer[0] = L'\0';
         return false;
     }

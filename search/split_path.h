@@ -10,5 +10,6 @@ struct PathParts {
 };
 
 // One pair of enclosing double quotes is removed first. The later of the last "\" and the last "/" separates;
-// without one the folder is empty; as the first unit it is the folder itself. A part that does not fit is cut.
+// without one the folder is empty; as the first unit it is the folder itself. A part that does not fit is
+// cut.
 [[nodiscard]] PathParts SplitPath(const wchar_t* path);

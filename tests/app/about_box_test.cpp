@@ -225,8 +225,8 @@ TEST_F(AboutBoxUninstall, closes_the_parent_without_a_word_when_the_key_cannot_b
 TEST_F(AboutBoxUninstall, asks_in_japanese_on_a_japanese_surface_and_does_nothing_when_it_is_not_confirmed) {
     Create(ProductKey);
     UseJapanese();
-    const AnsweredBoxes boxes{IDCANCEL};
     Box().CreateModeless();
+    const AnsweredBoxes boxes{IDCANCEL};
     SendMessageW(Box().Handle(), WM_COMMAND, BUTTON_UNINSTALL, 0);
     PumpQueue();
     ASSERT_EQ(boxes.Seen().size(), 1u);
@@ -240,8 +240,8 @@ TEST_F(AboutBoxUninstall, asks_in_japanese_on_a_japanese_surface_and_does_nothin
 TEST_F(AboutBoxUninstall, does_nothing_at_all_without_a_product_key) {
     Create(ProductKey);
     Box().SetRegistryKeys(MakerKey, L"");
-    const AnsweredBoxes boxes{IDOK};
     Box().CreateModeless();
+    const AnsweredBoxes boxes{IDOK};
     SendMessageW(Box().Handle(), WM_COMMAND, BUTTON_UNINSTALL, 0);
     PumpQueue();
     EXPECT_TRUE(boxes.Seen().empty());
