@@ -23,7 +23,9 @@ HICON IconIn(HWND dialog, int id) {
 
 }  // namespace
 
-const wchar_t* YesNoTemplate() { return InLanguage(L"EConfirmYesNoDialog_E", L"EConfirmYesNoDialog_J"); }
+const wchar_t* YesNoTemplate() {
+    return InLanguage(L"EConfirmYesNoDialog_E", L"EConfirmYesNoDialog_J");
+}
 
 const wchar_t* YesAllNoCancelTemplate() {
     return InLanguage(L"EConfirmYesAllNoCancelDialog_E", L"EConfirmYesAllNoCancelDialog_J");
@@ -41,12 +43,15 @@ ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const wchar_t* name,
                                        const void* fillArgument)
     : Dialog(owner, NamedTemplate(name)), fill(fillRoutine), argument(fillArgument) {
     OnInitialise(this, &ConfirmationDialog::OnFill);
-    for (const UINT answer : Answers) OnCommand(answer, this, &ConfirmationDialog::OnAnswer, answer);
+    for (const UINT answer : Answers)
+        OnCommand(answer, this, &ConfirmationDialog::OnAnswer, answer);
     // A button of the template reaches Cancel with its control, past the dialog's own way for it.
     OnCommand(IDCANCEL, this, &ConfirmationDialog::OnAnswer, IDCANCEL);
 }
 
-ConfirmationDialog::~ConfirmationDialog() { FreeFileIcons(); }
+ConfirmationDialog::~ConfirmationDialog() {
+    FreeFileIcons();
+}
 
 ConfirmResult ConfirmationDialog::Ask() {
     const INT_PTR result = RunModal();
@@ -62,7 +67,8 @@ LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
 LRESULT ConfirmationDialog::OnFill(EventArguments&) {
     FreeFileIcons();
     HICON before[FileIcons];
-    for (int i = 0; i < FileIcons; ++i) before[i] = IconIn(Handle(), FileIconStatics[i]);
+    for (int i = 0; i < FileIcons; ++i)
+        before[i] = IconIn(Handle(), FileIconStatics[i]);
     fill(Handle(), argument);
     for (int i = 0; i < FileIcons; ++i) {
         const HICON now = IconIn(Handle(), FileIconStatics[i]);

@@ -8,20 +8,21 @@
 // The id of the button that ended the dialog.
 enum class ConfirmResult { Cancel = 2, Yes = 6, No = 7, YesToAll = 20 };
 
-// Fills title, icon and texts; the argument is what the caller gave. Another icon that it puts in the place of
-// a file's is the dialog's to free.
+// Fills title, icon and texts; the argument is what the caller gave. Another icon that it puts in the place
+// of a file's is the dialog's to free.
 using QuestionRoutine = void (*)(HWND dialog, const void* argument);
 
 // The templates, in the user's language.
-[[nodiscard]] const wchar_t* YesNoTemplate();              // a single file delete
-[[nodiscard]] const wchar_t* YesAllNoCancelTemplate();     // file delete of many, folder delete and replace
-[[nodiscard]] const wchar_t* FileReplaceTemplate();        // a single file replace
+[[nodiscard]] const wchar_t* YesNoTemplate();                // a single file delete
+[[nodiscard]] const wchar_t* YesAllNoCancelTemplate();       // file delete of many, folder delete and replace
+[[nodiscard]] const wchar_t* FileReplaceTemplate();          // a single file replace
 [[nodiscard]] const wchar_t* MultipleFileReplaceTemplate();  // file replace of many
 
 class ConfirmationDialog : public Dialog {
   public:
     // The owner's window owns the dialog. The argument has to live until the dialog is over.
-    ConfirmationDialog(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill, const void* argument);
+    ConfirmationDialog(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
+                       const void* argument);
 
     ~ConfirmationDialog() override;
 
@@ -45,5 +46,5 @@ class ConfirmationDialog : public Dialog {
 };
 
 // Builds the question, asks it and destroys it.
-[[nodiscard]] ConfirmResult AskQuestion(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                                        const void* argument);
+[[nodiscard]] ConfirmResult AskQuestion(WindowObject* owner, const wchar_t* templateName,
+                                        QuestionRoutine fill, const void* argument);

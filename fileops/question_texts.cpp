@@ -23,17 +23,21 @@ constexpr TextPair DeleteReadOnly = {
     L"The file '%s' is a read-only file. Are you sure you want to delete it?",
     L"ﾌｧｲﾙ '%s' は読み取り専用です。削除してもよろしいですか?"};
 constexpr TextPair DeleteProgram = {
-    L"The file '%s' is a program.\n\nIf you remove it, you will no longer be able to run this program or edit "
+    L"The file '%s' is a program.\n\nIf you remove it, you will no longer be able to run this program or "
+    L"edit "
     L"some documents. Are you sure you want to delete it?",
-    L"ﾌｧｲﾙ '%s' はﾌﾟﾛｸﾞﾗﾑです。\n\n削除すると、このﾌﾟﾛｸﾞﾗﾑは実行できなくなり、また一部の文書は編集できなくなります。"
+    L"ﾌｧｲﾙ '%s' "
+    L"はﾌﾟﾛｸﾞﾗﾑです。\n\n削除すると、このﾌﾟﾛｸﾞﾗﾑは実行できなくなり、また一部の文書は編集できなくなります。"
     L"\n削除してもよろしいですか?"};
 // The English text ends without a question, unlike the Japanese one; both stay.
 constexpr TextPair DeleteSystem = {
-    L"The file '%s' is a system file.\n\nIf you remove it, your computer or one of your programs may no longer "
+    L"The file '%s' is a system file.\n\nIf you remove it, your computer or one of your programs may no "
+    L"longer "
     L"work correctly.",
     L"ﾌｧｲﾙ '%s' はｼｽﾃﾑ ﾌｧｲﾙです。\n\n削除すると、ｼｽﾃﾑやｱﾌﾟﾘｹｰｼｮﾝが正しく作動しなくなる可能性があります。"
     L"\n削除してもよろしいですか?"};
-constexpr TextPair DeleteOther = {L"Are you sure you want to delete '%s'?", L"'%s' を削除してもよろしいですか?"};
+constexpr TextPair DeleteOther = {L"Are you sure you want to delete '%s'?",
+                                  L"'%s' を削除してもよろしいですか?"};
 
 constexpr TextPair DeleteFolder = {L"Are you sure you want to remove the folder '%s' and all its contents?",
                                    L"ﾌｫﾙﾀﾞ'%s'とﾌｫﾙﾀﾞ内のすべてのﾌｧｲﾙを削除してもよろしいですか?"};
@@ -49,9 +53,11 @@ constexpr TextPair ReplaceOther = {
     L"このﾌｫﾙﾀﾞには既に %s というﾌｧｲﾙが存在します。現在あるﾌｧｲﾙを、新しいﾌｧｲﾙで上書きしますか?"};
 
 constexpr TextPair ReplaceFolder = {
-    L"This folder already contains a folder called '%s'.\n\nIf the files in the existing folder have the same "
+    L"This folder already contains a folder called '%s'.\n\nIf the files in the existing folder have the "
+    L"same "
     L"name as files in the folder you are moving, do you want to replace the existing files?",
-    L"このﾌｫﾙﾀﾞにはすでに'%s'というﾌｫﾙﾀﾞが存在します。\n\n現在のﾌｫﾙﾀﾞのﾌｧｲﾙと新しいﾌｫﾙﾀﾞのﾌｧｲﾙが同じ名前の場合、"
+    L"このﾌｫﾙﾀﾞにはすでに'%s'"
+    L"というﾌｫﾙﾀﾞが存在します。\n\n現在のﾌｫﾙﾀﾞのﾌｧｲﾙと新しいﾌｫﾙﾀﾞのﾌｧｲﾙが同じ名前の場合、"
     L"新しいﾌｧｲﾙで上書きしますか?"};
 
 void SetText(HWND dialog, int id, const TextPair& text, const wchar_t* name) {
@@ -116,7 +122,8 @@ void FillFileDeleteText(HWND dialog, const void* filePath) {
 void FillFileReplaceText(HWND dialog, const void* replacePaths) {
     const auto& paths = *static_cast<const ReplacePaths*>(replacePaths);
     if (paths.existingFile != nullptr) {
-        SetText(dialog, STATIC_QUESTION, FileReplaceText(paths.existingFile), SplitPath(paths.existingFile).name);
+        SetText(dialog, STATIC_QUESTION, FileReplaceText(paths.existingFile),
+                SplitPath(paths.existingFile).name);
     }
     ShowFile(dialog, STATIC_EXISTING_DETAILS, STATIC_EXISTING_ICON, paths.existingFile);
     ShowFile(dialog, STATIC_NEW_DETAILS, STATIC_NEW_ICON, paths.newFile);

@@ -12,8 +12,9 @@
 
 namespace {
 
-// The handheld's own shortcuts are short texts; nothing longer is looked at as one.
-constexpr std::size_t LongestTextShortcut = 1024;
+// More than any caller has room for, so that what is cut here does not fit there either and is never taken for
+// a whole target.
+constexpr std::size_t LongestTextShortcut = 4096;
 
 // The library of objects for as long as one is used.
 class ObjectLibrary {

@@ -16,7 +16,7 @@ constexpr int SmallSize = 16;
 constexpr int FixedIcons[] = {ICON_DOCUMENT, ICON_APPLICATION, ICON_FOLDER, ICON_SHORTCUT_MARK};
 constexpr int ShortcutOverlay = 1;
 
-// Owns a list of images.
+// Owns a list of images. The desktop's lists hold 16 colours unless they are asked for more.
 class ImageList {
   public:
     explicit ImageList(int imageSize)

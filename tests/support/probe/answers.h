@@ -27,7 +27,6 @@ void SetPicker(int page, int id, int yearMonthDay);
 // Windows at large.
 void AnswerFocus(AnswerWriter& writer);
 void AnswerDialogs(AnswerWriter& writer);
-void AnswerWindows(AnswerWriter& writer);
 void FocusControl(int page, int id);
 void Repaint();
 

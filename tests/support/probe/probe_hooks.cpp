@@ -52,9 +52,6 @@ void Answer(Exchange& exchange) {
         case Question::Dialogs:
             AnswerDialogs(writer);
             break;
-        case Question::Windows:
-            AnswerWindows(writer);
-            break;
         case Question::SetPicker:
             SetPicker(numbers[0], numbers[1], numbers[2]);
             break;

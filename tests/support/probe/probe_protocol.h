@@ -33,7 +33,6 @@ enum class Question : DWORD {
     Spin,       // numbers: page, id -> lower, upper, position word, error word
     Focus,      // a record a window from the focus up to the top: class, id
     Dialogs,    // a record a dialog of the program's thread: caption, texts of its controls by id
-    Windows,    // a record a visible child window: class, id, text, rectangle in the main window
     SetPicker,  // numbers: page, id, yyyymmdd -> nothing
     SetFocus,   // numbers: page, id -> nothing
     SelectRow,  // numbers: row, 1 to select or 0 to deselect -> nothing

@@ -30,20 +30,6 @@ BOOL CALLBACK WriteDialog(HWND window, LPARAM parameter) {
     return TRUE;
 }
 
-BOOL CALLBACK WriteVisibleChild(HWND window, LPARAM parameter) {
-    if (!IsWindowVisible(window)) return TRUE;
-    auto& writer = *reinterpret_cast<AnswerWriter*>(parameter);
-    wchar_t name[TextCapacity] = L"";
-    wchar_t text[TextCapacity] = L"";
-    GetClassNameW(window, name, TextCapacity);
-    SendMessageW(window, WM_GETTEXT, TextCapacity, reinterpret_cast<LPARAM>(text));
-    RECT rectangle = {};
-    GetWindowRect(window, &rectangle);
-    MapWindowPoints(HWND_DESKTOP, MainWindow(), reinterpret_cast<POINT*>(&rectangle), 2);
-    writer.Text(name).Number(GetDlgCtrlID(window)).Text(text).Rectangle(rectangle).End();
-    return TRUE;
-}
-
 }  // namespace
 
 void AnswerFocus(AnswerWriter& writer) {
@@ -59,10 +45,6 @@ void AnswerFocus(AnswerWriter& writer) {
 
 void AnswerDialogs(AnswerWriter& writer) {
     EnumThreadWindows(GetCurrentThreadId(), WriteDialog, reinterpret_cast<LPARAM>(&writer));
-}
-
-void AnswerWindows(AnswerWriter& writer) {
-    EnumChildWindows(MainWindow(), WriteVisibleChild, reinterpret_cast<LPARAM>(&writer));
 }
 
 void Repaint() {
