@@ -1,7 +1,8 @@
 #pragma once
 
-// The file-system calls that change something, with every failure put into the program's own words. Each shows
-// exactly one box, owned by the given window, when the call fails, and answers false; nothing is retried.
+// The file-system calls that change something, with every failure put into the program's own words. Each
+// shows exactly one box, owned by the given window, when the call fails, and answers false; nothing is
+// retried.
 
 #include "platform/system_types.h"
 

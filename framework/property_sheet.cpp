@@ -53,12 +53,10 @@ INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPA
     const WindowMap* map = Application::Windows();
     auto* object = map != nullptr ? static_cast<PropertySheetPage*>(map->Find(window)) : nullptr;
     if (object == nullptr) return 0;
-    if (message == WM_DESTROY) {
-        object->Detach();
-        return 0;
-    }
     MessageRecord record{message, wParam, lParam, 0, 0};
-    return object->Dispatch(record);
+    const INT_PTR result = object->Dispatch(record);
+    if (message == WM_DESTROY) object->Detach();
+    return result;
 }
 
 // A page has neither a bar nor a place of its own.

@@ -30,8 +30,8 @@ class ImageList {
     void LoadFixedIcons() {
         ImageList_Remove(handle, -1);
         for (const int id : FixedIcons) {
-            const auto icon = static_cast<HICON>(
-                LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+            const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id),
+                                                            IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
             Take(icon);
         }
         ImageList_SetOverlayImage(handle, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
@@ -76,7 +76,8 @@ IconKey KeyOf(const wchar_t* path, const FileTypeTable* types) {
         key.fallback = FileIconCache::ApplicationImage;
     } else if (EndsIn(key.text, L".ic2") || EndsIn(key.text, L".ico")) {
         key.kind = FileIconCache::IconFiles;
-    } else if (const wchar_t* typeKey = types != nullptr ? types->TypeKeyOf(path) : L""; typeKey[0] != L'\0') {
+    } else if (const wchar_t* typeKey = types != nullptr ? types->TypeKeyOf(path) : L"";
+               typeKey[0] != L'\0') {
         key.text = typeKey;
         key.kind = FileIconCache::RegisteredTypes;
     }
@@ -127,8 +128,14 @@ int FileIconCache::ImageOf(const wchar_t* path, DWORD attributes, unsigned kinds
     return index;
 }
 
-HIMAGELIST FileIconCache::LargeImages() const { return shared != nullptr ? shared->large.Handle() : nullptr; }
+HIMAGELIST FileIconCache::LargeImages() const {
+    return shared != nullptr ? shared->large.Handle() : nullptr;
+}
 
-HIMAGELIST FileIconCache::SmallImages() const { return shared != nullptr ? shared->small.Handle() : nullptr; }
+HIMAGELIST FileIconCache::SmallImages() const {
+    return shared != nullptr ? shared->small.Handle() : nullptr;
+}
 
-const FileTypeTable* FileIconCache::Types() const { return shared != nullptr ? &shared->types : nullptr; }
+const FileTypeTable* FileIconCache::Types() const {
+    return shared != nullptr ? &shared->types : nullptr;
+}

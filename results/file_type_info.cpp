@@ -25,8 +25,9 @@ bool ReadDefault(const std::wstring& path, std::wstring& text) {
 void SplitIconLocation(const std::wstring& location, FileTypeInfo& info) {
     const std::size_t comma = location.rfind(L',');
     info.iconFile = location.substr(0, comma);
-    info.iconNumber =
-        comma != std::wstring::npos ? static_cast<int>(std::wcstol(location.c_str() + comma + 1, nullptr, 10)) : 0;
+    info.iconNumber = comma != std::wstring::npos
+                          ? static_cast<int>(std::wcstol(location.c_str() + comma + 1, nullptr, 10))
+                          : 0;
 }
 
 FileTypeInfo ReadFileTypeInfo(const wchar_t* extension) {

@@ -17,5 +17,6 @@ struct FileTypeInfo {
 // and leaves what was read so far; nothing at all is recorded for an extension without a key.
 [[nodiscard]] FileTypeInfo ReadFileTypeInfo(const wchar_t* extension);
 
-// Cuts "file,number" at the last comma into the file and the number; without a comma it is all file, number 0.
+// Cuts "file,number" at the last comma into the file and the number; without a comma it is all file, number
+// 0.
 void SplitIconLocation(const std::wstring& location, FileTypeInfo& info);

@@ -66,9 +66,13 @@ void FileTypeTable::AddExtension(Shared& table, const wchar_t* extension) {
     table.records.push_back(std::move(info));
 }
 
-int FileTypeTable::Count() const { return shared != nullptr ? static_cast<int>(shared->records.size()) : 0; }
+int FileTypeTable::Count() const {
+    return shared != nullptr ? static_cast<int>(shared->records.size()) : 0;
+}
 
-const FileTypeInfo& FileTypeTable::At(int index) const { return *shared->records[static_cast<std::size_t>(index)]; }
+const FileTypeInfo& FileTypeTable::At(int index) const {
+    return *shared->records[static_cast<std::size_t>(index)];
+}
 
 const wchar_t* FileTypeTable::TypeKeyOf(const wchar_t* path) const {
     const wchar_t* dot = std::wcsrchr(path, L'.');

@@ -77,7 +77,13 @@ void GeneralPage::ShowLocation() {
 }
 
 void GeneralPage::HideFileControls() {
-    for (const int id : FileOnlyItems) ShowWindow(DialogItem(*this, id), SW_HIDE);
+    for (const int id : FileOnlyItems)
+        ShowWindow(DialogItem(*this, id), SW_HIDE);
+}
+
+LRESULT GeneralPage::OnWmDestroy(MessageRecord& record) {
+    FreeIcon(Handle());
+    return PropertySheetPage::OnWmDestroy(record);
 }
 
 LRESULT GeneralPage::OnApplyChanges(EventArguments&) {

@@ -13,6 +13,7 @@ class GeneralPage : public PropertySheetPage {
 
   protected:
     void SetUpControls() override;
+    LRESULT OnWmDestroy(MessageRecord& record) override;
 
   private:
     LRESULT OnApplyChanges(EventArguments& arguments);

@@ -8,8 +8,11 @@
 // A set that names the page's template.
 [[nodiscard]] PropertySet NamedPage(const wchar_t* templateName);
 
-// Puts the icon into the page's icon static, which frees it with the page. Null leaves the static empty.
+// Puts the icon into the page's icon static. Null leaves the static empty.
 void ShowIcon(HWND page, HICON icon);
+
+// Frees what ShowIcon put there, at the end of the page: a static does not.
+void FreeIcon(HWND page);
 
 // The directory record of the path itself; false when nothing is found.
 [[nodiscard]] bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data);

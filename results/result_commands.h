@@ -7,7 +7,8 @@
 class ResultCommands {
   public:
     // Both outlive this object; the owner's window owns the questions and messages.
-    ResultCommands(WindowObject& ownerObject, ResultList& resultList) : owner(ownerObject), list(resultList) {}
+    ResultCommands(WindowObject& ownerObject, ResultList& resultList)
+        : owner(ownerObject), list(resultList) {}
 
     // Starts the file or what a shortcut points to. A folder, and a shortcut to one, is not opened.
     void Open();

@@ -22,8 +22,8 @@ struct ColumnDescription {
 };
 
 constexpr ColumnDescription Columns[ResultColumnCount] = {
-    {L"Name", L"名前", 100, LVCFMT_LEFT},     {L"Folder", L"ﾌｫﾙﾀﾞ名", 140, LVCFMT_LEFT},
-    {L"Size", L"ｻｲｽﾞ", 40, LVCFMT_RIGHT},      {L"Type", L"種類", 74, LVCFMT_LEFT},
+    {L"Name", L"名前", 100, LVCFMT_LEFT},         {L"Folder", L"ﾌｫﾙﾀﾞ名", 140, LVCFMT_LEFT},
+    {L"Size", L"ｻｲｽﾞ", 40, LVCFMT_RIGHT},         {L"Type", L"種類", 74, LVCFMT_LEFT},
     {L"Modified", L"更新日時", 104, LVCFMT_LEFT},
 };
 
@@ -35,8 +35,8 @@ constexpr ULONGLONG RefreshCostFactor = 10;
 
 // The image lists are the cache's, not the control's to destroy.
 PropertySet& WithListStyle(PropertySet& properties) {
-    properties.Add(property::Style,
-                   LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE | LVS_EDITLABELS | LVS_SHAREIMAGELISTS | WS_TABSTOP);
+    properties.Add(property::Style, LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE | LVS_EDITLABELS |
+                                        LVS_SHAREIMAGELISTS | WS_TABSTOP);
     return properties;
 }
 
@@ -59,7 +59,8 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
 void ResultList::AttachImages() {
     if (iconCache == nullptr) return;
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(iconCache->SmallImages()));
-    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(iconCache->LargeImages()));
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL,
+                 reinterpret_cast<LPARAM>(iconCache->LargeImages()));
 }
 
 void ResultList::InsertColumns() {
@@ -102,7 +103,8 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
     item.iImage = iconCache != nullptr
                       ? iconCache->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
                       : FileIconCache::DocumentImage;
-    const auto row = static_cast<int>(SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    const auto row =
+        static_cast<int>(SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 
     wchar_t folder[MAX_PATH];
     FolderOfResult(fullPath, folder);
@@ -140,7 +142,9 @@ void ResultList::ShowPending() {
     nextRefresh = end + (pause > RefreshInterval ? pause : RefreshInterval);
 }
 
-int ResultList::RowCount() const { return static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0)); }
+int ResultList::RowCount() const {
+    return static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0));
+}
 
 void ResultList::SetCell(int row, ResultColumn column, const wchar_t* text) {
     LVITEMW item{};
@@ -163,7 +167,9 @@ int ResultList::SelectedRow() const {
         SendMessageW(Handle(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_SELECTED, 0)));
 }
 
-void ResultList::DeleteRow(int row) { SendMessageW(Handle(), LVM_DELETEITEM, static_cast<WPARAM>(row), 0); }
+void ResultList::DeleteRow(int row) {
+    SendMessageW(Handle(), LVM_DELETEITEM, static_cast<WPARAM>(row), 0);
+}
 
 int ResultList::SelectedPath(wchar_t (&path)[MAX_PATH]) const {
     const int row = SelectedRow();
@@ -191,7 +197,8 @@ int ResultList::SelectedCount() const {
 
 void ResultList::SetView(DWORD view) {
     const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
-    SetWindowLongPtrW(Handle(), GWL_STYLE, (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
+    SetWindowLongPtrW(Handle(), GWL_STYLE,
+                      (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
 }
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {

@@ -67,5 +67,6 @@ int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM parameter) {
 void SortRows(HWND list, int column, bool ascending) {
     SortRequest request{column, ascending, {}};
     if (column >= 0) ReadKeys(list, request);
-    SendMessageW(list, LVM_SORTITEMS, reinterpret_cast<WPARAM>(&request), reinterpret_cast<LPARAM>(&CompareRows));
+    SendMessageW(list, LVM_SORTITEMS, reinterpret_cast<WPARAM>(&request),
+                 reinterpret_cast<LPARAM>(&CompareRows));
 }

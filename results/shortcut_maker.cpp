@@ -31,7 +31,8 @@ const wchar_t* NameFormat(ShortcutForm form) {
 }
 
 // The first free path: Notes.lnk, Notes (2).lnk, Notes (3).lnk, and so on. False when it does not fit.
-bool FindFreePath(const wchar_t* displayName, const wchar_t* folder, ShortcutForm form, wchar_t (&path)[MAX_PATH]) {
+bool FindFreePath(const wchar_t* displayName, const wchar_t* folder, ShortcutForm form,
+                  wchar_t (&path)[MAX_PATH]) {
     wchar_t suffix[16] = L"";
     for (int counter = 2;; ++counter) {
         wchar_t name[2 * MAX_PATH];

@@ -45,7 +45,8 @@ void ShortcutPage::ShowTarget(const wchar_t* target) {
     WIN32_FIND_DATAW data{};
     if (!FindFile(target, data)) return;
     if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        for (const int id : FileOnlyItems) ShowWindow(DialogItem(*this, id), SW_HIDE);
+        for (const int id : FileOnlyItems)
+            ShowWindow(DialogItem(*this, id), SW_HIDE);
         return;
     }
     wchar_t text[FileDetailsCapacity];
@@ -58,6 +59,11 @@ void ShortcutPage::ShowTarget(const wchar_t* target) {
     SetDlgItemTextW(Handle(), STATIC_TARGET_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_TARGET_MODIFIED, text);
+}
+
+LRESULT ShortcutPage::OnWmDestroy(MessageRecord& record) {
+    FreeIcon(Handle());
+    return PropertySheetPage::OnWmDestroy(record);
 }
 
 // The shortcut is written anew on every apply, edited or not, and the text as it was typed.

@@ -6,10 +6,13 @@ namespace {
 
 constexpr std::size_t ShortestShortcut = 5;
 
-bool IsBlank(wchar_t unit) { return unit == L' ' || unit == L'\t'; }
+bool IsBlank(wchar_t unit) {
+    return unit == L' ' || unit == L'\t';
+}
 
 const wchar_t* SkipBlanks(const wchar_t* text) {
-    while (IsBlank(*text)) ++text;
+    while (IsBlank(*text))
+        ++text;
     return text;
 }
 

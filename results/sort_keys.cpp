@@ -20,6 +20,10 @@ std::int32_t ParseShownSize(const wchar_t* text) {
     return ShiftLeft(number, *unit == L'K' ? KilobyteShift : MegabyteShift);
 }
 
-int CompareSizes(std::int32_t first, std::int32_t second) { return first > second ? 1 : first < second ? -1 : 0; }
+int CompareSizes(std::int32_t first, std::int32_t second) {
+    return first > second ? 1 : first < second ? -1 : 0;
+}
 
-int CompareTexts(const wchar_t* first, const wchar_t* second) { return _wcsicmp(first, second); }
+int CompareTexts(const wchar_t* first, const wchar_t* second) {
+    return _wcsicmp(first, second);
+}

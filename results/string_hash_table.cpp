@@ -43,6 +43,7 @@ std::uintptr_t StringHashTable::Lookup(const wchar_t* key) const {
 
 std::size_t StringHashTable::BucketOf(const wchar_t* key, std::size_t bucketCount) {
     std::size_t sum = 0;
-    for (; *key != L'\0'; ++key) sum += static_cast<std::uint16_t>(*key) % bucketCount;
+    for (; *key != L'\0'; ++key)
+        sum += static_cast<std::uint16_t>(*key) % bucketCount;
     return sum % bucketCount;
 }

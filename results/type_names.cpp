@@ -5,8 +5,8 @@
 #include "platform/windows_ce.h"
 #include "results/file_type_table.h"
 
-// Files of one registered type, or else of one extension, share a name; a file without an extension has the empty
-// key. No extension holds a separator, so the other keys are none of an extension's.
+// Files of one registered type, or else of one extension, share a name; a file without an extension has the
+// empty key. No extension holds a separator, so the other keys are none of an extension's.
 std::wstring TypeNames::KeyOf(const wchar_t* fullPath, DWORD attributes) const {
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return L"\\";
     const wchar_t* name = std::wcsrchr(fullPath, L'\\');

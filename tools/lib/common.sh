@@ -71,6 +71,16 @@ end_process() {
 
 lockDepth=0
 
+# end_tree PID: asks a process and all that it started to end.
+end_tree() {
+    local child children
+    children=$(cat "/proc/$1/task/$1/children" 2>/dev/null || true)
+    kill "$1" 2>/dev/null || true
+    for child in $children; do
+        end_tree "$child"
+    done
+}
+
 # with_lock NAME SECONDS COMMAND WORD...: one at a time in this source tree; fails when it waits too long. What
 # the command starts does not inherit the lock, so that a left-over process cannot keep it.
 with_lock() {

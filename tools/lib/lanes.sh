@@ -114,6 +114,7 @@ run_world() (
 
 # run_lane NAME: a language's worlds, or the scripts. Status 1 when a world could not be opened.
 run_lane() {
+    arm_cleanups
     if [[ $1 == scripts ]]; then
         run_script_tests
         return
@@ -124,15 +125,11 @@ run_lane() {
 
 declare -A lanes=()
 
-# end_lanes: for a run that is broken off. A lane listens when its current program has ended.
+# end_lanes: for a run that is broken off.
 end_lanes() {
-    local lane screen
+    local lane
     for lane in "${!lanes[@]}"; do
-        kill "${lanes[$lane]}" 2>/dev/null || true
-        for screen in 240x320 640x240; do
-            [[ ! -d $prefixDir/test-$lane-$screen ]] ||
-                WINEPREFIX=$prefixDir/test-$lane-$screen timeout 10 "$wineServer" -k >/dev/null 2>&1 || true
-        done
+        end_tree "${lanes[$lane]}"
         wait "${lanes[$lane]}" 2>/dev/null || true
     done
 }

@@ -58,10 +58,10 @@ tour_steps() {
 
 # take_tour DEVICE LANGUAGE SCREEN: prints the rows found, one per line, on standard output.
 take_tour() {
-    local world=$prefixDir/tour-$$
+    local world=$prefixDir/tour
     rm -f "$tourDir"/*.png "$tourDir/rows.txt"
     mkdir -p "$tourDir"
-    at_exit rm -rf "$world"
+    at_exit rm -rf "$world" "$world.unfinished"
     make_world "$world" "$2" "$3"
     map_drives "$world" "$1"
     wine_environment "$world" "$2"
