@@ -28,11 +28,11 @@ struct FakeSystem {
     bool hasShell = false;
     bool shellHasInputPanel = false;
     bool hasConversionLibrary = false;
-    bool libraryHasExports = true;
+    bool conversionHasExports = true;
     int shellLoads = 0;
     int shellFrees = 0;
-    int libraryLoads = 0;
-    int libraryFrees = 0;
+    int conversionLoads = 0;
+    int conversionFrees = 0;
 };
 FakeSystem fake;
 
@@ -52,13 +52,13 @@ HMODULE LoadFake(const wchar_t* name) {
         return fake.hasShell ? Shell : nullptr;
     }
     EXPECT_EQ(std::wstring(name), L"TKCONV.DLL");
-    fake.libraryLoads += fake.hasConversionLibrary;
+    fake.conversionLoads += fake.hasConversionLibrary;
     return fake.hasConversionLibrary ? Library : nullptr;
 }
 
 BOOL FreeFake(HMODULE module) {
     EXPECT_TRUE(module == Shell || module == Library);
-    ++(module == Shell ? fake.shellFrees : fake.libraryFrees);
+    ++(module == Shell ? fake.shellFrees : fake.conversionFrees);
     return TRUE;
 }
 
@@ -66,7 +66,7 @@ FARPROC FindFake(HMODULE module, const wchar_t* name) {
     const std::wstring wanted = name;
     if (module == Shell)
         return fake.shellHasInputPanel && wanted == L"SHSipInfo" ? FARPROC(&HiraganaA) : nullptr;
-    if (!fake.libraryHasExports) return nullptr;
+    if (!fake.conversionHasExports) return nullptr;
     if (wanted == L"unicode2sjis") return FARPROC(&HiraganaA);
     if (wanted == L"sjis2unicode") return FARPROC(&HiraganaAFrom);
     return nullptr;
@@ -194,7 +194,7 @@ TEST_F(LanguageDecision, a_japanese_system_speaks_japanese_and_converts_by_its_c
     Decide();
     ExpectLanguage(UiLanguage::Japanese);
     ExpectPair(&SystemToMultiByte, &SystemToWide, false);
-    EXPECT_EQ(fake.libraryLoads, 0);
+    EXPECT_EQ(fake.conversionLoads, 0);
 }
 
 TEST_F(LanguageDecision, only_the_primary_language_counts) {
@@ -229,7 +229,7 @@ TEST_F(LanguageDecision, without_the_library_the_low_bytes_are_all_there_is) {
 
 TEST_F(LanguageDecision, a_library_without_exports_converts_like_none) {
     fake.hasConversionLibrary = true;
-    fake.libraryHasExports = false;
+    fake.conversionHasExports = false;
     Decide();
     EXPECT_TRUE(globals.codeConversionAvailable);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x42");
@@ -253,7 +253,7 @@ TEST_F(LanguageDecision, a_japanese_system_that_is_swapped_speaks_english_and_ke
     Decide();
     ExpectLanguage(UiLanguage::English);
     ExpectPair(&SystemToMultiByte, &SystemToWide, false);
-    EXPECT_EQ(fake.libraryLoads, 0);
+    EXPECT_EQ(fake.conversionLoads, 0);
 }
 
 TEST_F(LanguageDecision, any_number_but_0_swaps) {
@@ -305,7 +305,7 @@ TEST_F(LanguageDecision, a_library_that_is_loaded_already_is_not_loaded_again) {
     fake.hasConversionLibrary = true;
     Decide();
     Decide();
-    EXPECT_EQ(fake.libraryLoads, 1);
+    EXPECT_EQ(fake.conversionLoads, 1);
     EXPECT_TRUE(globals.codeConversionAvailable);
 }
 
@@ -314,12 +314,12 @@ TEST_F(LanguageDecision, the_library_is_freed_once_at_the_end) {
     Decide();
     ReleaseConversionLibrary(globals);
     ReleaseConversionLibrary(globals);
-    EXPECT_EQ(fake.libraryFrees, 1);
+    EXPECT_EQ(fake.conversionFrees, 1);
     EXPECT_EQ(globals.conversionLibrary, nullptr);
 }
 
 TEST_F(LanguageDecision, without_the_library_there_is_nothing_to_free) {
     Decide();
     ReleaseConversionLibrary(globals);
-    EXPECT_EQ(fake.libraryFrees, 0);
+    EXPECT_EQ(fake.conversionFrees, 0);
 }
