@@ -1,7 +1,5 @@
 #include "conditions/condition_page.h"
 
-#include "framework/property_keys.h"
-
 LRESULT ConditionPage::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
     SetUpControls();
@@ -15,10 +13,4 @@ LRESULT ConditionPage::SendToItem(int id, UINT message, WPARAM wParam, LPARAM lP
 
 bool ConditionPage::IsChecked(int id) const {
     return SendToItem(id, BM_GETCHECK) != 0;
-}
-
-PropertySet TemplateProperties(const wchar_t* templateName) {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, templateName);
-    return properties;
 }

@@ -4,6 +4,7 @@
 
 #include "framework/control.h"
 #include "framework/dialog.h"
+#include "framework/dialog_template.h"
 
 class ConditionPage : public Dialog {
   public:
@@ -25,6 +26,3 @@ class ConditionPage : public Dialog {
     LRESULT SendToItem(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     [[nodiscard]] bool IsChecked(int id) const;
 };
-
-// A set that holds just the name of a template.
-[[nodiscard]] PropertySet TemplateProperties(const wchar_t* templateName);

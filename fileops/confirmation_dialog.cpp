@@ -2,7 +2,7 @@
 
 #include "app/language.h"
 #include "framework/dialog_fit.h"
-#include "framework/property_keys.h"
+#include "framework/dialog_template.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -10,12 +10,6 @@ namespace {
 constexpr UINT Answers[] = {1, 3, 4, 5, 6, 7, 20};
 
 constexpr int FileIconStatics[] = {STATIC_EXISTING_ICON, STATIC_NEW_ICON};
-
-PropertySet NamedTemplate(const wchar_t* name) {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, name);
-    return properties;
-}
 
 HICON IconIn(HWND dialog, int id) {
     return reinterpret_cast<HICON>(SendDlgItemMessageW(dialog, id, STM_GETIMAGE, IMAGE_ICON, 0));
@@ -41,7 +35,7 @@ const wchar_t* MultipleFileReplaceTemplate() {
 
 ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const wchar_t* name, QuestionRoutine fillRoutine,
                                        const void* fillArgument)
-    : Dialog(owner, NamedTemplate(name)), fill(fillRoutine), argument(fillArgument) {
+    : Dialog(owner, TemplateProperties(name)), fill(fillRoutine), argument(fillArgument) {
     OnInitialise(this, &ConfirmationDialog::OnFill);
     for (const UINT answer : Answers)
         OnCommand(answer, this, &ConfirmationDialog::OnAnswer, answer);

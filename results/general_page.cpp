@@ -6,6 +6,7 @@
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
 #include "framework/control.h"
+#include "framework/dialog_template.h"
 #include "platform/root_name.h"
 #include "resources/resource_ids.h"
 #include "results/page_items.h"
@@ -35,7 +36,7 @@ constexpr int FileOnlyItems[] = {LABEL_SIZE,    LABEL_MODIFIED, LABEL_ATTRIBUTES
 
 GeneralPage::GeneralPage(WindowObject* parentObject)
     : PropertySheetPage(parentObject, InLanguage(L"General", L"全般"),
-                        NamedPage(InLanguage(L"EFilePropGeneralPage_E", L"EFilePropGeneralPage_J"))) {
+                        TemplateProperties(InLanguage(L"EFilePropGeneralPage_E", L"EFilePropGeneralPage_J"))) {
     OnApply(this, &GeneralPage::OnApplyChanges);
 }
 

@@ -1,13 +1,6 @@
 #include "results/page_items.h"
 
-#include "framework/property_keys.h"
 #include "resources/resource_ids.h"
-
-PropertySet NamedPage(const wchar_t* templateName) {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, templateName);
-    return properties;
-}
 
 void ShowIcon(HWND page, HICON icon) {
     SendDlgItemMessageW(page, STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));

@@ -2,11 +2,7 @@
 
 // What the pages of the properties sheet share.
 
-#include "framework/property_set.h"
 #include "platform/windows_ce.h"
-
-// A set that names the page's template.
-[[nodiscard]] PropertySet NamedPage(const wchar_t* templateName);
 
 // Puts the icon into the page's icon static. Null leaves the static empty.
 void ShowIcon(HWND page, HICON icon);

@@ -5,6 +5,7 @@
 #include "app/language.h"
 #include "fileops/file_facts.h"
 #include "framework/control.h"
+#include "framework/dialog_template.h"
 #include "platform/format_text.h"
 #include "resources/resource_ids.h"
 #include "results/page_items.h"
@@ -22,7 +23,7 @@ constexpr int FileOnlyItems[] = {LABEL_TARGET_SIZE, LABEL_TARGET_MODIFIED, STATI
 
 ShortcutPage::ShortcutPage(WindowObject* parentObject)
     : PropertySheetPage(parentObject, InLanguage(L"Shortcut", L"ｼｮｰﾄｶｯﾄ"),
-                        NamedPage(InLanguage(L"EFilePropShortcutPage_E", L"EFilePropShortcutPage_J"))) {
+                        TemplateProperties(InLanguage(L"EFilePropShortcutPage_E", L"EFilePropShortcutPage_J"))) {
     OnApply(this, &ShortcutPage::OnApplyChanges);
 }
 
