@@ -1,74 +1,170 @@
 #include "search/walk_folder.h"
 
-#include "platform/windows_ce.h"
+#include <cwchar>
+
+#include "platform/name_wildcard.h"
+#include "search/folder_entries.h"
+#include "search/held_entry.h"
 #include "search/join_path.h"
 #include "search/skipped_names.h"
 #include "search/test_entry.h"
 
+// The results come pattern by pattern, then sub-folder by sub-folder, but opening a listing costs as much as
+// 50 to 65 entries: so a folder is listed once. The matches of the first pattern are tested as they come;
+// what the other patterns and the sub-folders need of the listing is kept until their turn.
+
 namespace {
 
-// One enumeration of a folder, closed at the end of its life.
-class Enumeration {
-  public:
-    Enumeration(const wchar_t* folder, const wchar_t* pattern) {
-        wchar_t path[MAX_PATH];
-        if (JoinPath(path, folder, pattern)) handle = ce::FindFirstFileW(path, &data);
-    }
-    Enumeration(const Enumeration&) = delete;
-    Enumeration& operator=(const Enumeration&) = delete;
-    ~Enumeration() {
-        if (HasEntry()) ce::FindClose(handle);
-    }
-
-    [[nodiscard]] bool HasEntry() const { return handle != INVALID_HANDLE_VALUE; }
-    [[nodiscard]] const WIN32_FIND_DATAW& Entry() const { return data; }
-    [[nodiscard]] bool MoveOn() { return ce::FindNextFileW(handle, &data) != FALSE; }
-
-  private:
-    HANDLE handle = INVALID_HANDLE_VALUE;
-    WIN32_FIND_DATAW data;
+// What one listing leaves for afterwards, each in the order of the listing.
+struct KeptEntries {
+    // HeldEntries: what matches a pattern behind the first.
+    ObjectList laterMatches;
+    // StringObjects: the names of the folders to enter.
+    ObjectList subFolders;
+    // False when the memory gave out: the folder then has to be listed again.
+    bool laterMatchesComplete = true;
+    bool subFoldersComplete = true;
 };
 
-// Tests what matches one pattern. False when the stop was seen before an entry: the folder is then done with.
-bool TestMatchesOf(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern) {
-    Enumeration enumeration(folder, pattern);
+bool AppendOrDelete(ObjectList& list, ListObject* item) {
+    if (item != nullptr && list.Append(item)) return true;
+    delete item;
+    return false;
+}
+
+const wchar_t* TextOf(const ListObject* pattern) {
+    return static_cast<const StringObject*>(pattern)->Text();
+}
+
+// A pattern with a separator or a drive in it looks into another folder than the one that is walked.
+bool PatternsStayInFolder(ObjectList& patterns) {
+    for (const ListObject* item = patterns.First(); item != nullptr; item = patterns.Next()) {
+        if (std::wcspbrk(TextOf(item), L"\\/:") != nullptr) return false;
+    }
+    return true;
+}
+
+bool MatchesLaterPattern(ObjectList& patterns, const wchar_t* name) {
+    patterns.First();
+    while (const ListObject* const item = patterns.Next()) {
+        if (MatchesWildcard(name, TextOf(item))) return true;
+    }
+    return false;
+}
+
+// A link to a folder is an entry like any other, but what it leads to stands elsewhere.
+bool IsFolderToEnter(const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return false;
+    wchar_t path[MAX_PATH];
+    return JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry);
+}
+
+void Keep(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry, KeptEntries& kept) {
+    if (kept.laterMatchesComplete && MatchesLaterPattern(walk.patterns, entry.cFileName)) {
+        kept.laterMatchesComplete = AppendOrDelete(kept.laterMatches, HeldEntry::Create(entry));
+    }
+    if (kept.subFoldersComplete && walk.conditions.Has(SearchConditions::SubFolders) &&
+        IsFolderToEnter(folder, entry)) {
+        kept.subFoldersComplete = AppendOrDelete(kept.subFolders, StringObject::Create(entry.cFileName));
+    }
+}
+
+// The functions below that return a bool return false when the stop was seen: the folder is then done with.
+
+bool TestAndKeep(SearchWalk& walk, const wchar_t* folder, KeptEntries& kept) {
+    FolderEntries enumeration(folder, L"*");
+    if (!enumeration.HasEntry()) return true;
+    const ListObject* const first = walk.patterns.First();
+    do {
+        if (walk.PumpAndPollStop()) return false;
+        const WIN32_FIND_DATAW& entry = enumeration.Entry();
+        if (IsSkippedName(entry.cFileName)) continue;
+        Keep(walk, folder, entry, kept);
+        if (first == nullptr || !MatchesWildcard(entry.cFileName, TextOf(first))) continue;
+        if (!TestEntry(walk, folder, entry)) return false;
+    } while (enumeration.MoveOn());
+    return true;
+}
+
+bool TestKeptMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern, ObjectList& matches) {
+    WIN32_FIND_DATAW entry;
+    for (const ListObject* item = matches.First(); item != nullptr; item = matches.Next()) {
+        const auto* const held = static_cast<const HeldEntry*>(item);
+        if (!MatchesWildcard(held->Name(), pattern)) continue;
+        if (walk.PumpAndPollStop()) return false;
+        held->CopyTo(entry);
+        if (!TestEntry(walk, folder, entry)) return false;
+    }
+    return true;
+}
+
+bool TestListedMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern) {
+    FolderEntries enumeration(folder, pattern);
     if (!enumeration.HasEntry()) return true;
     do {
         if (walk.PumpAndPollStop()) return false;
         if (IsSkippedName(enumeration.Entry().cFileName)) continue;
-        // A stop seen here ends this enumeration only; the next one meets it again at its first entry.
-        if (!TestEntry(walk, folder, enumeration.Entry())) break;
+        if (!TestEntry(walk, folder, enumeration.Entry())) return false;
     } while (enumeration.MoveOn());
     return true;
 }
 
-bool TestEntries(SearchWalk& walk, const wchar_t* folder) {
-    for (const ListObject* item = walk.patterns.First(); item != nullptr; item = walk.patterns.Next()) {
-        if (!TestMatchesOf(walk, folder, static_cast<const StringObject*>(item)->Text())) return false;
+// The patterns from the list's cursor on; kept is null when their matches have to be listed.
+bool TestPatterns(SearchWalk& walk, const wchar_t* folder, const ListObject* pattern, ObjectList* kept) {
+    for (; pattern != nullptr; pattern = walk.patterns.Next()) {
+        const wchar_t* const text = TextOf(pattern);
+        if (!(kept != nullptr ? TestKeptMatches(walk, folder, text, *kept)
+                              : TestListedMatches(walk, folder, text))) {
+            return false;
+        }
     }
     return true;
 }
 
-void WalkSubFolders(SearchWalk& walk, const wchar_t* folder) {
-    Enumeration enumeration(folder, L"*");
-    if (!enumeration.HasEntry()) return;
+void WalkSubFolder(SearchWalk& walk, const wchar_t* folder, const wchar_t* name) {
     wchar_t subFolder[MAX_PATH];
+    if (JoinPath(subFolder, folder, name)) WalkFolder(walk, subFolder);
+}
+
+void WalkKeptSubFolders(SearchWalk& walk, const wchar_t* folder, ObjectList& names) {
+    for (const ListObject* item = names.First(); item != nullptr; item = names.Next()) {
+        if (walk.PumpAndPollStop()) return;
+        WalkSubFolder(walk, folder, TextOf(item));
+    }
+}
+
+void WalkListedSubFolders(SearchWalk& walk, const wchar_t* folder) {
+    FolderEntries enumeration(folder, L"*");
+    if (!enumeration.HasEntry()) return;
     do {
         if (walk.PumpAndPollStop()) return;
         const WIN32_FIND_DATAW& entry = enumeration.Entry();
-        if (IsSkippedName(entry.cFileName)) continue;
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) continue;
-        if (!JoinPath(subFolder, folder, entry.cFileName)) continue;
-        // A link to a folder is an entry like any other, but what it leads to stands elsewhere.
-        if (ce::IsFolderLink(subFolder, entry)) continue;
-        WalkFolder(walk, subFolder);
+        if (IsSkippedName(entry.cFileName) || !IsFolderToEnter(folder, entry)) continue;
+        WalkSubFolder(walk, folder, entry.cFileName);
     } while (enumeration.MoveOn());
+}
+
+void WalkListedOnce(SearchWalk& walk, const wchar_t* folder) {
+    KeptEntries kept;
+    if (!TestAndKeep(walk, folder, kept)) return;
+    walk.patterns.First();
+    ObjectList* const laterMatches = kept.laterMatchesComplete ? &kept.laterMatches : nullptr;
+    if (!TestPatterns(walk, folder, walk.patterns.Next(), laterMatches)) return;
+    if (kept.subFoldersComplete) {
+        WalkKeptSubFolders(walk, folder, kept.subFolders);
+    } else {
+        WalkListedSubFolders(walk, folder);
+    }
 }
 
 }  // namespace
 
 void WalkFolder(SearchWalk& walk, const wchar_t* folder) {
     walk.progress.EnterFolder(folder);
-    if (!TestEntries(walk, folder)) return;
-    if (walk.conditions.Has(SearchConditions::SubFolders)) WalkSubFolders(walk, folder);
+    if (PatternsStayInFolder(walk.patterns)) {
+        WalkListedOnce(walk, folder);
+        return;
+    }
+    if (!TestPatterns(walk, folder, walk.patterns.First(), nullptr)) return;
+    if (walk.conditions.Has(SearchConditions::SubFolders)) WalkListedSubFolders(walk, folder);
 }

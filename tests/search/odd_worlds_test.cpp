@@ -83,22 +83,22 @@ TEST(OddWorlds, two_hundred_levels_of_folders_are_walked_as_far_as_paths_fit) {
         folder += L"\\d";
     tree.AddFolder(folder);
     const Texts paths = Search(Below(tree.Root()));
-    // Each level adds two units. The last folder that is listed leaves room for "\*.*" in 259 units, and what
+    // Each level adds two units. The last folder that is listed leaves room for "\*" in 259 units, and what
     // is found in it is two units longer.
-    const std::size_t fitting = (MAX_PATH - 1 - 4 - tree.Root().size()) / 2 + 1;
+    const std::size_t fitting = (MAX_PATH - 1 - 2 - tree.Root().size()) / 2 + 1;
     EXPECT_EQ(paths.size(), fitting);
     EXPECT_EQ(paths.back().size(), tree.Root().size() + 2 * fitting);
 }
 
 TEST(OddWorlds, a_folder_whose_pattern_no_longer_fits_is_passed_over) {
     FakeFolders folders;
-    // With the separator in front, 255 units: just enough room behind it for "\*.*" in 259.
-    const std::wstring first = L"\\" + std::wstring(254, L'f');
+    // With the separator in front, 257 units: just enough room behind it for "\*" in 259.
+    const std::wstring first = L"\\" + std::wstring(256, L'f');
     folders.AddFolder(L"\\", first.substr(1));
     folders.AddFolder(first, L"x");
     folders.AddFile(first + L"\\x", L"y");
     EXPECT_EQ(Search(Below(L"\\")), (Texts{first, first + L"\\x"}));
-    EXPECT_EQ(folders.listed, (Texts{L"\\*.*", L"\\*", first + L"\\*.*", first + L"\\*", first + L"\\x\\*"}));
+    EXPECT_EQ(folders.listed, (Texts{L"\\*", first + L"\\*"}));
 }
 
 TEST(OddWorlds, unreadable_folders_are_passed_over) {

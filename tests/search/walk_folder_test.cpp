@@ -42,7 +42,7 @@ TEST(WalkFolder, stays_in_the_folder_without_sub_folders) {
     WalkFolder(recorded.walk, L"\\one");
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\one\\b.txt", L"\\one\\deep"}));
     EXPECT_EQ(recorded.progress.folders, Texts{L"\\one"});
-    EXPECT_EQ(folders.listed, Texts{L"\\one\\*.*"});
+    EXPECT_EQ(folders.listed, Texts{L"\\one\\*"});
 }
 
 TEST(WalkFolder, goes_pattern_by_pattern_within_each_folder) {
@@ -106,7 +106,7 @@ TEST(WalkFolder, passes_over_a_missing_location_in_silence) {
     WalkFolder(recorded.walk, L"\\missing");
     EXPECT_EQ(recorded.sink.paths, Texts{});
     EXPECT_EQ(recorded.progress.folders, Texts{L"\\missing"});
-    EXPECT_EQ(folders.listed, (Texts{L"\\missing\\*.*", L"\\missing\\*"}));
+    EXPECT_EQ(folders.listed, Texts{L"\\missing\\*"});
 }
 
 TEST(WalkFolder, tries_every_pattern_also_after_one_that_matches_nothing) {
@@ -117,13 +117,56 @@ TEST(WalkFolder, tries_every_pattern_also_after_one_that_matches_nothing) {
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\z.htm"});
 }
 
-TEST(WalkFolder, asks_twice_for_an_entry_and_once_in_the_sub_folder_pass) {
+TEST(WalkFolder, lists_each_folder_once_whatever_the_number_of_patterns) {
+    FakeFolders folders;
+    AddTree(folders);
+    RecordedWalk recorded(SubFolders, {L"*.htm", L"*.txt", L"*.none"});
+    WalkFolder(recorded.walk, L"\\");
+    EXPECT_EQ(folders.listed, (Texts{L"\\*", L"\\one\\*", L"\\one\\deep\\*", L"\\two.txt\\*"}));
+}
+
+TEST(WalkFolder, lists_an_entry_once_for_every_pattern_that_it_matches) {
+    FakeFolders folders;
+    AddTree(folders);
+    RecordedWalk recorded(0, {L"*.txt", L"a*", L"*.*"});
+    WalkFolder(recorded.walk, L"\\");
+    EXPECT_EQ(recorded.sink.paths,
+              (Texts{L"\\a.txt", L"\\two.txt", L"\\a.txt", L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm"}));
+}
+
+TEST(WalkFolder, hands_a_match_of_a_later_pattern_over_with_its_whole_record) {
+    FakeFolders folders;
+    folders.AddFile(L"\\", L"a.txt", 77);
+    folders.SetWritten(L"\\", L"a.txt", FILETIME{5, 6});
+    RecordedWalk recorded(0, {L"*.htm", L"*.txt"});
+    WalkFolder(recorded.walk, L"\\");
+    ASSERT_EQ(recorded.sink.entries.size(), 1U);
+    const WIN32_FIND_DATAW& entry = recorded.sink.entries[0];
+    EXPECT_STREQ(entry.cFileName, L"a.txt");
+    EXPECT_EQ(entry.dwFileAttributes, static_cast<DWORD>(FILE_ATTRIBUTE_ARCHIVE));
+    EXPECT_EQ(entry.nFileSizeLow, 77U);
+    EXPECT_EQ(entry.ftLastWriteTime.dwLowDateTime, 5U);
+    EXPECT_EQ(entry.ftLastWriteTime.dwHighDateTime, 6U);
+}
+
+TEST(WalkFolder, looks_into_the_folder_that_a_pattern_with_a_separator_names) {
+    FakeFolders folders;
+    AddTree(folders);
+    RecordedWalk recorded(SubFolders, {L"one\\*.txt", L"*.htm"});
+    WalkFolder(recorded.walk, L"\\");
+    // The name is joined to the folder that is walked, as for every entry.
+    EXPECT_EQ(recorded.sink.paths, (Texts{L"\\b.txt", L"\\z.htm"}));
+    EXPECT_EQ(recorded.progress.folders, (Texts{L"\\", L"\\one", L"\\one\\deep", L"\\two.txt"}));
+}
+
+TEST(WalkFolder, asks_twice_for_a_match_and_once_for_another_entry_and_for_a_folder_to_enter) {
     FakeFolders folders;
     folders.AddFile(L"\\", L"a.txt");
-    folders.AddFile(L"\\", L"b.txt");
-    RecordedWalk recorded(SubFolders, {L"*.*"});
+    folders.AddFile(L"\\", L"b.htm");
+    folders.AddFolder(L"\\", L"c");
+    RecordedWalk recorded(SubFolders, {L"*.txt"});
     WalkFolder(recorded.walk, L"\\");
-    EXPECT_EQ(recorded.progress.asked, 2 * 2 + 2);
+    EXPECT_EQ(recorded.progress.asked, 2 + 1 + 1 + 1);
 }
 
 TEST(WalkFolder, leaves_the_folder_at_once_when_the_stop_is_seen_before_an_entry) {
@@ -134,28 +177,38 @@ TEST(WalkFolder, leaves_the_folder_at_once_when_the_stop_is_seen_before_an_entry
     recorded.progress.stopAtQuestion = 3;
     WalkFolder(recorded.walk, L"\\");
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\a.txt"});
-    EXPECT_EQ(folders.listed, Texts{L"\\*.*"});
     EXPECT_EQ(recorded.progress.asked, 3);
 }
 
-TEST(WalkFolder, ends_only_the_enumeration_when_the_stop_is_seen_in_the_test_of_an_entry) {
+TEST(WalkFolder, leaves_the_folder_at_once_when_the_stop_is_seen_in_the_test_of_an_entry) {
     FakeFolders folders;
     AddTree(folders);
     RecordedWalk recorded(SubFolders, {L"*.*", L"*.txt"});
-    // The second question for "one" is asked by its test; the next pattern then stops before its first entry.
+    // The second question for "one" is asked by its test.
     recorded.progress.stopAtQuestion = 4;
     WalkFolder(recorded.walk, L"\\");
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\a.txt"});
-    EXPECT_EQ(folders.listed, (Texts{L"\\*.*", L"\\*.txt"}));
+    EXPECT_EQ(recorded.progress.asked, 4);
+}
+
+TEST(WalkFolder, stops_among_the_matches_of_a_later_pattern) {
+    FakeFolders folders;
+    AddTree(folders);
+    RecordedWalk recorded(SubFolders, {L"*.htm", L"*.*"});
+    // One question for each of three entries, two for z.htm, two for a.txt; the next comes before "one".
+    recorded.progress.stopAtQuestion = 3 + 2 + 2 + 1;
+    WalkFolder(recorded.walk, L"\\");
+    EXPECT_EQ(recorded.sink.paths, (Texts{L"\\z.htm", L"\\a.txt"}));
+    EXPECT_EQ(recorded.progress.folders, Texts{L"\\"});
 }
 
 TEST(WalkFolder, enters_no_further_folder_after_a_stop_in_the_sub_folder_pass) {
     FakeFolders folders;
     AddTree(folders);
     RecordedWalk recorded(SubFolders, {L"*.*"});
-    // Eight questions for the root's entries, two in its sub-folder pass up to "one", four for the entries of
-    // "one", two in its sub-folder pass up to "deep"; the next is asked in "deep".
-    recorded.progress.stopAtQuestion = 8 + 2 + 4 + 2 + 1;
+    // Eight questions for the root's entries, one before "one", four for its entries, one before "deep"; the
+    // next is asked in "deep".
+    recorded.progress.stopAtQuestion = 8 + 1 + 4 + 1 + 1;
     WalkFolder(recorded.walk, L"\\");
     EXPECT_EQ(recorded.sink.paths,
               (Texts{L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm", L"\\one\\b.txt", L"\\one\\deep"}));
