@@ -1,14 +1,16 @@
 #include "search/byte_reader.h"
 
 // The room behind the page's start stays uninitialised on purpose.
-ByteReader::ByteReader()  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    : blockStart(room + (PageSize - reinterpret_cast<std::uintptr_t>(room) % PageSize)),
+ByteReader::ByteReader(ByteSource& byteSource)  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    : source(byteSource),
+      blockStart(room +
+                 (ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize)),
       position(blockStart),
       end(blockStart) {}
 
 int ByteReader::NextAfterBlock() {
     if (ended) return -1;
-    const std::size_t filled = Fill(blockStart, BlockSize);
+    const std::size_t filled = source.Fill(blockStart, ByteSource::BlockSize);
     position = blockStart;
     end = blockStart + filled;
     if (filled == 0) {
@@ -16,8 +18,4 @@ int ByteReader::NextAfterBlock() {
         return -1;
     }
     return *position++;
-}
-
-std::size_t FileByteReader::Fill(unsigned char* block, std::size_t size) {
-    return std::fread(block, 1, size, file);
 }

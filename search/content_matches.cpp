@@ -5,6 +5,7 @@
 #include "app/app_globals.h"
 #include "platform/windows_ce.h"
 #include "search/byte_reader.h"
+#include "search/content_prefilter.h"
 #include "search/find_bytes.h"
 #include "search/line_readers.h"
 
@@ -17,15 +18,29 @@ const char* ReadLine(const SearchConditions& conditions, ByteReader& reader) {
 }
 
 // A line counts up to its first NUL only, and a reader's none ends the file even where it has more.
-bool FileContains(std::FILE* file, const SearchConditions& conditions) {
+bool ALineContains(ByteSource& source, const SearchConditions& conditions) {
     const char* const pattern = conditions.contentPattern;
     const auto patternLength = static_cast<int>(std::strlen(pattern));
-    FileByteReader reader(file);
+    ByteReader reader(source);
     while (const char* const line = ReadLine(conditions, reader)) {
         const auto lineLength = static_cast<int>(std::strlen(line));
         if (FindBytes(line, lineLength, pattern, patternLength) != nullptr) return true;
     }
     return false;
+}
+
+bool FileContains(std::FILE* file, const SearchConditions& conditions) {
+    FileByteSource source(file);
+    const char* const pattern = conditions.contentPattern;
+    const std::size_t length = std::strlen(pattern);
+    const ContentVerdict verdict = JudgeContent(
+        source,
+        {pattern, length, conditions.Has(SearchConditions::IgnoreCase), Globals().codeConversionAvailable});
+    // The search of the lines would have found nothing, but it would have set up the table.
+    if (verdict == ContentVerdict::NoOccurrence) PrepareFindBytes(pattern, static_cast<int>(length));
+    if (verdict != ContentVerdict::MayOccur) return false;
+    std::rewind(file);
+    return ALineContains(source, conditions);
 }
 
 }  // namespace
@@ -35,7 +50,7 @@ bool ContentMatches(const SearchConditions& conditions, const wchar_t* fullPath,
     if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return false;
     std::FILE* const file = ce::OpenForReading(fullPath);
     if (file == nullptr) return false;
-    // The byte reader brings a buffer of its own.
+    // Blocks are read to buffers of their own.
     std::setvbuf(file, nullptr, _IONBF, 0);
     const bool contains = FileContains(file, conditions);
     std::fclose(file);

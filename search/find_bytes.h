@@ -6,3 +6,6 @@
 // pattern occurs nowhere. After a byte 0x80 to 0xFF that is not in the pattern, an entry left by an earlier
 // call of this or of FindWide may lead past an occurrence; that is deliberate.
 [[nodiscard]] const char* FindBytes(const char* text, int textLength, const char* pattern, int patternLength);
+
+// Leaves the shared table as every FindBytes of the pattern leaves it, whatever the text.
+void PrepareFindBytes(const char* pattern, int patternLength);

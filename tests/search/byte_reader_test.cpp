@@ -10,12 +10,11 @@
 namespace {
 
 // Notes what the reader passes to Fill.
-class FillWitness final : public ByteReader {
+class FillWitness final : public ByteSource {
   public:
     std::size_t size = 0;
     std::uintptr_t address = 0;
 
-  protected:
     std::size_t Fill(unsigned char* block, std::size_t blockSize) override {
         size = blockSize;
         address = reinterpret_cast<std::uintptr_t>(block);
@@ -76,13 +75,14 @@ TEST(ByteReader, short_blocks_do_not_end_it) {
 }
 
 TEST(ByteReader, a_block_has_64_kilobytes_and_starts_on_a_page) {
-    FillWitness reader;
+    FillWitness witness;
+    ByteReader reader(witness);
     EXPECT_EQ(reader.Next(), 'x');
-    EXPECT_EQ(reader.size, 65536U);
-    EXPECT_EQ(reader.address % 4096, 0U);
+    EXPECT_EQ(witness.size, 65536U);
+    EXPECT_EQ(witness.address % 4096, 0U);
 }
 
-TEST(FileByteReader, it_reads_a_file_of_several_blocks_as_it_stands) {
+TEST(FileByteSource, it_reads_a_file_of_several_blocks_as_it_stands) {
     std::string content;
     for (int i = 0; i < 150000; ++i)
         content.push_back(static_cast<char>(i % 251));
@@ -91,7 +91,8 @@ TEST(FileByteReader, it_reads_a_file_of_several_blocks_as_it_stands) {
 
     std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
     ASSERT_NE(file, nullptr);
-    FileByteReader reader(file);
+    FileByteSource source(file);
+    ByteReader reader(source);
     std::string read;
     for (int byte = reader.Next(); byte != -1; byte = reader.Next())
         read.push_back(static_cast<char>(byte));
@@ -99,13 +100,14 @@ TEST(FileByteReader, it_reads_a_file_of_several_blocks_as_it_stands) {
     EXPECT_TRUE(read == content) << "read " << read.size() << " bytes";
 }
 
-TEST(FileByteReader, a_read_error_is_the_end) {
+TEST(FileByteSource, a_read_error_is_the_end) {
     const TemporaryFile temporary("content");
     ASSERT_TRUE(temporary.written);
     // A file opened for writing alone cannot be read.
     std::FILE* const file = std::fopen(temporary.path.c_str(), "ab");
     ASSERT_NE(file, nullptr);
-    FileByteReader reader(file);
+    FileByteSource source(file);
+    ByteReader reader(source);
     EXPECT_EQ(reader.Next(), -1);
     std::fclose(file);
 }

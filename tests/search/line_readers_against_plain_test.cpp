@@ -106,8 +106,8 @@ TEST(LineReadersAgainstPlain, lines_about_as_long_as_a_chunk_give_the_same_lines
     for (int round = 0; round < 12; ++round) {
         const std::string content = files.Next(20, 9000, LineReaderSize);
         SCOPED_TRACE(testing::Message() << "round " << round);
-        CompareExact(content, LineReaderSize, ByteReader::BlockSize);
-        CompareUpper(content, LineReaderSize, ByteReader::BlockSize, false);
+        CompareExact(content, LineReaderSize, ByteSource::BlockSize);
+        CompareUpper(content, LineReaderSize, ByteSource::BlockSize, false);
         CompareUpper(content, LineReaderSize, 777, true);
         if (HasFatalFailure()) return;
     }

@@ -1,0 +1,230 @@
+#include "search/content_prefilter.h"
+
+#include <cstdint>
+#include <cstring>
+
+#include "search/double_byte_text.h"
+
+namespace {
+
+using Byte = unsigned char;
+// Sixteen bytes at a time: a compiler that has no such registers takes them apart by itself.
+using Bytes16 = Byte __attribute__((vector_size(16)));
+
+constexpr std::size_t Width = sizeof(Bytes16);
+constexpr Byte CarriageReturn = 13;
+constexpr Byte LineFeed = 10;
+
+constexpr Bytes16 AllOf(Byte byte) {
+    return Bytes16{} + byte;
+}
+
+Bytes16 Load(const Byte* bytes) {
+    Bytes16 loaded;
+    std::memcpy(&loaded, bytes, Width);
+    return loaded;
+}
+
+bool AnySet(Bytes16 bytes) {
+    std::uint64_t halves[2];
+    std::memcpy(halves, &bytes, Width);
+    return (halves[0] | halves[1]) != 0;
+}
+
+// One byte of the pattern, sixteen times, and the bit that makes its case not matter.
+struct SoughtByte {
+    Bytes16 folded;
+    Bytes16 caseBit;
+    Bytes16 EqualTo(Bytes16 bytes) const { return reinterpret_cast<Bytes16>((bytes | caseBit) == folded); }
+};
+
+enum class Place { Nothing, Occurrence, EndOfScan };
+
+// A stretch of the file, with what is to be found in it.
+class Window {
+  public:
+    explicit Window(const ContentPattern& sought)
+        : pattern(sought),
+          lastIndex(sought.length - 1),
+          first(Sought(0)),
+          second(Sought(1)),
+          last(Sought(lastIndex)) {}
+
+    // The first place between begin and end that counts. One that needs bytes behind the end does not, yet.
+    [[nodiscard]] Place Examine(const Byte* begin, const Byte* end) {
+        start = begin;
+        stop = end;
+        const Byte* at = begin;
+        const std::size_t reach = Width + lastIndex;
+        for (; static_cast<std::size_t>(end - at) >= reach; at += Width) {
+            const Place place = pattern.folding ? Examine16<true>(at) : Examine16<false>(at);
+            if (place != Place::Nothing) return place;
+        }
+        // A place is looked at together with the byte behind it.
+        for (; end - at > 1; ++at) {
+            const Place place = ExamineOne(at);
+            if (place != Place::Nothing) return place;
+        }
+        return Place::Nothing;
+    }
+
+    // Where the bytes begin that have to stay for the next window: an occurrence, or a line feed with what
+    // stands before it, may reach over the border.
+    [[nodiscard]] const Byte* KeepFrom(const Byte* begin, const Byte* end) const {
+        std::size_t missing = pattern.length + 1;
+        while (end > begin && missing > 0) {
+            if (*--end != CarriageReturn) --missing;
+        }
+        return end;
+    }
+
+  private:
+    // Case is ignored by setting the bit that tells small letters from capital ones, for letters only.
+    Byte CaseBit(std::size_t index) const {
+        constexpr Byte SmallLetterBit = 0x20;
+        const auto small = static_cast<Byte>(static_cast<Byte>(pattern.bytes[index]) | SmallLetterBit);
+        return pattern.folding && small >= 'a' && small <= 'z' ? SmallLetterBit : Byte{0};
+    }
+    Byte Folded(std::size_t index) const {
+        return static_cast<Byte>(static_cast<Byte>(pattern.bytes[index]) | CaseBit(index));
+    }
+    SoughtByte Sought(std::size_t index) const { return {AllOf(Folded(index)), AllOf(CaseBit(index))}; }
+    bool Matches(Byte byte, std::size_t index) const { return (byte | CaseBit(index)) == Folded(index); }
+
+    // Passes over what certainly does not count: what counts has the pattern's first two bytes and its last;
+    // or is a carriage return inside a line; or, when folding, may be an empty line.
+    template <bool folding>
+    Place Examine16(const Byte* at) const {
+        const Bytes16 here = Load(at);
+        const Bytes16 next = Load(at + 1);
+        Bytes16 worth = first.EqualTo(here) & second.EqualTo(next) & last.EqualTo(Load(at + lastIndex));
+        worth |= reinterpret_cast<Bytes16>((here == CarriageReturn) & (next != LineFeed) &
+                                           (next != CarriageReturn));
+        if constexpr (folding) {
+            worth |= reinterpret_cast<Bytes16>((here == LineFeed) &
+                                               ((next == LineFeed) | (next == CarriageReturn)));
+        }
+        if (!AnySet(worth)) return Place::Nothing;
+        for (std::size_t i = 0; i < Width; ++i) {
+            if (worth[i] == 0) continue;
+            const Place place = ExamineOne(at + i);
+            if (place != Place::Nothing) return place;
+        }
+        return Place::Nothing;
+    }
+
+    Place ExamineOne(const Byte* at) const {
+        const Byte next = at[1];
+        if (*at == CarriageReturn) {
+            const bool insideLine = next != LineFeed && next != CarriageReturn;
+            if (insideLine && OccursAcross(at + 1)) return Place::Occurrence;
+        } else if (*at == LineFeed && pattern.folding) {
+            if ((next == LineFeed || next == CarriageReturn) && IsEmptyLine(at)) return Place::EndOfScan;
+        } else if (Matches(*at, 0) && Matches(next, 1) && OccursAt(at)) {
+            return Place::Occurrence;
+        }
+        return Place::Nothing;
+    }
+
+    bool OccursAt(const Byte* at) const {
+        if (static_cast<std::size_t>(stop - at) < pattern.length) return false;
+        for (std::size_t i = 2; i < pattern.length; ++i) {
+            if (!Matches(at[i], i)) return false;
+        }
+        return true;
+    }
+
+    // With some of its bytes before the carriage returns that end at `behind` and the others from there on.
+    bool OccursAcross(const Byte* behind) const {
+        for (std::size_t before = 1; before < pattern.length; ++before) {
+            if (Matches(*behind, before) && EndsBefore(behind, before) && GoesOnAt(behind, before))
+                return true;
+        }
+        return false;
+    }
+
+    bool EndsBefore(const Byte* at, std::size_t count) const {
+        while (count > 0) {
+            do {
+                if (at == start) return false;
+                --at;
+            } while (*at == CarriageReturn);
+            if (!Matches(*at, --count)) return false;
+        }
+        return true;
+    }
+
+    bool GoesOnAt(const Byte* at, std::size_t index) const {
+        for (; index < pattern.length; ++at) {
+            if (at == stop) return false;
+            if (*at == CarriageReturn) continue;
+            if (!Matches(*at, index++)) return false;
+        }
+        return true;
+    }
+
+    // Whether the line that the line feed at `at` begins certainly stores nothing. Behind a lead byte the
+    // line feed may be half of a character.
+    bool IsEmptyLine(const Byte* at) const {
+        if (pattern.doubleByteAware && (at == start || IsLeadByte(at[-1]))) return false;
+        do {
+            if (++at == stop) return false;
+        } while (*at == CarriageReturn);
+        return *at == LineFeed;
+    }
+
+    const ContentPattern& pattern;
+    const std::size_t lastIndex;
+    const SoughtByte first;
+    const SoughtByte second;
+    const SoughtByte last;
+    const Byte* start = nullptr;
+    const Byte* stop = nullptr;
+};
+
+// A pattern of one byte is nearly everywhere, and one with the marks of lines in it follows rules of its own.
+bool CanBeFiltered(const ContentPattern& pattern) {
+    return pattern.length >= 2 && std::memchr(pattern.bytes, CarriageReturn, pattern.length) == nullptr &&
+           std::memchr(pattern.bytes, LineFeed, pattern.length) == nullptr;
+}
+
+// What the file's beginning says of its first line; MayOccur where it takes more than a look.
+ContentVerdict FirstLineVerdict(const Byte* begin, std::size_t size, const ContentPattern& pattern) {
+    if (size == 0) return ContentVerdict::NoLine;
+    if (*begin == CarriageReturn) return ContentVerdict::MayOccur;
+    if (!pattern.folding) return ContentVerdict::NoOccurrence;
+    if (*begin == LineFeed) return ContentVerdict::NoLine;
+    // A lead byte at the very end of the file is lost.
+    if (pattern.doubleByteAware && IsLeadByte(*begin) && size < 2) return ContentVerdict::NoLine;
+    return ContentVerdict::NoOccurrence;
+}
+
+}  // namespace
+
+ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, std::size_t blockSize) {
+    if (!CanBeFiltered(pattern)) return ContentVerdict::MayOccur;
+    // Bytes kept from the last block stand in the page before the next one. Not initialised: every file would
+    // pay for it.
+    Byte room[ByteSource::BlockSize + 2 * ByteSource::PageSize];
+    Byte* const block =
+        room + 2 * ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize;
+    std::size_t filled = source.Fill(block, blockSize);
+    const ContentVerdict firstLine = FirstLineVerdict(block, filled, pattern);
+    if (firstLine != ContentVerdict::NoOccurrence) return firstLine;
+
+    Window window(pattern);
+    const Byte* begin = block;
+    while (filled > 0) {
+        const Byte* const end = block + filled;
+        const Place place = window.Examine(begin, end);
+        if (place == Place::Occurrence) return ContentVerdict::MayOccur;
+        if (place == Place::EndOfScan) return ContentVerdict::NoOccurrence;
+        const Byte* const keep = window.KeepFrom(begin, end);
+        const auto kept = static_cast<std::size_t>(end - keep);
+        if (kept > ByteSource::PageSize) return ContentVerdict::MayOccur;
+        begin = block - kept;
+        std::memmove(block - kept, keep, kept);
+        filled = source.Fill(block, blockSize);
+    }
+    return ContentVerdict::NoOccurrence;
+}
