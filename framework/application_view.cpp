@@ -1,5 +1,8 @@
 #include "framework/application_view.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "app/app_globals.h"
 #include "framework/property_keys.h"
 
@@ -35,14 +38,18 @@ const wchar_t* ResourceName(const PropertySet& properties, PropertyKey key) {
 
 ApplicationView::ApplicationView(WindowObject* parentObject, const wchar_t* title, PropertySet& properties,
                                  Application* application)
-    : ContainerWindow(parentObject, title, WithViewDefaults(properties)), isMainView(application != nullptr) {
+    : ScrollingView(parentObject, title, WithViewDefaults(properties)), isMainView(application != nullptr) {
     if (application != nullptr) application->SetMainView(this);
     SetSmallIcon(properties);
     InitialiseControls(properties);
     CreateMenuBar(properties);
+    if (properties.Has(property::HasRebar)) CreateCommandBar();
     if (properties.Has(property::Accelerators)) {
         accelerators =
             LoadAcceleratorsW(Globals().instance, ResourceName(properties, property::Accelerators));
+    }
+    if (properties.Has(property::HasStatusBar)) {
+        statusBar = std::make_unique<StatusBar>(*this, rebar != nullptr);
     }
     OnMessage(WM_SIZE, this, &ApplicationView::OnWmSize);
     OnMessage(WM_HELP, this, &ApplicationView::OnWmHelp);
@@ -70,9 +77,33 @@ void ApplicationView::CreateMenuBar(const PropertySet& properties) {
     menuBarToolBar = std::make_unique<WindowObject>(this, GetWindow(info.hwndMB, GW_CHILD));
 }
 
+void ApplicationView::CreateCommandBar() {
+    commandBar = std::make_unique<CommandBarInRebar>(*this);
+    AddBand(commandBar->AsBand());
+}
+
+int ApplicationView::AddBand(const REBARBANDINFOW& band) {
+    if (rebar == nullptr) rebar = std::make_unique<Rebar>(*this);
+    const int index = rebar->AddBand(band);
+    rebar->Place(rebar->IsAtTop());
+    return index;
+}
+
+WindowObject* ApplicationView::CommandBar() const {
+    if (commandBar != nullptr) return commandBar.get();
+    return menuBar.get();
+}
+
 RECT ApplicationView::LayoutRectangle() const {
-    RECT area = ContainerWindow::LayoutRectangle();
+    RECT area = ScrollingView::LayoutRectangle();
+    if (statusBar != nullptr && statusBar->TakesPlace()) area.bottom -= statusBar->BarHeight();
+    if (rebar != nullptr && rebar->TakesPlace()) {
+        LONG& edge = rebar->IsAtTop() ? area.top : area.bottom;
+        edge += rebar->IsAtTop() ? rebar->BarHeight() : -rebar->BarHeight();
+    }
     area.bottom -= ce::MenuBarHeight;
+    // Nothing is left of one that is smaller than its bars, as when it is minimised.
+    area.bottom = std::max(area.bottom, area.top);
     return area;
 }
 
@@ -98,6 +129,26 @@ LRESULT ApplicationView::OnWmHelp(MessageRecord&) {
 
 // The children stay where they are: a view is laid out once, when it is made.
 LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
-    if (menuBar != nullptr) SendMessageW(menuBar->Handle(), record.message, record.wParam, record.lParam);
+    for (const WindowObject* bar : {menuBar.get(), static_cast<WindowObject*>(statusBar.get())}) {
+        if (bar != nullptr) SendMessageW(bar->Handle(), record.message, record.wParam, record.lParam);
+    }
+    Reclamp();
     return 0;
+}
+
+// The bars are children here, and a scrolled window takes all of them along: they are put back.
+void ApplicationView::ScrollContent(int x, int y) {
+    const WindowObject* const bars[] = {menuBar.get(), rebar.get(), statusBar.get()};
+    RECT places[std::size(bars)]{};
+    for (std::size_t i = 0; i < std::size(bars); ++i) {
+        if (bars[i] == nullptr) continue;
+        GetWindowRect(bars[i]->Handle(), &places[i]);
+        MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&places[i]), 2);
+    }
+    ScrollingView::ScrollContent(x, y);
+    for (std::size_t i = 0; i < std::size(bars); ++i) {
+        if (bars[i] == nullptr) continue;
+        SetWindowPos(bars[i]->Handle(), nullptr, places[i].left, places[i].top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-// A top-level window: menu bar at the bottom, command bar, menu and accelerators. It is the base of the main
-// window.
+// A top-level window: menu bar at the bottom, command bar, menu and accelerators, and a rebar and a status
+// bar when asked for. It is the base of the main window.
 
 #include "framework/application.h"
-#include "framework/container_window.h"
+#include "framework/bars.h"
+#include "framework/scrolling_view.h"
 
-class ApplicationView : public ContainerWindow, public MainView {
+class ApplicationView : public ScrollingView, public MainView {
   public:
     // Makes the window and its bars from the set; with an application given it becomes its main view. A menu
     // bar that cannot be made leaves the view without bar and menu.
@@ -14,7 +15,7 @@ class ApplicationView : public ContainerWindow, public MainView {
                     Application* application);
     ~ApplicationView() override;
 
-    // The client area less the menu bar.
+    // The client area less the bars.
     [[nodiscard]] RECT LayoutRectangle() const override;
 
     // The main view is shown as the program was asked to start, any other normally.
@@ -25,7 +26,13 @@ class ApplicationView : public ContainerWindow, public MainView {
     [[nodiscard]] HMENU Menu() const { return menu; }
     [[nodiscard]] WindowObject* MenuBar() const { return menuBar.get(); }
     // Where buttons are added: the menu bar itself, in a view without a rebar.
-    [[nodiscard]] WindowObject* CommandBar() const { return menuBar.get(); }
+    [[nodiscard]] WindowObject* CommandBar() const;
+
+    // Appends a band to the rebar, which is made for the first one; returns its index, or -1.
+    int AddBand(const REBARBANDINFOW& band);
+    // Null without one.
+    [[nodiscard]] Rebar* ViewRebar() const { return rebar.get(); }
+    [[nodiscard]] StatusBar* ViewStatusBar() const { return statusBar.get(); }
 
   protected:
     LRESULT OnWmDestroy(MessageRecord& record) override;
@@ -33,12 +40,18 @@ class ApplicationView : public ContainerWindow, public MainView {
     virtual LRESULT OnWmSize(MessageRecord& record);
     virtual void ShowAbout() {}
 
+    void ScrollContent(int x, int y) override;
+
   private:
     void SetSmallIcon(const PropertySet& properties);
     void CreateMenuBar(const PropertySet& properties);
+    void CreateCommandBar();
 
     std::unique_ptr<WindowObject> menuBar;
     std::unique_ptr<WindowObject> menuBarToolBar;
+    std::unique_ptr<Rebar> rebar;
+    std::unique_ptr<CommandBarInRebar> commandBar;
+    std::unique_ptr<StatusBar> statusBar;
     HMENU menu = nullptr;
     HACCEL accelerators = nullptr;
     bool isMainView;

@@ -28,6 +28,8 @@ class ContainerWindow : public WindowObject {
 
     // Remembers the focus when the window is deactivated and gives it back on activation.
     void KeepFocus(const MessageRecord& record);
+    // For a window that is made anew: the handle remembered may belong to another control by now.
+    void ForgetFocus() { rememberedFocus = nullptr; }
 
   private:
     void RouteMessages();

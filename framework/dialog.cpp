@@ -129,6 +129,7 @@ INT_PTR Dialog::Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wP
     if (message == WM_INITDIALOG && pending != nullptr) {
         Dialog* created = pending;
         pending = nullptr;
+        created->ForgetFocus();
         created->Attach(window);
     }
     const WindowMap* map = Application::Windows();
@@ -190,6 +191,14 @@ void Dialog::SetUpShell(DWORD flags, DialogBar bar) {
     const ce::DialogInitInfo info{1, Handle(), flags};
     ce::SHInitDialog(&info);
     CreateMenuBar(bar);
+    ShowIconOfOwner();
+}
+
+// A caption with a close box shows an icon, the system's own when it is given none.
+void Dialog::ShowIconOfOwner() {
+    const HWND owner = GetWindow(Handle(), GW_OWNER);
+    const LRESULT icon = owner != nullptr ? SendMessageW(owner, WM_GETICON, ICON_SMALL, 0) : 0;
+    if (icon != 0) SendMessageW(Handle(), WM_SETICON, ICON_SMALL, icon);
 }
 
 void Dialog::CreateMenuBar(DialogBar bar) {

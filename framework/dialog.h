@@ -76,6 +76,7 @@ class Dialog : public ContainerWindow {
 
     [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
     LRESULT OnWmCtlColorDialog(MessageRecord& record);
+    void ShowIconOfOwner();
     void CreateMenuBar(DialogBar bar);
     void DestroyMenuBar();
 

@@ -12,6 +12,7 @@ namespace event {
 constexpr EventCode Command = 0;  // also a button's click
 constexpr EventCode RebarAutoSize = 3;
 constexpr EventCode RebarBeginDrag = 5;
+constexpr EventCode BeginLabelEdit = 7;
 constexpr EventCode TextChanged = 13;
 constexpr EventCode DropDownClosed = 18;
 constexpr EventCode DateTimeChanged = 24;

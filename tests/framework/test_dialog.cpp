@@ -8,12 +8,6 @@ constexpr UINT StepsMessage = WM_APP + 100;
 
 }  // namespace
 
-PropertySet TemplateProperties(const wchar_t* templateName) {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, templateName);
-    return properties;
-}
-
 INT_PTR TestDialog::RunWith(std::function<void()> stepsToTake) {
     steps = std::move(stepsToTake);
     OnMessage(StepsMessage, this, &TestDialog::OnSteps);

@@ -5,10 +5,8 @@
 #include <functional>
 
 #include "framework/dialog.h"
+#include "framework/dialog_template.h"
 #include "tests/framework/framework_test.h"
-
-// A set that names the template.
-PropertySet TemplateProperties(const wchar_t* templateName);
 
 class TestDialog : public Dialog {
   public:

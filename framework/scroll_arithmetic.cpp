@@ -1,0 +1,82 @@
+#include "framework/scroll_arithmetic.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace {
+
+// Wide enough for any sum of what a bar may hold.
+using Wide = std::int64_t;
+
+int Narrowed(Wide position) {
+    return static_cast<int>(
+        std::clamp<Wide>(position, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+Wide LengthOf(const ScrollRange& range) {
+    return Wide{range.maximum} - range.minimum;
+}
+
+}  // namespace
+
+int ScrolledViewPosition(const ScrollState& bar, ScrollRequest request, int thumb, bool thumbTracking) {
+    const Wide position = bar.position;
+    const Wide last = LengthOf(bar.range) - bar.page + 1;
+    switch (request) {
+        case ScrollRequest::LineUp:
+            return Narrowed(std::max<Wide>(position - 1, 0));
+        case ScrollRequest::LineDown:
+            return Narrowed(std::min(position + 1, last));
+        case ScrollRequest::PageUp:
+            // One more than a page, deliberately.
+            return Narrowed(std::max<Wide>(position - bar.page - 1, 0));
+        case ScrollRequest::PageDown:
+            // Not kept below the last position, deliberately: the bar sees to it.
+            return Narrowed(position + bar.page);
+        case ScrollRequest::ThumbPosition:
+            return thumb;
+        case ScrollRequest::ThumbTrack:
+            return thumbTracking ? thumb : bar.position;
+        case ScrollRequest::Top:
+            return 0;
+        case ScrollRequest::Bottom:
+            return Narrowed(last);
+    }
+    return bar.position;
+}
+
+int ScrolledControlPosition(const ScrollState& bar, ScrollRequest request, ScrollSteps steps) {
+    const Wide position = bar.position;
+    const Wide line = steps.line;
+    const Wide pageAndLine = line + steps.page;
+    const Wide last = LengthOf(bar.range);
+    switch (request) {
+        case ScrollRequest::LineUp:
+            return Narrowed(std::max<Wide>(position - line, 0));
+        case ScrollRequest::LineDown:
+            return Narrowed(std::min(position + line, last));
+        // One line more than a page in both directions, deliberately.
+        case ScrollRequest::PageUp:
+            return Narrowed(std::max<Wide>(position - pageAndLine, 0));
+        case ScrollRequest::PageDown:
+            return Narrowed(std::min(position + pageAndLine, last));
+        case ScrollRequest::ThumbPosition:
+        case ScrollRequest::ThumbTrack:
+            return bar.trackPosition;
+        case ScrollRequest::Top:
+            return 0;
+        case ScrollRequest::Bottom:
+            return Narrowed(last);
+    }
+    return bar.position;
+}
+
+ScrollRange HorizontalScrollRange(int contentWidth, int areaWidth) {
+    return {0, Narrowed(std::max<Wide>(Wide{contentWidth} - areaWidth, 0))};
+}
+
+// Deliberately not kept above 0, unlike the horizontal one: a bar takes such a range as an empty one.
+ScrollRange VerticalScrollRange(int contentHeight, int areaHeight) {
+    return {0, Narrowed(Wide{contentHeight} - areaHeight)};
+}
