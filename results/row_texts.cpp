@@ -15,6 +15,42 @@ constexpr std::int32_t Megabyte = 1024 * 1024;
 // Given to the system's formatting as the most that a date or a time may take.
 constexpr int FormatRoom = 255;
 
+bool IsSameDay(const SYSTEMTIME& one, const SYSTEMTIME& other) {
+    return one.wYear == other.wYear && one.wMonth == other.wMonth && one.wDay == other.wDay;
+}
+
+// The system takes longer to write a date and a time than the list takes for the rest of a row. What is found
+// together is often of one day, so the last date is kept; and the hours, minutes and seconds are the same two
+// digits in every locale.
+const wchar_t* DateText(const SYSTEMTIME& local) {
+    static SYSTEMTIME lastDay;
+    static wchar_t lastText[RowTextCapacity];
+    if (lastText[0] != L'\0' && IsSameDay(local, lastDay)) return lastText;
+    lastText[0] = L'\0';
+    GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"yy'/'MM'/'dd", lastText, FormatRoom);
+    lastDay = local;
+    return lastText;
+}
+
+wchar_t* AppendTwoDigits(wchar_t* text, WORD number) {
+    *text++ = static_cast<wchar_t>(L'0' + number / 10);
+    *text++ = static_cast<wchar_t>(L'0' + number % 10);
+    return text;
+}
+
+// Empty, as the system leaves it, for a time that is none.
+void TimeText(const SYSTEMTIME& local, wchar_t (&text)[9]) {
+    wchar_t* end = text;
+    if (local.wHour < 24 && local.wMinute < 60 && local.wSecond < 60 && local.wMilliseconds < 1000) {
+        end = AppendTwoDigits(end, local.wHour);
+        *end++ = L':';
+        end = AppendTwoDigits(end, local.wMinute);
+        *end++ = L':';
+        end = AppendTwoDigits(end, local.wSecond);
+    }
+    *end = L'\0';
+}
+
 }  // namespace
 
 void FormatResultSize(DWORD lowSize, wchar_t (&text)[RowTextCapacity]) {
@@ -36,9 +72,11 @@ void FolderOfResult(const wchar_t* fullPath, wchar_t (&folder)[MAX_PATH]) {
 }
 
 void FormatResultTime(const SYSTEMTIME& local, wchar_t (&text)[2 * RowTextCapacity]) {
-    wchar_t date[RowTextCapacity] = L"";
-    wchar_t time[RowTextCapacity] = L"";
-    GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"yy'/'MM'/'dd", date, FormatRoom);
-    GetTimeFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"HH':'mm':'ss", time, FormatRoom);
-    FormatText(text, std::size(text), L"%ls %ls", date, time);
+    wchar_t time[9];
+    TimeText(local, time);
+    const wchar_t* const date = DateText(local);
+    const std::size_t dateLength = std::wcslen(date);
+    std::wmemcpy(text, date, dateLength);
+    text[dateLength] = L' ';
+    std::wcscpy(text + dateLength + 1, time);
 }

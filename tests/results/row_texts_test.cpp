@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 namespace {
@@ -110,4 +111,25 @@ TEST(ResultTime, midnight_is_hour_zero) {
 
 TEST(ResultTime, the_afternoon_is_counted_on_to_24_hours) {
     EXPECT_EQ(TimeText(Time(2026, 1, 1, 13, 1, 2)), L"26/01/01 13:01:02");
+}
+
+TEST(ResultTime, any_time_reads_as_the_system_writes_it_and_none_where_the_system_writes_none) {
+    std::mt19937 engine(3);
+    const auto upTo = [&](int most) {
+        return static_cast<WORD>(std::uniform_int_distribution<int>(0, most)(engine));
+    };
+    for (int round = 0; round < 2000; ++round) {
+        // Few days, so that a day comes twice in a row; now and then a moment that is none.
+        SYSTEMTIME time = Time(static_cast<WORD>(1999 + upTo(3)), static_cast<WORD>(1 + upTo(1)),
+                               static_cast<WORD>(1 + upTo(1)), upTo(23), upTo(59), upTo(59));
+        if (upTo(20) == 0) time.wHour = static_cast<WORD>(24 + upTo(3));
+        if (upTo(20) == 0) time.wMinute = 60;
+        if (upTo(20) == 0) time.wSecond = 60;
+        if (upTo(20) == 0) time.wMonth = static_cast<WORD>(upTo(1) * 13);
+        wchar_t date[RowTextCapacity] = L"";
+        wchar_t clock[RowTextCapacity] = L"";
+        GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &time, L"yy'/'MM'/'dd", date, RowTextCapacity);
+        GetTimeFormatW(LOCALE_SYSTEM_DEFAULT, 0, &time, L"HH':'mm':'ss", clock, RowTextCapacity);
+        ASSERT_EQ(TimeText(time), std::wstring(date) + L" " + clock) << "round " << round;
+    }
 }
