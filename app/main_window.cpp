@@ -1,23 +1,16 @@
 #include "app/main_window.h"
 
-#include "app/case_option.h"
 #include "app/language.h"
-#include "app/page_conditions.h"
 #include "app/page_navigation.h"
 #include "app/product.h"
 #include "app/uninstall.h"
 #include "fileops/message_boxes.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"
-#include "search/run_search.h"
 
 namespace {
 
 constexpr int TabControlHeight = 126;
-
-// The commands that act on the selected row.
-constexpr UINT SelectionCommands[] = {COMMAND_OPEN, COMMAND_ADD_TO_START_MENU, COMMAND_DELETE, COMMAND_RENAME,
-                                      COMMAND_PROPERTIES};
 
 constexpr UINT RoutedCommands[] = {COMMAND_FIND,        COMMAND_OPEN,          COMMAND_ADD_TO_START_MENU,
                                    COMMAND_DELETE,      COMMAND_RENAME,        COMMAND_PROPERTIES,
@@ -68,6 +61,7 @@ void MainWindow::CreateDialogs() {
     aboutBox->SetRegistryKeys(MakerRegistryKey, ProductRegistryKey);
     // Bound later than the box's own routine, so this one is found first.
     aboutBox->OnCommand(BUTTON_UNINSTALL, this, &MainWindow::OnUninstall);
+    fileOperation = std::make_unique<FileOperation>(this);
     abortDialog = std::make_unique<AbortDialog>(this);
     abortDialog->OnRun(this, &MainWindow::OnSearchRun);
 }
@@ -164,114 +158,13 @@ bool MainWindow::PreTranslate(MSG& message) {
     return NavigateByKey(message, {tabControl->Handle(), Page(currentPage)->Handle(), results->Handle()});
 }
 
-LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
-    // A command that arrives in the middle of a search, past the disabled menus, is dropped; leaving is not.
-    const auto command = static_cast<UINT>(arguments.extra);
-    if (!abortDialog->IsRunning() || command == COMMAND_EXIT) RunCommand(command);
-    UpdateWindow(Handle());
-    return 0;
-}
-
-void MainWindow::RunCommand(UINT command) {
-    switch (command) {
-        case COMMAND_FIND:
-            Find();
-            break;
-        case COMMAND_EXIT:
-            PostMessageW(Handle(), WM_CLOSE, 0, 0);
-            break;
-        case COMMAND_LARGE_ICON:
-            SetResultView(command, LVS_ICON);
-            break;
-        case COMMAND_SMALL_ICON:
-            SetResultView(command, LVS_SMALLICON);
-            break;
-        case COMMAND_DETAILS:
-            SetResultView(command, LVS_REPORT);
-            break;
-        case COMMAND_CHECK_CASE:
-            ToggleCaseOption(Menu());
-            break;
-        case COMMAND_NEW_CONDITION:
-            ResetConditions();
-            break;
-        case COMMAND_ABOUT:
-            ShowAbout();
-            break;
-        default:
-            RunResultCommand(command);
-            break;
-    }
-}
-
-// "Save Result" and the command 40207 are routed here like the others, and do nothing.
-void MainWindow::RunResultCommand(UINT command) {
-    switch (command) {
-        case COMMAND_OPEN:
-            resultCommands->Open();
-            break;
-        case COMMAND_ADD_TO_START_MENU:
-            resultCommands->AddToStartMenu();
-            break;
-        case COMMAND_DELETE:
-            resultCommands->Delete();
-            break;
-        case COMMAND_RENAME:
-            resultCommands->BeginRename();
-            break;
-        case COMMAND_PROPERTIES:
-            resultCommands->ShowProperties();
-            break;
-        default:
-            return;
-    }
-    // A row that was deleted tells nobody that it was selected.
-    if (results->SelectedCount() == 0) EnableResultCommands(false);
-}
-
-// Enter or a double click in the list.
-void MainWindow::Activate() {
-    const bool altHeld = GetKeyState(VK_MENU) < 0;
-    RunResultCommand(altHeld ? COMMAND_PROPERTIES : COMMAND_OPEN);
-    UpdateWindow(Handle());
-}
-
-LRESULT MainWindow::OnResultDoubleClick(EventArguments&) {
-    Activate();
-    return 0;
-}
-
-LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
-    if (reinterpret_cast<const NMLVKEYDOWN*>(arguments.argument)->wVKey == VK_RETURN) Activate();
-    return 0;
-}
-
-// The control is told to forget the text: the cell follows the file, not the editing.
-LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
-    resultCommands->EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
-    UpdateWindow(Handle());
-    return FALSE;
-}
-
-void MainWindow::Find() {
-    abortDialog->RunModal();
-    UpdateWindow(Handle());
-    results->SelectRow(0);
-    if (results->SelectedCount() == 0) EnableResultCommands(false);
-    SetFocus(results->Handle());
-    if (closeAfterSearch) PostMessageW(Handle(), WM_CLOSE, 0, 0);
-}
-
-LRESULT MainWindow::OnSearchRun(EventArguments&) {
-    const PageConditions source(*namePage, *datePage, *sizePage, Menu());
-    results->BeginFilling();
-    RunSearch(conditions, source, *results, *abortDialog);
-    results->EndFilling();
-    return 0;
-}
-
-// The search stands on this window's objects: it is ended first, and the window closes when it has unwound.
+// A search or a file operation stands on this window: it is ended first, and the window closes when it has
+// unwound.
 LRESULT MainWindow::OnWmClose(MessageRecord& record) {
+    if (fileOperation->IsRunning()) {
+        fileOperation->StopAndCloseParent();
+        return 0;
+    }
     if (!abortDialog->IsRunning()) return DefaultProcessing(record);
     closeAfterSearch = true;
     abortDialog->Abort();
@@ -283,7 +176,9 @@ LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
     return ApplicationView::OnWmDestroy(record);
 }
 
+// F1 in a dialog comes here as well, from dialog to owner: the box does not open over another one.
 void MainWindow::ShowAbout() {
+    if (!IsWindowEnabled(Handle())) return;
     aboutBox->RunModal();
 }
 
@@ -296,34 +191,5 @@ LRESULT MainWindow::OnUninstall(EventArguments&) {
     }
     skipSaving = true;
     PostMessageW(Handle(), WM_CLOSE, 0, 0);
-    return 0;
-}
-
-void MainWindow::SetResultView(UINT command, DWORD view) {
-    results->SetView(view);
-    CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, command, MF_BYCOMMAND);
-}
-
-void MainWindow::ResetConditions() {
-    for (int i = 0; i < PageCount; ++i)
-        Page(i)->Reset();
-}
-
-void MainWindow::EnableResultCommands(bool enable) {
-    for (const UINT command : SelectionCommands) {
-        EnableMenuItem(Menu(), command, static_cast<UINT>(enable ? MF_ENABLED : MF_GRAYED));
-    }
-}
-
-LRESULT MainWindow::OnResultChanged(EventArguments& arguments) {
-    const auto& change = *reinterpret_cast<const NMLISTVIEW*>(arguments.argument);
-    if ((change.uChanged & LVIF_STATE) == 0) return 0;
-    const bool wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
-    const bool isSelected = (change.uNewState & LVIS_SELECTED) != 0;
-    if (!wasSelected && isSelected) {
-        EnableResultCommands(true);
-    } else if (wasSelected && !isSelected && results->SelectedCount() == 0) {
-        EnableResultCommands(false);
-    }
     return 0;
 }

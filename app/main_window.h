@@ -9,6 +9,7 @@
 #include "conditions/date_page.h"
 #include "conditions/name_page.h"
 #include "conditions/size_page.h"
+#include "fileops/file_operation.h"
 #include "framework/application_view.h"
 #include "results/result_commands.h"
 #include "results/result_list.h"
@@ -20,6 +21,9 @@ class MainWindow : public ApplicationView {
     ~MainWindow() override;
 
     bool PreTranslate(MSG& message) override;
+
+    // No command starts it: it stands ready for whoever wants one of its operations.
+    [[nodiscard]] FileOperation& Operation() { return *fileOperation; }
 
   protected:
     LRESULT OnWmDestroy(MessageRecord& record) override;
@@ -51,6 +55,7 @@ class MainWindow : public ApplicationView {
     LRESULT OnUninstall(EventArguments& arguments);
     LRESULT OnSearchRun(EventArguments& arguments);
 
+    [[nodiscard]] bool IsBusy() const;
     void RunCommand(UINT command);
     void RunResultCommand(UINT command);
     void Activate();
@@ -71,6 +76,7 @@ class MainWindow : public ApplicationView {
 
     // Deleted from the last to the first: the pages in tab order, the list, the tab control, the dialogs.
     std::unique_ptr<AboutBox> aboutBox;
+    std::unique_ptr<FileOperation> fileOperation;
     std::unique_ptr<AbortDialog> abortDialog;
     std::unique_ptr<TabControl> tabControl;
     std::unique_ptr<ResultList> results;

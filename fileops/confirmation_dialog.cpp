@@ -48,8 +48,10 @@ ConfirmationDialog::~ConfirmationDialog() {
 }
 
 ConfirmResult ConfirmationDialog::Ask() {
+    answered = false;
     const INT_PTR result = RunModal();
-    return result > 0 ? static_cast<ConfirmResult>(result) : ConfirmResult::Cancel;
+    // The program's end closes the dialog as if by its default button, which is Yes.
+    return answered ? static_cast<ConfirmResult>(result) : ConfirmResult::Cancel;
 }
 
 LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
@@ -83,6 +85,7 @@ void ConfirmationDialog::FreeFileIcons() {
 }
 
 LRESULT ConfirmationDialog::OnAnswer(EventArguments& arguments) {
+    answered = true;
     End(static_cast<INT_PTR>(arguments.extra));
     return 0;
 }

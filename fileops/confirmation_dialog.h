@@ -26,7 +26,7 @@ class ConfirmationDialog : public Dialog {
 
     ~ConfirmationDialog() override;
 
-    // Asks; a dialog that cannot be made counts as Cancel.
+    // Asks; a dialog that cannot be made or that nobody answers counts as Cancel.
     [[nodiscard]] ConfirmResult Ask();
 
   protected:
@@ -41,6 +41,7 @@ class ConfirmationDialog : public Dialog {
 
     QuestionRoutine fill;
     const void* argument;
+    bool answered = false;
     // Of the existing and the new file, from the shell; null where the template's own is shown.
     HICON fileIcons[FileIcons] = {};
 };

@@ -28,6 +28,13 @@ bool HasAttribute(const wchar_t* path, DWORD attribute) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
+bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data) {
+    const HANDLE search = ce::FindFirstFileW(path, &data);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    ce::FindClose(search);
+    return true;
+}
+
 void FormatSizeDetails(DWORD lowSize, wchar_t* text, std::size_t capacity) {
     const DWORD kilobytes = lowSize / BytesInKilobyte;
     const DWORD rest = lowSize % BytesInKilobyte;
@@ -53,9 +60,7 @@ void FormatTimeDetails(const FILETIME& time, wchar_t* text, std::size_t capacity
 void FormatFileDetails(const wchar_t* path, wchar_t (&text)[FileDetailsCapacity]) {
     text[0] = L'\0';
     WIN32_FIND_DATAW data{};
-    const HANDLE search = ce::FindFirstFileW(path, &data);
-    if (search == INVALID_HANDLE_VALUE) return;
-    ce::FindClose(search);
+    if (!FindFile(path, data)) return;
     FormatSizeDetails(data.nFileSizeLow, text, FileDetailsCapacity);
     const std::size_t length = std::wcslen(text);
     text[length] = L'\n';

@@ -12,6 +12,9 @@ constexpr int FileDetailsCapacity = 600;
 // Whether the path's attributes can be read and hold the bit.
 [[nodiscard]] bool HasAttribute(const wchar_t* path, DWORD attribute);
 
+// The directory record of the path itself; false when nothing is found.
+[[nodiscard]] bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data);
+
 // The low 32 bits of a size as "99.9KB (102399 bytes)" below 100 KB (one decimal, truncated) or
 // "100KB (102400 bytes)" from there.
 void FormatSizeDetails(DWORD lowSize, wchar_t* text, std::size_t capacity);

@@ -4,6 +4,7 @@
 #include <io.h>
 
 #include <cstdint>
+#include <cwchar>
 
 #include "platform/folder_links.h"
 #include "platform/folder_listing.h"
@@ -34,15 +35,24 @@ std::FILE* OpenShared(const wchar_t* path) {
     return stream;
 }
 
+// An empty path is no path; made absolute it would be the current folder.
+bool IsPath(const wchar_t* path) {
+    if (path[0] != L'\0') return true;
+    SetLastError(ERROR_PATH_NOT_FOUND);
+    return false;
+}
+
 // The system's answer for the literal path, or the failure's answer for a path that is too long.
 template <typename Answer, typename Call>
 Answer WithPath(const wchar_t* path, Answer failure, Call call) {
+    if (!IsPath(path)) return failure;
     const SystemPath literal(path);
     return literal.Fits() ? call(literal.Text()) : failure;
 }
 
 template <typename Call>
 BOOL WithTwoPaths(const wchar_t* from, const wchar_t* to, Call call) {
+    if (!IsPath(from) || !IsPath(to)) return FALSE;
     const SystemPath literalFrom(from);
     if (!literalFrom.Fits()) return FALSE;
     const SystemPath literalTo(to);
@@ -63,16 +73,35 @@ BOOL Delete(const wchar_t* path) {
     return WithPath(path, FALSE, [](const wchar_t* literal) { return DeleteFileW(literal); });
 }
 
+// No name of the handheld holds a colon. On the desktop a stream of another file would come of it, or a file
+// that many programs cannot open.
+bool IsNewName(const wchar_t* literal) {
+    constexpr std::size_t MarkAndDrive = 6;
+    const bool marked = std::wcsncmp(literal, L"\\\\?\\", 4) == 0 && std::wcslen(literal) >= MarkAndDrive;
+    if (std::wcschr(marked ? literal + MarkAndDrive : literal, L':') == nullptr) return true;
+    SetLastError(ERROR_INVALID_NAME);
+    return false;
+}
+
+// Removing or moving a link to a folder must not touch the folder.
+bool MayBeTaken(const wchar_t* path) {
+    if (!IsOutOfReach(path)) return true;
+    SetLastError(ERROR_NOT_SUPPORTED);
+    return false;
+}
+
 BOOL Move(const wchar_t* from, const wchar_t* to) {
-    return WithTwoPaths(from, to, [](const wchar_t* literalFrom, const wchar_t* literalTo) {
-        return MoveFileW(literalFrom, literalTo);
+    if (!MayBeTaken(from)) return FALSE;
+    return WithTwoPaths(from, to, [](const wchar_t* literalFrom, const wchar_t* literalTo) -> BOOL {
+        return IsNewName(literalTo) && MoveFileW(literalFrom, literalTo);
     });
 }
 
 BOOL Copy(const wchar_t* from, const wchar_t* to, BOOL failIfExists) {
-    return WithTwoPaths(from, to, [failIfExists](const wchar_t* literalFrom, const wchar_t* literalTo) {
-        return CopyFileW(literalFrom, literalTo, failIfExists);
-    });
+    return WithTwoPaths(from, to,
+                        [failIfExists](const wchar_t* literalFrom, const wchar_t* literalTo) -> BOOL {
+                            return IsNewName(literalTo) && CopyFileW(literalFrom, literalTo, failIfExists);
+                        });
 }
 
 BOOL CreateFolder(const wchar_t* path, SECURITY_ATTRIBUTES* security) {
@@ -81,6 +110,7 @@ BOOL CreateFolder(const wchar_t* path, SECURITY_ATTRIBUTES* security) {
 }
 
 BOOL RemoveFolder(const wchar_t* path) {
+    if (!MayBeTaken(path)) return FALSE;
     return WithPath(path, FALSE, [](const wchar_t* literal) { return RemoveDirectoryW(literal); });
 }
 

@@ -20,3 +20,7 @@ void FilePropertiesSheet::SetPath(const wchar_t* path) {
     shortcutPage->SetPath(path);
     AddPage(*shortcutPage);
 }
+
+bool FilePropertiesSheet::HasChanged() const {
+    return generalPage->HasChanged() || (shortcutPage != nullptr && shortcutPage->HasChanged());
+}

@@ -13,6 +13,8 @@ class FilePropertiesSheet : public PropertySheetDialog {
     void SetPath(const wchar_t* path);
 
     [[nodiscard]] bool HasShortcutPage() const { return shortcutPage != nullptr; }
+    // Whether any page has set out to change something.
+    [[nodiscard]] bool HasChanged() const;
 
   private:
     static constexpr std::size_t ShortcutPageIndex = 1;

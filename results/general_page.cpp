@@ -1,15 +1,14 @@
 #include "results/general_page.h"
 
+#include <cwchar>
 #include <iterator>
+#include <string>
 
 #include "app/language.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
-#include "framework/control.h"
-#include "framework/dialog_template.h"
 #include "platform/root_name.h"
 #include "resources/resource_ids.h"
-#include "results/page_items.h"
 
 namespace {
 
@@ -35,24 +34,20 @@ constexpr int FileOnlyItems[] = {LABEL_SIZE,    LABEL_MODIFIED, LABEL_ATTRIBUTES
 }  // namespace
 
 GeneralPage::GeneralPage(WindowObject* parentObject)
-    : PropertySheetPage(parentObject, InLanguage(L"General", L"全般"),
-                        TemplateProperties(InLanguage(L"EFilePropGeneralPage_E", L"EFilePropGeneralPage_J"))) {
+    : FilePage(parentObject, InLanguage(L"General", L"全般"),
+               InLanguage(L"EFilePropGeneralPage_E", L"EFilePropGeneralPage_J")) {
     OnApply(this, &GeneralPage::OnApplyChanges);
 }
 
 void GeneralPage::SetUpControls() {
-    SHFILEINFOW info{};
-    ce::SHGetFileInfo(path, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
-    ShowIcon(Handle(), info.hIcon);
-    SetDlgItemTextW(Handle(), STATIC_DISPLAY_NAME, info.szDisplayName);
-    SetDlgItemTextW(Handle(), STATIC_TYPE, info.szTypeName);
+    SetDlgItemTextW(Handle(), STATIC_TYPE, ShowFile(SHGFI_TYPENAME).szTypeName);
     ShowLocation();
-    if (HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY)) {
-        HideFileControls();
+    if (HasAttribute(Path(), FILE_ATTRIBUTE_DIRECTORY)) {
+        HideControls(FileOnlyItems);
         return;
     }
     WIN32_FIND_DATAW data{};
-    if (!FindFile(path, data)) return;
+    if (!FindFile(Path(), data)) return;
     for (const AttributeBox& box : AttributeBoxes) {
         if ((data.dwFileAttributes & box.attribute) != 0) {
             SendDlgItemMessageW(Handle(), box.id, BM_SETCHECK, BST_CHECKED, 0);
@@ -60,15 +55,14 @@ void GeneralPage::SetUpControls() {
     }
     wchar_t text[FileDetailsCapacity];
     FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
-    SetDlgItemTextW(Handle(), STATIC_SIZE, text);
+    ShowSize(LABEL_SIZE, STATIC_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_MODIFIED, text);
 }
 
 void GeneralPage::ShowLocation() {
-    std::wstring location(path, std::wstring_view(path).rfind(L'\\') == std::wstring_view::npos
-                                    ? 0
-                                    : std::wstring_view(path).rfind(L'\\'));
+    const wchar_t* lastSeparator = std::wcsrchr(Path(), L'\\');
+    std::wstring location(Path(), lastSeparator != nullptr ? lastSeparator : Path());
     if (location.empty()) {
         wchar_t root[MAX_PATH];
         RootDisplayName(root);
@@ -77,18 +71,8 @@ void GeneralPage::ShowLocation() {
     SetDlgItemTextW(Handle(), STATIC_LOCATION, location.c_str());
 }
 
-void GeneralPage::HideFileControls() {
-    for (const int id : FileOnlyItems)
-        ShowWindow(DialogItem(*this, id), SW_HIDE);
-}
-
-LRESULT GeneralPage::OnWmDestroy(MessageRecord& record) {
-    FreeIcon(Handle());
-    return PropertySheetPage::OnWmDestroy(record);
-}
-
 LRESULT GeneralPage::OnApplyChanges(EventArguments&) {
-    const DWORD attributes = ce::GetFileAttributesW(path);
+    const DWORD attributes = ce::GetFileAttributesW(Path());
     // A folder with any other attribute is written like a file.
     if (attributes == INVALID_FILE_ATTRIBUTES || attributes == FILE_ATTRIBUTE_DIRECTORY) return 0;
     DWORD chosen = 0;
@@ -96,6 +80,7 @@ LRESULT GeneralPage::OnApplyChanges(EventArguments&) {
         if (SendDlgItemMessageW(Handle(), box.id, BM_GETCHECK, 0, 0) != 0) chosen |= box.attribute;
     }
     if (chosen == (attributes & ChangeableAttributes)) return 0;
-    SetAttributesOrReport(Handle(), path, (attributes & ~ChangeableAttributes) | chosen);
+    SetAttributesOrReport(Handle(), Path(), (attributes & ~ChangeableAttributes) | chosen);
+    MarkChanged();
     return 0;
 }

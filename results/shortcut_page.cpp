@@ -4,11 +4,8 @@
 
 #include "app/language.h"
 #include "fileops/file_facts.h"
-#include "framework/control.h"
-#include "framework/dialog_template.h"
 #include "platform/format_text.h"
 #include "resources/resource_ids.h"
-#include "results/page_items.h"
 #include "results/shortcut_target.h"
 
 namespace {
@@ -22,18 +19,15 @@ constexpr int FileOnlyItems[] = {LABEL_TARGET_SIZE, LABEL_TARGET_MODIFIED, STATI
 }  // namespace
 
 ShortcutPage::ShortcutPage(WindowObject* parentObject)
-    : PropertySheetPage(parentObject, InLanguage(L"Shortcut", L"ｼｮｰﾄｶｯﾄ"),
-                        TemplateProperties(InLanguage(L"EFilePropShortcutPage_E", L"EFilePropShortcutPage_J"))) {
+    : FilePage(parentObject, InLanguage(L"Shortcut", L"ｼｮｰﾄｶｯﾄ"),
+               InLanguage(L"EFilePropShortcutPage_E", L"EFilePropShortcutPage_J")) {
     OnApply(this, &ShortcutPage::OnApplyChanges);
 }
 
 void ShortcutPage::SetUpControls() {
-    SHFILEINFOW info{};
-    ce::SHGetFileInfo(path, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME);
-    ShowIcon(Handle(), info.hIcon);
-    SetDlgItemTextW(Handle(), STATIC_DISPLAY_NAME, info.szDisplayName);
+    ShowFile();
     wchar_t target[MAX_PATH];
-    if (!ce::SHGetShortcutTarget(path, target, MAX_PATH)) return;
+    if (!ce::SHGetShortcutTarget(Path(), target, MAX_PATH)) return;
     SetDlgItemTextW(Handle(), EDIT_TARGET, target);
     RemoveEnclosingQuotes(target);
     ShowTarget(target);
@@ -46,8 +40,7 @@ void ShortcutPage::ShowTarget(const wchar_t* target) {
     WIN32_FIND_DATAW data{};
     if (!FindFile(target, data)) return;
     if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        for (const int id : FileOnlyItems)
-            ShowWindow(DialogItem(*this, id), SW_HIDE);
+        HideControls(FileOnlyItems);
         return;
     }
     wchar_t text[FileDetailsCapacity];
@@ -57,21 +50,17 @@ void ShortcutPage::ShowTarget(const wchar_t* target) {
     } else {
         FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
     }
-    SetDlgItemTextW(Handle(), STATIC_TARGET_SIZE, text);
+    ShowSize(LABEL_TARGET_SIZE, STATIC_TARGET_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_TARGET_MODIFIED, text);
-}
-
-LRESULT ShortcutPage::OnWmDestroy(MessageRecord& record) {
-    FreeIcon(Handle());
-    return PropertySheetPage::OnWmDestroy(record);
 }
 
 // The shortcut is written anew on every apply, edited or not, and the text as it was typed.
 LRESULT ShortcutPage::OnApplyChanges(EventArguments&) {
     wchar_t target[MAX_PATH] = L"";
     GetDlgItemTextW(Handle(), EDIT_TARGET, target, MAX_PATH);
-    ce::DeleteFileW(path);
-    ce::SHCreateShortcut(path, target);
+    ce::DeleteFileW(Path());
+    ce::SHCreateShortcut(Path(), target);
+    MarkChanged();
     return 0;
 }

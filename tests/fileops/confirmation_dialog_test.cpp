@@ -105,6 +105,15 @@ TEST_F(ConfirmationDialogTest, can_be_asked_again) {
     EXPECT_EQ(dialog.Ask(), ConfirmResult::Yes);
 }
 
+TEST_F(ConfirmationDialogTest, the_programs_end_cancels_it_and_still_comes) {
+    const AskedQuestion asked =
+        Ask(&host.Object(), YesNoTemplate(), FillFileDeleteText, Path, [](HWND) { PostQuitMessage(3); });
+    EXPECT_EQ(asked.result, ConfirmResult::Cancel);
+    MSG message = {};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, WPARAM{3});
+}
+
 TEST_F(ConfirmationDialogTest, without_its_template_it_counts_as_cancelled) {
     EXPECT_EQ(AskQuestion(&host.Object(), L"EMissingDialog", FillFileDeleteText, Path),
               ConfirmResult::Cancel);

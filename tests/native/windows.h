@@ -62,6 +62,10 @@ inline int _vsnwprintf(wchar_t* text, std::size_t capacity, const wchar_t* forma
     return std::vswprintf(text, capacity, format, arguments);
 }
 
+inline int _wcsnicmp(const wchar_t* first, const wchar_t* second, std::size_t units) {
+    return ::wcsncasecmp(first, second, units);
+}
+
 #define LOCALE_SYSTEM_DEFAULT 0x0800
 
 // Writes the number with two digits for each of the letters that the picture can hold, and quoted text as it
@@ -112,9 +116,11 @@ inline int FormatByPicture(const SYSTEMTIME& time, const wchar_t* picture, wchar
 
 inline int GetDateFormatW(DWORD, DWORD, const SYSTEMTIME* time, const wchar_t* picture, wchar_t* text,
                           int capacity) {
+    if (time->wMonth < 1 || time->wMonth > 12 || time->wDay < 1 || time->wDay > 31) return 0;
     return FormatByPicture(*time, picture, text, capacity);
 }
 inline int GetTimeFormatW(DWORD, DWORD, const SYSTEMTIME* time, const wchar_t* picture, wchar_t* text,
                           int capacity) {
+    if (time->wHour > 23 || time->wMinute > 59 || time->wSecond > 59 || time->wMilliseconds > 999) return 0;
     return FormatByPicture(*time, picture, text, capacity);
 }

@@ -1,0 +1,211 @@
+#include "fileops/file_operation.h"
+
+#include <cwchar>
+#include <iterator>
+#include <new>
+
+#include "app/language.h"
+#include "fileops/inside_source.h"
+#include "fileops/message_boxes.h"
+#include "framework/control.h"
+#include "framework/dialog_template.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+struct TextPair {
+    const wchar_t* english;
+    const wchar_t* japanese;
+
+    [[nodiscard]] const wchar_t* Text() const { return InLanguage(english, japanese); }
+};
+
+constexpr TextPair SourceIsInside = {L"Source to destination is recursive", L"送り側と受け側が同じです"};
+
+// What the dialog says during an operation.
+struct OperationTexts {
+    TextPair title;
+    TextPair sourceLabel;
+    TextPair destinationLabel;
+};
+
+// In the order of FileOperationKind.
+constexpr OperationTexts AllTexts[] = {
+    {{L"File Copy Progress", L"ﾌｧｲﾙのｺﾋﾟｰ中"},
+     {L"Source file:", L"ｺﾋﾟｰ元"},
+     {L"Destination file:", L"ｺﾋﾟｰ先"}},
+    {{L"File Update Progress", L"ﾌｧｲﾙのｱｯﾌﾟﾃﾞｰﾄ中"},
+     {L"Source file:", L"ｱｯﾌﾟﾃﾞｰﾄ元"},
+     {L"Destination file:", L"ｱｯﾌﾟﾃﾞｰﾄ先"}},
+    // The English label of the destination has no colon here, on purpose.
+    {{L"File Exclude Progress", L"ﾌｧｲﾙの排除中"},
+     {L"Source file:", L"排除元"},
+     {L"Destination file", L"排除先"}},
+    {{L"File Move Progress", L"ﾌｧｲﾙの移動中"},
+     {L"Source file:", L"移動元"},
+     {L"Destination file:", L"移動先"}},
+    {{L"File Delete Progress", L"ﾌｧｲﾙの削除中"}, {L"Delete file:", L"削除するﾌｧｲﾙ"}, {L"", L""}},
+};
+
+// Null for a value that is no operation.
+const OperationTexts* TextsOf(FileOperationKind kind) {
+    const auto index = static_cast<std::uint32_t>(kind);
+    return index < std::size(AllTexts) ? &AllTexts[index] : nullptr;
+}
+
+bool IsSeparator(wchar_t unit) {
+    return unit == L'\\' || unit == L'/';
+}
+
+// Without separators at the end, which no later comparison or joining expects; a root keeps its own.
+bool CopyPath(PathBuffer& destination, const wchar_t* path) {
+    std::size_t units = wcsnlen(path, MAX_PATH);
+    if (units >= MAX_PATH) return false;
+    const std::size_t root = units > 1 && path[1] == L':' ? 3 : 1;
+    while (units > root && IsSeparator(path[units - 1]))
+        --units;
+    std::wmemcpy(destination, path, units);
+    destination[units] = L'\0';
+    return true;
+}
+
+}  // namespace
+
+FileOperation::FileOperation(WindowObject* parentObject)
+    : Dialog(parentObject, TemplateProperties(InLanguage(L"EFileOpDialog_E", L"EFileOpDialog_J"))) {
+    OnCommand(COMMAND_RUN, this, &FileOperation::OnRun);
+    OnCommand(BUTTON_STOP, this, &FileOperation::OnStop);
+    OnMessage(WM_CLOSE, this, &FileOperation::OnWmClose);
+}
+
+FileOperation::~FileOperation() = default;
+
+bool FileOperation::AddSource(const wchar_t* path) {
+    PathBuffer copy;
+    if (path[0] == L'\0' || !CopyPath(copy, path)) return false;
+    if (sources == nullptr) sources.reset(new (std::nothrow) ObjectList);
+    if (sources == nullptr) return false;
+    StringObject* const item = StringObject::Create(copy);
+    if (item == nullptr) return false;
+    if (sources->Append(item)) return true;
+    delete item;
+    return false;
+}
+
+void FileOperation::ClearSources() {
+    sources.reset();
+}
+
+bool FileOperation::SetDestination(const wchar_t* path) {
+    return CopyPath(destination, path);
+}
+
+INT_PTR FileOperation::RunModal() {
+    if (running) return -1;
+    running = true;
+    runBegun = false;
+    closeParentAfterwards = false;
+    const INT_PTR result = Dialog::RunModal();
+    stopButton.reset();
+    running = false;
+    if (closeParentAfterwards) PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
+    // Also when the window went under with its owner, or with the program's end before the run began.
+    return runBegun || result != -1 ? ResultOk : -1;
+}
+
+void FileOperation::StopAndCloseParent() {
+    closeParentAfterwards = true;
+    Stop();
+}
+
+LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
+    const LRESULT result = Dialog::OnInitDialog(record);
+    stopButton = std::make_unique<Control>(this, DialogItem(*this, BUTTON_STOP), L"Button");
+    stopButton->Subclass();
+    stopButton->OnMessage(WM_KEYDOWN, this, &FileOperation::OnButtonKey);
+    ShowWindow(Handle(), SW_SHOWNORMAL);
+    UpdateWindow(Handle());
+    PostMessageW(Handle(), WM_COMMAND, COMMAND_RUN, 0);
+    return result;
+}
+
+LRESULT FileOperation::OnWmCommand(MessageRecord& record) {
+    if (LOWORD(record.wParam) != IDCANCEL) return Dialog::OnWmCommand(record);
+    StopOrLeave();
+    return 0;
+}
+
+// The system would post a Cancel, which came a file later.
+LRESULT FileOperation::OnWmClose(MessageRecord&) {
+    StopOrLeave();
+    return 1;
+}
+
+// The bar's Cancel and the dialog's closing are ways to stop; the dialog goes when the run has unwound.
+void FileOperation::StopOrLeave() {
+    Stop();
+    if (!runBegun) End(ResultOk);
+}
+
+LRESULT FileOperation::OnStop(EventArguments&) {
+    Stop();
+    return 0;
+}
+
+// A run pumps messages without the dialog's keyboard rules, so the button itself knows the keys that press
+// it.
+LRESULT FileOperation::OnButtonKey(MessageRecord& record) {
+    if (record.wParam != VK_RETURN && record.wParam != VK_ESCAPE)
+        return stopButton->DefaultProcessing(record);
+    Stop();
+    return 0;
+}
+
+LRESULT FileOperation::OnRun(EventArguments&) {
+    // Once only: a second command that arrives in the middle of the run starts nothing.
+    if (runBegun) return 0;
+    runBegun = true;
+    RunFileOperation();
+    End(ResultOk);
+    return 0;
+}
+
+void FileOperation::RunFileOperation() {
+    abortRequested = false;
+    const OperationTexts* const texts = TextsOf(operation);
+    if (texts == nullptr) return;
+    SetWindowTextW(Handle(), texts->title.Text());
+    depth = 0;
+    const std::uint32_t count = sources != nullptr ? sources->Count() : 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const wchar_t* const source = static_cast<const StringObject*>(sources->ItemAt(i))->Text();
+        if (operation != FileOperationKind::Delete && IsInsideSource(source, destination)) {
+            ShowError(Handle(), SourceIsInside.Text());
+            return;
+        }
+        SetDlgItemTextW(Handle(), LABEL_SOURCE, texts->sourceLabel.Text());
+        SetDlgItemTextW(Handle(), LABEL_DESTINATION, texts->destinationLabel.Text());
+        UpdateWindow(Handle());
+        if (!ProcessSource(source)) return;
+    }
+}
+
+bool FileOperation::ProcessSource(const wchar_t* path) {
+    PathBuffer source;
+    PathBuffer target;
+    std::wcscpy(source, path);
+    std::wcscpy(target, destination);
+    switch (operation) {
+        case FileOperationKind::Copy:
+            return CopyEntry(source, target);
+        case FileOperationKind::Update:
+            return UpdateEntry(source, target);
+        case FileOperationKind::Exclude:
+            return ExcludeEntry(source, target);
+        case FileOperationKind::Move:
+            return MoveEntry(source, target);
+        case FileOperationKind::Delete:
+            return DeleteEntry(source);
+    }
+    return false;
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+// Copies, updates, excludes, moves or deletes a list of files and folders inside a small modal dialog, which
+// shows each file and offers Stop. A caller that wants one of the five says what to do and runs it; it is
+// told nothing back, since every failure has been reported to the user by then:
+//     operation.ClearSources();
+//     if (!operation.AddSource(L"\\My Documents\\a.txt") || !operation.SetDestination(L"\\Storage Card")) ...
+//     operation.operation = FileOperationKind::Copy;
+//     operation.confirm = operation.multiple = true;
+//     operation.RunModal();
+
+#include <cstdint>
+
+#include "fileops/confirmation_dialog.h"
+#include "fileops/path_extension.h"
+#include "search/object_list.h"
+
+enum class FileOperationKind : std::uint32_t { Copy, Update, Exclude, Move, Delete };
+
+class FileOperation : public Dialog {
+  public:
+    // Takes its template in the user's language. The parent's window owns the dialog and the questions.
+    explicit FileOperation(WindowObject* parent);
+    ~FileOperation() override;
+
+    // What to process, in this order, by full paths. False for an empty path, for one of MAX_PATH units or
+    // more and when there is no memory; the list is then as it was. Separators at the end are dropped.
+    [[nodiscard]] bool AddSource(const wchar_t* path);
+    void ClearSources();
+    // The folder to work on; for a single file also a file's path. Delete ignores it. False for a path of
+    // MAX_PATH units or more. Separators at the end are dropped.
+    [[nodiscard]] bool SetDestination(const wchar_t* path);
+
+    // Any other value does nothing.
+    FileOperationKind operation = FileOperationKind::Copy;
+    // Asks before each replacing and deleting. Cleared by the answer Yes to All, also for the next run.
+    bool confirm = true;
+    // The questions offer Yes to All and Cancel.
+    bool multiple = true;
+
+    // Returns ResultOk whatever happened, and -1 when the template is missing or a run is under way. The
+    // fields and the list may not be changed meanwhile.
+    INT_PTR RunModal() override;
+    // From the dialog's creation until RunModal is about to return.
+    [[nodiscard]] bool IsRunning() const { return running; }
+
+    // What the Stop button does: the run ends before the next file. What was done stays done.
+    void Stop() { abortRequested = true; }
+    // Stops, and closes the parent's window when the run is over.
+    void StopAndCloseParent();
+
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override;
+    LRESULT OnWmCommand(MessageRecord& record) override;
+
+  private:
+    enum class FolderStep { Enter, Skip, End };
+
+    LRESULT OnStop(EventArguments& arguments);
+    LRESULT OnRun(EventArguments& arguments);
+    LRESULT OnWmClose(MessageRecord& record);
+    LRESULT OnButtonKey(MessageRecord& record);
+    void StopOrLeave();
+
+    void RunFileOperation();
+    [[nodiscard]] bool ProcessSource(const wchar_t* path);
+
+    // Each answers whether to go on with the next entry, also after a skip; false ends the run. The paths may
+    // be extended meanwhile and are given back as they were.
+    [[nodiscard]] bool CopyEntry(PathBuffer& source, PathBuffer& target);
+    [[nodiscard]] bool UpdateEntry(PathBuffer& source, PathBuffer& target);
+    [[nodiscard]] bool ExcludeEntry(PathBuffer& source, PathBuffer& target);
+    [[nodiscard]] bool MoveEntry(PathBuffer& source, PathBuffer& target);
+    [[nodiscard]] bool DeleteEntry(PathBuffer& path);
+
+    using EntryWorker = bool (FileOperation::*)(PathBuffer& source, PathBuffer& target);
+    using FileStep = bool (FileOperation::*)(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] bool FileInto(const wchar_t* source, PathBuffer& target, FileStep step);
+    [[nodiscard]] bool EachEntry(const wchar_t* walked, PathBuffer& source, PathBuffer& target,
+                                 EntryWorker worker);
+    [[nodiscard]] FolderStep PrepareFolder(const wchar_t* folder);
+    [[nodiscard]] bool AskFolderDelete(const wchar_t* folder);
+
+    // One file each; answers as above.
+    [[nodiscard]] bool CopyOneFile(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] bool CopyOneFileIfNewer(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] bool ReplaceByCopy(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] bool MoveOneFile(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] bool DeleteOneFile(const wchar_t* path);
+
+    [[nodiscard]] bool BeginFile(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] ConfirmResult AskFileReplace(const wchar_t* source, const wchar_t* target);
+    [[nodiscard]] ConfirmResult AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument);
+
+    std::unique_ptr<ObjectList> sources;
+    PathBuffer destination = L"";
+    bool abortRequested = false;
+    // Of folders below the item of the list that is copied or moved.
+    std::int32_t depth = 0;
+
+    bool running = false;
+    bool runBegun = false;
+    bool closeParentAfterwards = false;
+    std::unique_ptr<WindowObject> stopButton;
+};

@@ -1,0 +1,104 @@
+// What the operations do with one file.
+
+#include "fileops/dos_time.h"
+#include "fileops/file_actions.h"
+#include "fileops/file_facts.h"
+#include "fileops/file_operation.h"
+#include "fileops/path_kind.h"
+#include "fileops/question_texts.h"
+#include "platform/same_file.h"
+#include "platform/windows_ce.h"
+#include "resources/resource_ids.h"
+#include "search/pump_one_message.h"
+
+namespace {
+
+// False when nothing is found at the path. The time is taken as it is, not as local time.
+bool GetLastWriteTime(const wchar_t* path, DosTime& time) {
+    WIN32_FIND_DATAW data;
+    if (!FindFile(path, data)) return false;
+    SYSTEMTIME moment{};
+    FileTimeToSystemTime(&data.ftLastWriteTime, &moment);
+    time = PackDosTime(moment);
+    return true;
+}
+
+}  // namespace
+
+bool FileOperation::CopyOneFile(const wchar_t* source, const wchar_t* target) {
+    return BeginFile(source, target) && ReplaceByCopy(source, target);
+}
+
+bool FileOperation::CopyOneFileIfNewer(const wchar_t* source, const wchar_t* target) {
+    if (!BeginFile(source, target)) return false;
+    DosTime sourceTime, targetTime;
+    if (!GetLastWriteTime(source, sourceTime)) return false;
+    if (GetLastWriteTime(target, targetTime) && CompareDosTimes(sourceTime, targetTime) < 1) return true;
+    return ReplaceByCopy(source, target);
+}
+
+bool FileOperation::ReplaceByCopy(const wchar_t* source, const wchar_t* target) {
+    if (confirm && PathExists(target)) {
+        const ConfirmResult answer = AskFileReplace(source, target);
+        if (answer == ConfirmResult::No) return true;
+        if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
+    }
+    // So that a read-only, hidden or system file can be overwritten; without it the copy is still tried.
+    if (PathExists(target)) SetAttributesOrReport(Handle(), target, FILE_ATTRIBUTE_NORMAL);
+    return CopyFileOrReport(Handle(), source, target, false);
+}
+
+// An existing target is deleted only after a question. Without one it is left alone and the move fails,
+// unlike a copy: on purpose.
+bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
+    if (!BeginFile(source, target)) return false;
+    if (confirm && PathExists(target)) {
+        const ConfirmResult answer = AskFileReplace(source, target);
+        if (answer == ConfirmResult::No) return true;
+        if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
+        // Two paths may lead to one file; with the target the source would be gone.
+        if (!IsSameFile(source, target)) DeleteFileOrReport(Handle(), target);
+    }
+    return MoveFileOrReport(Handle(), source, target);
+}
+
+bool FileOperation::DeleteOneFile(const wchar_t* path) {
+    if (!BeginFile(path, L"")) return false;
+    if (confirm) {
+        const ConfirmResult answer =
+            AskInRun(multiple ? YesAllNoCancelTemplate() : YesNoTemplate(), &FillFileDeleteText, path);
+        if (answer == ConfirmResult::No) return true;
+        if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
+    }
+    ce::SetFileAttributesW(path, FILE_ATTRIBUTE_NORMAL);
+    return DeleteFileOrReport(Handle(), path);
+}
+
+// Takes one message, which may be Stop, and shows the file. False when the run has to end.
+bool FileOperation::BeginFile(const wchar_t* source, const wchar_t* target) {
+    // A file takes longer than a look at an empty queue.
+    ExpectMessages();
+    // With the program's end, or with the owner's and the dialog's, the run ends as well.
+    if (PumpOneMessage() == PumpOutcome::Quit || Handle() == nullptr) Stop();
+    if (abortRequested) return false;
+    SetDlgItemTextW(Handle(), STATIC_SOURCE, source);
+    SetDlgItemTextW(Handle(), STATIC_DESTINATION, target);
+    UpdateWindow(Handle());
+    return true;
+}
+
+ConfirmResult FileOperation::AskFileReplace(const wchar_t* source, const wchar_t* target) {
+    const ReplacePaths paths = {source, target};
+    return AskInRun(multiple ? MultipleFileReplaceTemplate() : FileReplaceTemplate(), &FillFileReplaceText,
+                    &paths);
+}
+
+ConfirmResult FileOperation::AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument) {
+    const ConfirmResult answer = AskQuestion(Parent(), question, fill, argument);
+    if (answer == ConfirmResult::YesToAll) confirm = false;
+    if (answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll) {
+        UpdateWindow(ParentHandle());
+        UpdateWindow(Handle());
+    }
+    return answer;
+}

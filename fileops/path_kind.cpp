@@ -1,0 +1,20 @@
+#include "fileops/path_kind.h"
+
+#include "fileops/file_facts.h"
+#include "platform/windows_ce.h"
+
+PathKind KindOf(const wchar_t* path) {
+    WIN32_FIND_DATAW entry{};
+    entry.dwFileAttributes = ce::GetFileAttributesW(path);
+    if (entry.dwFileAttributes == INVALID_FILE_ATTRIBUTES) return PathKind::Nothing;
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return PathKind::File;
+    return ce::IsFolderLink(path, entry) ? PathKind::LinkToFolder : PathKind::Folder;
+}
+
+bool PathExists(const wchar_t* path) {
+    return ce::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool IsFolder(const wchar_t* path) {
+    return HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY);
+}

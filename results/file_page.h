@@ -1,0 +1,35 @@
+#pragma once
+
+// What the pages of the properties sheet share: the file, its icon and its name.
+
+#include <span>
+
+#include "framework/property_sheet.h"
+
+class FilePage : public PropertySheetPage {
+  public:
+    // The text stays the caller's and outlives the sheet.
+    void SetPath(const wchar_t* filePath) { path = filePath; }
+
+    // Whether an apply of this page has set out to change something.
+    [[nodiscard]] bool HasChanged() const { return changed; }
+
+  protected:
+    FilePage(WindowObject* parent, const wchar_t* title, const wchar_t* templateName);
+
+    [[nodiscard]] const wchar_t* Path() const { return path; }
+
+    // Shows the file's icon and display name; the answer holds what else was asked for.
+    SHFILEINFOW ShowFile(UINT alsoAsked = 0);
+    void HideControls(std::span<const int> ids);
+    // Shows a size behind its label. A size too long for its place takes the room that the label leaves.
+    void ShowSize(int labelId, int sizeId, const wchar_t* text);
+
+    LRESULT OnWmDestroy(MessageRecord& record) override;
+
+    void MarkChanged() { changed = true; }
+
+  private:
+    bool changed = false;
+    const wchar_t* path = L"";
+};

@@ -1,0 +1,49 @@
+#include "fileops/inside_source.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+struct OverlapCase {
+    const char* name;
+    const wchar_t* source;
+    const wchar_t* destination;
+    bool overlaps;
+};
+
+const OverlapCase OverlapCases[] = {
+    {"folder_that_holds_it", L"\\a\\b", L"\\a", true},
+    {"folder_that_holds_it_in_another_case", L"\\a\\b", L"\\A", true},
+    {"root_that_holds_it", L"\\a", L"\\", true},
+    {"folder_that_holds_a_file_of_a_quoted_path", L"\"\\a\\b\"", L"\\a", true},
+    {"itself", L"\\a", L"\\a", true},
+    {"itself_in_another_case", L"\\a\\x", L"\\A\\X", true},
+    {"inside_itself", L"\\a", L"\\a\\x", true},
+    {"inside_itself_in_another_case", L"\\a", L"\\A\\x", true},
+    {"inside_itself_by_a_slash", L"\\a", L"\\a/x", true},
+    {"deep_inside_itself", L"\\a", L"\\a\\b\\c\\d", true},
+    {"name_that_begins_alike", L"\\a", L"\\ab", false},
+    {"folder_of_a_name_that_begins_alike", L"\\a", L"\\ab\\a", false},
+    {"another_folder", L"\\a\\b", L"\\c", false},
+    {"folder_above_the_one_that_holds_it", L"\\a\\b\\c", L"\\a", false},
+    {"longer_folder_of_the_same_beginning", L"\\a\\b", L"\\aa", false},
+    {"another_drive", L"D:\\a\\b", L"E:\\a", false},
+    {"folder_beside_it", L"\\a\\b", L"\\a\\c", false},
+};
+
+void PrintTo(const OverlapCase& row, std::ostream* out) {
+    *out << row.name;
+}
+
+}  // namespace
+
+class InsideSource : public testing::TestWithParam<OverlapCase> {};
+
+TEST_P(InsideSource, is_told_by_the_texts_of_the_paths) {
+    EXPECT_EQ(IsInsideSource(GetParam().source, GetParam().destination), GetParam().overlaps);
+}
+
+INSTANTIATE_TEST_SUITE_P(Destinations, InsideSource, testing::ValuesIn(OverlapCases),
+                         testing::PrintToStringParamName());

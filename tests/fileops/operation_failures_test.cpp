@@ -1,0 +1,129 @@
+// Failures that do not end a run, and files that are out of the ordinary.
+
+#include "platform/windows_ce.h"
+#include "resources/resource_ids.h"
+#include "tests/fileops/operation_test.h"
+#include "tests/support/replaced_calls.h"
+
+namespace {
+
+BOOL Refuse() {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return FALSE;
+}
+
+using SetAttributesCall = decltype(ce::FileCalls::setFileAttributes);
+using DeleteCall = decltype(ce::FileCalls::deleteFile);
+
+}  // namespace
+
+class OperationFailures : public OperationTest {};
+
+TEST_F(OperationFailures, attributes_that_stay_are_told_and_the_copy_is_still_made) {
+    AddContents(tree, "s/a=new s/z=Z d/a=old");
+    operation.confirm = false;
+    Prepare(FileOperationKind::Copy, {"s/a", "s/z"}, "d");
+    const Replaced<SetAttributesCall> refused(ce::fileCalls.setFileAttributes,
+                                              [](const wchar_t*, DWORD) { return Refuse(); });
+    EXPECT_EQ(Run(), "Error: Error SetFileAttribute 5");
+    EXPECT_EQ(Contents(), InOrder("s/a=new s/z=Z d/a=new d/z=Z"));
+}
+
+TEST_F(OperationFailures, attributes_that_stay_before_a_deletion_are_not_told) {
+    AddContents(tree, "s/a=1 s/b=2");
+    operation.confirm = false;
+    Prepare(FileOperationKind::Delete, {"s"}, "");
+    const Replaced<SetAttributesCall> refused(ce::fileCalls.setFileAttributes,
+                                              [](const wchar_t*, DWORD) { return Refuse(); });
+    EXPECT_EQ(Run(), "");
+    EXPECT_EQ(Contents(), "");
+}
+
+TEST_F(OperationFailures, a_file_that_a_move_cannot_delete_first_is_told_and_the_move_is_still_tried) {
+    AddContents(tree, "s/a=new s/z=Z d/a=old");
+    Prepare(FileOperationKind::Move, {"s/a", "s/z"}, "d");
+    const Replaced<DeleteCall> refused(ce::fileCalls.deleteFile, [](const wchar_t*) { return Refuse(); });
+    EXPECT_EQ(Run({IDYES, IDOK}), "Confirm File Replace/4; Error: Access denied; Error: Error Move file 183");
+    EXPECT_EQ(Contents(), InOrder("s/a=new s/z=Z d/a=old"));
+}
+
+TEST_F(OperationFailures, a_read_only_hidden_system_file_is_overwritten_by_a_copy) {
+    AddContents(tree, "s/a=new d/a=old");
+    const std::wstring existing = PathIn(tree, "d/a");
+    ASSERT_TRUE(SetFileAttributesW(existing.c_str(),
+                                   FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
+    Prepare(FileOperationKind::Copy, {"s/a"}, "d");
+    EXPECT_EQ(Run({IDYES}), "Confirm File Replace/4");
+    EXPECT_EQ(Contents(), InOrder("s/a=new d/a=new"));
+    EXPECT_EQ(GetFileAttributesW(existing.c_str()) & FILE_ATTRIBUTE_READONLY, DWORD{0});
+}
+
+TEST_F(OperationFailures, hidden_entries_are_copied_and_deleted_like_others) {
+    AddContents(tree, "s/a=1 s/m/b=2 d/");
+    for (const char* const path : {"s/a", "s/m"})
+        ASSERT_TRUE(SetFileAttributesW(PathIn(tree, path).c_str(), FILE_ATTRIBUTE_HIDDEN));
+    operation.confirm = false;
+    Prepare(FileOperationKind::Copy, {"s"}, "d");
+    EXPECT_EQ(Run(), "");
+    EXPECT_EQ(Contents(), InOrder("s/a=1 s/m/b=2 d/s/a=1 d/s/m/b=2"));
+    Prepare(FileOperationKind::Delete, {"s"}, "");
+    EXPECT_EQ(Run(), "");
+    EXPECT_EQ(Contents(), InOrder("d/s/a=1 d/s/m/b=2"));
+}
+
+TEST_F(OperationFailures, a_question_that_names_the_folder_tells_its_whole_path) {
+    AddContents(tree, "s/m/f=1 d/m/");
+    Prepare(FileOperationKind::Copy, {"s/m"}, "d");
+    std::wstring question;
+    const auto read = [&](HWND box) {
+        wchar_t text[600] = L"";
+        GetDlgItemTextW(box, STATIC_QUESTION, text, 600);
+        question = text;
+    };
+    EXPECT_EQ(Run({IDNO}, read), "Confirm Folder Replace/4");
+    EXPECT_NE(question.find(L"'" + PathIn(tree, "d/m") + L"'"), std::wstring::npos);
+}
+
+class OperationInJapanese : public OperationTest {
+  protected:
+    OperationInJapanese() : OperationTest(UiLanguage::Japanese) {}
+
+    // The title of the question and the text of its button for all.
+    std::wstring titleAndAll;
+    void RunAndRead(FileOperationKind kind, const std::string& source, const std::string& destination) {
+        Prepare(kind, {source}, destination);
+        Run({IDCANCEL}, [this](HWND box) {
+            wchar_t title[64] = L"";
+            wchar_t all[64] = L"";
+            GetWindowTextW(box, title, 64);
+            GetDlgItemTextW(box, BUTTON_YES_TO_ALL, all, 64);
+            titleAndAll = title + std::wstring(L"|") + all;
+        });
+    }
+};
+
+TEST_F(OperationInJapanese, every_question_is) {
+    AddContents(tree, "s/a=1 s/m/ d/a=2 d/m/f=3");
+    RunAndRead(FileOperationKind::Copy, "s/a", "d");
+    EXPECT_EQ(titleAndAll, L"ﾌｧｲﾙの置換の確認|全上書(&A)");
+    RunAndRead(FileOperationKind::Move, "s/m", "d");
+    EXPECT_EQ(titleAndAll, L"ﾌｫﾙﾀﾞの置換の確認|すべて上書き(&A)");
+    RunAndRead(FileOperationKind::Delete, "s/a", "");
+    EXPECT_EQ(titleAndAll, L"ﾌｧｲﾙの削除の確認|全削除(&A)");
+    RunAndRead(FileOperationKind::Exclude, "s/none", "d");
+    EXPECT_EQ(titleAndAll, L"ﾌｫﾙﾀﾞの削除の確認|全削除(&A)");
+}
+
+TEST_F(OperationInJapanese, the_refusal_of_an_overlap_is) {
+    AddContents(tree, "a/b=1");
+    Prepare(FileOperationKind::Copy, {"a"}, "a");
+    std::wstring message;
+    Run({IDOK}, [&](HWND box) {
+        wchar_t text[64] = L"";
+        for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+            GetWindowTextW(child, text, 64);
+            message += text;
+        }
+    });
+    EXPECT_NE(message.find(L"送り側と受け側が同じです"), std::wstring::npos);
+}

@@ -1,0 +1,53 @@
+#include "tests/fileops/operation_table.h"
+
+#include <algorithm>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+// Noon of that day in January 2003.
+void SetDay(const std::wstring& path, WORD day) {
+    const SYSTEMTIME moment = {2003, 1, 0, day, 12, 0, 0, 0};
+    FILETIME time;
+    ASSERT_TRUE(SystemTimeToFileTime(&moment, &time));
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
+    CloseHandle(file);
+}
+
+std::vector<std::string> Words(const char* line) {
+    std::istringstream words(line);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+}  // namespace
+
+void PrintTo(const OperationRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+std::string RowName(const testing::TestParamInfo<OperationRow>& info) {
+    return info.param.name;
+}
+
+void OperationTable::ExpectRow(FileOperationKind kind) {
+    const OperationRow& row = GetParam();
+    AddContents(tree, row.before);
+    for (const std::string& entry : Words(row.before)) {
+        const std::size_t equals = entry.find('=');
+        if (equals == std::string::npos) continue;
+        SetDay(PathIn(tree, entry.substr(0, equals)), entry.substr(equals) == "=old" ? 1 : 2);
+    }
+    operation.confirm = row.asks != Asks::Never;
+    operation.multiple = row.asks == Asks::WithYesToAll;
+    Prepare(kind, Words(row.sources), row.destination);
+
+    std::vector<int> answers = row.answers;
+    answers.push_back(IDOK);
+    EXPECT_EQ(Run(answers), row.boxes);
+    EXPECT_EQ(Contents(), InOrder(row.after));
+    const bool saidAll = std::find(answers.begin(), answers.end(), All) != answers.end();
+    EXPECT_EQ(operation.confirm, row.asks != Asks::Never && !saidAll);
+}

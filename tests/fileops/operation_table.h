@@ -1,0 +1,36 @@
+#pragma once
+
+// The decisions of the operations as tables: what stands, what is asked and answered, what stands then.
+
+#include <string>
+#include <vector>
+
+#include "tests/fileops/operation_test.h"
+
+// When the engine asks.
+enum class Asks { Never, OnePerFile, WithYesToAll };
+
+constexpr int Yes = IDYES;
+constexpr int All = 20;
+constexpr int No = IDNO;
+constexpr int Cancel = IDCANCEL;
+
+struct OperationRow {
+    const char* name;
+    const char* before;   // see AddContents; a file with the text "old" is a day older than any other
+    const char* sources;  // parted by blanks
+    const char* destination;
+    Asks asks;
+    std::vector<int> answers;
+    const char* boxes;  // see MetBox
+    const char* after;
+};
+
+void PrintTo(const OperationRow& row, std::ostream* out);
+[[nodiscard]] std::string RowName(const testing::TestParamInfo<OperationRow>& info);
+
+class OperationTable : public OperationTest, public testing::WithParamInterface<OperationRow> {
+  protected:
+    // Runs the row and looks at everything that it says.
+    void ExpectRow(FileOperationKind kind);
+};
