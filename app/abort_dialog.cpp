@@ -4,15 +4,14 @@
 
 #include "app/language.h"
 #include "framework/control.h"
-#include "framework/property_keys.h"
+#include "framework/dialog_template.h"
 
 namespace {
 
 constexpr ULONGLONG ShowInterval = 80;
 
 PropertySet TemplateAndFlags() {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, InLanguage(L"AbortDialog_E", L"AbortDialog_J"));
+    PropertySet properties = TemplateProperties(InLanguage(L"AbortDialog_E", L"AbortDialog_J"));
     properties.Set(property::FullScreenFlags, ce::DialogLowerInputPanel);
     return properties;
 }

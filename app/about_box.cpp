@@ -1,12 +1,14 @@
 #include "app/about_box.h"
 
+#include <cwchar>
+
 #include "app/language.h"
 #include "app/memory_lines.h"
 #include "app/uninstall.h"
 #include "fileops/message_boxes.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
-#include "framework/property_keys.h"
+#include "framework/dialog_template.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -25,24 +27,22 @@ constexpr StringPlace StringPlaces[] = {
     {STRING_CONTACT_2, STATIC_CONTACT_2},
 };
 
-PropertySet AboutTemplate() {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, InLanguage(L"EAboutDialog_E", L"EAboutDialog_J"));
-    return properties;
-}
-
 HFONT CreateTitleFont() {
     LOGFONTW font{};
     font.lfHeight = TitleHeight;
     font.lfWeight = FW_BOLD;
     font.lfCharSet = DEFAULT_CHARSET;
+    // The template's own font; a Japanese system would choose one that has no bold.
+    std::wcscpy(font.lfFaceName, L"Tahoma");
     return CreateFontIndirectW(&font);
 }
 
 }  // namespace
 
 AboutBox::AboutBox(WindowObject* parentObject)
-    : Dialog(parentObject, AboutTemplate()), titleFont(CreateTitleFont()) {
+    : Dialog(parentObject, TemplateProperties(InLanguage(L"EAboutDialog_E", L"EAboutDialog_J"))),
+      titleFont(CreateTitleFont()) {
+    OnMessage(WM_SETFOCUS, this, &AboutBox::OnWmSetFocus);
     OnCommand(IDOK, this, &AboutBox::OnOk);
     OnCommand(BUTTON_UNINSTALL, this, &AboutBox::OnUninstall);
 }
@@ -63,9 +63,16 @@ LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     ShowMemory();
     KeepTitleLineFree(Handle());
     FitToScreen(Handle(), STATIC_CONTACT_2);
-    const LRESULT result = Dialog::OnInitDialog(record);
+    Dialog::OnInitDialog(record);
     Centre();
-    return result;
+    SetFocus(Handle());
+    return FALSE;
+}
+
+// The box itself keeps the focus, where the system would hand it to the one button of the template: Enter and
+// the blank are not to remove the settings unless the user has gone to that button.
+LRESULT AboutBox::OnWmSetFocus(MessageRecord&) {
+    return TRUE;
 }
 
 // A string that cannot be loaded leaves the template's text.

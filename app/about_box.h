@@ -18,6 +18,7 @@ class AboutBox : public Dialog {
     LRESULT OnInitDialog(MessageRecord& record) override;
 
   private:
+    LRESULT OnWmSetFocus(MessageRecord& record);
     LRESULT OnOk(EventArguments& arguments);
     LRESULT OnUninstall(EventArguments& arguments);
 

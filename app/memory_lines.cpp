@@ -1,11 +1,20 @@
 #include "app/memory_lines.h"
 
+#include <algorithm>
+
 #include "app/language.h"
 #include "platform/format_text.h"
 
 namespace {
 
 constexpr int KilobyteShift = 10;
+
+// "%d" shows no more: 2 terabytes in kilobytes.
+constexpr std::uint64_t LargestShown = 0x7FFFFFFF;
+
+int Shown(std::uint64_t number) {
+    return static_cast<int>(std::min(number, LargestShown));
+}
 
 }  // namespace
 
@@ -15,9 +24,8 @@ void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes,
     const std::uint64_t total = bytes.total >> KilobyteShift;
     // Of whole kilobytes, as they are shown: 1,023 free bytes are none.
     const std::uint64_t percentage = total != 0 ? free * 100 / total : 0;
-    // Kilobytes of today's memories still fit in the 32 bits of the format.
-    FormatText(line, MemoryLineCapacity, L"%s: %d/%dKB (%d%%)", label, static_cast<std::uint32_t>(free),
-               static_cast<std::uint32_t>(total), static_cast<std::uint32_t>(percentage));
+    FormatText(line, MemoryLineCapacity, L"%s: %d/%dKB (%d%%)", label, Shown(free), Shown(total),
+               Shown(percentage));
 }
 
 bool ProgramMemoryLine(wchar_t (&line)[MemoryLineCapacity]) {

@@ -12,7 +12,7 @@ constexpr int MemoryLineCapacity = 400;
 constexpr int ListedStorageCards = 2;
 
 // Free and total kilobytes and the percentage of these, all truncated, under the label; 0 percent of less
-// than a kilobyte.
+// than a kilobyte. Of more than 2 terabytes the figure stands still; the percentage is true all the same.
 void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes,
                       wchar_t (&line)[MemoryLineCapacity]);
 

@@ -8,6 +8,7 @@
 #include "app/start_up.h"
 #include "framework/application.h"
 #include "framework/property_keys.h"
+#include "platform/ce_storage.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -35,6 +36,7 @@ int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showComm
     globals.instance = instance;
     globals.commandLine = commandLine;
     globals.showCommand = showCommand;
+    ce::FailOnEmptyDrives();
     ProbePlatform(globals);
     DecideLanguage(globals);
     const CommandLineWords words(commandLine);

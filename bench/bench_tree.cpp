@@ -8,6 +8,12 @@ constexpr int UpperFolders = 20;
 constexpr int LowerFolders = 10;
 constexpr int FilesPerFolder = 50;
 
+// 20,000 together, three levels deep.
+constexpr int TopFolders = 10;
+constexpr int MiddleFolders = 39;
+constexpr int BottomFolders = 50;
+constexpr int LooseFolders = 100;
+
 constexpr int LargeFiles = 24;
 constexpr std::size_t LargeSize = 1024 * 1024;
 constexpr int SmallFiles = 400;
@@ -52,6 +58,7 @@ BenchTree::BenchTree(std::wstring folder) : root(std::move(folder)) {
         return;
     }
     MakeNames();
+    MakeFolders();
     MakeTexts();
 }
 
@@ -73,6 +80,23 @@ void BenchTree::MakeNames() {
         }
     }
     namesEntries = UpperFolders + UpperFolders * LowerFolders * (1 + FilesPerFolder);
+}
+
+void BenchTree::MakeFolders() {
+    AddFolder(FoldersFolder());
+    for (int loose = 0; loose < LooseFolders; ++loose)
+        AddFolder(FoldersFolder() + L"\\loose " + std::to_wstring(loose));
+    for (int top = 0; top < TopFolders; ++top) {
+        const std::wstring topFolder = FoldersFolder() + L"\\folder " + std::to_wstring(top);
+        AddFolder(topFolder);
+        for (int middle = 0; middle < MiddleFolders; ++middle) {
+            const std::wstring middleFolder = topFolder + L"\\folder " + std::to_wstring(middle);
+            AddFolder(middleFolder);
+            for (int bottom = 0; bottom < BottomFolders; ++bottom)
+                AddFolder(middleFolder + L"\\folder " + std::to_wstring(bottom));
+        }
+    }
+    folderCount = LooseFolders + TopFolders * (1 + MiddleFolders * (1 + BottomFolders));
 }
 
 void BenchTree::MakeTexts() {

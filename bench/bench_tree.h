@@ -20,6 +20,10 @@ class BenchTree {
     [[nodiscard]] std::wstring NamesFolder() const { return root + L"\\names"; }
     [[nodiscard]] std::size_t NamesEntries() const { return namesEntries; }
 
+    // Nothing but folders, for the folder browser, and how many stand below.
+    [[nodiscard]] std::wstring FoldersFolder() const { return root + L"\\folders"; }
+    [[nodiscard]] std::size_t FolderCount() const { return folderCount; }
+
     // Text in large and small files, for the content search, and the files' paths.
     [[nodiscard]] std::wstring TextsFolder() const { return root + L"\\texts"; }
     [[nodiscard]] const std::vector<std::wstring>& TextFiles() const { return textFiles; }
@@ -27,6 +31,7 @@ class BenchTree {
 
   private:
     void MakeNames();
+    void MakeFolders();
     void MakeTexts();
     void AddFolder(const std::wstring& path);
     void AddFile(const std::wstring& path, const std::string& bytes);
@@ -34,6 +39,7 @@ class BenchTree {
     std::wstring root;
     bool valid = true;
     std::size_t namesEntries = 0;
+    std::size_t folderCount = 0;
     std::vector<std::wstring> textFiles;
     std::size_t textBytes = 0;
 };

@@ -58,6 +58,7 @@ int wmain(int count, wchar_t** words) {
                 tree.NamesEntries(), tree.TextFiles().size(), tree.TextBytes(), options.runs);
     PrintHeading();
     const bool done = CompareWalk(tree, options.runs) && CompareContent(tree, options.runs) &&
-                      CompareRows(tree, options.runs);
+                      CompareRows(tree, options.runs) && CompareBrowser(tree, options.runs) &&
+                      CompareSorting(options.runs);
     return done ? 0 : 1;
 }

@@ -6,7 +6,7 @@
 #include "conditions/folder_tree.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
-#include "framework/property_keys.h"
+#include "framework/dialog_template.h"
 #include "framework/wait_cursor.h"
 #include "platform/root_name.h"
 #include "resources/resource_ids.h"
@@ -16,16 +16,11 @@ namespace {
 constexpr int ImageSize = 16;
 constexpr int TreeIcons[] = {ICON_DEVICE, ICON_FOLDER, ICON_OPEN_FOLDER};
 
-PropertySet BrowseTemplate() {
-    PropertySet properties;
-    properties.SetText(property::DialogTemplate, InLanguage(L"EBrowseDialog_E", L"EBrowseDialog_J"));
-    return properties;
-}
-
 }  // namespace
 
 FolderBrowseDialog::FolderBrowseDialog(WindowObject* parentObject, const wchar_t* captionText)
-    : Dialog(parentObject, BrowseTemplate()), caption(captionText) {
+    : Dialog(parentObject, TemplateProperties(InLanguage(L"EBrowseDialog_E", L"EBrowseDialog_J"))),
+      caption(captionText) {
     OnCommand(IDOK, this, &FolderBrowseDialog::OnOk);
 }
 

@@ -20,23 +20,6 @@ HTREEITEM InsertItem(HWND tree, HTREEITEM parent, const wchar_t* text, int image
         SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion)));
 }
 
-void FillItem(HWND tree, HTREEITEM item, const wchar_t* folder) {
-    wchar_t path[MAX_PATH];
-    if (!JoinPath(path, folder, L"*.*")) return;
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = ce::FindFirstFileW(path, &entry);
-    if (search == INVALID_HANDLE_VALUE) return;
-    do {
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
-            continue;
-        const HTREEITEM child = InsertItem(tree, item, entry.cFileName, FolderImage, OpenFolderImage);
-        // What a link leads to stands elsewhere in the tree, or leads round in a loop.
-        if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
-            FillItem(tree, child, path);
-    } while (ce::FindNextFileW(search, &entry));
-    ce::FindClose(search);
-}
-
 HTREEITEM Relative(HWND tree, UINT relation, HTREEITEM item) {
     return reinterpret_cast<HTREEITEM>(
         SendMessageW(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
@@ -54,9 +37,26 @@ void ReadText(HWND tree, HTREEITEM treeItem, wchar_t (&text)[MAX_PATH]) {
 
 }  // namespace
 
+void FillFolderItem(HWND tree, HTREEITEM item, const wchar_t* folder) {
+    wchar_t path[MAX_PATH];
+    if (!JoinPath(path, folder, L"*.*")) return;
+    WIN32_FIND_DATAW entry;
+    const HANDLE search = ce::FindFirstFileW(path, &entry);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
+            continue;
+        const HTREEITEM child = InsertItem(tree, item, entry.cFileName, FolderImage, OpenFolderImage);
+        // What a link leads to stands elsewhere in the tree, or leads round in a loop.
+        if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
+            FillFolderItem(tree, child, path);
+    } while (ce::FindNextFileW(search, &entry));
+    ce::FindClose(search);
+}
+
 HTREEITEM FillFolderTree(HWND tree, const wchar_t* rootName) {
     const HTREEITEM root = InsertItem(tree, TVI_ROOT, rootName, RootImage, RootImage);
-    FillItem(tree, root, L"\\");
+    FillFolderItem(tree, root, L"\\");
     return root;
 }
 

@@ -12,5 +12,8 @@ constexpr int OpenFolderImage = 2;
 // which the system lists it. Returns the root item.
 HTREEITEM FillFolderTree(HWND tree, const wchar_t* rootName);
 
+// Inserts every folder below this one under the item, as above.
+void FillFolderItem(HWND tree, HTREEITEM item, const wchar_t* folder);
+
 // The full path of the item: "\" for the root. False when it does not fit.
 [[nodiscard]] bool PathOfItem(HWND tree, HTREEITEM item, wchar_t (&path)[MAX_PATH]);

@@ -47,3 +47,8 @@ bool StorageCard(int index, wchar_t (&name)[MAX_PATH]) {
 }  // namespace
 
 ce::StorageCalls ce::storageCalls = {ProgramMemory, ObjectStore, StorageCard, DiskSpace};
+
+// Not the mode of the process: programs that are started would inherit that.
+void ce::FailOnEmptyDrives() {
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
+}

@@ -24,4 +24,8 @@ struct StorageCalls {
 };
 extern StorageCalls storageCalls;
 
+// The desktop asks for a disk where a drive is empty. From here on the calls of this thread fail instead, as
+// they do on a handheld.
+void FailOnEmptyDrives();
+
 }  // namespace ce

@@ -16,9 +16,9 @@ class RegistryKey {
     bool Create(const wchar_t* path);
     void Close();
 
-    // Reads a text value; sizeInBytes is the buffer's. A value that cannot be read or does not fit leaves an
-    // empty text and answers false. Text types are terminated where there is room for it; others are left as
-    // read.
+    // Reads a text value; sizeInBytes is the buffer's, of one unit at least. A value that cannot be read or
+    // does not fit leaves an empty text and answers false. Text types are terminated where there is room for
+    // it; others are left as read.
     bool QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const;
 
     [[nodiscard]] HKEY Handle() const { return key; }

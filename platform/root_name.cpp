@@ -1,5 +1,6 @@
 #include "platform/root_name.h"
 
+#include <algorithm>
 #include <iterator>
 
 #include "app/language.h"
@@ -17,7 +18,8 @@ constexpr DWORD DisplayNameBytes = 260;
 
 void RootDisplayName(wchar_t (&name)[MAX_PATH]) {
     RegistryKey classes(HKEY_CLASSES_ROOT);
-    name[0] = L'\0';
+    // Empty to its end: a value that is no text is taken as it was read, without a terminator.
+    std::fill(std::begin(name), std::end(name), L'\0');
     if (classes.Open(ComputerClass) && classes.QueryString(L"DisplayName", name, DisplayNameBytes)) return;
     const wchar_t* fallback = Globals().pocketPc ? InLanguage(L"My Pocket PC", L"ﾏｲ ﾎﾟｹｯﾄ PC")
                                                  : InLanguage(L"My Handheld PC", L"ﾏｲ ﾊﾝﾄﾞﾍﾙﾄﾞ PC");

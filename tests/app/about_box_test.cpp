@@ -11,6 +11,7 @@
 #include "resources/resource_ids.h"
 #include "tests/app/replaced_storage.h"
 #include "tests/support/answered_boxes.h"
+#include "tests/support/key_presses.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/test_world.h"
 
@@ -146,6 +147,16 @@ TEST_F(AboutBoxTest, reads_the_memory_anew_each_time) {
     EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"Program: 8192/16384KB (50%)"));
 }
 
+TEST_F(AboutBoxTest, has_the_focus_itself_and_not_on_the_button_that_removes_the_settings) {
+    Box().SetRegistryKeys(MakerKey, ProductKey);
+    Box().ShowModeless();
+    PumpQueue();
+    EXPECT_EQ(GetFocus(), Box().Handle());
+    MSG tab = KeyDownMessage(Box().Handle(), VK_TAB);
+    EXPECT_TRUE(IsDialogMessageW(Box().Handle(), &tab));
+    EXPECT_EQ(GetFocus(), Item(BUTTON_UNINSTALL));
+}
+
 TEST_F(AboutBoxTest, hides_the_uninstall_button_without_a_product_key) {
     Box().CreateModeless();
     EXPECT_EQ(GetWindowLongW(Item(BUTTON_UNINSTALL), GWL_STYLE) & WS_VISIBLE, 0);
@@ -201,6 +212,42 @@ TEST_F(AboutBoxUninstall, asks_removes_both_keys_and_closes_the_parent) {
     EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[1], L"Uninstall this program."));
     EXPECT_FALSE(Exists(MakerKey));
     EXPECT_EQ(closing.asked, 1);
+}
+
+TEST_F(AboutBoxUninstall, takes_the_sub_keys_along) {
+    Create(L"Software\\QuorinAboutTest\\Product\\Name\\deeper");
+    const AnsweredBoxes boxes{BUTTON_UNINSTALL, IDOK};
+    Box().RunModal();
+    EXPECT_FALSE(Exists(ProductKey));
+}
+
+TEST_F(AboutBoxUninstall, leaves_the_makers_key_when_it_is_told_of_none) {
+    Box().SetRegistryKeys(L"", ProductKey);
+    Create(ProductKey);
+    const AnsweredBoxes boxes{BUTTON_UNINSTALL, IDOK};
+    Box().RunModal();
+    EXPECT_FALSE(Exists(ProductKey));
+    EXPECT_TRUE(Exists(MakerKey));
+    EXPECT_EQ(closing.asked, 1);
+}
+
+TEST_F(AboutBoxUninstall, gives_way_to_a_routine_that_is_bound_later) {
+    class Owner : public WindowObject {
+      public:
+        Owner() : WindowObject(nullptr, nullptr) {}
+        LRESULT OnUninstall(EventArguments&) {
+            ++asked;
+            return 0;
+        }
+        int asked = 0;
+    } owner;
+    Create(ProductKey);
+    Box().OnCommand(BUTTON_UNINSTALL, &owner, &Owner::OnUninstall);
+    Box().CreateModeless();
+    SendMessageW(Item(BUTTON_UNINSTALL), BM_CLICK, 0, 0);
+    EXPECT_EQ(owner.asked, 1);
+    EXPECT_TRUE(Exists(ProductKey));
+    EXPECT_EQ(closing.asked, 0);
 }
 
 TEST_F(AboutBoxUninstall, leaves_the_makers_key_to_another_product) {

@@ -5,6 +5,7 @@
 
 #include "app/product.h"
 #include "tests/app/main_window_test.h"
+#include "tests/support/answered_boxes.h"
 #include "tests/support/replaced_calls.h"
 
 namespace {
@@ -109,6 +110,19 @@ TEST_F(DuringSearch, other_commands_are_dropped) {
     EXPECT_EQ(GetWindowLongW(List(), GWL_STYLE) & LVS_TYPEMASK, LVS_REPORT);
     EXPECT_TRUE(IsMarked(COMMAND_CHECK_CASE));
     EXPECT_EQ(TextOf(NamePageIndex, COMBO_NAME), L"*");
+}
+
+// F1 on the dialog's button goes up to the main window.
+TEST_F(DuringSearch, the_help_key_opens_no_about_box) {
+    const AnsweredBoxes boxes{IDOK};
+    FindWith([this] {
+        HELPINFO help = {};
+        help.cbSize = sizeof help;
+        SendMessageW(Handle(), WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+    });
+    EXPECT_EQ(RowCount(), LastFile);
+    for (const SeenBox& box : boxes.Seen())
+        EXPECT_EQ(box.caption, L"Finding...");
 }
 
 TEST_F(DuringSearch, after_the_search_commands_work_again) {

@@ -58,6 +58,20 @@ TEST(MemoryLines, are_true_for_more_memory_than_32_bits_count) {
     EXPECT_EQ(Line(1024 * Gigabyte, 2048 * Gigabyte - Kilobyte), L"Program: 1073741824/2147483647KB (50%)");
 }
 
+TEST(MemoryLines, stand_still_at_the_most_that_the_format_shows) {
+    EXPECT_EQ(Line(2048 * Gigabyte - Kilobyte, 2048 * Gigabyte), L"Program: 2147483647/2147483647KB (99%)");
+    EXPECT_EQ(Line(1024 * Gigabyte, 4096 * Gigabyte), L"Program: 1073741824/2147483647KB (25%)");
+    EXPECT_EQ(Line(6144 * Gigabyte, 8192 * Gigabyte), L"Program: 2147483647/2147483647KB (75%)");
+}
+
+TEST(MemoryLines, are_true_for_the_largest_counts_of_all) {
+    constexpr std::uint64_t Most = UINT64_MAX;
+    EXPECT_EQ(Line(Most, Most), L"Program: 2147483647/2147483647KB (100%)");
+    EXPECT_EQ(Line(0, Most), L"Program: 0/2147483647KB (0%)");
+    // More free than there is makes no sense, and no harm.
+    EXPECT_EQ(Line(Most, Kilobyte), L"Program: 2147483647/1KB (2147483647%)");
+}
+
 class MemoryLinesOfDevice : public testing::Test {
   protected:
     TestWorld world;
@@ -118,4 +132,12 @@ TEST(MemoryOfThisMachine, has_free_and_total_program_memory_and_store) {
 TEST(MemoryOfThisMachine, has_fewer_cards_than_drive_letters) {
     wchar_t name[MAX_PATH];
     EXPECT_FALSE(ce::storageCalls.storageCard(26, name));
+}
+
+TEST(MemoryOfThisMachine, is_asked_for_without_the_system_asking_for_a_disk) {
+    DWORD before = 0;
+    ASSERT_TRUE(SetThreadErrorMode(0, &before));
+    ce::FailOnEmptyDrives();
+    EXPECT_NE(GetThreadErrorMode() & SEM_FAILCRITICALERRORS, 0u);
+    SetThreadErrorMode(before, nullptr);
 }

@@ -205,3 +205,87 @@ TEST_F(BrowseButton, leaves_the_location_when_the_browser_is_cancelled) {
     EXPECT_EQ(TextOf(COMBO_LOCATION), L"\\before");
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Names());
 }
+
+TEST_F(BrowseButton, takes_over_a_path_that_just_fits) {
+    const std::wstring first(200, L'f');
+    const std::wstring second(57, L'g');
+    folders.AddFolder(L"\\", first);
+    folders.AddFolder(L"\\" + first, second);
+    OpenPage();
+    nextDoing = [&](HWND window) { Choose(window, {first, second}); };
+    Click(BUTTON_BROWSE);
+    const std::wstring path = L"\\" + first + L"\\" + second;
+    ASSERT_EQ(path.size(), 259u);
+    EXPECT_EQ(TextOf(COMBO_LOCATION), path);
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Names{path});
+}
+
+TEST_F(BrowseButton, leaves_the_browser_open_on_a_folder_whose_path_does_not_fit) {
+    const std::wstring first(200, L'f');
+    const std::wstring second(58, L'g');
+    folders.AddFolder(L"\\", first);
+    folders.AddFolder(L"\\" + first, second);
+    OpenPage();
+    bool stillOpen = false;
+    nextDoing = [&](HWND window) {
+        TreeView_SelectItem(TreeIn(window), ItemAt(TreeIn(window), {first, second}));
+        SendMessageW(window, WM_COMMAND, IDOK, 0);
+        stillOpen = IsWindow(window) && IsWindowEnabled(window);
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    };
+    Click(BUTTON_BROWSE);
+    EXPECT_TRUE(stillOpen);
+    EXPECT_EQ(TextOf(COMBO_LOCATION), L"\\before");
+}
+
+TEST_F(BrowseButton, adds_the_chosen_folder_by_the_rule_of_the_history) {
+    OpenPage();
+    for (const Names& choice : {Names{L"A", L"B"}, Names{L"My Documents"}, Names{L"A"}}) {
+        nextDoing = [&](HWND window) { Choose(window, choice); };
+        Click(BUTTON_BROWSE);
+    }
+    // \A removes \A\B, which begins with it.
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), (Names{L"\\A", L"\\My Documents"}));
+}
+
+TEST_F(FolderBrowse, asks_for_patience_while_it_builds_its_tree) {
+    static std::vector<HCURSOR> cursors;
+    static decltype(ce::FileCalls::findFirstFile) listing;
+    cursors.clear();
+    const Replaced<decltype(ce::FileCalls::findFirstFile)> watched(
+        ce::fileCalls.findFirstFile, [](const wchar_t* pattern, WIN32_FIND_DATAW* data) {
+            cursors.push_back(GetCursor());
+            return listing(pattern, data);
+        });
+    listing = watched.Original();
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    HCURSOR afterwards = nullptr;
+    Run(dialog, [&](HWND window) {
+        afterwards = GetCursor();
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_EQ(cursors, std::vector<HCURSOR>(4, LoadCursorW(nullptr, IDC_WAIT)));
+    EXPECT_EQ(afterwards, LoadCursorW(nullptr, IDC_ARROW));
+}
+
+TEST_F(FolderBrowse, names_its_root_after_the_kind_of_device) {
+    for (const bool pocketPc : {true, false}) {
+        GlobalsForStartUp().pocketPc = pocketPc;
+        FolderBrowseDialog dialog(Host(), L"Select Folder");
+        Run(dialog, [&](HWND window) {
+            EXPECT_EQ(TextOfItem(TreeIn(window), ItemAt(TreeIn(window), {})),
+                      pocketPc ? L"My Pocket PC" : L"My Handheld PC");
+            PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        });
+    }
+}
+
+TEST_F(FolderBrowse, shows_the_icon_of_its_owner_in_its_caption) {
+    const auto icon = reinterpret_cast<LPARAM>(LoadIconW(nullptr, IDI_QUESTION));
+    SendMessageW(HostHandle(), WM_SETICON, ICON_SMALL, icon);
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    Run(dialog, [&](HWND window) {
+        EXPECT_EQ(SendMessageW(window, WM_GETICON, ICON_SMALL, 0), icon);
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+}

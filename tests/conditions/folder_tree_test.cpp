@@ -4,23 +4,30 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "tests/conditions/tree_reading.h"
 #include "tests/search/fake_folders.h"
+#include "tests/support/temp_tree.h"
 #include "tests/support/test_world.h"
 
 using Names = std::vector<std::wstring>;
 
+namespace {
+
+HWND MakeTree(HWND parent) {
+    const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
+    InitCommonControlsEx(&classes);
+    return CreateWindowExW(0, WC_TREEVIEWW, L"", WS_CHILD, 0, 0, 200, 200, parent, nullptr, nullptr, nullptr);
+}
+
+}  // namespace
+
 class FolderTree : public testing::Test {
   protected:
-    FolderTree() {
-        const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
-        InitCommonControlsEx(&classes);
-        tree = CreateWindowExW(0, WC_TREEVIEWW, L"", WS_CHILD, 0, 0, 200, 200, host.Handle(), nullptr,
-                               nullptr, nullptr);
-    }
+    FolderTree() : tree(MakeTree(host.Handle())) {}
 
     HTREEITEM Fill() { return FillFolderTree(tree, L"My Pocket PC"); }
     // The path of the item found by the names from the root down.
@@ -33,7 +40,7 @@ class FolderTree : public testing::Test {
     TestWorld world;
     HostWindow host;
     FakeFolders folders;
-    HWND tree = nullptr;
+    HWND tree;
 };
 
 TEST_F(FolderTree, has_the_root_with_its_name_alone_at_the_top) {
@@ -145,4 +152,58 @@ TEST_F(FolderTree, ends_where_paths_become_too_long) {
         ++depth;
     // The deepest listing is of 255 units with its "\*.*": 127 levels of "\f", whose children are shown.
     EXPECT_EQ(depth, 128);
+}
+
+TEST_F(FolderTree, closes_every_listing_that_it_opens) {
+    for (const wchar_t* name : {L"a", L"b", L"c"}) {
+        folders.AddFolder(L"\\", name);
+        folders.AddFolder(std::wstring(L"\\") + name, L"below");
+    }
+    folders.FailListing(L"\\b", ERROR_ACCESS_DENIED);
+    Fill();
+    EXPECT_EQ(folders.openListings, 0);
+}
+
+TEST_F(FolderTree, gives_no_path_where_the_last_unit_of_the_buffer_would_be_lost) {
+    // Twice 85 units with their separators are 172; a separator and 86 more make 259.
+    const std::wstring name(85, L'n');
+    folders.AddFolder(L"\\", name);
+    folders.AddFolder(L"\\" + name, name);
+    for (const std::size_t units : {std::size_t{86}, std::size_t{87}})
+        folders.AddFolder(L"\\" + name + L"\\" + name, std::wstring(units, L'm'));
+    Fill();
+    EXPECT_EQ(PathTo({name, name, std::wstring(86, L'm')}).size(), 259u);
+    wchar_t path[MAX_PATH + 1];
+    path[MAX_PATH] = L'#';
+    EXPECT_FALSE(PathOfItem(tree, ItemAt(tree, {name, name, std::wstring(87, L'm')}),
+                            reinterpret_cast<wchar_t(&)[MAX_PATH]>(path)));
+    EXPECT_EQ(path[MAX_PATH], L'#');
+}
+
+class FolderTreeOfDisk : public testing::Test {
+  protected:
+    TestWorld world;
+    HostWindow host;
+    TempTree disk;
+    HWND tree = MakeTree(host.Handle());
+};
+
+TEST_F(FolderTreeOfDisk, ends_where_a_link_leads_back_up) {
+    disk.AddFolder(L"a\\b");
+    if (!disk.AddFolderLink(L"a\\b\\loop", L"")) GTEST_SKIP() << "this system makes no links";
+    if (!disk.AddFolderLink(L"side", L"a")) GTEST_SKIP() << "this system makes no links";
+    FillFolderItem(tree, nullptr, disk.Root().c_str());
+    Names top;
+    for (HTREEITEM item = TreeView_GetRoot(tree); item != nullptr; item = TreeView_GetNextSibling(tree, item))
+        top.push_back(TextOfItem(tree, item));
+    std::sort(top.begin(), top.end());
+    EXPECT_EQ(top, (Names{L"a", L"side"}));
+    EXPECT_EQ(TreeView_GetCount(tree), 4u) << "a, side, b and loop, each once";
+}
+
+TEST_F(FolderTreeOfDisk, has_no_items_for_the_folder_itself_and_its_parent) {
+    disk.AddFolder(L"one");
+    FillFolderItem(tree, nullptr, disk.Root().c_str());
+    EXPECT_EQ(TreeView_GetCount(tree), 1u);
+    EXPECT_EQ(TextOfItem(tree, TreeView_GetRoot(tree)), L"one");
 }

@@ -200,3 +200,59 @@ TEST_F(HistoryRegistry, a_key_that_cannot_be_created_is_silent) {
     EXPECT_FALSE(LoadHistory(Combo(), nowhere, Path));
     EXPECT_EQ(List(), Entries{L"a"});
 }
+
+TEST_F(HistoryRegistry, a_text_of_259_units_without_a_terminator_is_read_whole) {
+    const std::wstring text(260, L'x');
+    Write(L"0", REG_SZ, text.data(), 518);
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(List(), Entries{std::wstring(259, L'x')});
+}
+
+TEST_F(HistoryRegistry, an_odd_size_at_the_end_of_the_buffer_overruns_nothing) {
+    const std::wstring text(261, L'x');
+    for (const std::size_t size : {std::size_t{515}, std::size_t{517}, std::size_t{519}}) {
+        Write(L"0", REG_SZ, text.data(), size);
+        EXPECT_TRUE(Load());
+        EXPECT_EQ(List(), Entries{std::wstring(size / 2, L'x')}) << size;
+    }
+}
+
+// None of the units of an entry that was read before shows up behind a shorter one.
+TEST_F(HistoryRegistry, an_entry_of_another_type_ends_where_its_bytes_do) {
+    WriteText(0, std::wstring(200, L'x'));
+    Write(L"1", REG_BINARY, "A", 1);
+    Write(L"2", REG_NONE, nullptr, 0);
+    const unsigned long long number = 0x0044004300420041;
+    Write(L"3", REG_QWORD, &number, sizeof number);
+    EXPECT_TRUE(Load());
+    // The entry of no size takes the place of the first one after the top, which is the long one.
+    EXPECT_EQ(List(), (Entries{L"ABCD", L"", L"A"}));
+}
+
+TEST_F(HistoryRegistry, a_text_with_an_end_in_its_middle_ends_there) {
+    Write(L"0", REG_SZ, L"one\0two", 16);
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(List(), Entries{L"one"});
+}
+
+TEST_F(HistoryRegistry, values_of_other_names_are_no_entries) {
+    WriteText(0, L"a");
+    Write(L"", REG_SZ, L"unnamed", 16);
+    Write(L"00", REG_SZ, L"x", 4);
+    Write(L"-1", REG_SZ, L"y", 4);
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(List(), Entries{L"a"});
+}
+
+// Below a key that lives only as long as the system runs, none can be made that is to be kept.
+TEST_F(HistoryRegistry, a_key_that_the_system_refuses_to_make_is_silent) {
+    HKEY passing = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, TestsPath, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                              nullptr, &passing, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(passing);
+    EXPECT_TRUE(Add(L"a"));
+    EXPECT_FALSE(Save());
+    EXPECT_FALSE(Load());
+    EXPECT_EQ(List(), Entries{L"a"});
+}

@@ -120,3 +120,26 @@ TEST_F(NamePageKeys, eleven_names_entered_leave_the_latest_ten) {
               (Texts{L"20", L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}));
     EXPECT_EQ(FindCommands(), 11);
 }
+
+// While an input method composes, each key arrives as the one of the method, Enter among them; the
+// composition's text comes as characters when it is taken over.
+TEST_F(NamePageKeys, enter_that_ends_a_composition_starts_no_search_and_adds_nothing) {
+    for (const HWND edit : {EditOf(COMBO_NAME), EditOf(COMBO_LOCATION), Item(EDIT_CONTENT)}) {
+        SetWindowTextW(edit, L"");
+        SetFocus(edit);
+        SendMessageW(edit, WM_IME_STARTCOMPOSITION, 0, 0);
+        SendMessageW(edit, WM_KEYDOWN, VK_PROCESSKEY, 1);
+        SendMessageW(edit, WM_CHAR, L'日', 1);
+        SendMessageW(edit, WM_IME_ENDCOMPOSITION, 0, 0);
+        PumpQueue();
+        wchar_t text[8] = L"";
+        GetWindowTextW(edit, text, 8);
+        EXPECT_STREQ(text, L"日");
+    }
+    EXPECT_EQ(FindCommands(), 0);
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
+    // The next Enter is the field's own again.
+    PressKeyOn(Item(EDIT_CONTENT), VK_RETURN);
+    EXPECT_EQ(FindCommands(), 1);
+}

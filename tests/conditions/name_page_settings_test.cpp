@@ -160,6 +160,32 @@ TEST_F(NamePageSettings, a_shorter_sub_folder_value_is_taken_as_far_as_it_goes) 
     EXPECT_TRUE(page->SubFoldersChecked());
 }
 
+TEST_F(NamePageSettings, each_part_that_can_be_read_is_read) {
+    page->SaveSettings(Path);
+    ASSERT_EQ(ce::RegDeleteKeyW(HKEY_CURRENT_USER, (std::wstring(Path) + L"\\Location").c_str()),
+              ERROR_SUCCESS);
+    Enter(COMBO_LOCATION, L"\\kept");
+    SetText(COMBO_NAME, L"");
+    const DWORD one = 1;
+    StoreSubFolders(REG_DWORD, &one, sizeof one);
+    page->LoadSettings(Path);
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts{L"\\kept"});
+    EXPECT_TRUE(page->SubFoldersChecked());
+}
+
+TEST_F(NamePageSettings, a_registry_that_takes_nothing_is_silent) {
+    HKEY passing = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, TestsPath, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                              nullptr, &passing, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(passing);
+    page->SaveSettings(Path);
+    page->LoadSettings(Path);
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+    EXPECT_FALSE(page->SubFoldersChecked());
+}
+
 TEST_F(NamePageSettings, a_page_without_a_window_loads_and_saves_nothing) {
     NamePage unopened(Host(), HostHandle());
     unopened.LoadSettings(Path);
