@@ -2,71 +2,116 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <string>
 #include <vector>
 
 #include "results/sort_keys.h"
 
 namespace {
 
-// What a row is compared by: a number for the Size column, a text for any other.
+// What one row is compared by: a number for the Size column, a text for any other.
 struct SortKey {
-    std::int32_t size = 0;
-    std::wstring text;
+    std::size_t row;
+    union {
+        std::int32_t size;
+        std::size_t text;  // its place among all texts
+    };
 };
 
-// Handed to the control as the sort parameter.
-struct SortRequest {
-    int column;
-    bool ascending;
-    std::vector<SortKey> keys;  // by row number; a deleted row's is not asked for
-};
-
-std::size_t RowNumber(HWND list, int index) {
-    LVITEMW item{};
-    item.mask = LVIF_PARAM;
-    item.iItem = index;
-    SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    return static_cast<std::size_t>(item.lParam);
-}
-
-SortKey ReadKey(HWND list, int index, ResultColumn column) {
-    wchar_t text[SortTextCapacity] = L"";
-    LVITEMW item{};
-    item.iSubItem = static_cast<int>(column);
-    item.pszText = text;
-    item.cchTextMax = SortTextCapacity;
-    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-    if (column == ResultColumn::Size) return {ParseShownSize(text), {}};
-    return {0, text};
-}
-
-void ReadKeys(HWND list, SortRequest& request) {
-    const auto count = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    for (int index = 0; index < count; ++index) {
-        const std::size_t row = RowNumber(list, index);
-        if (row >= request.keys.size()) request.keys.resize(std::max(row + 1, request.keys.size() * 2));
-        request.keys[row] = ReadKey(list, index, static_cast<ResultColumn>(request.column));
+// The cells of one column as they compare, in the list's present order. Read and folded once: inside a
+// comparison it would be done thirty times for each.
+class SortKeys {
+  public:
+    SortKeys(HWND listView, ResultColumn sortColumn) : list(listView), column(sortColumn) {
+        const auto count = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+        keys.reserve(static_cast<std::size_t>(count));
+        for (int index = 0; index < count; ++index)
+            keys.push_back(ReadKey(index));
     }
+
+    // Equal rows stay in the order in which they are.
+    void Sort(bool ascending) {
+        std::stable_sort(keys.begin(), keys.end(), [&](const SortKey& first, const SortKey& second) {
+            const int result = Compare(first, second);
+            return ascending ? result < 0 : result > 0;
+        });
+    }
+
+    // The place of each row, by its number. A row that was deleted has none.
+    [[nodiscard]] std::vector<std::size_t> Places() const {
+        std::size_t rows = 0;
+        for (const SortKey& key : keys)
+            rows = std::max(rows, key.row + 1);
+        std::vector<std::size_t> places(rows);
+        for (std::size_t place = 0; place < keys.size(); ++place)
+            places[keys[place].row] = place;
+        return places;
+    }
+
+  private:
+    [[nodiscard]] std::size_t RowNumber(int index) const {
+        LVITEMW item{};
+        item.mask = LVIF_PARAM;
+        item.iItem = index;
+        SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return static_cast<std::size_t>(item.lParam);
+    }
+
+    SortKey ReadKey(int index) {
+        wchar_t text[SortTextCapacity] = L"";
+        LVITEMW item{};
+        item.iSubItem = static_cast<int>(column);
+        item.pszText = text;
+        item.cchTextMax = SortTextCapacity;
+        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+        SortKey key{RowNumber(index), {}};
+        if (column == ResultColumn::Size) {
+            key.size = ParseShownSize(text);
+        } else {
+            FoldForComparison(text);
+            key.text = texts.size();
+            texts.insert(texts.end(), text, text + std::wcslen(text) + 1);
+        }
+        return key;
+    }
+
+    [[nodiscard]] int Compare(const SortKey& first, const SortKey& second) const {
+        if (column == ResultColumn::Size) return CompareSizes(first.size, second.size);
+        return CompareFoldedTexts(&texts[first.text], &texts[second.text]);
+    }
+
+    HWND list;
+    ResultColumn column;
+    std::vector<SortKey> keys;
+    std::vector<wchar_t> texts;  // one after the other, each terminated
+};
+
+int CompareNumbers(std::size_t first, std::size_t second) {
+    return first > second ? 1 : first < second ? -1 : 0;
 }
 
-int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM parameter) {
-    const auto& request = *reinterpret_cast<const SortRequest*>(parameter);
-    // By the order of finding; the direction is not applied.
-    if (request.column < 0) return first > second ? 1 : first < second ? -1 : 0;
-    const SortKey& firstKey = request.keys[static_cast<std::size_t>(first)];
-    const SortKey& secondKey = request.keys[static_cast<std::size_t>(second)];
-    const int result = request.column == static_cast<int>(ResultColumn::Size)
-                           ? CompareSizes(firstKey.size, secondKey.size)
-                           : CompareTexts(firstKey.text.c_str(), secondKey.text.c_str());
-    return request.ascending ? result : -result;
+int CALLBACK CompareRows(LPARAM first, LPARAM second, LPARAM) {
+    return CompareNumbers(static_cast<std::size_t>(first), static_cast<std::size_t>(second));
+}
+
+int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM parameter) {
+    const auto& places = *reinterpret_cast<const std::vector<std::size_t>*>(parameter);
+    return CompareNumbers(places[static_cast<std::size_t>(first)], places[static_cast<std::size_t>(second)]);
+}
+
+void Arrange(HWND list, PFNLVCOMPARE compare, const void* parameter) {
+    SendMessageW(list, LVM_SORTITEMS, reinterpret_cast<WPARAM>(parameter), reinterpret_cast<LPARAM>(compare));
 }
 
 }  // namespace
 
 void SortRows(HWND list, int column, bool ascending) {
-    SortRequest request{column, ascending, {}};
-    if (column >= 0) ReadKeys(list, request);
-    SendMessageW(list, LVM_SORTITEMS, reinterpret_cast<WPARAM>(&request),
-                 reinterpret_cast<LPARAM>(&CompareRows));
+    // By the order of finding; the direction is not applied.
+    if (column < 0) {
+        Arrange(list, &CompareRows, nullptr);
+        return;
+    }
+    SortKeys keys(list, static_cast<ResultColumn>(column));
+    keys.Sort(ascending);
+    const std::vector<std::size_t> places = keys.Places();
+    Arrange(list, &ComparePlaces, &places);
 }

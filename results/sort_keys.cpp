@@ -27,3 +27,18 @@ int CompareSizes(std::int32_t first, std::int32_t second) {
 int CompareTexts(const wchar_t* first, const wchar_t* second) {
     return _wcsicmp(first, second);
 }
+
+// Only the letters of English, as in the C library's default locale.
+void FoldForComparison(wchar_t* text) {
+    for (; *text != L'\0'; ++text) {
+        if (*text >= L'A' && *text <= L'Z') *text = static_cast<wchar_t>(*text + (L'a' - L'A'));
+    }
+}
+
+int CompareFoldedTexts(const wchar_t* first, const wchar_t* second) {
+    while (*first != L'\0' && *first == *second) {
+        ++first;
+        ++second;
+    }
+    return *first > *second ? 1 : *first < *second ? -1 : 0;
+}

@@ -14,3 +14,7 @@ constexpr int SortTextCapacity = 128;
 // Both are negative, zero or positive, in ascending order; texts compare without regard to letter case.
 [[nodiscard]] int CompareSizes(std::int32_t first, std::int32_t second);
 [[nodiscard]] int CompareTexts(const wchar_t* first, const wchar_t* second);
+
+// Texts that were folded once compare by their units alone, and in the same order.
+void FoldForComparison(wchar_t* text);
+[[nodiscard]] int CompareFoldedTexts(const wchar_t* first, const wchar_t* second);
