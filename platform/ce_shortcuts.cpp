@@ -2,19 +2,16 @@
 
 #include <shlobj.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <cwchar>
 #include <memory>
 #include <string>
 
 #include "platform/ce_files.h"
+#include "platform/shell_link_file.h"
 
 namespace {
-
-// More than any caller has room for, so that what is cut here does not fit there either and is never taken for
-// a whole target.
-constexpr std::size_t LongestTextShortcut = 4096;
 
 // The library of objects for as long as one is used.
 class ObjectLibrary {
@@ -53,45 +50,53 @@ bool HasBlank(const std::wstring& text) {
     return text.find_first_of(L" \t") != std::wstring::npos;
 }
 
-// "NN#target", where NN counts the target's bytes, in the system's code page.
-std::wstring ReadTextShortcut(const wchar_t* path) {
-    char bytes[LongestTextShortcut + 1] = "";
+// What a shortcut file holds at most that is of interest; no target is that long.
+std::string FirstBytes(const wchar_t* path) {
+    constexpr std::size_t Room = 65536;
     std::FILE* file = ce::OpenForReading(path);
     if (file == nullptr) return {};
-    const std::size_t size = std::fread(bytes, 1, LongestTextShortcut, file);
+    std::string bytes(Room, '\0');
+    bytes.resize(std::fread(bytes.data(), 1, Room, file));
     std::fclose(file);
-    bytes[size] = '\0';
-    char* end = bytes;
-    const unsigned long announced = std::strtoul(bytes, &end, 10);
-    if (end == bytes || *end != '#' || bytes[0] < '0' || bytes[0] > '9') return {};
-    const std::size_t available = std::strlen(end + 1);
-    const auto length = static_cast<int>(announced < available ? announced : available);
-    wchar_t target[LongestTextShortcut + 1];
-    const int units = MultiByteToWideChar(CP_ACP, 0, end + 1, length, target, LongestTextShortcut);
-    return std::wstring(target, static_cast<std::size_t>(units));
+    return bytes;
 }
 
-std::wstring ReadShellLink(const wchar_t* path) {
-    const ObjectLibrary library;
-    const Held<IShellLinkW> link = NewShellLink();
-    if (link == nullptr) return {};
-    const Held<IPersistFile> file = FileOf(*link);
-    if (file == nullptr || FAILED(file->Load(path, STGM_READ))) return {};
-    wchar_t program[MAX_PATH] = L"";
-    wchar_t arguments[LongestTextShortcut] = L"";
-    if (FAILED(link->GetPath(program, MAX_PATH, nullptr, SLGP_RAWPATH)) || program[0] == L'\0') return {};
-    if (FAILED(link->GetArguments(arguments, LongestTextShortcut))) arguments[0] = L'\0';
-    std::wstring target = program;
-    if (HasBlank(target)) target = L'"' + target + L'"';
-    if (arguments[0] != L'\0') target += std::wstring(L" ") + arguments;
+std::wstring FromCodePage(std::string_view bytes) {
+    // No character has fewer bytes than units.
+    std::wstring text(bytes.size(), L'\0');
+    const auto size = static_cast<int>(bytes.size());
+    text.resize(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), size)));
+    return text;
+}
+
+// "NN#target", where NN counts the target's bytes, in the system's code page.
+std::wstring TextTarget(const std::string& bytes) {
+    char* end = nullptr;
+    const unsigned long announced = std::strtoul(bytes.c_str(), &end, 10);
+    if (*end != '#' || bytes[0] < '0' || bytes[0] > '9') return {};
+    std::string_view target = end + 1;
+    // People who write such files by hand announce more than follows, and end the line.
+    std::size_t length = 0;
+    while (length < target.size() && static_cast<unsigned char>(target[length]) >= ' ')
+        ++length;
+    return FromCodePage(target.substr(0, std::min<std::size_t>(announced, length)));
+}
+
+std::wstring LinkTarget(const std::string& bytes) {
+    ShellLinkTarget link;
+    if (!ReadShellLinkFile(bytes, &FromCodePage, link)) return {};
+    std::wstring target = HasBlank(link.program) ? L'"' + link.program + L'"' : link.program;
+    if (!link.arguments.empty()) target += L' ' + link.arguments;
     return target;
 }
 
 BOOL GetTarget(const wchar_t* shortcut, wchar_t* target, int capacity) {
     if (capacity <= 0) return FALSE;
     target[0] = L'\0';
-    std::wstring text = ReadTextShortcut(shortcut);
-    if (text.empty()) text = ReadShellLink(shortcut);
+    const std::string bytes = FirstBytes(shortcut);
+    std::wstring text = TextTarget(bytes);
+    if (text.empty()) text = LinkTarget(bytes);
     if (text.empty() || text.size() >= static_cast<std::size_t>(capacity)) return FALSE;
     std::wmemcpy(target, text.c_str(), text.size() + 1);
     return TRUE;

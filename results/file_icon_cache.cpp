@@ -29,10 +29,13 @@ class ImageList {
 
     void LoadFixedIcons() {
         ImageList_Remove(handle, -1);
+        int count = 0;
         for (const int id : FixedIcons) {
             const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id),
                                                             IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
             Take(icon);
+            // One that cannot be loaded leaves an empty place: the others are known by their indexes.
+            GrowTo(++count);
         }
         ImageList_SetOverlayImage(handle, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
     }
@@ -42,6 +45,13 @@ class ImageList {
         const int index = ImageList_ReplaceIcon(handle, -1, icon);
         if (icon != nullptr) DestroyIcon(icon);
         return index;
+    }
+
+    [[nodiscard]] int Count() const { return ImageList_GetImageCount(handle); }
+
+    // Appends empty images up to this many.
+    void GrowTo(int count) {
+        if (Count() < count) ImageList_SetImageCount(handle, static_cast<UINT>(count));
     }
 
     // Appends the shell's icon of a file.
@@ -124,6 +134,9 @@ int FileIconCache::ImageOf(const wchar_t* path, DWORD attributes, unsigned kinds
     if ((kinds & key.kind) == 0) return key.fallback;
     const int index = shared->large.TakeShellIcon(path, attributes, 0);
     shared->small.TakeShellIcon(path, attributes, SHGFI_SMALLICON);
+    // Where the shell has but one of the two, the lists stay in step.
+    shared->large.GrowTo(shared->small.Count());
+    shared->small.GrowTo(shared->large.Count());
     shared->icons->Insert(key.text.c_str(), static_cast<std::uintptr_t>(index));
     return index;
 }

@@ -70,22 +70,22 @@ void ResultCommands::Delete() {
 
 void ResultCommands::BeginRename() {
     const int row = list.SelectedRow();
-    if (row >= 0) SendMessageW(list.Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+    if (row >= 0) list.EditName(row);
 }
 
 void ResultCommands::EndRename(const NMLVDISPINFOW& edited) {
-    const LVITEMW& item = edited.item;
-    if ((item.mask & LVIF_TEXT) == 0 || item.pszText == nullptr) return;
     // The control's buffer does not outlive the message boxes.
-    const std::wstring newName = item.pszText;
+    std::wstring newName;
+    if (!list.EditedName(edited, newName)) return;
+    const int row = edited.item.iItem;
     wchar_t folder[MAX_PATH];
     wchar_t oldName[MAX_PATH];
     wchar_t oldPath[MAX_PATH];
-    list.ReadCell(item.iItem, ResultColumn::Folder, folder);
-    list.ReadCell(item.iItem, ResultColumn::Name, oldName);
+    list.ReadCell(row, ResultColumn::Folder, folder);
+    list.ReadCell(row, ResultColumn::Name, oldName);
     if (!JoinPath(oldPath, folder, oldName)) return;
     if (MoveFileOrReport(owner.Handle(), oldPath, NewPath(folder, newName.c_str()).c_str())) {
-        list.SetCell(item.iItem, ResultColumn::Name, newName.c_str());
+        list.SetCell(row, ResultColumn::Name, newName.c_str());
     } else {
         ShowError(owner.Handle(), InLanguage(L"Can't rename the file", L"名前の変更に失敗しました"));
     }

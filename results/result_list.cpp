@@ -1,6 +1,7 @@
 #include "results/result_list.h"
 
 #include <algorithm>
+#include <cwchar>
 #include <iterator>
 #include <new>
 
@@ -48,12 +49,32 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
       typeNames(iconCache != nullptr ? iconCache->Types() : nullptr) {
     const LRESULT style = SendMessageW(Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, style | LVS_EX_FULLROWSELECT);
+    UseDialogFont();
     AttachImages();
     InsertColumns();
+    const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+    if (header != nullptr) heading.reset(new (std::nothrow) ResultHeading(this, header));
     OnNotification(event::ColumnClick, this, &ResultList::OnColumnClick);
+    OnNotification(event::BeginLabelEdit, this, &ResultList::OnBeginNameEdit);
     Subclass();
+    OnMessage(WM_KEYDOWN, this, &ResultList::OnKeyDown);
     OnMessage(WM_SYSKEYDOWN, this, &ResultList::OnSystemKeyDown);
     OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemCharacter);
+}
+
+ResultList::~ResultList() {
+    if (font != nullptr) DeleteObject(font);
+}
+
+// The list's own font is that of the desktop's icons, which on a Japanese system may have letters of one
+// width.
+void ResultList::UseDialogFont() {
+    LOGFONTW description{};
+    if (!SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof description, &description, 0)) return;
+    std::wcscpy(description.lfFaceName, L"Tahoma");
+    description.lfCharSet = DEFAULT_CHARSET;
+    font = CreateFontIndirectW(&description);
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
 void ResultList::AttachImages() {
@@ -195,10 +216,36 @@ int ResultList::SelectedCount() const {
     return static_cast<int>(SendMessageW(Handle(), LVM_GETSELECTEDCOUNT, 0, 0));
 }
 
+// The desktop's list edits only while it has the focus.
+void ResultList::EditName(int row) {
+    SetFocus(Handle());
+    SendMessageW(Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+}
+
+LRESULT ResultList::OnBeginNameEdit(EventArguments&) {
+    const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
+    if (edit != nullptr) nameEdit.reset(new (std::nothrow) NameEdit(this, edit));
+    return FALSE;
+}
+
+bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const {
+    if ((edited.item.mask & LVIF_TEXT) == 0) return false;
+    if (edited.item.pszText != nullptr) {
+        name = edited.item.pszText;
+        return true;
+    }
+    // So the desktop reports an editing that was given up, but also an empty and an unchanged text.
+    if (nameEdit == nullptr || nameEdit->Handle() == nullptr || !nameEdit->IsTaken()) return false;
+    name = nameEdit->Text();
+    return true;
+}
+
 void ResultList::SetView(DWORD view) {
     const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
+    // The desktop's list draws the new view over the old one.
+    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
@@ -208,6 +255,20 @@ LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
     sortAscending = clicked != sortColumn || !sortAscending;
     sortColumn = clicked;
     SortRows(Handle(), sortColumn, sortAscending);
+    return 0;
+}
+
+// Without a pointer no heading can be clicked: Ctrl with 1 to 5 stands for the click on that column's.
+LRESULT ResultList::OnKeyDown(MessageRecord& record) {
+    const auto column = static_cast<int>(record.wParam) - L'1';
+    // With Alt as well it is another letter of the keyboard.
+    const bool controlAlone = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+    if (column < 0 || column >= ResultColumnCount || !controlAlone) return DefaultProcessing(record);
+    NMLISTVIEW click{};
+    click.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_COLUMNCLICK)};
+    click.iItem = -1;
+    click.iSubItem = column;
+    SendMessageW(GetParent(Handle()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
     return 0;
 }
 

@@ -5,13 +5,16 @@
 
 #include "framework/control.h"
 #include "results/file_icon_cache.h"
+#include "results/name_edit.h"
 #include "results/result_column.h"
+#include "results/result_heading.h"
 #include "results/type_names.h"
 #include "search/match_sink.h"
 
 class ResultList : public ListView, public MatchSink {
   public:
     ResultList(WindowObject* parent, PropertySet& properties);
+    ~ResultList() override;
 
     // While a search fills the list it is redrawn only a few times a second: drawing each row costs a
     // thousand times as much as adding it.
@@ -40,13 +43,21 @@ class ResultList : public ListView, public MatchSink {
     void SelectRow(int row);
     [[nodiscard]] int SelectedCount() const;
 
+    // Starts the editing of the row's name in place.
+    void EditName(int row);
+    // What the editing that the list reports as ended has made of the name; false when it was given up.
+    [[nodiscard]] bool EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const;
+
     // LVS_ICON, LVS_SMALLICON or LVS_REPORT.
     void SetView(DWORD view);
 
   private:
+    void UseDialogFont();
     void AttachImages();
     void InsertColumns();
     LRESULT OnColumnClick(EventArguments& arguments);
+    LRESULT OnBeginNameEdit(EventArguments& arguments);
+    LRESULT OnKeyDown(MessageRecord& record);
     LRESULT OnSystemKeyDown(MessageRecord& record);
     LRESULT OnSystemCharacter(MessageRecord& record);
     void ShowPending();
@@ -56,6 +67,9 @@ class ResultList : public ListView, public MatchSink {
     bool sortAscending = true;
     std::unique_ptr<FileIconCache> iconCache;  // null when there was no memory for it
     TypeNames typeNames;
+    std::unique_ptr<ResultHeading> heading;
+    std::unique_ptr<NameEdit> nameEdit;  // of the last editing; null before the first
+    HFONT font = nullptr;
     bool filling = false;
     bool rowsPending = false;
     ULONGLONG nextRefresh = 0;  // in milliseconds of GetTickCount64

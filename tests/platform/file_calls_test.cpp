@@ -98,6 +98,46 @@ TEST(FileCalls, fail_with_the_systems_code) {
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILENAME_EXCED_RANGE));
 }
 
+TEST(FileCalls, make_no_file_whose_name_holds_a_colon) {
+    TempTree tree;
+    const std::wstring path = tree.AddFile(L"a", "plain");
+    for (const wchar_t* name : {L"a:b", L"b:", L"sub:c\\a"}) {
+        EXPECT_FALSE(ce::MoveFileW(path.c_str(), tree.Path(name).c_str()));
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_NAME));
+        EXPECT_FALSE(ce::CopyFileW(path.c_str(), tree.Path(name).c_str(), TRUE));
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_NAME));
+    }
+    EXPECT_EQ(List(tree.Path(L"*")).names, (Names{L"a"}));
+    EXPECT_EQ(ContentOf(path), "plain");
+}
+
+TEST(FileCalls, do_not_take_an_empty_path_for_the_current_folder) {
+    TempTree tree;
+    const std::wstring path = tree.AddFile(L"a");
+    const auto failsOnTheWay = [](BOOL done) { return !done && GetLastError() == ERROR_PATH_NOT_FOUND; };
+    EXPECT_EQ(ce::GetFileAttributesW(L""), INVALID_FILE_ATTRIBUTES);
+    EXPECT_TRUE(failsOnTheWay(ce::SetFileAttributesW(L"", FILE_ATTRIBUTE_NORMAL)));
+    EXPECT_TRUE(failsOnTheWay(ce::DeleteFileW(L"")));
+    EXPECT_TRUE(failsOnTheWay(ce::RemoveDirectoryW(L"")));
+    EXPECT_TRUE(failsOnTheWay(ce::CreateDirectoryW(L"", nullptr)));
+    EXPECT_TRUE(failsOnTheWay(ce::CopyFileW(path.c_str(), L"", FALSE)));
+    EXPECT_TRUE(failsOnTheWay(ce::MoveFileW(L"", tree.Path(L"b").c_str())));
+}
+
+TEST(FolderLinks, are_removed_and_moved_without_what_they_lead_to) {
+    TempTree tree;
+    tree.AddFolder(L"empty");
+    const std::wstring file = tree.AddFile(L"full\\a");
+    if (!tree.AddFolderLink(L"toEmpty", L"empty") || !tree.AddFolderLink(L"toFull", L"full"))
+        GTEST_SKIP() << "the system makes no links";
+    // A system that cannot reach the link itself says so.
+    EXPECT_TRUE(ce::RemoveDirectoryW(tree.Path(L"toEmpty").c_str()) || GetLastError() == ERROR_NOT_SUPPORTED);
+    EXPECT_TRUE(ce::MoveFileW(tree.Path(L"toFull").c_str(), tree.Path(L"moved").c_str()) ||
+                GetLastError() == ERROR_NOT_SUPPORTED);
+    EXPECT_NE(GetFileAttributesW(tree.Path(L"empty").c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST(FolderLinks, are_told_from_folders_that_stand_where_they_are_named) {
     TempTree tree;
     const std::wstring real = tree.AddFolder(L"real\\below");

@@ -33,7 +33,7 @@ UnixFileName WineUnixFileName() {
 }
 
 // An empty path takes the drive away.
-bool SetUnixDrive(wchar_t letter, const std::string& path) {
+bool SetUnixDrive(wchar_t letter, const std::string& path, UINT type = DRIVE_NO_ROOT_DIR) {
     const HANDLE manager =
         CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
@@ -42,7 +42,7 @@ bool SetUnixDrive(wchar_t letter, const std::string& path) {
     std::vector<char> input(sizeof(UnixDrive) + pathSize);
     UnixDrive drive = {};
     drive.size = static_cast<ULONG>(input.size());
-    drive.type = path.empty() ? DRIVE_NO_ROOT_DIR : DRIVE_FIXED;
+    drive.type = type;
     drive.letter = letter;
     if (!path.empty()) drive.mountPointOffset = sizeof(UnixDrive);
     std::memcpy(input.data(), &drive, sizeof(drive));
@@ -54,12 +54,12 @@ bool SetUnixDrive(wchar_t letter, const std::string& path) {
     return done != FALSE;
 }
 
-bool DefineDrive(const std::wstring& letter, const std::wstring& folder) {
+bool DefineDrive(const std::wstring& letter, const std::wstring& folder, UINT type) {
     const UnixFileName unixName = WineUnixFileName();
     if (unixName == nullptr) return DefineDosDeviceW(0, letter.c_str(), folder.c_str()) != FALSE;
     char* path = unixName(folder.c_str());
     if (path == nullptr) return false;
-    const bool done = SetUnixDrive(letter[0], path);
+    const bool done = SetUnixDrive(letter[0], path, type);
     HeapFree(GetProcessHeap(), 0, path);
     return done;
 }
@@ -74,8 +74,10 @@ std::wstring FreeLetter() {
 
 }  // namespace
 
-DeviceDrive::DeviceDrive(const std::wstring& rootFolder) : letter(FreeLetter()), folder(rootFolder) {
-    if (!DefineDrive(letter, folder)) throw std::runtime_error("the device's drive could not be made");
+DeviceDrive::DeviceDrive(const std::wstring& rootFolder, UINT driveType)
+    : letter(FreeLetter()), folder(rootFolder) {
+    if (!DefineDrive(letter, folder, driveType))
+        throw std::runtime_error("the device's drive could not be made");
 }
 
 DeviceDrive::~DeviceDrive() {

@@ -2,12 +2,15 @@
 
 // A drive whose root is a folder of the test's: the program that is started on it has that folder as "\".
 
+#include <windows.h>
+
 #include <string>
 
 class DeviceDrive {
   public:
-    // Throws std::runtime_error when no letter is free or the system refuses.
-    explicit DeviceDrive(const std::wstring& folder);
+    // Throws std::runtime_error when no letter is free or the system refuses. A removable drive
+    // (DRIVE_REMOVABLE) can be had under Wine only.
+    explicit DeviceDrive(const std::wstring& folder, UINT driveType = DRIVE_FIXED);
     ~DeviceDrive();
     DeviceDrive(const DeviceDrive&) = delete;
     DeviceDrive& operator=(const DeviceDrive&) = delete;

@@ -25,6 +25,16 @@ DWORD_PTR AnswerWithIcon(const wchar_t* path, DWORD attributes, SHFILEINFOW* inf
     return 1;
 }
 
+DWORD_PTR AnswerWithSmallIconsOnly(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size,
+                                   UINT flags) {
+    return (flags & SHGFI_SMALLICON) != 0 ? AnswerWithIcon(path, attributes, info, size, flags) : 0;
+}
+
+DWORD_PTR AnswerWithLargeIconsOnly(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size,
+                                   UINT flags) {
+    return (flags & SHGFI_SMALLICON) == 0 ? AnswerWithIcon(path, attributes, info, size, flags) : 0;
+}
+
 constexpr int FirstFetched = 4;
 constexpr unsigned AllKinds = FileIconCache::AllKinds;
 
@@ -60,6 +70,32 @@ TEST_F(FileIconCacheTest, both_lists_begin_with_the_four_fixed_images_in_their_s
     ImageList_GetIconSize(cache->SmallImages(), &width, &height);
     EXPECT_EQ(width, 16);
     EXPECT_EQ(height, 16);
+}
+
+TEST_F(FileIconCacheTest, fixed_icons_that_cannot_be_loaded_leave_their_places_empty) {
+    // A module that has none of the program's icons.
+    GlobalsForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
+    cache->Fill();
+    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), 4);
+    EXPECT_EQ(ImageOf(L"\\f\\a.exe"), FirstFetched);
+}
+
+TEST_F(FileIconCacheTest, a_file_with_only_one_of_the_two_icons_leaves_the_lists_in_step) {
+    {
+        const Replaced smallOnly(ce::shellCalls.getFileInfo, &AnswerWithSmallIconsOnly);
+        // There is no place of its own in the large list.
+        EXPECT_EQ(ImageOf(L"\\f\\a.exe"), -1);
+    }
+    EXPECT_EQ(ImageOf(L"\\f\\b.exe"), FirstFetched + 1);
+    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), FirstFetched + 2);
+    {
+        const Replaced largeOnly(ce::shellCalls.getFileInfo, &AnswerWithLargeIconsOnly);
+        EXPECT_EQ(ImageOf(L"\\f\\c.exe"), FirstFetched + 2);
+    }
+    EXPECT_EQ(ImageOf(L"\\f\\d.exe"), FirstFetched + 3);
+    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), FirstFetched + 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), FirstFetched + 4);
 }
 
 TEST_F(FileIconCacheTest, a_folder_gets_image_2_without_a_question) {

@@ -1,14 +1,9 @@
 // Renaming the selected row's file: whatever happens, the file stands under exactly one name and the row
 // tells which.
 
-#include <cstdio>
-
-#include "tests/results/result_commands_test.h"
-#include "tests/support/message_pump.h"
+#include "tests/results/rename_test.h"
 
 namespace {
-
-using Names = std::vector<std::wstring>;
 
 DWORD failureCode = 0;
 
@@ -19,10 +14,8 @@ BOOL FailToMove(const wchar_t*, const wchar_t*) {
 
 }  // namespace
 
-class RenameCommand : public ResultCommandsTest {
+class RenameCommand : public RenameTest {
   protected:
-    RenameCommand() { AddFileRow(L"a.txt", "of a"); }
-
     // As the list tells it when the editing of the first row ends with this text.
     void EndWith(const std::wstring& newName) {
         std::wstring text = newName;
@@ -31,39 +24,11 @@ class RenameCommand : public ResultCommandsTest {
         edited.item.pszText = text.data();
         Commands().EndRename(edited);
     }
-    // The rename is refused with these two boxes and nothing has changed.
+    // The rename is refused with these two boxes and the row has not changed.
     void ExpectRefused(const std::wstring& newName, const wchar_t* reason) {
         const AnsweredBoxes boxes{IDOK};
         EndWith(newName);
-        ASSERT_EQ(boxes.Seen().size(), 2u);
-        for (const SeenBox& box : boxes.Seen()) {
-            EXPECT_EQ(box.caption, L"Error");
-            EXPECT_EQ(box.owner, OwnerHandle());
-        }
-        EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], reason))
-            << testing::PrintToString(boxes.Seen()[0].texts);
-        EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[1], L"Can't rename the file"));
-        EXPECT_EQ(RowNames()[0], L"a.txt");
-    }
-    [[nodiscard]] std::string ContentOf(const std::wstring& relative) const {
-        std::FILE* file = _wfopen(tree.Path(relative).c_str(), L"rb");
-        if (file == nullptr) return "(missing)";
-        char bytes[16] = {};
-        const std::size_t size = std::fread(bytes, 1, sizeof bytes, file);
-        std::fclose(file);
-        return std::string(bytes, size);
-    }
-    // The names of everything in the tree's root.
-    [[nodiscard]] Names Files() const {
-        Names names;
-        WIN32_FIND_DATAW data;
-        const HANDLE search = ce::FindFirstFileW(tree.Path(L"*.*").c_str(), &data);
-        if (search == INVALID_HANDLE_VALUE) return names;
-        do
-            names.emplace_back(data.cFileName);
-        while (ce::FindNextFileW(search, &data));
-        ce::FindClose(search);
-        return names;
+        ExpectRefusal(boxes, reason);
     }
 };
 
@@ -165,63 +130,61 @@ TEST_F(RenameCommand, to_the_same_name_changes_nothing) {
     EXPECT_EQ(RowNames(), (Names{L"a.txt"}));
 }
 
-// The editing in place with the list's own edit, whose end reaches the command as the main window passes it.
-class RenameInPlace : public RenameCommand {
-  protected:
-    class Listener : public WindowObject {
-      public:
-        explicit Listener(ResultCommands& resultCommands)
-            : WindowObject(nullptr, nullptr), commands(resultCommands) {}
-        LRESULT OnEnd(EventArguments& arguments) {
-            commands.EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
-            return FALSE;
-        }
-
-      private:
-        ResultCommands& commands;
-    };
-
-    // Starts the editing of the first row and types a name and a key into its edit.
-    void EditInPlace(const wchar_t* newName, WPARAM lastKey) {
-        List().OnNotification(event::EndLabelEdit, &listener, &Listener::OnEnd);
-        List().SelectRow(0);
-        SetFocus(List().Handle());
-        Commands().BeginRename();
-        const auto edit = reinterpret_cast<HWND>(SendMessageW(List().Handle(), LVM_GETEDITCONTROL, 0, 0));
-        ASSERT_NE(edit, nullptr);
-        wchar_t offered[MAX_PATH] = L"";
-        GetWindowTextW(edit, offered, MAX_PATH);
-        EXPECT_STREQ(offered, L"a.txt");
-        SetWindowTextW(edit, newName);
-        SendMessageW(edit, WM_KEYDOWN, lastKey, 1);
-        PumpQueue();
-        EXPECT_EQ(SendMessageW(List().Handle(), LVM_GETEDITCONTROL, 0, 0), 0);
-    }
-
-  private:
-    Listener listener{Commands()};
-};
-
-TEST_F(RenameInPlace, ends_with_enter) {
-    const AnsweredBoxes boxes{IDOK};
-    EditInPlace(L"b.txt", VK_RETURN);
-    EXPECT_TRUE(boxes.Seen().empty());
+TEST_F(RenameCommand, of_a_read_only_file_moves_it) {
+    ASSERT_TRUE(SetFileAttributesW(tree.Path(L"a.txt").c_str(), FILE_ATTRIBUTE_READONLY));
+    EndWith(L"b.txt");
     EXPECT_EQ(Files(), (Names{L"b.txt"}));
     EXPECT_EQ(RowNames(), (Names{L"b.txt"}));
+    EXPECT_NE(GetFileAttributesW(tree.Path(L"b.txt").c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
 }
 
-TEST_F(RenameInPlace, is_given_up_with_escape) {
-    EditInPlace(L"b.txt", VK_ESCAPE);
+TEST_F(RenameCommand, of_a_file_that_another_program_holds_is_refused) {
+    const HANDLE held =
+        CreateFileW(tree.Path(L"a.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    ExpectRefused(L"b.txt", (tree.Path(L"a.txt") + L" is in use").c_str());
+    CloseHandle(held);
     EXPECT_EQ(Files(), (Names{L"a.txt"}));
-    EXPECT_EQ(RowNames(), (Names{L"a.txt"}));
+    EXPECT_EQ(ContentOf(L"a.txt"), "of a");
 }
 
-TEST_F(RenameInPlace, that_fails_shows_two_boxes_and_the_old_name) {
-    tree.AddFile(L"b.txt", "of b");
-    const AnsweredBoxes boxes{IDOK};
-    EditInPlace(L"b.txt", VK_RETURN);
-    EXPECT_EQ(boxes.Seen().size(), 2u);
-    EXPECT_EQ(RowNames(), (Names{L"a.txt"}));
+TEST_F(RenameCommand, onto_a_folder_is_refused) {
+    tree.AddFile(L"sub\\inside.txt", "inside");
+    ExpectRefused(L"sub", L"Error Move file 183");
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
-    EXPECT_EQ(ContentOf(L"b.txt"), "of b");
+    EXPECT_EQ(ContentOf(L"sub\\inside.txt"), "inside");
+}
+
+TEST_F(RenameCommand, that_changes_only_the_case_keeps_the_one_file) {
+    EndWith(L"A.TXT");
+    // Whether the case follows is the file system's business.
+    EXPECT_EQ(Files().size(), 1u);
+    EXPECT_EQ(ContentOf(L"A.TXT"), "of a");
+    EXPECT_EQ(RowNames(), (Names{L"A.TXT"}));
+}
+
+TEST_F(RenameCommand, to_a_name_that_no_file_can_have_is_refused) {
+    for (const wchar_t* name : {L"a?.txt", L"a*", L"a|b", L"<a>", L"a\"b", L"c:b.txt"}) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(name)));
+        const AnsweredBoxes boxes{IDOK};
+        EndWith(name);
+        EXPECT_EQ(boxes.Seen().size(), 2u);
+        EXPECT_EQ(Files(), (Names{L"a.txt"}));
+        EXPECT_EQ(ContentOf(L"a.txt"), "of a");
+        EXPECT_EQ(RowNames(), (Names{L"a.txt"}));
+    }
+}
+
+TEST_F(RenameCommand, of_a_folder_moves_it_with_what_it_holds) {
+    tree.AddFile(L"sub\\inside.txt", "inside");
+    AddRow(L"sub");
+    std::wstring text = L"other";
+    NMLVDISPINFOW edited = {};
+    edited.item.mask = LVIF_TEXT;
+    edited.item.iItem = 1;
+    edited.item.pszText = text.data();
+    Commands().EndRename(edited);
+    EXPECT_EQ(ContentOf(L"other\\inside.txt"), "inside");
+    EXPECT_FALSE(Stands(L"sub"));
+    EXPECT_EQ(RowNames(), (Names{L"a.txt", L"other"}));
 }

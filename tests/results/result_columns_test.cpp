@@ -80,3 +80,25 @@ TEST_F(ResultColumns, each_view_replaces_the_two_view_bits_and_leaves_the_other_
         EXPECT_EQ(style & NotTheViews, others);
     }
 }
+
+TEST_F(ResultColumns, another_view_is_drawn_on_an_empty_list) {
+    List().SetView(LVS_REPORT);
+    UpdateWindow(Handle());
+    ASSERT_FALSE(GetUpdateRect(Handle(), nullptr, FALSE));
+    List().SetView(LVS_ICON);
+    RECT client = {};
+    GetClientRect(Handle(), &client);
+    RECT toDraw = {};
+    ASSERT_TRUE(GetUpdateRect(Handle(), &toDraw, FALSE));
+    EXPECT_TRUE(EqualRect(&toDraw, &client));
+}
+
+TEST_F(ResultColumns, rows_and_headings_have_the_letters_of_the_dialogs) {
+    const auto header = SendMessageW(Handle(), LVM_GETHEADER, 0, 0);
+    for (const HWND window : {Handle(), reinterpret_cast<HWND>(header)}) {
+        LOGFONTW font = {};
+        const auto handle = reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0));
+        ASSERT_EQ(GetObjectW(handle, sizeof(font), &font), static_cast<int>(sizeof(font)));
+        EXPECT_STREQ(font.lfFaceName, L"Tahoma");
+    }
+}

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "tests/results/result_list_test.h"
+#include "tests/support/key_presses.h"
 
 using Names = std::vector<std::wstring>;
 
@@ -90,6 +91,18 @@ class ResultSorting : public ResultListTest {
         clicked.iSubItem = column;
         SendMessageW(GetParent(Handle()), WM_NOTIFY, clicked.hdr.idFrom, reinterpret_cast<LPARAM>(&clicked));
     }
+    // Presses the button on the heading as often, each press but the first as the desktop tells of a quick
+    // one.
+    void PressOnHeading(int column, int times) {
+        const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+        RECT place = {};
+        SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&place));
+        const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+        for (int i = 0; i < times; ++i) {
+            SendMessageW(header, i == 0 ? WM_LBUTTONDOWN : WM_LBUTTONDBLCLK, MK_LBUTTON, point);
+            SendMessageW(header, WM_LBUTTONUP, 0, point);
+        }
+    }
     void AddThreeFiles() {
         AddFile(L"\\f", L"b.txt", 2097152);
         AddFile(L"\\f", L"c.txt", 999);
@@ -114,6 +127,47 @@ TEST_F(ResultSorting, the_order_is_that_of_the_plain_comparison_for_every_column
             EXPECT_EQ(Numbers(), expected);
         }
     }
+}
+
+TEST_F(ResultSorting, control_with_a_digit_stands_for_the_click_on_that_heading) {
+    AddThreeFiles();
+    PressKeyOn(Handle(), '3', {VK_CONTROL});
+    EXPECT_EQ(NameCells(), (Names{L"c.txt", L"a.txt", L"b.txt"}));
+    PressKeyOn(Handle(), '3', {VK_CONTROL});
+    EXPECT_EQ(NameCells(), (Names{L"b.txt", L"a.txt", L"c.txt"}));
+    PressKeyOn(Handle(), '1', {VK_CONTROL});
+    EXPECT_EQ(NameCells(), (Names{L"a.txt", L"b.txt", L"c.txt"}));
+}
+
+TEST_F(ResultSorting, other_keys_sort_nothing) {
+    AddThreeFiles();
+    for (const int key : {'0', '6', '9', 'A'})
+        PressKeyOn(Handle(), key, {VK_CONTROL});
+    PressKeyOn(Handle(), '3');
+    PressKeyOn(Handle(), '3', {VK_SHIFT});
+    PressKeyOn(Handle(), '3', {VK_CONTROL, VK_MENU});
+    EXPECT_EQ(NameCells(), (Names{L"b.txt", L"c.txt", L"a.txt"}));
+}
+
+TEST_F(ResultSorting, every_click_on_a_heading_counts_however_quick) {
+    AddThreeFiles();
+    PressOnHeading(0, 1);
+    EXPECT_EQ(NameCells(), (Names{L"c.txt", L"b.txt", L"a.txt"}));
+    PressOnHeading(0, 2);
+    EXPECT_EQ(NameCells(), (Names{L"c.txt", L"b.txt", L"a.txt"}));
+    PressOnHeading(0, 3);
+    EXPECT_EQ(NameCells(), (Names{L"a.txt", L"b.txt", L"c.txt"}));
+}
+
+TEST_F(ResultSorting, a_double_click_between_two_headings_sorts_nothing) {
+    AddThreeFiles();
+    const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+    RECT place = {};
+    SendMessageW(header, HDM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&place));
+    const LPARAM point = MAKELPARAM(place.right - 1, (place.top + place.bottom) / 2);
+    for (const int message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+        SendMessageW(header, static_cast<UINT>(message), 0, point);
+    EXPECT_EQ(NameCells(), (Names{L"b.txt", L"c.txt", L"a.txt"}));
 }
 
 TEST_F(ResultSorting, a_negative_column_restores_the_order_of_finding_in_both_directions) {

@@ -106,6 +106,20 @@ void ProgramDriver::Click(int page, int id) {
     SendMessageW(ControlWindow(page, id), BM_CLICK, 0, 0);
 }
 
+void ProgramDriver::ClickToOpen(int page, int id) {
+    PostMessageW(ControlWindow(page, id), BM_CLICK, 0, 0);
+    WaitUntil("a dialog", [this] { return GetLastActivePopup(window) != window; });
+    link->WaitForQueue();
+}
+
+void ProgramDriver::CancelDialog() {
+    const HWND dialog = GetLastActivePopup(window);
+    if (dialog == window) throw DriverError("there is no dialog to cancel");
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    WaitUntil("the dialog to close", [&] { return !IsWindow(dialog); });
+    link->WaitForQueue();
+}
+
 void ProgramDriver::SelectEntry(int page, int id, int index) {
     SendMessageW(ControlWindow(page, id), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
@@ -196,6 +210,10 @@ void ProgramDriver::FocusTab() {
 
 void ProgramDriver::SelectRow(int row, bool select) {
     link->Ask(probe::Question::SelectRow, row, select ? 1 : 0);
+}
+
+void ProgramDriver::SelectTreeItem(int place) {
+    link->Ask(probe::Question::SelectItem, place);
 }
 
 void ProgramDriver::Repaint() {

@@ -45,6 +45,10 @@ class ProgramDriver {
     void SetCheck(int page, int id, bool checked);
     // A click on a button of a page, with its notification.
     void Click(int page, int id);
+    // The same for a button that opens a dialog; waits for the dialog.
+    void ClickToOpen(int page, int id);
+    // Cancels the dialog that is open and waits until it is gone.
+    void CancelDialog();
     void SelectEntry(int page, int id, int index);
     void SetSpin(int page, int id, int position);
     void SetDate(int page, int id, int yearMonthDay);
@@ -72,6 +76,8 @@ class ProgramDriver {
     void SelectRow(int row, bool select = true);
     void WaitForQueue() { link->WaitForQueue(); }
     void Repaint();
+    // The item at this place of Tree().
+    void SelectTreeItem(int place);
 
     // Reading back.
     std::vector<RowState> Rows();
@@ -89,6 +95,8 @@ class ProgramDriver {
     PickerState Picker(int page, int id);
     SpinState Spin(int page, int id);
     std::vector<DialogState> Dialogs();
+    // Of the folder browser, parents before their children; empty when it is not open.
+    std::vector<TreeItemState> Tree();
     std::optional<DialogState> FindingDialog();
     // The windows from the focus up to the top one, as class names in lower case and ids: "edit:1001
     // combobox:10401 #32770:0 ..."; empty without focus.

@@ -47,6 +47,7 @@ RowState ToRow(const Record& record) {
     row.parameter = fields.Number();
     row.state = fields.Unsigned();
     row.image = fields.Int();
+    row.label = fields.Rectangle();
     return row;
 }
 
@@ -116,6 +117,7 @@ std::vector<ColumnState> ProgramDriver::Columns() {
         column.heading = fields.Text();
         column.width = fields.Int();
         column.format = fields.Int();
+        column.rectangle = fields.Rectangle();
         columns.push_back(column);
     }
     return columns;
@@ -229,6 +231,21 @@ SpinState ProgramDriver::Spin(int page, int id) {
     spin.position = fields.Int();
     spin.errorWord = fields.Int();
     return spin;
+}
+
+std::vector<TreeItemState> ProgramDriver::Tree() {
+    std::vector<TreeItemState> items;
+    for (const Record& record : link->Ask(probe::Question::Tree)) {
+        Fields fields(record);
+        TreeItemState item;
+        item.depth = fields.Int();
+        item.state = fields.Unsigned();
+        item.image = fields.Int();
+        item.selectedImage = fields.Int();
+        item.text = fields.Text();
+        items.push_back(item);
+    }
+    return items;
 }
 
 std::vector<DialogState> ProgramDriver::Dialogs() {

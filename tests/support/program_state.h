@@ -12,6 +12,7 @@ struct RowState {
     long long parameter = 0;
     UINT state = 0;
     int image = 0;
+    RECT label = {};  // of the name, on the screen
 
     [[nodiscard]] bool Selected() const { return (state & 2u) != 0; }
 };
@@ -29,6 +30,7 @@ struct ColumnState {
     std::wstring heading;
     int width = 0;
     int format = 0;
+    RECT rectangle = {};  // of the heading, on the screen
 };
 
 struct MenuItemState {
@@ -86,6 +88,18 @@ struct SpinState {
     int upper = 0;
     int position = 0;
     int errorWord = 0;
+};
+
+// An item of the folder browser.
+struct TreeItemState {
+    int depth = 0;  // 0 for the root
+    UINT state = 0;
+    int image = 0;
+    int selectedImage = 0;
+    std::wstring text;
+
+    [[nodiscard]] bool Selected() const { return (state & 2u) != 0; }
+    [[nodiscard]] bool Expanded() const { return (state & 0x20u) != 0; }
 };
 
 struct DialogState {

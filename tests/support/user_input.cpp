@@ -43,6 +43,27 @@ bool MouseIsAt(POINT point) {
     return now.x == point.x && now.y == point.y;
 }
 
+void MoveTo(POINT point) {
+    WaitUntil("the mouse to stay where it was moved", [&] {
+        SendOne(Mouse(MOUSEEVENTF_MOVE, point));
+        Sleep(MousePause);
+        return MouseIsAt(point);
+    });
+}
+
+void Click(POINT point) {
+    SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, point));
+    Sleep(MousePause);
+    SendOne(Mouse(MOUSEEVENTF_LEFTUP, point));
+}
+
+void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
+    std::vector<INPUT> inputs;
+    for (const WORD key : keys)
+        inputs.push_back(Key(key, 0, flags));
+    if (!inputs.empty()) SendInputs(inputs);
+}
+
 }  // namespace
 
 void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
@@ -66,12 +87,19 @@ void TypeText(const std::wstring& text) {
 }
 
 void ClickAt(POINT point) {
-    WaitUntil("the mouse to stay where it was moved", [&] {
-        SendOne(Mouse(MOUSEEVENTF_MOVE, point));
-        Sleep(MousePause);
-        return MouseIsAt(point);
-    });
-    SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, point));
+    MoveTo(point);
+    Click(point);
+}
+
+void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers) {
+    // Wine reads the real keyboard whenever the mouse comes into a window, and finds the keys let go of.
+    MoveTo(point);
+    if (modifiers.size() > 0) Sleep(4 * MousePause);
+    HoldKeys(modifiers, 0);
+    Click(point);
     Sleep(MousePause);
-    SendOne(Mouse(MOUSEEVENTF_LEFTUP, point));
+    Click(point);
+    // Let go of later than the button, as by a hand.
+    if (modifiers.size() > 0) Sleep(4 * MousePause);
+    HoldKeys(modifiers, KEYEVENTF_KEYUP);
 }

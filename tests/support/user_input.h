@@ -17,3 +17,6 @@ void TypeText(const std::wstring& text);
 // Moves the mouse to a point of the screen and clicks the left button there, once the mouse stays there: a
 // window that has only just come up still gets the system's own news of where the mouse is.
 void ClickAt(POINT point);
+
+// Two clicks in short order while the modifiers are held down.
+void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers = {});

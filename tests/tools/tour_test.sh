@@ -35,6 +35,11 @@ test_without_conditions_every_text_file_of_the_sample_device_is_found() {
     expect_match 'the row of a file' '*\\Meeting notes.txt'$'\t62\t*\t''02/07/15 09:05:30' \
         "$(grep -F 'Business\Meeting notes.txt' "$scratch/rows")"
     expect_that 'there is a picture of the results' compgen -G "$root/build/tour/*-results.png" >/dev/null
+    expect_that 'there is a picture of the sorted rows' compgen -G "$root/build/tour/*-sorted.png" >/dev/null
+    expect_that 'there is a picture of the question' compgen -G "$root/build/tour/*-delete-question.png" >/dev/null
+    expect_that 'there is a picture of the properties' compgen -G "$root/build/tour/*-properties.png" >/dev/null
+    expect_that 'there is a picture of the folder browser' compgen -G "$root/build/tour/*-browser.png" >/dev/null
+    expect_that 'there is a picture of the About box' compgen -G "$root/build/tour/*-about.png" >/dev/null
 }
 
 test_a_content_search_finds_exactly_the_files_with_the_text() {

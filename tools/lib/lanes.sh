@@ -99,7 +99,7 @@ run_world() (
     arm_cleanups
     open_world "$1" "$2"
     for program in $(test_programs release); do
-        if [[ $program == program_tests* ]]; then
+        if [[ $program == program_*tests ]]; then
             for override in 0 1; do
                 export QUORIN_WORLD_OVERRIDE=$override
                 run_in_world "$place-$override" "$program"

@@ -6,6 +6,11 @@ tourDir=$buildDir/tour
 
 searchDeadline=600
 
+# Delete, Properties and About..., as in resources/resource_ids.h.
+deleteCommand=40103
+propertiesCommand=40105
+aboutCommand=40901
+
 # drive STEP WORD...: one step of the driver, which has a deadline of its own; this one is for a driver that hangs.
 drive() {
     timeout -k 5 "$((searchDeadline + 30))" "$wine" 'P:\quorin_driver.exe' "$@" </dev/null || fail "the step '$1' failed"
@@ -45,12 +50,35 @@ tour_pages() {
     drive page 0
 }
 
+# What can be done with the first row, as far as it changes nothing.
+tour_row() {
+    drive sort 0
+    picture sorted
+    drive command "$deleteCommand"
+    picture delete-question
+    drive cancel
+    drive command "$propertiesCommand"
+    picture properties
+    drive cancel
+}
+
+tour_dialogs() {
+    drive browse
+    picture browser
+    drive cancel
+    drive command "$aboutCommand"
+    picture about
+    drive cancel
+}
+
 # Runs on the screen that is there; the rows go to the file $1.
 tour_steps() {
     drive wait-window 60
     tour_pages
     tour_search
     drive rows >"$1"
+    tour_row
+    tour_dialogs
     drive close
     await_program 30 || fail "the program did not end"
     ((programStatus == 0)) || fail "the program ended with status $programStatus"

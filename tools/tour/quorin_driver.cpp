@@ -8,7 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "resources/resource_ids.h"
 #include "tests/support/program_driver.h"
+#include "tests/support/user_input.h"
 #include "tests/support/utf8.h"
 
 namespace {
@@ -24,6 +26,9 @@ constexpr char Usage[] =
     "  rows                         prints the rows: path, size, type and time, separated by tabs\n"
     "  state                        prints what the main window shows, one item a line\n"
     "  command NUMBER               sends a menu command\n"
+    "  sort NUMBER                  clicks the heading of a column: 0 name, 1 folder\n"
+    "  browse                       opens the folder browser\n"
+    "  cancel                       cancels the dialog that is open\n"
     "  close                        closes the program and waits for its end\n";
 
 struct UsageError {};
@@ -78,6 +83,15 @@ void Find(ProgramDriver& driver, const Words& words) {
     if (!driver.FindAndHold(NumberAt(words, 2, 0))) {
         std::fputs("quorin_driver: the search ended before it could be held\n", stderr);
     }
+}
+
+void Sort(ProgramDriver& driver, int column) {
+    const std::vector<ColumnState> columns = driver.Columns();
+    if (static_cast<std::size_t>(column) >= columns.size()) throw UsageError();
+    const RECT heading = columns[static_cast<std::size_t>(column)].rectangle;
+    driver.BringForward();
+    ClickAt({(heading.left + heading.right) / 2, (heading.top + heading.bottom) / 2});
+    driver.WaitForQueue();
 }
 
 void PrintRows(ProgramDriver& driver) {
@@ -136,6 +150,12 @@ void Run(const Words& words) {
         PrintState(driver);
     } else if (step == L"command" && words.size() == 2) {
         driver.SendMenuCommand(static_cast<UINT>(ToNumber(words[1])));
+    } else if (step == L"sort" && words.size() == 2) {
+        Sort(driver, ToNumber(words[1]));
+    } else if (step == L"browse") {
+        driver.ClickToOpen(NamePage, BUTTON_BROWSE);
+    } else if (step == L"cancel") {
+        driver.CancelDialog();
     } else if (step == L"close") {
         const DWORD code = driver.Close();
         if (code != 0) throw DriverError("the program ended with exit code " + std::to_string(code));

@@ -24,6 +24,10 @@ void AnswerPicker(AnswerWriter& writer, int page, int id);
 void AnswerSpin(AnswerWriter& writer, int page, int id);
 void SetPicker(int page, int id, int yearMonthDay);
 
+// The tree of the folder browser.
+void AnswerTree(AnswerWriter& writer);
+void SelectTreeItem(int place);
+
 // Windows at large.
 void AnswerFocus(AnswerWriter& writer);
 void AnswerDialogs(AnswerWriter& writer);

@@ -36,7 +36,11 @@ void AnswerRow(AnswerWriter& writer, HWND list, int row) {
     item.iItem = row;
     item.stateMask = static_cast<UINT>(-1);
     SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    writer.Number(item.lParam).Number(item.state).Number(item.iImage).End();
+    RECT label = {};
+    label.left = LVIR_LABEL;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
+    MapWindowPoints(list, HWND_DESKTOP, reinterpret_cast<POINT*>(&label), 2);
+    writer.Number(item.lParam).Number(item.state).Number(item.iImage).Rectangle(label).End();
 }
 
 }  // namespace
@@ -73,7 +77,12 @@ void AnswerColumns(AnswerWriter& writer) {
         record.pszText = text;
         record.cchTextMax = 256;
         SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&record));
-        writer.Text(record.pszText).Number(record.cx).Number(record.fmt & LVCFMT_JUSTIFYMASK).End();
+        RECT heading = {};
+        SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column),
+                     reinterpret_cast<LPARAM>(&heading));
+        MapWindowPoints(header, HWND_DESKTOP, reinterpret_cast<POINT*>(&heading), 2);
+        writer.Text(record.pszText).Number(record.cx).Number(record.fmt & LVCFMT_JUSTIFYMASK);
+        writer.Rectangle(heading).End();
     }
 }
 

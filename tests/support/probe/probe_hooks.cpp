@@ -67,6 +67,12 @@ void Answer(Exchange& exchange) {
         case Question::Repaint:
             Repaint();
             break;
+        case Question::Tree:
+            AnswerTree(writer);
+            break;
+        case Question::SelectItem:
+            SelectTreeItem(numbers[0]);
+            break;
         default:
             return;
     }

@@ -20,24 +20,27 @@ constexpr wchar_t ReleaseEventNameFormat[] = L"Local\\QuorinProbeRelease-%lu";
 constexpr wchar_t SyncEventNameFormat[] = L"Local\\QuorinProbeSync-%lu";
 
 enum class Question : DWORD {
-    Counters,   // searches begun, searches ended
-    List,       // count, selected, focused, style, extended style, window rectangle
-    Rows,       // numbers: first, count -> a record a row: five cells, parameter, state, image
-    Columns,    // a record a column: heading, width, format
-    Menu,       // a record an item, popups before their items: depth, id, state, type, text
-    Bar,        // a record a button: command, image, state, style, text, screen rectangle
-    Tabs,       // a record a tab: caption, current?, screen rectangle
-    Control,    // numbers: page, id -> one record (ControlState)
-    Combo,      // numbers: page, id -> selected index, then a record an entry
-    Picker,     // numbers: page, id -> text, year, month, day, hour, minute, second
-    Spin,       // numbers: page, id -> lower, upper, position word, error word
-    Focus,      // a record a window from the focus up to the top: class, id
-    Dialogs,    // a record a dialog of the program's thread: caption, texts of its controls by id
-    SetPicker,  // numbers: page, id, yyyymmdd -> nothing
-    SetFocus,   // numbers: page, id -> nothing
-    SelectRow,  // numbers: row, 1 to select or 0 to deselect -> nothing
-    ArmHold,    // numbers: rows to wait for, longest hold in milliseconds -> nothing
-    Repaint,    // nothing
+    Counters,    // searches begun, searches ended
+    List,        // count, selected, focused, style, extended style, window rectangle
+    Rows,        // numbers: first, count -> a record a row: five cells, parameter, state, image,
+                 // the name's screen rectangle
+    Columns,     // a record a column: heading, width, format, screen rectangle
+    Menu,        // a record an item, popups before their items: depth, id, state, type, text
+    Bar,         // a record a button: command, image, state, style, text, screen rectangle
+    Tabs,        // a record a tab: caption, current?, screen rectangle
+    Control,     // numbers: page, id -> one record (ControlState)
+    Combo,       // numbers: page, id -> selected index, then a record an entry
+    Picker,      // numbers: page, id -> text, year, month, day, hour, minute, second
+    Spin,        // numbers: page, id -> lower, upper, position word, error word
+    Focus,       // a record a window from the focus up to the top: class, id
+    Dialogs,     // a record a dialog of the program's thread: caption, texts of its controls by id
+    SetPicker,   // numbers: page, id, yyyymmdd -> nothing
+    SetFocus,    // numbers: page, id -> nothing
+    SelectRow,   // numbers: row, 1 to select or 0 to deselect -> nothing
+    ArmHold,     // numbers: rows to wait for, longest hold in milliseconds -> nothing
+    Repaint,     // nothing
+    Tree,        // a record an item of the folder browser, parents first: depth, state, two images, text
+    SelectItem,  // numbers: an item's place in that order -> nothing
 };
 
 // Pages are told by number; these two are no pages.

@@ -29,6 +29,12 @@ BOOL CALLBACK TakeFindingDialog(HWND window, LPARAM result) {
     return FALSE;
 }
 
+BOOL CALLBACK TakeBrowser(HWND window, LPARAM result) {
+    if (!HasClass(window, L"#32770") || GetDlgItem(window, TREE_FOLDERS) == nullptr) return TRUE;
+    *reinterpret_cast<HWND*>(result) = window;
+    return FALSE;
+}
+
 HWND ThreadWindow(WNDENUMPROC take) {
     HWND found = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), take, reinterpret_cast<LPARAM>(&found));
@@ -112,6 +118,11 @@ HWND PageControl(int page, int id) {
 
 HWND FindingDialog() {
     return ThreadWindow(TakeFindingDialog);
+}
+
+HWND BrowserTree() {
+    const HWND browser = ThreadWindow(TakeBrowser);
+    return browser == nullptr ? nullptr : GetDlgItem(browser, TREE_FOLDERS);
 }
 
 }  // namespace probe

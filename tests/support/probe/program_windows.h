@@ -20,5 +20,7 @@ HWND PageWindow(int page);
 HWND PageControl(int page, int id);
 // A visible dialog of the program's thread with the static that shows the searched folder.
 HWND FindingDialog();
+// The tree in the folder browser.
+HWND BrowserTree();
 
 }  // namespace probe

@@ -1,0 +1,50 @@
+#include "results/name_edit.h"
+
+NameEdit::NameEdit(WindowObject* parentObject, HWND edit)
+    : Control(parentObject, edit, L"Edit", Ownership::Wrapped) {
+    Subclass();
+    OnMessage(WM_KEYDOWN, this, &NameEdit::OnKeyDown);
+    OnMessage(WM_KILLFOCUS, this, &NameEdit::OnFocusLost);
+    OnMessage(WM_IME_STARTCOMPOSITION, this, &NameEdit::OnComposition, TRUE);
+    OnMessage(WM_IME_ENDCOMPOSITION, this, &NameEdit::OnComposition, FALSE);
+    OnMessage(WM_DESTROY, this, &NameEdit::OnDestroyed);
+    OnMessage(WM_NCDESTROY, this, &NameEdit::OnDestroyed);
+}
+
+std::wstring NameEdit::Text() const {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(Handle())), L'\0');
+    GetWindowTextW(Handle(), text.data(), static_cast<int>(text.size()) + 1);
+    return text;
+}
+
+// Most input methods turn the keys that they take into VK_PROCESSKEY; some leave Enter and Esc as they are.
+LRESULT NameEdit::OnKeyDown(MessageRecord& record) {
+    const bool ends = record.wParam == VK_RETURN || record.wParam == VK_ESCAPE;
+    if (ends && composing) return 0;
+    if (ends) {
+        taken = record.wParam == VK_RETURN;
+        givenUp = !taken;
+    }
+    return DefaultProcessing(record);
+}
+
+// The list takes what stands in an edit that is left.
+LRESULT NameEdit::OnFocusLost(MessageRecord& record) {
+    if (!givenUp) taken = true;
+    return DefaultProcessing(record);
+}
+
+LRESULT NameEdit::OnComposition(MessageRecord& record) {
+    composing = record.extra != FALSE;
+    return DefaultProcessing(record);
+}
+
+// The list puts its own procedure out of the way before the end, and with it this object's: then the first
+// of the two messages is the last that is seen.
+LRESULT NameEdit::OnDestroyed(MessageRecord& record) {
+    const LRESULT result = DefaultProcessing(record);
+    const auto now = GetWindowLongPtrW(Handle(), GWLP_WNDPROC);
+    const bool bypassed = now != reinterpret_cast<LONG_PTR>(&FrameworkWindowProcedure);
+    if (record.message == WM_NCDESTROY || bypassed) Detach();
+    return result;
+}

@@ -1,0 +1,280 @@
+// The About box in the running program, and what it uninstalls.
+
+#include <windows.h>
+
+#include <cwchar>
+#include <memory>
+
+#include "resources/resource_ids.h"
+#include "tests/program/program_dialogs.h"
+#include "tests/program/program_test.h"
+#include "tests/program/registry_reading.h"
+#include "tests/support/user_input.h"
+
+namespace {
+
+struct MemoryLine {
+    int freeKilobytes = -1;
+    int totalKilobytes = -1;
+    int percentage = -1;
+};
+
+// What follows the label and its colon; untouched where the text is not of that form.
+MemoryLine ParseMemory(const std::wstring& text, const std::wstring& label) {
+    MemoryLine line;
+    int length = 0;
+    if (text.rfind(label + L": ", 0) != 0) return line;
+    MemoryLine read;
+    const wchar_t* figures = text.c_str() + label.size() + 2;
+    const int fields = std::swscanf(figures, L"%d/%dKB (%d%%)%n", &read.freeKilobytes, &read.totalKilobytes,
+                                    &read.percentage, &length);
+    return fields == 3 && figures[length] == L'\0' ? read : line;
+}
+
+void ExpectConsistent(const MemoryLine& line) {
+    EXPECT_GT(line.totalKilobytes, 0);
+    EXPECT_GE(line.freeKilobytes, 0);
+    EXPECT_LE(line.freeKilobytes, line.totalKilobytes);
+    EXPECT_EQ(static_cast<int>(line.freeKilobytes * 100LL / line.totalKilobytes), line.percentage);
+}
+
+}  // namespace
+
+class About : public ProgramTest {
+  protected:
+    void SetUp() override {
+        if (!Program().IsRunning()) StartFresh();
+        Program().BringForward();
+    }
+    void TearDown() override {
+        if (!Program().IsRunning() || Program().Dialogs().empty()) return;
+        Program().Kill();
+    }
+
+    ProgramDialog OpenByCommand() {
+        PostMessageW(Program().Window(), WM_COMMAND, COMMAND_ABOUT, 0);
+        return InFront(WaitForDialog(Program().Window()));
+    }
+    ProgramDialog OpenByKey() {
+        PressKey(VK_F1);
+        return InFront(WaitForDialog(Program().Window()));
+    }
+    static ProgramDialog InFront(const ProgramDialog& dialog) {
+        WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Window(); });
+        return dialog;
+    }
+    void WaitForClose(const ProgramDialog& dialog) {
+        WaitUntil("the dialog to close", [&] { return !IsWindow(dialog.Window()); });
+        Program().WaitForQueue();
+    }
+};
+
+TEST_F(About, shows_product_version_notice_and_contacts) {
+    const ProgramDialog about = OpenByCommand();
+    EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Caption());
+    EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Text(STATIC_TITLE));
+    EXPECT_EQ(L"QuorinSearch", about.Text(STATIC_PRODUCT_NAME));
+    EXPECT_EQ(L"Version 0.90", about.Text(STATIC_VERSION));
+    EXPECT_NE(std::wstring::npos, about.Text(STATIC_LEGAL_NOTICE).find(L"QuorinSoft"));
+    EXPECT_FALSE(about.Text(STATIC_CONTACT_1).empty());
+    EXPECT_FALSE(about.Text(STATIC_CONTACT_2).empty());
+    EXPECT_TRUE(about.HasText(Shown(L"Rest of memories", L"ﾒﾓﾘ残量")));
+    EXPECT_EQ(Shown(L"&Uninstall", L"ｱﾝｲﾝｽﾄ(&U)"), about.Text(BUTTON_UNINSTALL));
+    EXPECT_TRUE(IsWindowVisible(about.Control(BUTTON_UNINSTALL)));
+    PostMessageW(about.Window(), WM_COMMAND, IDOK, 0);
+    WaitForClose(about);
+}
+
+TEST_F(About, shows_the_machines_memory_and_no_cards_where_there_are_none) {
+    MEMORYSTATUSEX memory = {};
+    memory.dwLength = sizeof memory;
+    ASSERT_TRUE(GlobalMemoryStatusEx(&memory));
+    ULARGE_INTEGER total = {};
+    ASSERT_TRUE(GetDiskFreeSpaceExW(L"C:\\", nullptr, &total, nullptr));
+
+    const ProgramDialog about = OpenByCommand();
+    const MemoryLine ofPrograms =
+        ParseMemory(about.Text(STATIC_PROGRAM_MEMORY), Shown(L"Program", L"ﾌﾟﾛｸﾞﾗﾑ"));
+    ExpectConsistent(ofPrograms);
+    EXPECT_EQ(static_cast<int>(memory.ullTotalPhys / 1024), ofPrograms.totalKilobytes);
+    const MemoryLine ofData = ParseMemory(about.Text(STATIC_DATA_STORE), Shown(L"Data", L"ﾃﾞｰﾀ"));
+    ExpectConsistent(ofData);
+    EXPECT_EQ(static_cast<int>(total.QuadPart / 1024), ofData.totalKilobytes);
+    EXPECT_EQ(L"", about.Text(STATIC_STORAGE_CARD));
+    EXPECT_EQ(L"", about.Text(STATIC_SECOND_STORAGE_CARD));
+    PostMessageW(about.Window(), WM_COMMAND, IDCANCEL, 0);
+    WaitForClose(about);
+}
+
+TEST_F(About, lists_no_more_than_the_first_two_of_the_cards_that_are_in) {
+    std::vector<std::unique_ptr<DeviceDrive>> cards;
+    for (std::size_t count = 1; count <= 3; ++count) {
+        cards.push_back(std::make_unique<DeviceDrive>(Tree().Root(), DRIVE_REMOVABLE));
+        if (GetDriveTypeW(cards.back()->Root().c_str()) != DRIVE_REMOVABLE)
+            GTEST_SKIP() << "this system makes no removable drives";
+        const ProgramDialog about = OpenByCommand();
+        for (std::size_t card = 0; card < 2; ++card) {
+            SCOPED_TRACE(testing::Message() << count << " cards, line " << card);
+            const std::wstring text = about.Text(STATIC_STORAGE_CARD + static_cast<int>(card));
+            if (card < count) {
+                ExpectConsistent(ParseMemory(text, cards[card]->Root()));
+            } else {
+                EXPECT_EQ(L"", text);
+            }
+        }
+        PostMessageW(about.Window(), WM_COMMAND, IDCANCEL, 0);
+        WaitForClose(about);
+    }
+}
+
+TEST_F(About, lies_on_the_screen_with_all_its_controls) {
+    const ProgramDialog about = OpenByCommand();
+    const RECT screen = {0, 0, World().screenWidth, World().screenHeight};
+    for (const int id : {STATIC_PRODUCT_NAME, STATIC_VERSION, STATIC_LEGAL_NOTICE, STATIC_CONTACT_1,
+                         STATIC_CONTACT_2, STATIC_PROGRAM_MEMORY, STATIC_DATA_STORE, STATIC_STORAGE_CARD,
+                         STATIC_SECOND_STORAGE_CARD, BUTTON_UNINSTALL}) {
+        RECT place = {};
+        GetWindowRect(about.Control(id), &place);
+        RECT visible = {};
+        IntersectRect(&visible, &place, &screen);
+        EXPECT_TRUE(EqualRect(&visible, &place)) << id;
+        // The bar with its two buttons.
+        EXPECT_LE(place.bottom, about.Place().bottom - 26) << id;
+    }
+    PostMessageW(about.Window(), WM_COMMAND, IDCANCEL, 0);
+    WaitForClose(about);
+}
+
+TEST_F(About, opens_by_f1_and_closes_by_enter_and_by_escape) {
+    for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
+        const ProgramDialog about = OpenByKey();
+        EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Caption());
+        PressKey(key);
+        WaitForClose(about);
+        EXPECT_TRUE(Program().IsRunning());
+    }
+}
+
+TEST_F(About, opens_by_f1_from_each_place_of_the_window) {
+    const auto opensHere = [&] {
+        const ProgramDialog about = OpenByKey();
+        PressKey(VK_ESCAPE);
+        WaitForClose(about);
+    };
+    Program().FocusControl(NamePage, COMBO_NAME);
+    opensHere();
+    Program().FocusControl(NamePage, EDIT_CONTENT);
+    opensHere();
+    EXPECT_TRUE(Program().HasFocus(NamePage, EDIT_CONTENT)) << "the focus did not come back";
+    Program().FocusTab();
+    PressKey(VK_TAB, {VK_SHIFT});
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
+    opensHere();
+}
+
+// The last item of the second menu.
+TEST_F(About, opens_by_its_menu) {
+    const RECT button = Program().Bar().at(1).rectangle;
+    ClickAt({(button.left + button.right) / 2, (button.top + button.bottom) / 2});
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
+    PressKey(VK_UP);
+    PressKey(VK_RETURN);
+    const ProgramDialog about = InFront(WaitForDialog(Program().Window()));
+    EXPECT_EQ(L"QuorinSearch", about.Text(STATIC_PRODUCT_NAME));
+    PressKey(VK_ESCAPE);
+    WaitForClose(about);
+}
+
+// Enter and the blank, pressed by somebody who has only looked, remove nothing, also when the button had the
+// focus the time before.
+TEST_F(About, has_its_focus_off_the_button_each_time_it_opens) {
+    for (int time = 0; time < 3; ++time) {
+        const ProgramDialog about = OpenByKey();
+        EXPECT_EQ(0u, Program().FocusPath().rfind(L"#32770:0", 0))
+            << testing::PrintToString(Program().FocusPath());
+        PressKey(VK_TAB);
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] {
+            return Program().FocusPath().rfind(L"button:" + std::to_wstring(BUTTON_UNINSTALL), 0) == 0;
+        }));
+        PressKey(VK_ESCAPE);
+        WaitForClose(about);
+    }
+    EXPECT_TRUE(Program().IsRunning());
+}
+
+class Uninstall : public About {
+  protected:
+    void SetUp() override {
+        StartFresh();
+        CloseProgram();
+        ASSERT_TRUE(KeyExists(NameKey));
+        StartAgain();
+        Program().BringForward();
+    }
+    void TearDown() override {
+        About::TearDown();
+        RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\QuorinSoft\\Another");
+    }
+};
+
+TEST_F(Uninstall, removes_both_keys_without_a_question_and_ends_the_program) {
+    OpenByCommand().Click(BUTTON_UNINSTALL);
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_FALSE(KeyExists(ProductKey));
+    EXPECT_FALSE(KeyExists(MakerKey));
+}
+
+TEST_F(Uninstall, leaves_a_next_start_as_on_the_first_day) {
+    Program().SetText(NamePage, COMBO_NAME, L"remembered");
+    Program().SetCheck(NamePage, CHECK_SUBFOLDERS, true);
+    CloseProgram();
+    StoreText(NameKey, L"0", L"remembered");
+    StartAgain();
+    ASSERT_EQ(L"remembered", Program().Combo(NamePage, COMBO_NAME).entries.back());
+    OpenByCommand().Click(BUTTON_UNINSTALL);
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    PrepareRegistry();
+    StartAgain();
+    EXPECT_EQ((Names{L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(BST_UNCHECKED, Program().Control(NamePage, CHECK_SUBFOLDERS).checked);
+}
+
+TEST_F(Uninstall, is_done_by_keys_alone) {
+    OpenByKey();
+    PressKey('U', {VK_MENU});
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_FALSE(KeyExists(MakerKey));
+}
+
+TEST_F(Uninstall, takes_foreign_sub_keys_of_the_product_along) {
+    StoreText(L"Software\\QuorinSoft\\QuorinSearch\\Name\\deeper", L"value", L"text");
+    OpenByCommand().Click(BUTTON_UNINSTALL);
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_FALSE(KeyExists(MakerKey));
+}
+
+TEST_F(Uninstall, leaves_the_makers_key_and_its_values_to_another_program) {
+    StoreText(L"Software\\QuorinSoft\\Another", L"value", L"text");
+    StoreText(MakerKey, L"Note", L"kept");
+    OpenByCommand().Click(BUTTON_UNINSTALL);
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Names{L"Another"}, SubKeysOf(MakerKey));
+    EXPECT_EQ(StoredText(L"kept"), ValuesOf(MakerKey)[L"Note"]);
+}
+
+TEST_F(Uninstall, that_fails_says_so_and_the_program_goes_on_and_saves) {
+    ASSERT_EQ(ERROR_SUCCESS, RegDeleteTreeW(HKEY_CURRENT_USER, ProductKey));
+    const ProgramDialog about = OpenByCommand();
+    about.Click(BUTTON_UNINSTALL);
+    WaitUntil("the About box to go", [&] { return !IsWindowVisible(about.Window()); });
+    const ProgramDialog error = InFront(WaitForDialog(Program().Window()));
+    EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+    EXPECT_TRUE(error.HasText(Shown(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!")));
+    EXPECT_EQ(Program().Window(), GetWindow(error.Window(), GW_OWNER));
+    PressKey(VK_RETURN);
+    WaitForClose(error);
+    EXPECT_TRUE(Program().Dialogs().empty());
+    EXPECT_EQ(2u, NamesFoundBy(Named(L"abc", L"\\names")).size());
+    CloseProgram();
+    EXPECT_TRUE(KeyExists(NameKey));
+}

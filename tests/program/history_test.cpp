@@ -1,0 +1,159 @@
+// What the program remembers, read back from the registry after it has ended, and at its next start.
+
+#include "resources/resource_ids.h"
+#include "tests/program/program_test.h"
+#include "tests/program/registry_reading.h"
+#include "tests/support/user_input.h"
+
+using Values = std::map<std::wstring, StoredValue>;
+
+class History : public ProgramTest {
+  protected:
+    // As on the first day, with the fields as the program sets them.
+    void SetUp() override { StartFresh(); }
+
+    // Searches by Enter in a combo of the name page, in a folder without entries.
+    void Enter(int comboId, const std::wstring& text) {
+        if (comboId == COMBO_NAME) Program().SetText(NamePage, COMBO_LOCATION, L"\\empty");
+        Program().SetText(NamePage, comboId, text);
+        Program().FocusControl(NamePage, comboId);
+        const int before = Program().SearchesBegun();
+        PressKey(VK_RETURN);
+        ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().SearchesBegun() > before; }));
+        Program().WaitForEndOfSearch();
+    }
+    Names NameEntries() { return Program().Combo(NamePage, COMBO_NAME).entries; }
+    Names LocationEntries() { return Program().Combo(NamePage, COMBO_LOCATION).entries; }
+    bool SubFoldersChecked() { return Program().Control(NamePage, CHECK_SUBFOLDERS).checked == BST_CHECKED; }
+};
+
+TEST_F(History, of_the_first_run_is_txt_as_0_and_log_as_1_and_nothing_else) {
+    EXPECT_FALSE(KeyExists(ProductKey)) << "something was written before the end";
+    CloseProgram();
+    EXPECT_EQ((Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}}), ValuesOf(NameKey));
+    EXPECT_TRUE(KeyExists(LocationKey));
+    EXPECT_EQ(Values(), ValuesOf(LocationKey));
+    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(0)}}), ValuesOf(ProductKey));
+    EXPECT_EQ((Names{L"Location", L"Name"}), SubKeysOf(ProductKey));
+    EXPECT_EQ(Names{L"QuorinSearch"}, SubKeysOf(MakerKey));
+}
+
+TEST_F(History, comes_back_at_the_next_start_with_the_newest_entries_in_the_fields) {
+    Enter(COMBO_NAME, L"日報");
+    Enter(COMBO_LOCATION, L"\\names");
+    Enter(COMBO_LOCATION, L"\\walk");
+    Program().SetCheck(NamePage, CHECK_SUBFOLDERS, true);
+    CloseProgram();
+    EXPECT_EQ(
+        (Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}, {L"2", StoredText(L"日報")}}),
+        ValuesOf(NameKey));
+    EXPECT_EQ((Values{{L"0", StoredText(L"\\names")}, {L"1", StoredText(L"\\walk")}}), ValuesOf(LocationKey));
+    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(1)}}), ValuesOf(ProductKey));
+
+    StartAgain();
+    EXPECT_EQ((Names{L"日報", L"*.log", L"*.txt"}), NameEntries());
+    EXPECT_EQ((Names{L"\\walk", L"\\names"}), LocationEntries());
+    EXPECT_EQ(L"日報", Program().Control(NamePage, COMBO_NAME).text);
+    EXPECT_EQ(L"\\walk", Program().Control(NamePage, COMBO_LOCATION).text);
+    EXPECT_TRUE(SubFoldersChecked());
+}
+
+TEST_F(History, keeps_ten_of_eleven_searches_and_gives_back_the_nine_oldest_of_these) {
+    for (int i = 10; i <= 20; ++i)
+        Enter(COMBO_NAME, std::to_wstring(i));
+    EXPECT_EQ((Names{L"20", L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}), NameEntries());
+    CloseProgram();
+    Values expected;
+    for (int n = 0; n <= 9; ++n)
+        expected[std::to_wstring(n)] = StoredText(std::to_wstring(n + 11));
+    EXPECT_EQ(expected, ValuesOf(NameKey));
+    StartAgain();
+    EXPECT_EQ((Names{L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}), NameEntries());
+}
+
+TEST_F(History, stores_0_over_a_5_that_checked_the_box_when_the_box_is_cleared) {
+    CloseProgram();
+    const DWORD five = 5;
+    Store(ProductKey, L"Sub Folder", REG_DWORD, &five, sizeof five);
+    StartAgain();
+    EXPECT_TRUE(SubFoldersChecked());
+    Program().Click(NamePage, CHECK_SUBFOLDERS);
+    CloseProgram();
+    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(0)}}), ValuesOf(ProductKey));
+}
+
+TEST_F(History, leaves_the_values_of_a_longer_earlier_list) {
+    CloseProgram();
+    for (int n = 0; n < 4; ++n)
+        StoreText(NameKey, std::to_wstring(n), L"x" + std::to_wstring(n));
+    StoreText(LocationKey, L"5", L"\\unreached");
+    StartAgain();
+    EXPECT_EQ((Names{L"x3", L"x2", L"x1", L"x0"}), NameEntries());
+    // The prefix takes the place of one of four.
+    Enter(COMBO_NAME, L"X");
+    CloseProgram();
+    EXPECT_EQ((Values{{L"0", StoredText(L"x0")},
+                      {L"1", StoredText(L"x1")},
+                      {L"2", StoredText(L"x3")},
+                      {L"3", StoredText(L"X")}}),
+              ValuesOf(NameKey));
+    EXPECT_EQ((Values{{L"5", StoredText(L"\\unreached")}}), ValuesOf(LocationKey));
+}
+
+TEST_F(History, is_lost_with_a_program_that_is_killed) {
+    Enter(COMBO_NAME, L"lost");
+    Program().Kill();
+    EXPECT_FALSE(KeyExists(ProductKey));
+}
+
+TEST_F(History, is_saved_by_each_way_to_end_the_program) {
+    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_EXIT, 0);
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_TRUE(KeyExists(NameKey));
+    StartFresh();
+    Program().BringForward();
+    PressKey('Q', {VK_CONTROL});
+    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_TRUE(KeyExists(NameKey));
+}
+
+TEST_F(History, survives_a_registry_full_of_rubbish) {
+    CloseProgram();
+    RegDeleteTreeW(HKEY_CURRENT_USER, ProductKey);
+    const DWORD number = 0x00420041;
+    const std::wstring full(300, L'x');
+    const std::wstring huge(3000, L'y');
+    Store(NameKey, L"0", REG_DWORD, &number, sizeof number);
+    Store(NameKey, L"1", REG_SZ, L"odd#", 7);
+    Store(NameKey, L"2", REG_MULTI_SZ, L"one\0two\0", 18);
+    Store(NameKey, L"3", REG_SZ, full.data(), 520);
+    StoreText(NameKey, L"4", huge);
+    StoreText(NameKey, L"5", L"behind");
+    Store(LocationKey, L"0", REG_BINARY, huge.data(), 521);
+    StoreText(ProductKey, L"Sub Folder", L"yes");
+    StartAgain();
+    // 520 bytes fill the buffer: the last unit makes room for the end. The huge text ends the loading.
+    EXPECT_EQ((Names{std::wstring(259, L'x'), L"one", L"odd", L"AB"}), NameEntries());
+    EXPECT_TRUE(LocationEntries().empty());
+    EXPECT_FALSE(SubFoldersChecked());
+    EXPECT_TRUE(Program().Dialogs().empty());
+    EXPECT_EQ(2u, NamesFoundBy(Named(L"abc", L"\\names")).size());
+    CloseProgram();
+    EXPECT_EQ(StoredText(L"AB"), ValuesOf(NameKey)[L"0"]);
+    EXPECT_EQ(StoredDword(0), ValuesOf(ProductKey)[L"Sub Folder"]);
+}
+
+// Below a key that lives only as long as the system runs, none can be made that is to be kept.
+TEST_F(History, is_lost_in_silence_where_its_keys_cannot_be_made) {
+    CloseProgram();
+    RegDeleteTreeW(HKEY_CURRENT_USER, MakerKey);
+    HKEY passing = nullptr;
+    ASSERT_EQ(ERROR_SUCCESS, RegCreateKeyExW(HKEY_CURRENT_USER, MakerKey, 0, nullptr, REG_OPTION_VOLATILE,
+                                             KEY_ALL_ACCESS, nullptr, &passing, nullptr));
+    RegCloseKey(passing);
+    StartAgain();
+    EXPECT_EQ((Names{L"*.log", L"*.txt"}), NameEntries());
+    EXPECT_EQ(0u, Program().Close());
+    EXPECT_EQ(Names(), SubKeysOf(MakerKey));
+    RegDeleteTreeW(HKEY_CURRENT_USER, MakerKey);
+}

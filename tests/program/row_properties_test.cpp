@@ -1,0 +1,127 @@
+// The properties sheet of the selected row: every way to it, what it shows, and attributes read back from the
+// file system.
+
+#include "resources/resource_ids.h"
+#include "tests/program/results_test.h"
+#include "tests/support/user_input.h"
+
+class RowProperties : public ResultsTest {
+  protected:
+    void SetUp() override {
+        ResultsTest::SetUp();
+        AddFile(L"a.qsa", std::string(1000, 'x'));
+        Tree().SetAttributes(Path(L"a.qsa").substr(1), FILE_ATTRIBUTE_ARCHIVE);
+        Find(L"*.qs?");
+        SelectRow(L"a.qsa");
+    }
+    void ExpectSheet(const char* way) {
+        SCOPED_TRACE(way);
+        const ProgramDialog sheet = Dialog();
+        EXPECT_TRUE(sheet.IsSheet()) << way;
+        EXPECT_EQ(L"0.9KB (1000 bytes)", sheet.Text(STATIC_SIZE)) << way;
+        sheet.Press(IDCANCEL);
+    }
+    [[nodiscard]] bool Has(DWORD attribute) const {
+        return (GetFileAttributesW(Real(L"a.qsa").c_str()) & attribute) != 0;
+    }
+};
+
+TEST_F(RowProperties, open_by_command_button_alt_enter_and_alt_double_click) {
+    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_PROPERTIES, 0);
+    ExpectSheet("command");
+    ClickAt(CentreOf(Program().Bar().at(4).rectangle));
+    ExpectSheet("button");
+    TakeFileMenuItem(4);
+    ExpectSheet("menu");
+    PressKey(VK_RETURN, {VK_MENU});
+    ExpectSheet("Alt+Enter");
+    DoubleClickAt(PlaceOf(L"a.qsa"), {VK_MENU});
+    ExpectSheet("Alt and a double click");
+    EXPECT_TRUE(NothingStarted());
+}
+
+TEST_F(RowProperties, fit_the_screen_and_show_the_file) {
+    const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
+    const RECT place = sheet.Place();
+    EXPECT_GE(place.left, 0);
+    EXPECT_GE(place.top, 0);
+    EXPECT_LE(place.right, World().screenWidth);
+    EXPECT_LE(place.bottom, World().screenHeight);
+    EXPECT_EQ(1, sheet.PageCount());
+    EXPECT_EQ(L"", sheet.Caption());
+    EXPECT_EQ(L"Alpha kind", sheet.Text(STATIC_TYPE));
+    EXPECT_EQ(Folder(), sheet.Text(STATIC_LOCATION));
+    EXPECT_EQ(Shown(L"&Read-only", L"読みとり専用(&R)"), sheet.Text(CHECK_READ_ONLY));
+    sheet.Press(IDCANCEL);
+}
+
+TEST_F(RowProperties, change_an_attribute_and_take_it_back) {
+    for (const bool readOnly : {true, false}) {
+        const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
+        EXPECT_EQ(!readOnly, sheet.IsChecked(CHECK_READ_ONLY));
+        sheet.Click(CHECK_READ_ONLY);
+        sheet.Press(IDOK);
+        EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY) == readOnly; }));
+    }
+    EXPECT_EQ(std::string(1000, 'x'), ContentOf(L"a.qsa"));
+}
+
+TEST_F(RowProperties, change_nothing_when_cancelled) {
+    const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
+    sheet.Click(CHECK_READ_ONLY);
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    sheet.Press(IDCANCEL);
+    EXPECT_FALSE(Has(FILE_ATTRIBUTE_READONLY));
+}
+
+TEST_F(RowProperties, by_the_keyboard_alone) {
+    PressKey(VK_RETURN, {VK_MENU});
+    const ProgramDialog sheet = Dialog();
+    PressKey('R', {VK_MENU});
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(sheet.Window()); }));
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
+}
+
+TEST_F(RowProperties, by_the_mouse_alone) {
+    ClickAt(CentreOf(Program().Bar().at(4).rectangle));
+    const ProgramDialog sheet = Dialog();
+    RECT box = {};
+    GetWindowRect(sheet.Control(CHECK_READ_ONLY), &box);
+    ClickAt(CentreOf(box));
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    RECT ok = {};
+    GetWindowRect(sheet.Control(IDOK), &ok);
+    ClickAt(CentreOf(ok));
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
+}
+
+TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_points_it_elsewhere) {
+    AddProgram(L"recorder.exe");
+    AddShortcut(L"s.lnk", Path(L"a.qsa"));
+    Find(L"s.lnk");
+    SelectRow(L"s.lnk");
+    const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
+    EXPECT_EQ(2, sheet.PageCount());
+    sheet.TurnTo(1);
+    EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
+    EXPECT_EQ(L"1000 bytes", sheet.Text(STATIC_TARGET_SIZE));
+    EXPECT_EQ(L"Alpha kind", sheet.Text(STATIC_TARGET_TYPE));
+    const std::wstring target = L"\"" + Path(L"recorder.exe") + L"\" one";
+    SendMessageW(sheet.Control(EDIT_TARGET), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(target.c_str()));
+    sheet.Press(IDOK);
+    Program().SendMenuCommand(COMMAND_OPEN);
+    EXPECT_EQ((Names{L"one"}), Started(1));
+}
+
+TEST_F(RowProperties, of_a_folder_have_no_boxes) {
+    Tree().AddFolder(Path(L"folder").substr(1));
+    Find(L"folder");
+    SelectRow(L"folder");
+    const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
+    EXPECT_FALSE(IsWindowVisible(sheet.Control(CHECK_READ_ONLY)));
+    EXPECT_EQ(L"", sheet.Text(STATIC_SIZE));
+    sheet.Press(IDOK);
+    EXPECT_TRUE(NoDialogOpen());
+}
