@@ -15,6 +15,7 @@ namespace {
 
 constexpr int StringCapacity = 260;
 constexpr int TitleHeight = -12;
+constexpr int MostPixelsSmaller = 3;
 
 struct StringPlace {
     UINT string;
@@ -37,6 +38,22 @@ HFONT CreateTitleFont() {
     return CreateFontIndirectW(&font);
 }
 
+// The control's font, one pixel lower.
+HFONT CreateSmallerFont(HWND control) {
+    const auto own = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+    LOGFONTW font{};
+    if (GetObjectW(own, sizeof font, &font) == 0) return nullptr;
+    font.lfHeight += font.lfHeight < 0 ? 1 : -1;
+    return CreateFontIndirectW(&font);
+}
+
+bool ShowsWholeMemoryLines(HWND about) {
+    for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id) {
+        if (!ShowsWholeText(about, id)) return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 AboutBox::AboutBox(WindowObject* parentObject)
@@ -49,6 +66,7 @@ AboutBox::AboutBox(WindowObject* parentObject)
 
 AboutBox::~AboutBox() {
     DeleteObject(titleFont);
+    if (smallFont != nullptr) DeleteObject(smallFont);
 }
 
 void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
@@ -94,6 +112,19 @@ void AboutBox::ShowMemory() {
     }
     for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
         WidenToText(Handle(), id);
+    ShrinkMemoryLines();
+}
+
+// Figures of many digits are wider than the box: all lines then get smaller letters, one pixel at a time.
+void AboutBox::ShrinkMemoryLines() {
+    for (int step = 0; step < MostPixelsSmaller && !ShowsWholeMemoryLines(Handle()); ++step) {
+        const HFONT smaller = CreateSmallerFont(DialogItem(*this, STATIC_PROGRAM_MEMORY));
+        if (smaller == nullptr) return;
+        for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
+            SendDlgItemMessageW(Handle(), id, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), TRUE);
+        if (smallFont != nullptr) DeleteObject(smallFont);
+        smallFont = smaller;
+    }
 }
 
 LRESULT AboutBox::OnOk(EventArguments&) {

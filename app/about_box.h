@@ -24,8 +24,11 @@ class AboutBox : public Dialog {
 
     void ShowStrings();
     void ShowMemory();
+    void ShrinkMemoryLines();
 
     std::wstring makerKey;
     std::wstring productKey;
     HFONT titleFont;
+    // Of the memory lines, where the template's is too large for them.
+    HFONT smallFont = nullptr;
 };

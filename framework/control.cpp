@@ -60,6 +60,8 @@ TextField::TextField(WindowObject* parentObject, HWND edit, Ownership ownership)
     OnMessage(WM_KEYDOWN, this, &TextField::OnKeyDown);
     OnMessage(WM_CHAR, this, &TextField::OnCharacter);
     OnMessage(WM_GETDLGCODE, this, &TextField::OnGetDialogCode);
+    OnMessage(WM_IME_STARTCOMPOSITION, this, &TextField::OnComposition, TRUE);
+    OnMessage(WM_IME_ENDCOMPOSITION, this, &TextField::OnComposition, FALSE);
 }
 
 std::span<const EventCode> TextField::OwnEvents() const {
@@ -70,9 +72,11 @@ bool TextField::Takes(WPARAM key) const {
     return key == VK_RETURN || (key == VK_TAB && tabNotification);
 }
 
-// While an input method composes, its keys arrive as VK_PROCESSKEY and are none of ours.
+// While an input method composes, the keys are its own. Most arrive as VK_PROCESSKEY; some methods leave
+// Enter and Tab as they are.
 LRESULT TextField::OnKeyDown(MessageRecord& record) {
     if (!Takes(record.wParam)) return DefaultProcessing(record);
+    if (composing) return 0;
     const auto source = reinterpret_cast<EventSource>(Handle());
     if (record.wParam == VK_RETURN) {
         RaiseEvent(event::EnterKey, source, 0, record);
@@ -95,6 +99,11 @@ LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
                         (message->message == WM_KEYDOWN || message->message == WM_CHAR) &&
                         Takes(message->wParam);
     return wanted ? usual | DLGC_WANTMESSAGE : usual;
+}
+
+LRESULT TextField::OnComposition(MessageRecord& record) {
+    composing = record.extra != FALSE;
+    return DefaultProcessing(record);
 }
 
 ComboBox::ComboBox(WindowObject* parentObject, HWND existing)

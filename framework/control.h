@@ -59,10 +59,12 @@ class TextField : public Control {
     LRESULT OnKeyDown(MessageRecord& record);
     LRESULT OnCharacter(MessageRecord& record);
     LRESULT OnGetDialogCode(MessageRecord& record);
+    LRESULT OnComposition(MessageRecord& record);
 
     [[nodiscard]] bool Takes(WPARAM key) const;
 
     bool tabNotification = false;
+    bool composing = false;
 };
 
 // A combo box with an edit, which raises the edit's Enter and Tab on itself.

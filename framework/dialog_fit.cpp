@@ -134,6 +134,12 @@ void WidenToText(HWND dialog, int id) {
     Place(control, place);
 }
 
+bool ShowsWholeText(HWND dialog, int id) {
+    const HWND control = GetDlgItem(dialog, id);
+    if (control == nullptr) return true;
+    return TextSizeOf(control, 0, DT_SINGLELINE).cx <= ClientSizeOf(control).cx;
+}
+
 void GrowToText(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);
     if (control == nullptr) return;

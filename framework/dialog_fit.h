@@ -9,6 +9,9 @@
 // Widens a static of one line to what its text needs, at most to a small margin from the dialog's right edge.
 void WidenToText(HWND dialog, int id);
 
+// Whether the text of a static of one line is shown whole.
+[[nodiscard]] bool ShowsWholeText(HWND dialog, int id);
+
 // Makes a static as high as its broken text needs. What stands below moves down as far as needed, and the
 // dialog grows with it where the screen allows; there the text ends where the screen does.
 void GrowToText(HWND dialog, int id);

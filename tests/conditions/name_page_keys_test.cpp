@@ -143,3 +143,23 @@ TEST_F(NamePageKeys, enter_that_ends_a_composition_starts_no_search_and_adds_not
     PressKeyOn(Item(EDIT_CONTENT), VK_RETURN);
     EXPECT_EQ(FindCommands(), 1);
 }
+
+// Some methods leave the keys as they are while they compose.
+TEST_F(NamePageKeys, enter_and_tab_belong_to_a_composition_as_long_as_it_lasts) {
+    for (const HWND edit : {EditOf(COMBO_NAME), EditOf(COMBO_LOCATION), Item(EDIT_CONTENT)}) {
+        SetFocus(edit);
+        SendMessageW(edit, WM_IME_STARTCOMPOSITION, 0, 0);
+        PressKeyOn(edit, VK_RETURN);
+        EXPECT_EQ(FindCommands(), 0);
+        SendMessageW(edit, WM_IME_ENDCOMPOSITION, 0, 0);
+    }
+    SetFocus(EditOf(COMBO_NAME));
+    SendMessageW(EditOf(COMBO_NAME), WM_IME_STARTCOMPOSITION, 0, 0);
+    PressKeyOn(EditOf(COMBO_NAME), VK_TAB);
+    EXPECT_EQ(GetFocus(), EditOf(COMBO_NAME));
+    SendMessageW(EditOf(COMBO_NAME), WM_IME_ENDCOMPOSITION, 0, 0);
+    EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
+    EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
+    PressKeyOn(EditOf(COMBO_NAME), VK_RETURN);
+    EXPECT_EQ(FindCommands(), 1);
+}

@@ -6,6 +6,7 @@
 #include "tests/program/program_dialogs.h"
 #include "tests/program/program_test.h"
 #include "tests/program/registry_reading.h"
+#include "tests/support/temp_tree.h"
 #include "tests/support/user_input.h"
 
 namespace {
@@ -213,6 +214,30 @@ TEST_F(Browser, stays_open_on_ok_with_nothing_selected_and_alone_on_f1) {
     WaitForClose(browser);
     EXPECT_TRUE(Program().Dialogs().empty());
     EXPECT_EQ(L"", Location());
+}
+
+TEST_F(Browser, shows_links_that_lead_back_up_and_does_not_follow_them) {
+    TempTree folders;
+    folders.AddFolder(L"a\\b");
+    if (!folders.AddFolderLink(L"a\\b\\loop", L"")) GTEST_SKIP() << "this system makes no links";
+    const DeviceDrive looping(folders.Root());
+    CloseProgram();
+    ProgramStart start;
+    start.path = ProgramPath();
+    start.workingFolder = looping.Root();
+    Program().Start(start);
+
+    const ProgramDialog browser = OpenBrowser();
+    std::vector<std::pair<int, std::wstring>> shown;
+    for (const TreeItemState& item : Program().Tree())
+        shown.emplace_back(item.depth, item.text);
+    EXPECT_EQ(shown, (std::vector<std::pair<int, std::wstring>>{
+                         {0, RootNameOfWorld()}, {1, L"a"}, {2, L"b"}, {3, L"loop"}}));
+    Select({L"a", L"b", L"loop"});
+    PostMessageW(browser.Window(), WM_COMMAND, IDOK, 0);
+    WaitForClose(browser);
+    EXPECT_EQ(L"\\a\\b\\loop", Location());
+    CloseProgram();
 }
 
 TEST_F(Browser, is_headed_by_the_name_that_the_registry_gives_the_device) {

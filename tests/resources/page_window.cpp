@@ -8,6 +8,9 @@ namespace {
 
 constexpr int TabControlHeight = 126;
 
+// What the desktop puts around a window on both sides together; a device's window has nothing there.
+constexpr int FrameWidth = 6;
+
 INT_PTR CALLBACK DialogProcedure(HWND, UINT message, WPARAM, LPARAM) {
     return message == WM_INITDIALOG;
 }
@@ -48,8 +51,9 @@ void PageWindow::SetUp() {
     frame = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, GetParam().screenWidth, 294, nullptr, nullptr,
                             nullptr, nullptr);
     ASSERT_NE(frame, nullptr);
-    tabs = CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE, 0, 0, GetParam().screenWidth,
-                           TabControlHeight, frame, nullptr, nullptr, nullptr);
+    tabs = CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE, 0, 0,
+                           GetParam().screenWidth - FrameWidth, TabControlHeight, frame, nullptr, nullptr,
+                           nullptr);
     ASSERT_NE(tabs, nullptr);
     const bool japanese = GetParam().japanese;
     AppendTab(japanese ? L"名前と場所" : L"Name");
