@@ -115,7 +115,7 @@ INT_PTR FileOperation::RunModal() {
 
 void FileOperation::StopAndCloseParent() {
     closeParentAfterwards = true;
-    Stop();
+    StopOrLeave();
 }
 
 LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
@@ -141,7 +141,8 @@ LRESULT FileOperation::OnWmClose(MessageRecord&) {
     return 1;
 }
 
-// The bar's Cancel and the dialog's closing are ways to stop; the dialog goes when the run has unwound.
+// The bar's Cancel and the closing of a window are ways to stop; the dialog goes when the run has unwound. A
+// run that has not begun would forget the stop, so the dialog goes at once.
 void FileOperation::StopOrLeave() {
     Stop();
     if (!runBegun) End(ResultOk);

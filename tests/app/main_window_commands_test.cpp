@@ -80,6 +80,17 @@ TEST_F(MainWindowCommands, save_result_and_40207_and_unknown_commands_change_not
     EXPECT_TRUE(IsWindow(Handle()));
 }
 
+TEST_F(MainWindowCommands, each_command_ends_with_what_was_to_be_drawn_being_drawn) {
+    for (const int command : {COMMAND_CHECK_CASE, COMMAND_SAVE_RESULT, COMMAND_OPEN, COMMAND_LARGE_ICON,
+                              COMMAND_DETAILS, COMMAND_NEW_CONDITION}) {
+        SCOPED_TRACE(command);
+        InvalidateRect(Handle(), nullptr, FALSE);
+        ASSERT_TRUE(GetUpdateRect(Handle(), nullptr, FALSE));
+        Command(command);
+        EXPECT_FALSE(GetUpdateRect(Handle(), nullptr, FALSE));
+    }
+}
+
 TEST_F(MainWindowCommands, result_commands_with_no_row_selected_do_nothing) {
     AddRow(L"a");
     const AnsweredBoxes boxes({IDCANCEL});

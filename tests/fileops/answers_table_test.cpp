@@ -1,4 +1,4 @@
-// Every answer to every question of one run, the others being Yes.
+// Every answer to every question of one run that brings files somewhere, the others being Yes.
 
 #include "tests/fileops/operation_table.h"
 
@@ -6,7 +6,6 @@ namespace {
 
 #define FILES "Confirm File Replace/4"
 #define FOLDERS "Confirm Folder Replace/4"
-#define DELETES "Confirm File Delete/4"
 
 constexpr Asks Many = Asks::WithYesToAll;
 
@@ -133,40 +132,86 @@ const OperationRow MoveRows[] = {
      "s/b=3 d/a=1 d/m/f=2 d/b=old"},
 };
 
-#define ALL_DELETES DELETES "; " DELETES "; " DELETES
+// An update asks about files alone: each of the three is newer.
+#define UPDATES "s/a s/m s/b"
+#define BEFORE_UPDATE "s/a=new s/m/f=new s/b=new d/a=old d/f=old d/b=old"
+#define SOURCES_STAY "s/a=new s/m/f=new s/b=new "
+#define THREE_FILES FILES "; " FILES "; " FILES
 
-const OperationRow DeleteRows[] = {
-    {"all_yes", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Yes, Yes, Yes}, ALL_DELETES, "s/"},
-    {"first_all", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {All}, DELETES, "s/"},
-    {"first_no", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {No, Yes, Yes}, ALL_DELETES, "s/a=1"},
-    {"first_cancel", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Cancel}, DELETES, "s/a=1 s/m/f=2 s/b=3"},
-    {"second_all", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Yes, All}, DELETES "; " DELETES, "s/"},
-    {"second_no",
-     "s/a=1 s/m/f=2 s/b=3",
-     SOURCES,
-     "",
+const OperationRow UpdateRows[] = {
+    {"all_yes",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
      Many,
-     {Yes, No},
-     DELETES "; " DELETES "; Error: Folder not empty",
-     "s/m/f=2 s/b=3"},
+     {Yes, Yes, Yes},
+     THREE_FILES,
+     SOURCES_STAY "d/a=new d/f=new d/b=new"},
+    {"first_all", BEFORE_UPDATE, UPDATES, "d", Many, {All}, FILES, SOURCES_STAY "d/a=new d/f=new d/b=new"},
+    {"first_no",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {No, Yes, Yes},
+     THREE_FILES,
+     SOURCES_STAY "d/a=old d/f=new d/b=new"},
+    {"first_cancel", BEFORE_UPDATE, UPDATES, "d", Many, {Cancel}, FILES, BEFORE_UPDATE},
+    {"second_all",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {Yes, All},
+     FILES "; " FILES,
+     SOURCES_STAY "d/a=new d/f=new d/b=new"},
+    {"second_no",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {Yes, No, Yes},
+     THREE_FILES,
+     SOURCES_STAY "d/a=new d/f=old d/b=new"},
     {"second_cancel",
-     "s/a=1 s/m/f=2 s/b=3",
-     SOURCES,
-     "",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
      Many,
      {Yes, Cancel},
-     DELETES "; " DELETES,
-     "s/m/f=2 s/b=3"},
-    {"third_all", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Yes, Yes, All}, ALL_DELETES, "s/"},
-    {"third_no", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Yes, Yes, No}, ALL_DELETES, "s/b=3"},
-    {"third_cancel", "s/a=1 s/m/f=2 s/b=3", SOURCES, "", Many, {Yes, Yes, Cancel}, ALL_DELETES, "s/b=3"},
+     FILES "; " FILES,
+     SOURCES_STAY "d/a=new d/f=old d/b=old"},
+    {"third_all",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {Yes, Yes, All},
+     THREE_FILES,
+     SOURCES_STAY "d/a=new d/f=new d/b=new"},
+    {"third_no",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {Yes, Yes, No},
+     THREE_FILES,
+     SOURCES_STAY "d/a=new d/f=new d/b=old"},
+    {"third_cancel",
+     BEFORE_UPDATE,
+     UPDATES,
+     "d",
+     Many,
+     {Yes, Yes, Cancel},
+     THREE_FILES,
+     SOURCES_STAY "d/a=new d/f=new d/b=old"},
 };
 
 }  // namespace
 
 class CopyAnswers : public OperationTable {};
 class MoveAnswers : public OperationTable {};
-class DeleteAnswers : public OperationTable {};
+class UpdateAnswers : public OperationTable {};
 
 TEST_P(CopyAnswers, are_followed) {
     ExpectRow(FileOperationKind::Copy);
@@ -176,10 +221,10 @@ TEST_P(MoveAnswers, are_followed) {
     ExpectRow(FileOperationKind::Move);
 }
 
-TEST_P(DeleteAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Delete);
+TEST_P(UpdateAnswers, are_followed) {
+    ExpectRow(FileOperationKind::Update);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, CopyAnswers, testing::ValuesIn(CopyRows), RowName);
 INSTANTIATE_TEST_SUITE_P(Rows, MoveAnswers, testing::ValuesIn(MoveRows), RowName);
-INSTANTIATE_TEST_SUITE_P(Rows, DeleteAnswers, testing::ValuesIn(DeleteRows), RowName);
+INSTANTIATE_TEST_SUITE_P(Rows, UpdateAnswers, testing::ValuesIn(UpdateRows), RowName);

@@ -38,7 +38,7 @@ template <typename Call>
 BOOL FailingCalls::Attempt(Change::Kind kind, const wchar_t* path, Call call) {
     const BOOL done = Fails() ? FALSE : call();
     const DWORD error = done ? 0 : GetLastError();
-    current->changes.push_back({kind, path, error});
+    current->changes.push_back({kind, path, error, current->calls});
     SetLastError(error);
     return done;
 }

@@ -17,6 +17,7 @@ struct Change {
     enum class Kind { Copy, Move, Delete, CreateFolder, RemoveFolder, SetAttributes } kind;
     std::wstring path;
     DWORD code;  // 0 when it succeeded
+    int call;    // its number among all calls
 };
 
 class FailingCalls {

@@ -1,6 +1,9 @@
 // Cases in which the operations do what one may not expect.
 
+#include "platform/windows_ce.h"
+#include "resources/resource_ids.h"
 #include "tests/fileops/operation_test.h"
+#include "tests/support/replaced_calls.h"
 
 namespace {
 
@@ -12,18 +15,18 @@ class OperationEdgeCases : public OperationTest {
   protected:
     // The file's time of last writing: 2 January 2003, 04:05 and these seconds.
     void SetSeconds(const std::string& file, WORD seconds) {
-        const SYSTEMTIME moment = {2003, 1, 4, 2, 4, 5, seconds, 0};
-        FILETIME time;
-        ASSERT_TRUE(SystemTimeToFileTime(&moment, &time));
-        const HANDLE handle =
-            CreateFileW(PathIn(tree, file).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        ASSERT_NE(handle, INVALID_HANDLE_VALUE);
-        EXPECT_TRUE(SetFileTime(handle, nullptr, nullptr, &time));
-        CloseHandle(handle);
+        SetLastWriteTime(PathIn(tree, file), {2003, 1, 4, 2, 4, 5, seconds, 0});
+    }
+    void ReadQuestion(HWND box) {
+        wchar_t text[600] = L"";
+        GetDlgItemTextW(box, STATIC_QUESTION, text, 600);
+        question = text;
     }
     void CopyOf(const std::string& source, const std::string& destination) {
         Prepare(FileOperationKind::Copy, {source}, destination);
     }
+
+    std::wstring question;
 };
 
 TEST_F(OperationEdgeCases, copying_a_folder_into_the_folder_that_holds_it_is_refused) {
@@ -126,6 +129,21 @@ TEST_F(OperationEdgeCases, a_read_only_file_in_a_deleted_folder_is_asked_about_o
     AddContents(tree, "s/a=1");
     ASSERT_TRUE(SetFileAttributesW(PathIn(tree, "s/a").c_str(), FILE_ATTRIBUTE_READONLY));
     Prepare(FileOperationKind::Delete, {"s"}, "");
-    EXPECT_EQ(Run({IDYES}), "Confirm File Delete/4");
+    EXPECT_EQ(Run({IDYES}, [this](HWND box) { ReadQuestion(box); }), "Confirm File Delete/4");
+    EXPECT_EQ(question, L"Are you sure you want to delete 'a'?");
     EXPECT_EQ(Contents(), "");
+}
+
+// Not every system keeps the attribute of a folder, so it is only told.
+TEST_F(OperationEdgeCases, a_file_is_called_read_only_when_its_folder_is) {
+    AddContents(tree, "s/a=1");
+    const Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes(
+        ce::fileCalls.getFileAttributes, [](const wchar_t* path) {
+            const DWORD real = GetFileAttributesW(path);
+            return std::wstring(path).ends_with(L"\\s") ? real | FILE_ATTRIBUTE_READONLY : real;
+        });
+    Prepare(FileOperationKind::Delete, {"s"}, "");
+    EXPECT_EQ(Run({IDCANCEL}, [this](HWND box) { ReadQuestion(box); }), "Confirm File Delete/4");
+    EXPECT_EQ(question, L"The file 'a' is a read-only file. Are you sure you want to delete it?");
+    EXPECT_EQ(Contents(), "s/a=1");
 }

@@ -33,6 +33,19 @@ class CancelledOperation : public FileOperation {
     }
 };
 
+// Its parent wants to close as soon as the dialog is up, before the run begins.
+class OperationOfClosingParent : public FileOperation {
+  public:
+    using FileOperation::FileOperation;
+
+  protected:
+    LRESULT OnInitDialog(MessageRecord& record) override {
+        const LRESULT result = FileOperation::OnInitDialog(record);
+        StopAndCloseParent();
+        return result;
+    }
+};
+
 }  // namespace
 
 class OperationEnd : public OperationTest {
@@ -143,6 +156,28 @@ TEST_F(OperationEnd, stopped_with_its_parent_it_closes_the_parent_afterwards) {
     EXPECT_EQ(Run(), "");
     PumpQueue();
     EXPECT_EQ(counter.closed, 1);
+}
+
+TEST_F(OperationEnd, stopped_with_its_parent_before_its_beginning_it_does_nothing) {
+    CloseCounter counter;
+    host.Object().OnMessage(WM_CLOSE, &counter, &CloseCounter::Count);
+    OperationOfClosingParent closing(&host.Object());
+    ASSERT_TRUE(closing.AddSource(PathIn(tree, "s/a").c_str()));
+    ASSERT_TRUE(closing.SetDestination(PathIn(tree, "d").c_str()));
+    EXPECT_EQ(closing.RunModal(), 1);
+    PumpQueue();
+    EXPECT_EQ(counter.closed, 1);
+    EXPECT_EQ(Contents(), InOrder("s/a=1 s/b=2 s/c=3 d/"));
+}
+
+TEST_F(OperationEnd, a_failure_is_told_over_the_dialog_and_ends_the_run) {
+    DeleteFileW(PathIn(tree, "s/b").c_str());
+    bool ownerIsTheDialog = false;
+    EXPECT_EQ(
+        Run({IDOK}, [&](HWND box) { ownerIsTheDialog = GetWindow(box, GW_OWNER) == operation.Handle(); }),
+        "Error: Error CopyFile 2");
+    EXPECT_TRUE(ownerIsTheDialog);
+    EXPECT_EQ(Contents(), InOrder("s/a=1 s/c=3 d/a=1"));
 }
 
 TEST_F(OperationEnd, it_ends_with_its_owner_in_the_middle_of_a_file) {

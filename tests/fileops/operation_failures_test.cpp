@@ -2,6 +2,7 @@
 
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
+#include "tests/fileops/failing_calls.h"
 #include "tests/fileops/operation_test.h"
 #include "tests/support/replaced_calls.h"
 
@@ -18,6 +19,73 @@ using DeleteCall = decltype(ce::FileCalls::deleteFile);
 }  // namespace
 
 class OperationFailures : public OperationTest {};
+
+TEST_F(OperationFailures, a_source_that_goes_away_during_the_run_ends_it) {
+    const struct {
+        FileOperationKind kind;
+        const char* boxes;
+        const char* after;
+    } rows[] = {
+        {FileOperationKind::Copy, "Error: Error CopyFile 2", "s/a=1 s/c=3 d/a=1"},
+        // An update ends without a word.
+        {FileOperationKind::Update, "", "s/a=1 s/c=3 d/a=1"},
+        {FileOperationKind::Move, "Error: Error Move file 2", "s/c=3 d/a=1"},
+        {FileOperationKind::Delete, "Error: Error DeleteFile 2", "s/c=3 d/"},
+    };
+    for (const auto& row : rows) {
+        TempTree fresh;
+        AddContents(fresh, "s/a=1 s/b=2 s/c=3 d/");
+        operation.operation = row.kind;
+        operation.confirm = false;
+        operation.ClearSources();
+        for (const char* const source : {"s/a", "s/b", "s/c"})
+            ASSERT_TRUE(operation.AddSource(PathIn(fresh, source).c_str()));
+        ASSERT_TRUE(operation.SetDestination(PathIn(fresh, "d").c_str()));
+        FailingCalls calls;
+        calls.atCall = [&](int number) {
+            if (number != 1) return;
+            EXPECT_TRUE(DeleteFileW(PathIn(fresh, "s/b").c_str()));
+        };
+        EXPECT_EQ(Run(), row.boxes);
+        EXPECT_EQ(ContentsOf(fresh), InOrder(row.after));
+    }
+}
+
+TEST_F(OperationFailures, a_drive_that_is_not_there_is_told_and_takes_nothing) {
+    wchar_t drive = L'Z';
+    while (drive > L'D' && (GetLogicalDrives() & (1u << (drive - L'A'))) != 0)
+        --drive;
+    ASSERT_EQ(GetLogicalDrives() & (1u << (drive - L'A')), 0u) << "every drive is there";
+    const std::wstring folder = drive + std::wstring(L":\\x");
+    // Which code it is, differs from system to system.
+    ASSERT_FALSE(CreateDirectoryW(Literal(folder).c_str(), nullptr));
+    const DWORD code = GetLastError();
+    const std::string number = std::to_string(code);
+    const std::string notFound =
+        code == ERROR_PATH_NOT_FOUND
+            ? "Error: Can't find the path specified. '" + std::string(folder.begin(), folder.end()) + "'"
+            : "Error: Error CreateDirectory " + number;
+    AddContents(tree, "s/m/f=1 s/z=Z");
+    operation.confirm = false;
+    const struct {
+        FileOperationKind kind;
+        const char* source;
+        std::string boxes;
+    } rows[] = {
+        {FileOperationKind::Copy, "s/m", notFound},
+        {FileOperationKind::Copy, "s/z", "Error: Error CopyFile " + number},
+        {FileOperationKind::Update, "s/m", notFound},
+        {FileOperationKind::Move, "s/m", notFound},
+        {FileOperationKind::Move, "s/z", "Error: Error Move file " + number},
+        {FileOperationKind::Exclude, "s/m", "Error: Error DeleteFile " + number},
+    };
+    for (const auto& row : rows) {
+        Prepare(row.kind, {row.source, "s/z"}, "");
+        ASSERT_TRUE(operation.SetDestination(folder.c_str()));
+        EXPECT_EQ(Run(), row.boxes) << row.source;
+        EXPECT_EQ(Contents(), InOrder("s/m/f=1 s/z=Z"));
+    }
+}
 
 TEST_F(OperationFailures, attributes_that_stay_are_told_and_the_copy_is_still_made) {
     AddContents(tree, "s/a=new s/z=Z d/a=old");

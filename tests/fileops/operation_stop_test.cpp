@@ -6,7 +6,10 @@
 
 namespace {
 
-constexpr const char* Before = "s/a=1 s/b=2 s/m/c=3 s/m/e=4 d/x/f=5 d/x/g=6 d/x/h=7";
+constexpr const char* Before = "s/a=1 s/m/c=3 s/m/e=4 d/x/f=5 d/x/g=6";
+
+// What stands in the way of some of the files, and is asked about.
+constexpr const char* InTheWay = "d/s/a=old d/s/m/e=old d/a=old d/m/e=old";
 
 bool ActsOnOneFile(const Change& change) {
     return change.kind == Change::Kind::Copy || change.kind == Change::Kind::Move ||
@@ -36,36 +39,57 @@ bool Has(const std::string& contents, const std::string& entry) {
 
 class OperationStop : public OperationTest, public testing::WithParamInterface<StopCase> {
   protected:
-    // Runs the operation over a fresh tree and lets `act` happen at that call. Answers whether there was one.
+    // Runs the operation over a fresh tree and lets `act` happen at that call. With questions, all are
+    // answered by Yes. Answers whether there was such a call.
     template <typename Act>
-    bool StopAt(int call, Act act) {
+    bool StopAt(int call, Act act, bool withQuestions = false) {
         TempTree fresh;
         AddContents(fresh, Before);
+        if (withQuestions && IsBringing()) AddOldFiles(fresh);
         operation.operation = GetParam().kind;
-        operation.confirm = false;
+        operation.confirm = withQuestions;
         operation.ClearSources();
         EXPECT_TRUE(operation.AddSource(fresh.Path(L"s").c_str()));
         EXPECT_TRUE(operation.SetDestination(fresh.Path(L"d").c_str()));
         FailingCalls calls;
-        std::wstring inProgress;
+        std::wstring inProgress, goesTo;
         std::size_t changesBefore = 0;
         calls.atCall = [&](int number) {
             if (number != call) return;
             inProgress = Shown(STATIC_SOURCE);
+            goesTo = Shown(STATIC_DESTINATION);
             changesBefore = calls.Changes().size();
             act();
         };
-        EXPECT_EQ(Run(), "");
+        const std::string boxes = Run({IDYES});
         SCOPED_TRACE("stopped at call " + std::to_string(call) + ": " + ContentsOf(fresh));
-        if (calls.Calls() < call) return false;
+        EXPECT_EQ(boxes.find("Error"), std::string::npos) << boxes;
+        if (calls.Calls() < call) {
+            EXPECT_EQ(!boxes.empty(), withQuestions);
+            return false;
+        }
         for (std::size_t i = changesBefore; i < calls.Changes().size(); ++i) {
-            if (ActsOnOneFile(calls.Changes()[i])) {
-                EXPECT_EQ(calls.Changes()[i].path, inProgress);
+            const Change& change = calls.Changes()[i];
+            // A move deletes what is in its file's way.
+            const std::wstring& file = change.path == goesTo ? goesTo : inProgress;
+            if (ActsOnOneFile(change)) {
+                EXPECT_EQ(change.path, file);
             }
         }
         EXPECT_EQ(calls.OpenSearches(), 0);
         ExpectNothingLost(ContentsOf(fresh));
         return true;
+    }
+
+    [[nodiscard]] static bool IsBringing() {
+        return GetParam().kind != FileOperationKind::Exclude && GetParam().kind != FileOperationKind::Delete;
+    }
+
+    // Older than what takes their places, so that an update asks about them as well.
+    static void AddOldFiles(TempTree& fresh) {
+        AddContents(fresh, InTheWay);
+        for (const char* const path : {"d/a", "d/m/e"})
+            SetLastWriteTime(PathIn(fresh, path), {2003, 1, 0, 1, 12, 0, 0, 0});
     }
 
     static void ExpectNothingLost(const std::string& contents) {
@@ -75,7 +99,7 @@ class OperationStop : public OperationTest, public testing::WithParamInterface<S
             EXPECT_TRUE(Has(contents, "d/x/f=5"));
         }
         if (kind == FileOperationKind::Delete) return;
-        for (const std::string file : {"a=1", "b=2", "m/c=3", "m/e=4"}) {
+        for (const std::string file : {"a=1", "m/c=3", "m/e=4"}) {
             const bool moved = kind == FileOperationKind::Move && Has(contents, "d/s/" + file);
             EXPECT_TRUE(moved || Has(contents, "s/" + file)) << file;
         }
@@ -86,6 +110,15 @@ TEST_P(OperationStop, ends_the_run_before_the_next_file_wherever_it_is_pressed) 
     int call = 1;
     while (
         StopAt(call, [this] { PostMessageW(GetDlgItem(operation.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); })) {
+        ++call;
+    }
+    EXPECT_GT(call, 10);
+}
+
+TEST_P(OperationStop, ends_a_run_with_questions_likewise) {
+    int call = 1;
+    while (StopAt(
+        call, [this] { PostMessageW(GetDlgItem(operation.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); }, true)) {
         ++call;
     }
     EXPECT_GT(call, 10);

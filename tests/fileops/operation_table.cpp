@@ -6,17 +6,6 @@
 
 namespace {
 
-// Noon of that day in January 2003.
-void SetDay(const std::wstring& path, WORD day) {
-    const SYSTEMTIME moment = {2003, 1, 0, day, 12, 0, 0, 0};
-    FILETIME time;
-    ASSERT_TRUE(SystemTimeToFileTime(&moment, &time));
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(file, INVALID_HANDLE_VALUE);
-    EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
-    CloseHandle(file);
-}
-
 std::vector<std::string> Words(const char* line) {
     std::istringstream words(line);
     return {std::istream_iterator<std::string>(words), {}};
@@ -38,7 +27,8 @@ void OperationTable::ExpectRow(FileOperationKind kind) {
     for (const std::string& entry : Words(row.before)) {
         const std::size_t equals = entry.find('=');
         if (equals == std::string::npos) continue;
-        SetDay(PathIn(tree, entry.substr(0, equals)), entry.substr(equals) == "=old" ? 1 : 2);
+        const WORD day = entry.substr(equals) == "=old" ? 1 : 2;
+        SetLastWriteTime(PathIn(tree, entry.substr(0, equals)), {2003, 1, 0, day, 12, 0, 0, 0});
     }
     operation.confirm = row.asks != Asks::Never;
     operation.multiple = row.asks == Asks::WithYesToAll;

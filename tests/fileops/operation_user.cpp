@@ -64,13 +64,14 @@ LRESULT CALLBACK OperationUser::AfterMessage(int code, WPARAM wParam, LPARAM lPa
 
 // The answer is posted: the dialog is not up yet.
 void OperationUser::Meet(HWND box) {
-    const int answer = answers[std::min(met.size(), answers.size() - 1)];
+    int answer = answers[std::min(met.size(), answers.size() - 1)];
     Controls controls;
     EnumChildWindows(box, CollectControl, reinterpret_cast<LPARAM>(&controls));
     const std::wstring title = TextOf(box);
     const HWND owner = GetWindow(box, GW_OWNER);
     if (title == L"Error" || title == L"ｴﾗｰ") {
         met.push_back({"Error: " + Narrow(controls.longestText), owner == operation.Handle()});
+        answer = IDOK;
     } else {
         met.push_back(
             {Narrow(title) + "/" + std::to_string(controls.buttons), owner == operation.ParentHandle()});

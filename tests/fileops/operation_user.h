@@ -19,8 +19,8 @@ struct MetBox {
 
 class OperationUser {
   public:
-    // Box n gets the n-th answer, a button's id, and every further box the last. Only one user may live at a
-    // time.
+    // Box n gets the n-th answer, a button's id, and every further box the last; an error is closed by its OK
+    // whatever the answer. Only one user may live at a time.
     OperationUser(const FileOperation& operation, std::vector<int> answers);
     ~OperationUser();
     OperationUser(const OperationUser&) = delete;

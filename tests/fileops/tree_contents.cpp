@@ -1,5 +1,7 @@
 #include "tests/fileops/tree_contents.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <set>
@@ -88,4 +90,13 @@ std::string InOrder(const std::string& contents) {
 
 std::wstring PathIn(const TempTree& tree, const std::string& written) {
     return tree.Path(Relative(written));
+}
+
+void SetLastWriteTime(const std::wstring& path, const SYSTEMTIME& moment) {
+    FILETIME time;
+    ASSERT_TRUE(SystemTimeToFileTime(&moment, &time));
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
+    CloseHandle(file);
 }

@@ -17,3 +17,6 @@ void AddContents(TempTree& tree, const std::string& contents);
 
 // The path in the tree of what is written with "/".
 [[nodiscard]] std::wstring PathIn(const TempTree& tree, const std::string& written);
+
+// When the file was last written.
+void SetLastWriteTime(const std::wstring& path, const SYSTEMTIME& moment);

@@ -69,6 +69,26 @@ TEST_F(ScrollBarControls, go_by_steps_of_their_own_and_leave_the_view_where_it_i
     EXPECT_TRUE(view.moves.empty());
 }
 
+// Nothing drags the box, so the position that is tracked is the one that it has, whatever the message says.
+TEST_F(ScrollBarControls, take_the_position_of_the_box_from_themselves_and_not_from_the_message) {
+    PropertySet properties = BarControlProperties();
+    ScrollBarControl control(&view, properties);
+    SetControl(control.Handle(), 100, 50);
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_TRACKPOS;
+    ASSERT_TRUE(GetScrollInfo(control.Handle(), SB_CTL, &info));
+    control.OnNotification(event::VerticalScroll, &listener, &Listener::TakeEvent);
+    for (const int request : {SB_THUMBPOSITION, SB_THUMBTRACK}) {
+        SendScroll(view.Handle(), WM_VSCROLL, request, 33, control.Handle());
+        EXPECT_EQ(control.Bar().Position(), info.nTrackPos);
+        ASSERT_FALSE(listener.events.empty());
+        EXPECT_EQ(listener.events.back().argument, 50 - info.nTrackPos);
+        SetControl(control.Handle(), 100, 50);
+    }
+    EXPECT_NE(info.nTrackPos, 33);
+}
+
 TEST_F(ScrollBarControls, raise_the_horizontal_event_when_they_lie_across) {
     PropertySet properties = BarControlProperties();
     properties.Set(property::Width, 100);
