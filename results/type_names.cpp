@@ -1,6 +1,7 @@
 #include "results/type_names.h"
 
 #include <cwchar>
+#include <utility>
 
 #include "platform/windows_ce.h"
 #include "results/file_type_table.h"
@@ -21,10 +22,12 @@ std::wstring TypeNames::KeyOf(const wchar_t* fullPath, DWORD attributes) const {
 }
 
 const wchar_t* TypeNames::Of(const wchar_t* fullPath, DWORD attributes) {
-    std::wstring& name = names[KeyOf(fullPath, attributes)];
-    if (name.empty()) {
+    std::wstring key = KeyOf(fullPath, attributes);
+    auto known = names.find(key);
+    if (known == names.end()) {
         SHFILEINFOW info{};
-        if (ce::SHGetFileInfo(fullPath, 0, &info, sizeof info, SHGFI_TYPENAME) != 0) name = info.szTypeName;
+        if (ce::SHGetFileInfo(fullPath, 0, &info, sizeof info, SHGFI_TYPENAME) == 0) return L"";
+        known = names.emplace(std::move(key), info.szTypeName).first;
     }
-    return name.c_str();
+    return known->second.c_str();
 }

@@ -15,8 +15,8 @@ class TypeNames {
     // The types tell which extensions are of one kind; they outlive this object. Null for each on its own.
     explicit TypeNames(const FileTypeTable* fileTypes = nullptr) : types(fileTypes) {}
 
-    // The type name of the file at this path. Empty, and asked for again next time, where the shell has no
-    // answer. The text lives until the next call.
+    // The type name of the file at this path, empty for some types. Empty, and asked for
+    // again next time, where the shell has no answer. The text lives until the next call.
     [[nodiscard]] const wchar_t* Of(const wchar_t* fullPath, DWORD attributes);
 
   private:

@@ -21,6 +21,13 @@ class RowProperties : public ResultsTest {
         EXPECT_EQ(L"0.9KB (1000 bytes)", sheet.Text(STATIC_SIZE)) << way;
         sheet.Press(IDCANCEL);
     }
+    // Whether the sheet shows the page that has this control.
+    [[nodiscard]] static bool ShowsPageWith(const ProgramDialog& sheet, int id) {
+        HWND page = nullptr;
+        while ((page = FindWindowExW(sheet.Window(), page, L"#32770", nullptr)) != nullptr)
+            if (GetDlgItem(page, id) != nullptr && IsWindowVisible(page)) return true;
+        return false;
+    }
     [[nodiscard]] bool Has(DWORD attribute) const {
         return (GetFileAttributesW(Real(L"a.qsa").c_str()) & attribute) != 0;
     }
@@ -113,6 +120,29 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_points_it_elsewhere)
     sheet.Press(IDOK);
     Program().SendMenuCommand(COMMAND_OPEN);
     EXPECT_EQ((Names{L"one"}), Started(1));
+}
+
+TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches_and_changes) {
+    AddShortcut(L"s.lnk", Path(L"a.qsa"));
+    Find(L"s.lnk");
+    PressKey(VK_RETURN, {VK_MENU});
+    const ProgramDialog sheet = Dialog();
+    PressKey(VK_TAB, {VK_SHIFT});
+    PressKey(VK_RIGHT);
+    ASSERT_TRUE(HoldsWithin(5000, [&] { return ShowsPageWith(sheet, EDIT_TARGET); }));
+    EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
+    PressKey('T', {VK_MENU});
+    PressKey(VK_END);
+    PressKey(VK_BACK);
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.Text(EDIT_TARGET) == Path(L"a.qs"); }));
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(sheet.Window()); }));
+    const ProgramDialog again = Opened(COMMAND_PROPERTIES);
+    again.TurnTo(1);
+    const std::wstring target = again.Text(EDIT_TARGET);
+    EXPECT_NE(std::wstring::npos, target.find(Path(L"a.qs"))) << testing::PrintToString(target);
+    EXPECT_EQ(std::wstring::npos, target.find(Path(L"a.qsa")));
+    again.Press(IDCANCEL);
 }
 
 TEST_F(RowProperties, of_a_folder_have_no_boxes) {

@@ -136,6 +136,16 @@ TEST_F(FileTypeTableTest, the_value_named_default_goes_before_the_unnamed_one) {
     EXPECT_EQ(sheet->description, L"Named");
 }
 
+TEST_F(FileTypeTableTest, the_arrow_stands_again_when_the_registry_has_been_read) {
+    SetCursor(LoadCursorW(nullptr, IDC_IBEAM));
+    const FileTypeTable first;
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    // Nothing is read for another one.
+    SetCursor(LoadCursorW(nullptr, IDC_IBEAM));
+    const FileTypeTable second;
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_IBEAM));
+}
+
 TEST_F(FileTypeTableTest, the_registry_is_read_again_only_when_all_tables_are_gone) {
     std::optional<FileTypeTable> first;
     first.emplace();

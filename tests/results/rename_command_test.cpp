@@ -24,6 +24,12 @@ class RenameCommand : public RenameTest {
         edited.item.pszText = text.data();
         Commands().EndRename(edited);
     }
+    int ImageOfFirstRow() {
+        LVITEMW item = {};
+        item.mask = LVIF_IMAGE;
+        SendMessageW(List().Handle(), LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return item.iImage;
+    }
     // The rename is refused with these two boxes and the row has not changed.
     void ExpectRefused(const std::wstring& newName, const wchar_t* reason) {
         const AnsweredBoxes boxes{IDOK};
@@ -41,12 +47,15 @@ TEST_F(RenameCommand, moves_the_file_and_shows_its_new_name) {
     EXPECT_EQ(RowNames(), (Names{L"b.doc"}));
 }
 
-TEST_F(RenameCommand, leaves_the_other_cells_even_when_the_ending_changed) {
+TEST_F(RenameCommand, leaves_the_other_cells_and_the_icon_even_when_the_ending_changed) {
     const std::vector<std::wstring> before = CellsOf(List().Handle(), 0);
-    EndWith(L"a.doc");
+    const int imageBefore = ImageOfFirstRow();
+    // An application would have an icon of its own.
+    EndWith(L"a.exe");
     std::vector<std::wstring> expected = before;
-    expected[0] = L"a.doc";
+    expected[0] = L"a.exe";
     EXPECT_EQ(CellsOf(List().Handle(), 0), expected);
+    EXPECT_EQ(ImageOfFirstRow(), imageBefore);
 }
 
 TEST_F(RenameCommand, that_was_cancelled_does_nothing) {

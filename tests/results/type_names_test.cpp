@@ -19,12 +19,14 @@ struct Question {
 
 std::vector<Question> asked;
 bool hasAnswer = true;
+bool answerIsEmpty = false;
 
 // Answers with "kind of PATH".
 DWORD_PTR AnswerByPath(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
     EXPECT_EQ(size, sizeof *info);
     asked.push_back({path, attributes, flags});
     if (!hasAnswer) return 0;
+    if (answerIsEmpty) return 1;
     const std::wstring answer = std::wstring(L"kind of ") + path;
     answer.copy(info->szTypeName, 79);
     return 1;
@@ -35,6 +37,7 @@ class TypeNamesTest : public testing::Test {
     void SetUp() override {
         asked.clear();
         hasAnswer = true;
+        answerIsEmpty = false;
     }
 
     std::wstring Of(const wchar_t* path, DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
@@ -92,6 +95,14 @@ TEST_F(TypeNamesTest, where_the_shell_has_no_answer_the_name_is_empty_and_it_is_
     hasAnswer = true;
     EXPECT_EQ(Of(L"\\f\\b.txt"), L"kind of \\f\\b.txt");
     EXPECT_EQ(asked.size(), 2U);
+}
+
+TEST_F(TypeNamesTest, an_empty_name_is_an_answer_and_not_asked_for_again) {
+    answerIsEmpty = true;
+    EXPECT_EQ(Of(L"\\f\\plain"), L"");
+    answerIsEmpty = false;
+    EXPECT_EQ(Of(L"\\g\\other"), L"");
+    EXPECT_EQ(asked.size(), 1U);
 }
 
 TEST_F(TypeNamesTest, extensions_in_other_scripts_are_folded_as_well) {
