@@ -1,6 +1,6 @@
 #pragma once
 
-// The folders that the benchmarks work on, made anew under a folder and deleted at the end.
+// The folders that the benchmarks work on; tools/bench makes them.
 
 #include <cstddef>
 #include <string>
@@ -8,38 +8,26 @@
 
 class BenchTree {
   public:
-    // Makes everything below `folder`, which must not exist. Valid() tells whether that went well.
-    explicit BenchTree(std::wstring folder);
-    BenchTree(const BenchTree&) = delete;
-    BenchTree& operator=(const BenchTree&) = delete;
-    ~BenchTree();
+    explicit BenchTree(std::wstring folder) : root(std::move(folder)) {}
 
-    [[nodiscard]] bool Valid() const { return valid; }
-
-    // Small files in many folders, for the walk.
-    [[nodiscard]] std::wstring NamesFolder() const { return root + L"\\names"; }
-    [[nodiscard]] std::size_t NamesEntries() const { return namesEntries; }
-
-    // Nothing but folders, for the folder browser, and how many stand below.
-    [[nodiscard]] std::wstring FoldersFolder() const { return root + L"\\folders"; }
-    [[nodiscard]] std::size_t FolderCount() const { return folderCount; }
-
-    // Text in large and small files, for the content search, and the files' paths.
-    [[nodiscard]] std::wstring TextsFolder() const { return root + L"\\texts"; }
-    [[nodiscard]] const std::vector<std::wstring>& TextFiles() const { return textFiles; }
-    [[nodiscard]] std::size_t TextBytes() const { return textBytes; }
+    // 20,000 files in 500 folders, for the walk and the rows.
+    [[nodiscard]] std::wstring Files() const { return root + L"\\files"; }
+    // As many folders, for the folder browser.
+    [[nodiscard]] std::wstring Folders() const { return root + L"\\folders"; }
+    // 100 MB of text each, in 4 files and in 10,000.
+    [[nodiscard]] std::wstring LargeTexts() const { return root + L"\\texts\\large"; }
+    [[nodiscard]] std::wstring SmallTexts() const { return root + L"\\texts\\small"; }
+    // A few files of many kinds.
+    [[nodiscard]] std::wstring Kinds() const { return root + L"\\kinds"; }
+    // The names of a real machine's files.
+    [[nodiscard]] std::wstring Real() const { return root + L"\\real"; }
 
   private:
-    void MakeNames();
-    void MakeFolders();
-    void MakeTexts();
-    void AddFolder(const std::wstring& path);
-    void AddFile(const std::wstring& path, const std::string& bytes);
-
     std::wstring root;
-    bool valid = true;
-    std::size_t namesEntries = 0;
-    std::size_t folderCount = 0;
-    std::vector<std::wstring> textFiles;
-    std::size_t textBytes = 0;
 };
+
+// How many entries stand below the folder, by one pass of the system's own enumeration.
+[[nodiscard]] std::size_t CountBarely(const std::wstring& folder);
+
+// The paths of the files below the folder.
+[[nodiscard]] std::vector<std::wstring> FilesBelow(const std::wstring& folder);

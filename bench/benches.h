@@ -5,19 +5,31 @@
 
 #include "bench/bench_tree.h"
 
-// A search of everything by a name that nothing has, against listing the same folders.
-[[nodiscard]] bool CompareWalk(const BenchTree& tree, int runs);
+// Searches of a folder of some name by a name, a wildcard and two extensions that nothing has, against one
+// bare enumeration.
+[[nodiscard]] bool CompareWalk(const char* what, const std::wstring& folder, int runs);
 
-// A content search that finds nothing, with and without folding, against reading the same bytes in blocks.
-[[nodiscard]] bool CompareContent(const BenchTree& tree, int runs);
+// Content searches that find nothing, with and without folding, against reading the same bytes in blocks.
+[[nodiscard]] bool CompareLargeContent(const BenchTree& tree, int runs);
 
-// A search in which everything matches, its rows shown in the list, against inserting the same rows into a
-// list with drawing suspended.
+// The same over many small files, against opening, reading and closing them.
+[[nodiscard]] bool CompareSmallContent(const BenchTree& tree, int runs);
+
+// What a search finds put into the list with the search's dialog in front, against inserting the same rows
+// with drawing suspended; and what drawing and polling take of a whole search.
 [[nodiscard]] bool CompareRows(const BenchTree& tree, int runs);
+
+// What the shell is asked for while the list is filled, against the kinds of files that it is filled with.
+[[nodiscard]] bool CompareShellQuestions(const BenchTree& tree);
 
 // The folder browser's tree of many folders, against listing the same folders and inserting the same items
 // into a tree with drawing suspended.
 [[nodiscard]] bool CompareBrowser(const BenchTree& tree, int runs);
 
-// A sort of many rows of the result list by each column, against the control's own sort of them by an integer.
+// A sort of many rows of the result list by each column, against the control's own sort of them by an
+// integer.
 [[nodiscard]] bool CompareSorting(int runs);
+
+// The program's start up to its painted window, against that of a bare window with an empty list; and the
+// program's size.
+[[nodiscard]] bool CompareStart(int runs);

@@ -1,8 +1,12 @@
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include "bench/bench_search.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
+#include "search/content_matches.h"
+#include "search/fill_conditions.h"
 
 namespace {
 
@@ -15,41 +19,62 @@ std::size_t ReadBarely(const std::vector<std::wstring>& files) {
         const HANDLE file =
             CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
         if (file == INVALID_HANDLE_VALUE) continue;
-        DWORD read = 0;
-        while (ReadFile(file, block, BlockSize, &read, nullptr) && read > 0)
-            bytes += read;
+        // A read that comes short is the last.
+        for (DWORD read = BlockSize; read == BlockSize; bytes += read) {
+            if (!ReadFile(file, block, BlockSize, &read, nullptr)) read = 0;
+        }
         CloseHandle(file);
     }
     return bytes;
 }
 
-// Every file holds the text that each begins with, and none holds the other.
-bool ComparesWhatItShould(const BenchTree& tree, AnsweredSource source) {
-    CountingSink sink;
-    SilentProgress progress;
+SearchConditions ConditionsFor(const wchar_t* content, bool folding) {
+    AnsweredSource source;
+    source.content = content;
+    source.caseOptionState = folding ? 0 : 8;
     SearchConditions conditions;
-    source.content = L"Line 0 of";
-    RunSearch(conditions, source, sink, progress);
-    if (sink.matches != tree.TextFiles().size() || ReadBarely(tree.TextFiles()) != tree.TextBytes()) {
-        std::printf("the content search found %zu of %zu files\n", sink.matches, tree.TextFiles().size());
+    SearchTexts texts;
+    FillConditions(source, conditions, texts);
+    return conditions;
+}
+
+// How many of the files hold the text, asked as a search asks of each file that it comes to.
+std::size_t SearchFiles(const std::vector<std::wstring>& files, const SearchConditions& conditions) {
+    WIN32_FIND_DATAW entry = {};
+    entry.dwFileAttributes = FILE_ATTRIBUTE_ARCHIVE;
+    std::size_t matches = 0;
+    for (const std::wstring& path : files) {
+        if (ContentMatches(conditions, path.c_str(), entry)) ++matches;
+    }
+    return matches;
+}
+
+bool CompareContent(const char* what, const std::wstring& folder, int runs) {
+    const std::vector<std::wstring> files = FilesBelow(folder);
+    const std::size_t bytes = ReadBarely(files);
+    // Every file holds the one text and none the other.
+    const std::size_t found = SearchFiles(files, ConditionsFor(L"text that goes", false));
+    if (files.empty() || found != files.size()) {
+        std::printf("the content search found %zu of %zu files\n", found, files.size());
         return false;
     }
-    return true;
+    std::printf("%s: %zu bytes in %zu files\n", what, bytes, files.size());
+    std::size_t matches = 0;
+    for (const bool folding : {false, true}) {
+        const SearchConditions conditions = ConditionsFor(L"no such text", folding);
+        MeasureAndPrint({std::string("content of ") + what + (folding ? ", case ignored" : ", case checked"),
+                         [&] { matches += SearchFiles(files, conditions); }, [&] { ReadBarely(files); }},
+                        runs);
+    }
+    return matches == 0;
 }
 
 }  // namespace
 
-bool CompareContent(const BenchTree& tree, int runs) {
-    AnsweredSource source = SearchBelow(tree.TextsFolder());
-    if (!ComparesWhatItShould(tree, source)) return false;
-    CountingSink sink;
-    SilentProgress progress;
-    SearchConditions conditions;
-    source.content = L"no such text";
-    const auto search = [&] { RunSearch(conditions, source, sink, progress); };
-    const auto read = [&] { ReadBarely(tree.TextFiles()); };
-    MeasureAndPrint({"content search, case checked / reading the bytes", search, read}, runs);
-    source.caseOptionState = 0;
-    MeasureAndPrint({"content search, case ignored / reading the bytes", search, read}, runs);
-    return sink.matches == 0;
+bool CompareLargeContent(const BenchTree& tree, int runs) {
+    return CompareContent("large files", tree.LargeTexts(), runs);
+}
+
+bool CompareSmallContent(const BenchTree& tree, int runs) {
+    return CompareContent("small files", tree.SmallTexts(), runs);
 }

@@ -1,36 +1,30 @@
+
+#include <algorithm>
 #include <cstdio>
-#include <cwchar>
+#include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
-#include "app/app_globals.h"
+#include "app/abort_dialog.h"
+#include "bench/bench_list.h"
 #include "bench/bench_search.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
-#include "framework/application.h"
-#include "framework/property_keys.h"
-#include "results/result_list.h"
+#include "search/search_walk.h"
+#include "search/test_entry.h"
 
 namespace {
 
-// The screen of the smaller device.
-constexpr int ScreenWidth = 240;
-constexpr int ScreenHeight = 320;
-
 using Row = std::vector<std::wstring>;
 
-std::vector<Row> RowsOf(HWND list) {
+std::vector<Row> RowsOf(const ResultList& list) {
     std::vector<Row> rows;
-    const auto count = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-    for (int row = 0; row < count; ++row) {
+    for (int row = 0; row < list.RowCount(); ++row) {
         Row cells;
         for (int column = 0; column < ResultColumnCount; ++column) {
-            wchar_t text[MAX_PATH] = L"";
-            LVITEMW item = {};
-            item.iSubItem = column;
-            item.pszText = text;
-            item.cchTextMax = MAX_PATH;
-            SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+            wchar_t text[MAX_PATH];
+            list.ReadCell(row, static_cast<ResultColumn>(column), text);
             cells.emplace_back(text);
         }
         rows.push_back(std::move(cells));
@@ -58,71 +52,170 @@ void InsertBarely(HWND list, const std::vector<Row>& rows) {
     RedrawWindow(list, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
 }
 
-// What a search would hand to the list, kept.
+// What a search hands to the list, by folders.
 class KeepingSink final : public MatchSink {
   public:
     void Clear() override {}
     void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override {
-        matches.emplace_back(fullPath, entry);
+        const std::wstring path = fullPath;
+        matches.emplace_back(path.substr(0, path.rfind(L'\\')), entry);
     }
     void Refresh() override {}
 
     std::vector<std::pair<std::wstring, WIN32_FIND_DATAW>> matches;
 };
 
-HWND MakeScreen() {
-    return CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, ScreenWidth, ScreenHeight, nullptr,
-                           nullptr, GetModuleHandleW(nullptr), nullptr);
+// Work that is done while the search's dialog stands in front.
+class DialogJob : public WindowObject {
+  public:
+    DialogJob() : WindowObject(nullptr, nullptr) {}
+    LRESULT Run(EventArguments&) {
+        work();
+        return 0;
+    }
+
+    std::function<void()> work;
+};
+
+// Adds up the time that passes between its making and its end.
+class Stopwatch {
+  public:
+    explicit Stopwatch(double& milliseconds) : sum(milliseconds), begin(MillisecondsNow()) {}
+    Stopwatch(const Stopwatch&) = delete;
+    Stopwatch& operator=(const Stopwatch&) = delete;
+    ~Stopwatch() { sum += MillisecondsNow() - begin; }
+
+  private:
+    double& sum;
+    double begin;
+};
+
+// The list and the dialog, with what drawing in them takes. Reading the clock for it counts as drawing.
+class TimedDrawing final : public MatchSink, public SearchProgress {
+  public:
+    TimedDrawing(ResultList& realList, AbortDialog& realDialog) : list(realList), dialog(realDialog) {}
+
+    void Clear() override { list.Clear(); }
+    void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override {
+        list.AddMatch(fullPath, entry);
+    }
+    void Refresh() override {
+        const Stopwatch watch(drawing);
+        ++looks;
+        list.Refresh();
+    }
+    void EnterFolder(const wchar_t* folder) override {
+        const Stopwatch watch(drawing);
+        dialog.EnterFolder(folder);
+    }
+    bool StopRequested() override {
+        const Stopwatch watch(drawing);
+        return dialog.StopRequested();
+    }
+    void Finish() {
+        const Stopwatch watch(drawing);
+        list.EndFilling();
+        UpdateWindow(list.Handle());
+    }
+
+    double drawing = 0;
+    int looks = 0;
+
+  private:
+    ResultList& list;
+    AbortDialog& dialog;
+};
+
+double MillisecondsOfALook() {
+    constexpr int Looks = 500;
+    const double begin = MillisecondsNow();
+    MSG message;
+    for (int i = 0; i < Looks; ++i)
+        PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+    return (MillisecondsNow() - begin) / Looks;
 }
 
-PropertySet ListProperties() {
-    PropertySet properties;
-    properties.Add(property::Width, ScreenWidth);
-    properties.Add(property::Height, ScreenHeight);
-    return properties;
+struct Share {
+    double part;
+    double whole;
+};
+
+Share MeasureDrawing(const AnsweredSource& source, ResultList& list, AbortDialog& dialog) {
+    TimedDrawing timed(list, dialog);
+    SearchConditions conditions;
+    double whole = 0;
+    {
+        const Stopwatch watch(whole);
+        list.BeginFilling();
+        RunSearch(conditions, source, timed, timed);
+        timed.Finish();
+    }
+    return {timed.drawing + timed.looks * MillisecondsOfALook(), whole};
+}
+
+// The median share of several.
+void PrintShareOfDrawing(const char* name, const AnsweredSource& source, ResultList& list,
+                         AbortDialog& dialog, int runs) {
+    std::vector<Share> shares;
+    for (int run = 0; run < runs; ++run)
+        shares.push_back(MeasureDrawing(source, list, dialog));
+    std::sort(shares.begin(), shares.end(), [](const Share& one, const Share& other) {
+        return one.part / one.whole < other.part / other.whole;
+    });
+    const Share& middle = shares[shares.size() / 2];
+    PrintLine(name, middle.part, middle.whole);
+}
+
+bool CompareInDialog(const BenchTree& tree, ResultList& list, AbortDialog& dialog, int runs) {
+    AnsweredSource source = SearchBelow(tree.Files());
+    SearchConditions conditions;
+    const auto search = [&] {
+        list.BeginFilling();
+        RunSearch(conditions, source, list, dialog);
+        list.EndFilling();
+        UpdateWindow(list.Handle());
+    };
+    search();
+    const std::vector<Row> rows = RowsOf(list);
+    const std::size_t entries = CountBarely(tree.Files());
+    if (rows.size() != entries || entries == 0) {
+        std::printf("the list holds %zu of %zu rows\n", rows.size(), entries);
+        return false;
+    }
+    KeepingSink kept;
+    RunSearch(conditions, source, kept, dialog);
+    ObjectList noPatterns;
+    SearchWalk walk{conditions, noPatterns, L"", list, dialog};
+    const auto fill = [&] {
+        list.BeginFilling();
+        list.Clear();
+        for (const auto& [folder, entry] : kept.matches)
+            static_cast<void>(TestEntry(walk, folder.c_str(), entry));
+        list.EndFilling();
+        UpdateWindow(list.Handle());
+    };
+    const auto insert = [&] { InsertBarely(list.Handle(), rows); };
+    MeasureAndPrint({"matches into the list / inserting the same rows", fill, insert}, runs);
+    MeasureAndPrint({"search of everything / inserting the same rows", search, insert}, runs);
+    PrintShareOfDrawing("drawing and polling / search of everything", source, list, dialog, runs);
+    source.name = L"no such name";
+    PrintShareOfDrawing("drawing and polling / search of nothing", source, list, dialog, runs);
+    return true;
 }
 
 }  // namespace
 
 bool CompareRows(const BenchTree& tree, int runs) {
-    GlobalsForStartUp().instance = GetModuleHandleW(nullptr);
-    Application application(L"QuorinSearch", 0, nullptr);
-    const INITCOMMONCONTROLSEX listView = {sizeof(listView), ICC_LISTVIEW_CLASSES};
-    InitCommonControlsEx(&listView);
-    WindowObject screen(nullptr, MakeScreen(), Ownership::Owned);
-    PropertySet properties = ListProperties();
-    ResultList list(&screen, properties);
-    if (list.Handle() == nullptr) {
+    BenchList bench;
+    if (bench.Handle() == nullptr) {
         std::printf("the result list could not be made\n");
         return false;
     }
-    AnsweredSource source = SearchBelow(tree.NamesFolder());
-    SilentProgress progress;
-    SearchConditions conditions;
-    const auto search = [&] {
-        list.BeginFilling();
-        RunSearch(conditions, source, list, progress);
-        list.EndFilling();
-        UpdateWindow(list.Handle());
-    };
-    search();
-    const std::vector<Row> rows = RowsOf(list.Handle());
-    if (rows.size() != tree.NamesEntries()) {
-        std::printf("the list holds %zu of %zu rows\n", rows.size(), tree.NamesEntries());
-        return false;
-    }
-    const auto insert = [&] { InsertBarely(list.Handle(), rows); };
-    MeasureAndPrint({"search of everything / inserting the same rows", search, insert}, runs);
-    KeepingSink kept;
-    RunSearch(conditions, source, kept, progress);
-    const auto fill = [&] {
-        list.BeginFilling();
-        list.Clear();
-        for (const auto& [path, entry] : kept.matches)
-            list.AddMatch(path.c_str(), entry);
-        list.EndFilling();
-        UpdateWindow(list.Handle());
-    };
-    MeasureAndPrint({"matches into the list / inserting the same rows", fill, insert}, runs);
-    return true;
+    AbortDialog dialog(&bench.Screen());
+    DialogJob job;
+    bool done = false;
+    job.work = [&] { done = CompareInDialog(tree, bench.List(), dialog, runs); };
+    dialog.OnRun(&job, &DialogJob::Run);
+    dialog.RunModal();
+    return done;
 }

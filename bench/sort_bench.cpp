@@ -10,12 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "app/app_globals.h"
+#include "bench/bench_list.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
-#include "framework/application.h"
-#include "framework/property_keys.h"
-#include "results/result_list.h"
 #include "results/result_sorting.h"
 
 namespace {
@@ -72,18 +69,8 @@ bool IsInOrderOfFinding(HWND list) {
 }  // namespace
 
 bool CompareSorting(int runs) {
-    GlobalsForStartUp().instance = GetModuleHandleW(nullptr);
-    Application application(L"QuorinSearch", 0, nullptr);
-    const INITCOMMONCONTROLSEX listView = {sizeof(listView), ICC_LISTVIEW_CLASSES};
-    InitCommonControlsEx(&listView);
-    WindowObject screen(nullptr,
-                        CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 240, 320, nullptr,
-                                        nullptr, GetModuleHandleW(nullptr), nullptr),
-                        Ownership::Owned);
-    PropertySet properties;
-    properties.Add(property::Width, 240);
-    properties.Add(property::Height, 320);
-    ResultList list(&screen, properties);
+    BenchList bench;
+    ResultList& list = bench.List();
     AddRandomRows(list);
     // Each side sorts what the other one has left, so neither may leave an order that the other likes.
     const auto sortBy = [&](const std::vector<int>& numbers) {

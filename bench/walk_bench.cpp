@@ -6,39 +6,37 @@
 
 namespace {
 
-// Counts what the system lists, each folder once.
-std::size_t ListBarely(const std::wstring& folder) {
-    WIN32_FIND_DATAW data;
-    const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &data);
-    if (search == INVALID_HANDLE_VALUE) return 0;
-    std::size_t entries = 0;
-    do {
-        if (data.cFileName[0] == L'.') continue;
-        ++entries;
-        if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-            entries += ListBarely(folder + L"\\" + data.cFileName);
-        }
-    } while (FindNextFileW(search, &data));
-    FindClose(search);
-    return entries;
+AnsweredSource OfTwoExtensions(const std::wstring& folder) {
+    AnsweredSource source = SearchBelow(folder);
+    source.typeIndex = 1;
+    source.extensions = L".nosuch.neither";
+    return source;
 }
 
 }  // namespace
 
-bool CompareWalk(const BenchTree& tree, int runs) {
-    AnsweredSource source = SearchBelow(tree.NamesFolder());
+bool CompareWalk(const char* what, const std::wstring& folder, int runs) {
+    const std::string where = std::string("walk of ") + what;
     CountingSink sink;
     SilentProgress progress;
     SearchConditions conditions;
-    RunSearch(conditions, source, sink, progress);
-    if (sink.matches != tree.NamesEntries() || ListBarely(tree.NamesFolder()) != tree.NamesEntries()) {
-        std::printf("the walk found %zu of %zu entries\n", sink.matches, tree.NamesEntries());
+    RunSearch(conditions, SearchBelow(folder), sink, progress);
+    const std::size_t entries = CountBarely(folder);
+    if (sink.matches != entries || entries == 0) {
+        std::printf("the %s found %zu of %zu entries\n", where.c_str(), sink.matches, entries);
         return false;
     }
+    std::printf("%s: %zu entries in %zu folders\n", where.c_str(), entries, progress.folders);
+    const auto compare = [&](const char* by, const AnsweredSource& source) {
+        MeasureAndPrint({where + ", " + by, [&] { RunSearch(conditions, source, sink, progress); },
+                         [&] { static_cast<void>(CountBarely(folder)); }},
+                        runs);
+    };
+    AnsweredSource source = SearchBelow(folder);
     source.name = L"no such name";
-    MeasureAndPrint(
-        {"walk without a match / bare enumeration", [&] { RunSearch(conditions, source, sink, progress); },
-         [&] { ListBarely(tree.NamesFolder()); }},
-        runs);
+    compare("by a name", source);
+    source.name = L"no*such?name";
+    compare("by a wildcard", source);
+    compare("by two extensions", OfTwoExtensions(folder));
     return sink.matches == 0;
 }

@@ -36,13 +36,19 @@ PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* 
 HPROPSHEETPAGE PropertySheetPage::CreatePage() {
     PROPSHEETPAGEW page{};
     page.dwSize = sizeof page;
-    page.dwFlags = PSP_USETITLE;
+    page.dwFlags = PSP_USECALLBACK | PSP_USETITLE;
     page.hInstance = Globals().instance;
     page.pszTemplate = TemplateName();
     page.pszTitle = titleText.data();
     page.pfnDlgProc = &PageProcedure;
+    page.pfnCallback = &PageCallback;
     page.lParam = reinterpret_cast<LPARAM>(this);
     return CreatePropertySheetPageW(&page);
+}
+
+// Every page may be made, and none is freed here: the sheet's object owns it.
+UINT CALLBACK PropertySheetPage::PageCallback(HWND, UINT, PROPSHEETPAGEW*) {
+    return 1;
 }
 
 INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

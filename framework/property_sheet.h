@@ -28,6 +28,7 @@ class PropertySheetPage : public Dialog {
     LRESULT OnWmNotify(MessageRecord& record) override;
 
   private:
+    static UINT CALLBACK PageCallback(HWND window, UINT message, PROPSHEETPAGEW* page);
     static INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     std::vector<wchar_t> titleText;

@@ -2,6 +2,12 @@
 
 // Where bytes come from, block by block: a file, or a test's memory.
 
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 #include <cstddef>
 #include <cstdio>
 
@@ -17,15 +23,34 @@ class ByteSource {
     virtual std::size_t Fill(unsigned char* block, std::size_t size) = 0;
 };
 
-// Reads a file that the caller opened, in binary, and closes afterwards.
+// Reads a file on a disk that the caller opened, in binary, and closes afterwards. Only there a read that
+// comes short is the last: the C library would ask again, and so would the reader, which small files feel.
 class FileByteSource final : public ByteSource {
   public:
     explicit FileByteSource(std::FILE* openFile) : file(openFile) {}
 
     std::size_t Fill(unsigned char* block, std::size_t size) override {
-        return std::fread(block, 1, size, file);
+        if (ended) return 0;
+        const long long count = Read(block, size);
+        ended = count < static_cast<long long>(size);
+        return count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+
+    // Begins again at the file's beginning.
+    void Rewind() {
+        std::rewind(file);
+        ended = false;
     }
 
   private:
+    long long Read(unsigned char* block, std::size_t size) {
+#ifdef _WIN32
+        return _read(_fileno(file), block, static_cast<unsigned>(size));
+#else
+        return read(fileno(file), block, size);
+#endif
+    }
+
     std::FILE* file;
+    bool ended = false;
 };

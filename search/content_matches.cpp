@@ -39,7 +39,7 @@ bool FileContains(std::FILE* file, const SearchConditions& conditions) {
     // The search of the lines would have found nothing, but it would have set up the table.
     if (verdict == ContentVerdict::NoOccurrence) PrepareFindBytes(pattern, static_cast<int>(length));
     if (verdict != ContentVerdict::MayOccur) return false;
-    std::rewind(file);
+    source.Rewind();
     return ALineContains(source, conditions);
 }
 

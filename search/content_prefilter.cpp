@@ -35,7 +35,11 @@ bool AnySet(Bytes16 bytes) {
 struct SoughtByte {
     Bytes16 folded;
     Bytes16 caseBit;
-    Bytes16 EqualTo(Bytes16 bytes) const { return reinterpret_cast<Bytes16>((bytes | caseBit) == folded); }
+    template <bool folding>
+    Bytes16 EqualTo(Bytes16 bytes) const {
+        if constexpr (folding) bytes |= caseBit;
+        return reinterpret_cast<Bytes16>(bytes == folded);
+    }
 };
 
 enum class Place { Nothing, Occurrence, EndOfScan };
@@ -55,11 +59,8 @@ class Window {
         start = begin;
         stop = end;
         const Byte* at = begin;
-        const std::size_t reach = Width + lastIndex;
-        for (; static_cast<std::size_t>(end - at) >= reach; at += Width) {
-            const Place place = pattern.folding ? Examine16<true>(at) : Examine16<false>(at);
-            if (place != Place::Nothing) return place;
-        }
+        const Place passed = pattern.folding ? PassOver<true>(at) : PassOver<false>(at);
+        if (passed != Place::Nothing) return passed;
         // A place is looked at together with the byte behind it.
         for (; end - at > 1; ++at) {
             const Place place = ExamineOne(at);
@@ -91,26 +92,39 @@ class Window {
     SoughtByte Sought(std::size_t index) const { return {AllOf(Folded(index)), AllOf(CaseBit(index))}; }
     bool Matches(Byte byte, std::size_t index) const { return (byte | CaseBit(index)) == Folded(index); }
 
-    // Passes over what certainly does not count: what counts has the pattern's first two bytes and its last;
-    // or is a carriage return inside a line; or, when folding, may be an empty line.
+    // Passes over what certainly does not count, up to where the window is too near its end. Sixty-four bytes
+    // together: asking whether anything counts takes as long as the comparisons of sixteen.
     template <bool folding>
-    Place Examine16(const Byte* at) const {
+    Place PassOver(const Byte*& at) const {
+        constexpr std::size_t Together = 4 * Width;
+        const std::size_t reach = Together + lastIndex;
+        for (; static_cast<std::size_t>(stop - at) >= reach; at += Together) {
+            const Bytes16 worths[] = {Worth<folding>(at), Worth<folding>(at + Width),
+                                      Worth<folding>(at + 2 * Width), Worth<folding>(at + 3 * Width)};
+            if (!AnySet(worths[0] | worths[1] | worths[2] | worths[3])) continue;
+            for (std::size_t i = 0; i < Together; ++i) {
+                if (worths[i / Width][i % Width] == 0) continue;
+                const Place place = ExamineOne(at + i);
+                if (place != Place::Nothing) return place;
+            }
+        }
+        return Place::Nothing;
+    }
+
+    // What counts has the pattern's first two bytes and its last; or is a carriage return inside a line; or,
+    // when folding, may be an empty line.
+    template <bool folding>
+    Bytes16 Worth(const Byte* at) const {
         const Bytes16 here = Load(at);
         const Bytes16 next = Load(at + 1);
-        Bytes16 worth = first.EqualTo(here) & second.EqualTo(next) & last.EqualTo(Load(at + lastIndex));
-        worth |= reinterpret_cast<Bytes16>((here == CarriageReturn) & (next != LineFeed) &
-                                           (next != CarriageReturn));
+        Bytes16 worth = first.EqualTo<folding>(here) & second.EqualTo<folding>(next) &
+                        last.EqualTo<folding>(Load(at + lastIndex));
+        worth |= reinterpret_cast<Bytes16>((here == CarriageReturn) & (next != LineFeed));
         if constexpr (folding) {
             worth |= reinterpret_cast<Bytes16>((here == LineFeed) &
                                                ((next == LineFeed) | (next == CarriageReturn)));
         }
-        if (!AnySet(worth)) return Place::Nothing;
-        for (std::size_t i = 0; i < Width; ++i) {
-            if (worth[i] == 0) continue;
-            const Place place = ExamineOne(at + i);
-            if (place != Place::Nothing) return place;
-        }
-        return Place::Nothing;
+        return worth;
     }
 
     Place ExamineOne(const Byte* at) const {

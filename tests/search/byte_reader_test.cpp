@@ -100,6 +100,35 @@ TEST(FileByteSource, it_reads_a_file_of_several_blocks_as_it_stands) {
     EXPECT_TRUE(read == content) << "read " << read.size() << " bytes";
 }
 
+TEST(FileByteSource, a_file_of_whole_blocks_ends_behind_the_last_one) {
+    const TemporaryFile temporary(std::string(128, 'x'));
+    ASSERT_TRUE(temporary.written);
+    std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
+    ASSERT_NE(file, nullptr);
+    FileByteSource source(file);
+    unsigned char block[64];
+    EXPECT_EQ(source.Fill(block, sizeof block), 64U);
+    EXPECT_EQ(source.Fill(block, sizeof block), 64U);
+    EXPECT_EQ(source.Fill(block, sizeof block), 0U);
+    std::fclose(file);
+}
+
+TEST(FileByteSource, it_begins_again_behind_its_end) {
+    const TemporaryFile temporary("content");
+    ASSERT_TRUE(temporary.written);
+    std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
+    ASSERT_NE(file, nullptr);
+    FileByteSource source(file);
+    unsigned char block[64];
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_EQ(source.Fill(block, sizeof block), 7U);
+        EXPECT_EQ(std::string(block, block + 7), "content");
+        EXPECT_EQ(source.Fill(block, sizeof block), 0U);
+        source.Rewind();
+    }
+    std::fclose(file);
+}
+
 TEST(FileByteSource, a_read_error_is_the_end) {
     const TemporaryFile temporary("content");
     ASSERT_TRUE(temporary.written);

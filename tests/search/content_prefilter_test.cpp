@@ -33,7 +33,7 @@ std::string Filler(std::size_t count) {
 }  // namespace
 
 TEST(ContentPrefilter, sees_a_pattern_wherever_it_stands) {
-    for (std::size_t before = 0; before < 70; ++before) {
+    for (std::size_t before = 0; before < 200; ++before) {
         EXPECT_EQ(Judge(Filler(before) + "abc" + Filler(40), "abc"), MayOccur) << before;
         EXPECT_EQ(Judge(Filler(before) + "abc", "abc"), MayOccur) << before;
         EXPECT_EQ(Judge(Filler(before) + "ab", "abc"), NoOccurrence) << before;
@@ -115,12 +115,14 @@ TEST(ContentPrefilter, never_rules_out_what_the_lines_contain) {
         std::string content;
         // Few different bytes now and then, so that long runs of one come about.
         const int kinds = upTo(3) == 0 ? 5 : 11;
-        for (int i = upTo(80); i > 0; --i)
+        // The longer ones have bytes that are looked at many together.
+        for (int i = upTo(upTo(2) == 0 ? 400 : 80); i > 0; --i)
             content += upTo(30) == 0 ? pattern : std::string(1, Bytes[upTo(kinds)]);
         const ContentPattern sought = PatternOf(pattern, reading);
         const PlainContentAnswer plain = PlainContentSearch(find, content, sought);
-        const std::size_t blockSize =
-            upTo(1) == 0 ? ByteSource::BlockSize : static_cast<std::size_t>(2 + upTo(30));
+        const std::size_t blockSize = upTo(1) == 0
+                                          ? ByteSource::BlockSize
+                                          : static_cast<std::size_t>(2 + upTo(upTo(1) == 0 ? 200 : 30));
         const ContentVerdict verdict = Judge(content, pattern, reading, blockSize);
         if (plain.found) {
             ASSERT_EQ(verdict, MayOccur) << "round " << round;

@@ -1,0 +1,28 @@
+#include "bench/bench_list.h"
+
+#include "app/app_globals.h"
+#include "framework/property_keys.h"
+
+namespace {
+
+constexpr int ScreenWidth = 240;
+constexpr int ScreenHeight = 320;
+
+HWND MakeScreen() {
+    return CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, ScreenWidth, ScreenHeight, nullptr,
+                           nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+}  // namespace
+
+BenchList::BenchList() {
+    GlobalsForStartUp().instance = GetModuleHandleW(nullptr);
+    application = std::make_unique<Application>(L"QuorinSearch", 0, nullptr);
+    const INITCOMMONCONTROLSEX listView = {sizeof(listView), ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&listView);
+    screen = std::make_unique<WindowObject>(nullptr, MakeScreen(), Ownership::Owned);
+    PropertySet properties;
+    properties.Add(property::Width, ScreenWidth);
+    properties.Add(property::Height, ScreenHeight);
+    list = std::make_unique<ResultList>(screen.get(), properties);
+}

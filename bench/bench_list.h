@@ -1,0 +1,20 @@
+#pragma once
+
+// A result list on a window of the size of the smaller device's screen, without the program around it.
+
+#include "framework/application.h"
+#include "results/result_list.h"
+
+class BenchList {
+  public:
+    BenchList();
+
+    [[nodiscard]] ResultList& List() { return *list; }
+    [[nodiscard]] HWND Handle() const { return list->Handle(); }
+    [[nodiscard]] WindowObject& Screen() { return *screen; }
+
+  private:
+    std::unique_ptr<Application> application;
+    std::unique_ptr<WindowObject> screen;
+    std::unique_ptr<ResultList> list;
+};

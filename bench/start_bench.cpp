@@ -1,0 +1,90 @@
+#include <cstdio>
+#include <string>
+
+#include "app/product.h"
+#include "bench/benches.h"
+#include "bench/comparison.h"
+#include "platform/system_types.h"
+
+namespace {
+
+constexpr DWORD Patience = 20000;
+constexpr double SizeLimit = 250.0 * 1024;
+
+std::wstring FolderOfThisProgram() {
+    wchar_t path[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::wstring whole = path;
+    return whole.substr(0, whole.rfind(L'\\'));
+}
+
+// A program with one window, started and ended.
+class StartedProgram {
+  public:
+    StartedProgram(std::wstring executable, const wchar_t* mainWindowClass)
+        : path(std::move(executable)), windowClass(mainWindowClass) {}
+
+    // From the making of the process until it waits for input, having painted everything that was to be
+    // painted.
+    void Start() {
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof(startup);
+        PROCESS_INFORMATION started = {};
+        if (!CreateProcessW(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &started)) {
+            failed = true;
+            return;
+        }
+        CloseHandle(started.hThread);
+        process = started.hProcess;
+        if (WaitForInputIdle(process, Patience) != 0) failed = true;
+    }
+
+    void End() {
+        if (process == nullptr) return;
+        const HWND window = FindWindowW(windowClass, nullptr);
+        if (window == nullptr || !IsWindowVisible(window) || GetUpdateRect(window, nullptr, FALSE))
+            failed = true;
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        if (window == nullptr || WaitForSingleObject(process, Patience) != WAIT_OBJECT_0) {
+            failed = true;
+            TerminateProcess(process, 1);
+        }
+        CloseHandle(process);
+        process = nullptr;
+    }
+
+    [[nodiscard]] bool Failed() const { return failed; }
+
+  private:
+    std::wstring path;
+    const wchar_t* windowClass;
+    HANDLE process = nullptr;
+    bool failed = false;
+};
+
+bool PrintSize(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) return false;
+    PrintLine("bytes of the program / 250 KB", data.nFileSizeLow, SizeLimit);
+    return true;
+}
+
+}  // namespace
+
+bool CompareStart(int runs) {
+    const std::wstring folder = FolderOfThisProgram();
+    const std::wstring program = folder + L"\\..\\quorinsearch.exe";
+    StartedProgram ours(program, MainWindowClass);
+    StartedProgram bare(folder + L"\\quorin_bare_window.exe", L"QuorinBareWindow");
+    MeasureAndPrint(
+        {"start / start of a bare window with a list", [&] { ours.Start(); }, [&] { bare.Start(); },
+         [&] {
+             ours.End();
+             bare.End();
+         }},
+        runs);
+    if (!ours.Failed() && !bare.Failed() && PrintSize(program)) return true;
+    std::printf("a program did not start or end as it should\n");
+    return false;
+}
