@@ -1,7 +1,7 @@
 // The keyboard's way through the program, with real keys.
 
-#include "tests/support/user_input.h"
 #include <algorithm>
+#include "tests/support/user_input.h"
 
 #include "resources/resource_ids.h"
 #include "tests/program/program_test.h"
