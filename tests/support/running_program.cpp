@@ -18,23 +18,33 @@ void RunningProgram::Start(const ProgramStart& start) {
     limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
     SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
 
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = static_cast<WORD>(start.showCommand);
-    std::wstring commandLine = L"\"" + start.path + L"\"";
-    if (!start.arguments.empty()) commandLine += L" " + start.arguments;
-    const wchar_t* folder = start.workingFolder.empty() ? nullptr : start.workingFolder.c_str();
-    PROCESS_INFORMATION started = {};
-    if (!CreateProcessW(start.path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
-                        nullptr, folder, &startup, &started)) {
-        throw DriverError("cannot start " + Utf8(start.path) + ", error " + std::to_string(GetLastError()));
-    }
+    const PROCESS_INFORMATION started = CreateSuspended(start);
     process = started.hProcess;
     processId = started.dwProcessId;
     AssignProcessToJobObject(job, process);
     ResumeThread(started.hThread);
     CloseHandle(started.hThread);
+}
+
+// Once in some thousand starts Wine loses the new process before its first instruction, and says so.
+PROCESS_INFORMATION RunningProgram::CreateSuspended(const ProgramStart& start) {
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = static_cast<WORD>(start.showCommand);
+    const wchar_t* folder = start.workingFolder.empty() ? nullptr : start.workingFolder.c_str();
+    DWORD code = ERROR_INTERNAL_ERROR;
+    for (int attempt = 0; attempt < 3 && code == ERROR_INTERNAL_ERROR; ++attempt) {
+        std::wstring commandLine = L"\"" + start.path + L"\"";
+        if (!start.arguments.empty()) commandLine += L" " + start.arguments;
+        PROCESS_INFORMATION started = {};
+        if (CreateProcessW(start.path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                           nullptr, folder, &startup, &started)) {
+            return started;
+        }
+        code = GetLastError();
+    }
+    throw DriverError("cannot start " + Utf8(start.path) + ", error " + std::to_string(code));
 }
 
 void RunningProgram::Attach(HWND mainWindow) {

@@ -39,6 +39,8 @@ class RunningProgram {
     [[nodiscard]] HWND MainWindow() const;
 
   private:
+    static PROCESS_INFORMATION CreateSuspended(const ProgramStart& start);
+
     HANDLE process = nullptr;
     HANDLE job = nullptr;
     DWORD processId = 0;
