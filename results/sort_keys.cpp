@@ -24,10 +24,6 @@ int CompareSizes(std::int32_t first, std::int32_t second) {
     return first > second ? 1 : first < second ? -1 : 0;
 }
 
-int CompareTexts(const wchar_t* first, const wchar_t* second) {
-    return _wcsicmp(first, second);
-}
-
 // Only the letters of English, as in the C library's default locale.
 void FoldForComparison(wchar_t* text) {
     for (; *text != L'\0'; ++text) {

@@ -11,10 +11,10 @@ constexpr int SortTextCapacity = 128;
 // The bytes that a Size cell stands for ("12K" is 12,288); 0 for a folder's empty cell.
 [[nodiscard]] std::int32_t ParseShownSize(const wchar_t* text);
 
-// Both are negative, zero or positive, in ascending order; texts compare without regard to letter case.
+// Negative, zero or positive, in ascending order.
 [[nodiscard]] int CompareSizes(std::int32_t first, std::int32_t second);
-[[nodiscard]] int CompareTexts(const wchar_t* first, const wchar_t* second);
 
-// Texts that were folded once compare by their units alone, and in the same order.
+// Texts compare without regard to letter case: folded once, and then by their units, in ascending order as
+// above.
 void FoldForComparison(wchar_t* text);
 [[nodiscard]] int CompareFoldedTexts(const wchar_t* first, const wchar_t* second);

@@ -92,10 +92,6 @@ void PrintTo(const FaultCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-bool Has(const std::string& contents, const std::string& entry) {
-    return (" " + contents + " ").find(" " + entry + " ") != std::string::npos;
-}
-
 }  // namespace
 
 class OperationFaults : public OperationTest, public testing::WithParamInterface<FaultCase> {

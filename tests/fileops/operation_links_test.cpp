@@ -4,14 +4,6 @@
 #include "tests/fileops/operation_test.h"
 #include "tests/support/replaced_calls.h"
 
-namespace {
-
-bool Has(const std::string& contents, const std::string& entry) {
-    return (" " + contents + " ").find(" " + entry + " ") != std::string::npos;
-}
-
-}  // namespace
-
 class OperationLinks : public OperationTest {
   protected:
     OperationLinks() {

@@ -31,10 +31,6 @@ void PrintTo(const StopCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-bool Has(const std::string& contents, const std::string& entry) {
-    return (" " + contents + " ").find(" " + entry + " ") != std::string::npos;
-}
-
 }  // namespace
 
 class OperationStop : public OperationTest, public testing::WithParamInterface<StopCase> {

@@ -100,3 +100,7 @@ void SetLastWriteTime(const std::wstring& path, const SYSTEMTIME& moment) {
     EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
     CloseHandle(file);
 }
+
+bool Has(const std::string& contents, const std::string& entry) {
+    return (" " + contents + " ").find(" " + entry + " ") != std::string::npos;
+}

@@ -15,6 +15,9 @@ void AddContents(TempTree& tree, const std::string& contents);
 // The same entries in that order, as an expectation may be written in any.
 [[nodiscard]] std::string InOrder(const std::string& contents);
 
+// Whether the contents, as above, have this entry.
+[[nodiscard]] bool Has(const std::string& contents, const std::string& entry);
+
 // The path in the tree of what is written with "/".
 [[nodiscard]] std::wstring PathIn(const TempTree& tree, const std::string& written);
 

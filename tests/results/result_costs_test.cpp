@@ -1,7 +1,6 @@
 // What is asked how often: the shell while the list fills, the list's cells while it is sorted.
 
-#include <commctrl.h>
-
+#include "platform/windows_ce.h"
 #include "tests/results/registered_types.h"
 #include "tests/results/result_list_test.h"
 
