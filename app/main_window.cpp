@@ -12,6 +12,8 @@ namespace {
 
 constexpr int TabControlHeight = 126;
 
+constexpr UINT_PTR CompletionTimer = 1;
+
 constexpr UINT RoutedCommands[] = {COMMAND_FIND,        COMMAND_OPEN,          COMMAND_ADD_TO_START_MENU,
                                    COMMAND_DELETE,      COMMAND_RENAME,        COMMAND_PROPERTIES,
                                    COMMAND_EXIT,        COMMAND_LARGE_ICON,    COMMAND_SMALL_ICON,
@@ -32,10 +34,12 @@ MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Applicatio
     AddBarButtons();
     CreateDialogs();
     OnMessage(WM_CLOSE, this, &MainWindow::OnWmClose);
+    OnMessage(WM_TIMER, this, &MainWindow::OnWmTimer);
     SetInitialMenuState();
     const RECT area = LayoutRectangle();
     CreateTabControl(area);
-    CreatePages();
+    namePage = std::make_unique<NamePage>(tabControl.get(), Handle());
+    CreatePage(*namePage);
     CreateResultList(area);
     RouteCommands();
     ShowPage(0);
@@ -93,17 +97,11 @@ void MainWindow::CreateTabControl(const RECT& area) {
     tabControl->AppendItem(InLanguage(L"Etc", L"その他"));
 }
 
-void MainWindow::CreatePages() {
-    namePage = std::make_unique<NamePage>(tabControl.get(), Handle());
-    datePage = std::make_unique<DatePage>(tabControl.get());
-    sizePage = std::make_unique<SizePage>(tabControl.get(), &fileTypes);
+void MainWindow::CreatePage(ConditionPage& page) {
     const RECT area = tabControl->DisplayArea();
-    for (int i = 0; i < PageCount; ++i) {
-        ConditionPage& page = *Page(i);
-        page.MarkAsPage();
-        page.CreateModeless();
-        page.Move(area.left, area.top, area.right - area.left, area.bottom - area.top);
-    }
+    page.MarkAsPage();
+    page.CreateModeless();
+    page.Move(area.left, area.top, area.right - area.left, area.bottom - area.top);
 }
 
 void MainWindow::CreateResultList(const RECT& area) {
@@ -124,6 +122,29 @@ void MainWindow::RouteCommands() {
         OnCommand(command, this, &MainWindow::OnMenuCommand, command);
 }
 
+void MainWindow::Show() {
+    ApplicationView::Show();
+    SetTimer(Handle(), CompletionTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+// The two other pages, the registered types and the icons are more than half of all that a start has to make.
+void MainWindow::CompleteParts() {
+    KillTimer(Handle(), CompletionTimer);
+    if (sizePage != nullptr) return;
+    datePage = std::make_unique<DatePage>(tabControl.get());
+    CreatePage(*datePage);
+    fileTypes = std::make_unique<RegisteredFileTypes>();
+    sizePage = std::make_unique<SizePage>(tabControl.get(), fileTypes.get());
+    CreatePage(*sizePage);
+    results->LoadIcons();
+}
+
+LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
+    if (record.wParam != CompletionTimer) return DefaultProcessing(record);
+    CompleteParts();
+    return 0;
+}
+
 ConditionPage* MainWindow::Page(int index) const {
     ConditionPage* const pages[PageCount] = {namePage.get(), datePage.get(), sizePage.get()};
     return pages[index];
@@ -138,6 +159,7 @@ void MainWindow::ShowPage(int index) {
 }
 
 LRESULT MainWindow::OnPageChanged(EventArguments&) {
+    CompleteParts();
     ShowPage(tabControl->Selected());
     return 0;
 }

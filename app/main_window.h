@@ -22,6 +22,12 @@ class MainWindow : public ApplicationView {
 
     bool PreTranslate(MSG& message) override;
 
+    // The parts that the first picture does not show are made in the first quiet moment after it.
+    void Show() override;
+
+    // Makes those parts now; does nothing when they stand.
+    void CompleteParts();
+
     // No command starts it: it stands ready for whoever wants one of its operations.
     [[nodiscard]] FileOperation& Operation() { return *fileOperation; }
 
@@ -36,16 +42,17 @@ class MainWindow : public ApplicationView {
   private:
     static constexpr int PageCount = 3;
 
-    // Construction, in this order.
+    // Construction, in this order, up to what the first picture shows.
     void AddBarButtons();
     void CreateDialogs();
     void SetInitialMenuState();
     void CreateTabControl(const RECT& area);
-    void CreatePages();
+    void CreatePage(ConditionPage& page);
     void CreateResultList(const RECT& area);
     void RouteCommands();
 
     LRESULT OnWmClose(MessageRecord& record);
+    LRESULT OnWmTimer(MessageRecord& record);
     LRESULT OnMenuCommand(EventArguments& arguments);
     LRESULT OnPageChanged(EventArguments& arguments);
     LRESULT OnResultDoubleClick(EventArguments& arguments);
@@ -72,7 +79,7 @@ class MainWindow : public ApplicationView {
     // Set by an uninstall: the keys just removed are not written again.
     bool skipSaving = false;
 
-    RegisteredFileTypes fileTypes;
+    std::unique_ptr<RegisteredFileTypes> fileTypes;
 
     // Deleted from the last to the first: the pages in tab order, the list, the tab control, the dialogs.
     std::unique_ptr<AboutBox> aboutBox;

@@ -28,6 +28,7 @@ bool MainWindow::IsBusy() const {
 }
 
 void MainWindow::RunCommand(UINT command) {
+    CompleteParts();
     switch (command) {
         case COMMAND_FIND:
             Find();

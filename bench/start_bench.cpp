@@ -9,6 +9,8 @@
 namespace {
 
 constexpr DWORD Patience = 20000;
+// The system goes on clearing up after a process has ended; the next start is not to pay for that.
+constexpr DWORD SettlingTime = 200;
 constexpr double SizeLimit = 250.0 * 1024;
 
 std::wstring FolderOfThisProgram() {
@@ -52,6 +54,7 @@ class StartedProgram {
         }
         CloseHandle(process);
         process = nullptr;
+        Sleep(SettlingTime);
     }
 
     [[nodiscard]] bool Failed() const { return failed; }

@@ -44,13 +44,10 @@ PropertySet& WithListStyle(PropertySet& properties) {
 }  // namespace
 
 ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
-    : ListView(parentObject, WithListStyle(properties)),
-      iconCache(new (std::nothrow) FileIconCache),
-      typeNames(iconCache != nullptr ? iconCache->Types() : nullptr) {
+    : ListView(parentObject, WithListStyle(properties)) {
     const LRESULT style = SendMessageW(Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, style | LVS_EX_FULLROWSELECT);
     UseDialogFont();
-    AttachImages();
     InsertColumns();
     const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
     if (header != nullptr) heading.reset(new (std::nothrow) ResultHeading(this, header));
@@ -77,8 +74,11 @@ void ResultList::UseDialogFont() {
     SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
-void ResultList::AttachImages() {
+void ResultList::LoadIcons() {
+    if (iconCache != nullptr) return;
+    iconCache.reset(new (std::nothrow) FileIconCache);
     if (iconCache == nullptr) return;
+    typeNames.UseTypes(iconCache->Types());
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(iconCache->SmallImages()));
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL,
                  reinterpret_cast<LPARAM>(iconCache->LargeImages()));
@@ -117,6 +117,7 @@ void ResultList::Clear() {
 }
 
 void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) {
+    LoadIcons();
     LVITEMW item{};
     item.mask = LVIF_IMAGE | LVIF_PARAM;
     item.iItem = RowCount();

@@ -16,6 +16,9 @@ class ResultList : public ListView, public MatchSink {
     ResultList(WindowObject* parent, PropertySet& properties);
     ~ResultList() override;
 
+    // Makes the icons and the type names ready, which the first row does otherwise: an empty list shows none.
+    void LoadIcons();
+
     // While a search fills the list it is redrawn only a few times a second: drawing each row costs a
     // thousand times as much as adding it.
     void BeginFilling();
@@ -53,7 +56,6 @@ class ResultList : public ListView, public MatchSink {
 
   private:
     void UseDialogFont();
-    void AttachImages();
     void InsertColumns();
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
@@ -65,7 +67,7 @@ class ResultList : public ListView, public MatchSink {
     // The column of the last sort, by its number; a negative one would mean the order of finding.
     int sortColumn = 0;
     bool sortAscending = true;
-    std::unique_ptr<FileIconCache> iconCache;  // null when there was no memory for it
+    std::unique_ptr<FileIconCache> iconCache;  // null before the first row, or without memory for it
     TypeNames typeNames;
     std::unique_ptr<ResultHeading> heading;
     std::unique_ptr<NameEdit> nameEdit;  // of the last editing; null before the first

@@ -14,6 +14,7 @@ class TypeNames {
   public:
     // The types tell which extensions are of one kind; they outlive this object. Null for each on its own.
     explicit TypeNames(const FileTypeTable* fileTypes = nullptr) : types(fileTypes) {}
+    void UseTypes(const FileTypeTable* fileTypes) { types = fileTypes; }
 
     // The type name of the file at this path, empty for some types. Empty, and asked for
     // again next time, where the shell has no answer. The text lives until the next call.

@@ -17,14 +17,19 @@ void MainWindowTest::ForgetSettings() {
 }
 
 void MainWindowTest::Open(UiLanguage language) {
+    OpenFirstPicture(language);
+    window->CompleteParts();
+    FindPages();
+    PumpQueue();
+}
+
+void MainWindowTest::OpenFirstPicture(UiLanguage language) {
     GlobalsForStartUp().uiLanguage = language;
     GlobalsForStartUp().menuLanguage = language;
     properties.Clear();
     DescribeMainWindow(properties);
     window = std::make_unique<MainWindow>(ProductName, properties, world.TheApplication());
     window->Show();
-    FindPages();
-    PumpQueue();
 }
 
 int MainWindowTest::RunToTheEnd(int firstCommand) {

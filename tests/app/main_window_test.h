@@ -27,8 +27,12 @@ class MainWindowTest : public testing::Test {
     MainWindowTest();
     ~MainWindowTest() override;
 
-    // Makes the window and shows it.
+    // Makes the window, shows it and lets it become complete.
     void Open(UiLanguage language = UiLanguage::English);
+    // Makes the window and shows it; no message has been handled since.
+    void OpenFirstPicture(UiLanguage language = UiLanguage::English);
+    // Looks for the windows of the pages that stand.
+    void FindPages();
     // Deletes the object, and the window with it where it is still there.
     void Discard() { window.reset(); }
     // As start-up does: opens, posts a command, and lives until the program ends. The exit code.
@@ -75,8 +79,6 @@ class MainWindowTest : public testing::Test {
     TestWorld world;
 
   private:
-    void FindPages();
-
     PropertySet properties;
     std::unique_ptr<MainWindow> window;
     HWND pages[3] = {};

@@ -47,11 +47,17 @@ void ProgramDriver::Attach(DWORD milliseconds) {
     Connect();
 }
 
-// A window that is visible may still be under construction; it is ready when it takes posted messages, unless
-// a search is being held.
+// A window that is visible may still be under construction; it is ready when it takes posted messages and has
+// its last page, unless a search is being held.
 void ProgramDriver::Connect() {
     link = std::make_unique<ProbeLink>(window);
-    if (!Searching()) link->WaitForQueue();
+    if (Searching()) return;
+    link->WaitForQueue();
+    WaitUntil("the pages", [this] {
+        HWND pages[3] = {};
+        EnumChildWindows(window, TakePage, reinterpret_cast<LPARAM>(pages));
+        return pages[SizePage] != nullptr;
+    });
 }
 
 DWORD ProgramDriver::Close() {
