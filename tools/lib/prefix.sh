@@ -13,12 +13,19 @@ base_stamp() {
     cat "$root/tools/lib/prefix.sh" "$root/tools/lib/device_look.reg" | sha256sum
 }
 
+# On a screen without settings of its own, the system's drawing looks for them in the home at every choice of a
+# font, again and again while there is no such file: a twentieth of a start.
+make_private_home() {
+    mkdir -p "$prefixDir/home"
+    [[ -e $prefixDir/home/.Xdefaults ]] || echo '! No settings.' >"$prefixDir/home/.Xdefaults"
+}
+
 # wine_environment PREFIX LANGUAGE: what each Wine process of a world is given. A Japanese locale is all that
 # makes a Japanese system. The private home keeps Wine out of the user's folders.
 wine_environment() {
     unset LANGUAGE "${!LC_@}" WINEARCH WINESERVER WINELOADER WINEDLLPATH
     [[ -z ${DISPLAY:-} || -n ${XAUTHORITY:-} || ! -e ${HOME:-}/.Xauthority ]] || export XAUTHORITY=$HOME/.Xauthority
-    mkdir -p "$prefixDir/home"
+    make_private_home
     export HOME=$prefixDir/home WINEPREFIX=$1 WINEDEBUG=${QUORIN_WINEDEBUG:--all}
     export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree,mshtml='
     export LANG=C.UTF-8 LC_ALL=C.UTF-8
