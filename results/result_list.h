@@ -57,6 +57,7 @@ class ResultList : public ListView, public MatchSink {
   private:
     void UseDialogFont();
     void InsertColumns();
+    LRESULT CallControl(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
     LRESULT OnKeyDown(MessageRecord& record);
