@@ -84,6 +84,10 @@ void AbortDialog::EnterFolder(const wchar_t* folder) {
     if (GetTickCount64() - lastShown >= ShowInterval) ShowFolder();
 }
 
+void AbortDialog::BeforeLongFile() {
+    if (folderPending) ShowFolder();
+}
+
 bool AbortDialog::StopRequested() {
     if (folderPending && GetTickCount64() - lastShown >= ShowInterval) ShowFolder();
     return abortRequested;

@@ -27,6 +27,7 @@ class AbortDialog : public Dialog, public SearchProgress {
 
     // SearchProgress. The text lags behind the walk by up to a tenth of a second.
     void EnterFolder(const wchar_t* folder) override;
+    void BeforeLongFile() override;
     bool StopRequested() override;
 
   protected:

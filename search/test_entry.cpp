@@ -9,6 +9,13 @@
 
 namespace {
 
+// Read in a few milliseconds up to here, also where it takes the readers of lines.
+constexpr DWORD LongFileSize = 1024 * 1024;
+
+bool IsLongFile(const WIN32_FIND_DATAW& entry) {
+    return entry.nFileSizeHigh != 0 || entry.nFileSizeLow >= LongFileSize;
+}
+
 bool NamePasses(const wchar_t* name, const wchar_t* substring) {
     if (substring[0] == L'\0') return true;
     return FindWide(name, static_cast<int>(std::wcslen(name)), substring,
@@ -23,9 +30,9 @@ bool TestEntry(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& 
     if (!NamePasses(entry.cFileName, walk.nameSubstring)) return true;
     wchar_t fullPath[MAX_PATH];
     if (!JoinPath(fullPath, folder, entry.cFileName)) return true;
-    if (walk.conditions.Has(SearchConditions::ContentString) &&
-        !ContentMatches(walk.conditions, fullPath, entry)) {
-        return true;
+    if (walk.conditions.Has(SearchConditions::ContentString)) {
+        if (IsLongFile(entry)) walk.progress.BeforeLongFile();
+        if (!ContentMatches(walk.conditions, fullPath, entry)) return true;
     }
     walk.sink.AddMatch(fullPath, entry);
     return true;

@@ -246,6 +246,20 @@ TEST_F(AbortDialogTest, a_folder_after_a_pause_is_shown_at_once) {
     EXPECT_EQ(shown, L"\\second");
 }
 
+TEST_F(AbortDialogTest, a_folder_that_waits_is_shown_before_a_long_file) {
+    Make();
+    std::wstring before, then;
+    RunWith([&] {
+        dialog->EnterFolder(L"\\first");
+        dialog->EnterFolder(L"\\second");
+        before = FolderText();
+        dialog->BeforeLongFile();
+        then = FolderText();
+    });
+    EXPECT_EQ(before, L"\\first");
+    EXPECT_EQ(then, L"\\second");
+}
+
 TEST_F(AbortDialogTest, a_folder_name_of_any_length_is_cut_at_259_units) {
     Make();
     std::wstring shown;

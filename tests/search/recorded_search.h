@@ -36,8 +36,11 @@ class RecordingProgress : public SearchProgress {
         return stopAtQuestion > 0 && asked >= stopAtQuestion;
     }
 
+    void BeforeLongFile() override { ++longFiles; }
+
     std::vector<std::wstring> folders;
     int asked = 0;
+    int longFiles = 0;
     // The question, counted from 1, at which it is first answered with yes; 0 for never.
     int stopAtQuestion = 0;
 };

@@ -50,6 +50,31 @@ TEST(TestEntry, wants_the_substring_in_the_name_with_its_case) {
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\xabcx.txt", L"\\abc"}));
 }
 
+TEST(TestEntry, tells_of_a_long_file_before_it_reads_it_and_of_no_other) {
+    constexpr DWORD Megabyte = 1024 * 1024;
+    FakeFolders folders;
+    RecordedWalk recorded(SearchConditions::SizeAbove, {});
+    SetContentPattern(recorded.conditions, "x");
+    EXPECT_TRUE(TestEntry(recorded.walk, L"\\", Entry(L"short", Megabyte - 1)));
+    EXPECT_EQ(recorded.progress.longFiles, 0);
+    EXPECT_TRUE(TestEntry(recorded.walk, L"\\", Entry(L"long", Megabyte)));
+    EXPECT_EQ(recorded.progress.longFiles, 1);
+    WIN32_FIND_DATAW huge = Entry(L"huge", 0);
+    huge.nFileSizeHigh = 1;
+    recorded.conditions.flags &= static_cast<std::uint16_t>(~SearchConditions::SizeAbove);
+    EXPECT_TRUE(TestEntry(recorded.walk, L"\\", huge));
+    EXPECT_EQ(recorded.progress.longFiles, 2);
+}
+
+TEST(TestEntry, tells_of_no_file_that_is_not_read) {
+    FakeFolders folders;
+    RecordedWalk recorded(0, {}, L"other");
+    EXPECT_TRUE(TestEntry(recorded.walk, L"\\", Entry(L"long", 0x40000000)));
+    SetContentPattern(recorded.conditions, "x");
+    EXPECT_TRUE(TestEntry(recorded.walk, L"\\", Entry(L"long", 0x40000000)));
+    EXPECT_EQ(recorded.progress.longFiles, 0);
+}
+
 TEST(TestEntry, stops_before_any_test) {
     FakeFolders folders;
     RecordedWalk recorded(0, {});
