@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cwchar>
 
-#include "platform/folder_links.h"
 #include "platform/folder_listing.h"
+#include "platform/links.h"
 #include "platform/system_path.h"
 
 namespace {
@@ -69,7 +69,15 @@ BOOL SetAttributes(const wchar_t* path, DWORD attributes) {
                     [attributes](const wchar_t* literal) { return SetFileAttributesW(literal, attributes); });
 }
 
+// Removing or moving a link must not touch what it leads to.
+bool MayBeTaken(const wchar_t* path) {
+    if (!IsOutOfReach(path)) return true;
+    SetLastError(ERROR_NOT_SUPPORTED);
+    return false;
+}
+
 BOOL Delete(const wchar_t* path) {
+    if (!MayBeTaken(path)) return FALSE;
     return WithPath(path, FALSE, [](const wchar_t* literal) { return DeleteFileW(literal); });
 }
 
@@ -80,13 +88,6 @@ bool IsNewName(const wchar_t* literal) {
     const bool marked = std::wcsncmp(literal, L"\\\\?\\", 4) == 0 && std::wcslen(literal) >= MarkAndDrive;
     if (std::wcschr(marked ? literal + MarkAndDrive : literal, L':') == nullptr) return true;
     SetLastError(ERROR_INVALID_NAME);
-    return false;
-}
-
-// Removing or moving a link to a folder must not touch the folder.
-bool MayBeTaken(const wchar_t* path) {
-    if (!IsOutOfReach(path)) return true;
-    SetLastError(ERROR_NOT_SUPPORTED);
     return false;
 }
 

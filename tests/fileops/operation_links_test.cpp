@@ -61,6 +61,23 @@ TEST_F(OperationLinks, go_along_with_a_move_and_keep_what_they_lead_to) {
     EXPECT_TRUE(Has(Contents(), "d/s/a=1"));
 }
 
+TEST_F(OperationLinks, to_files_keep_them_in_a_deletion) {
+    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    Prepare(FileOperationKind::Delete, {"s"}, "");
+    const std::string boxes = Run();
+    EXPECT_TRUE(boxes.empty() || boxes == "Error: Error DeleteFile 50") << boxes;
+    EXPECT_TRUE(Has(Contents(), "outside/f=2"));
+}
+
+TEST_F(OperationLinks, to_files_keep_them_in_a_move) {
+    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    Prepare(FileOperationKind::Move, {"s"}, "d");
+    const std::string boxes = Run();
+    EXPECT_TRUE(boxes.empty() || boxes == "Error: Error Move file 50") << boxes;
+    EXPECT_TRUE(Has(Contents(), "outside/f=2"));
+    EXPECT_TRUE(Has(Contents(), "d/s/a=1"));
+}
+
 TEST_F(OperationLinks, in_the_destination_are_not_entered_by_an_exclusion) {
     AddContents(tree, "s/link/ outside/deep/g=3");
     if (!tree.AddFolderLink(L"d\\link", L"outside")) GTEST_SKIP() << "the system makes no links";

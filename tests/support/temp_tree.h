@@ -29,10 +29,15 @@ class TempTree {
     // where the system makes no links.
     [[nodiscard]] bool AddFolderLink(std::wstring_view relative, std::wstring_view target);
 
+    // The same for a link to a file.
+    [[nodiscard]] bool AddFileLink(std::wstring_view relative, std::wstring_view target);
+
     // The files "file 0.txt", "file 1.txt", ... in the folder.
     void AddNumberedFiles(std::wstring_view folder, int count);
 
   private:
+    bool AddHostLink(std::wstring_view relative, std::wstring_view target);
+
     std::wstring root;
     // Relative: what the host made and has to delete.
     std::vector<std::wstring> hostMade;

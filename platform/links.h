@@ -4,6 +4,6 @@
 // folder that cannot be opened counts as a link: there is nothing to be found in it.
 [[nodiscard]] bool LeadsElsewhere(const wchar_t* path);
 
-// Whether the path is a link to a folder that the system follows even when asked for the link itself, as Wine
-// does: what is done to the link would be done to the folder.
+// Whether the path is a link that the system follows even when asked for the link itself, as Wine does: what
+// is done to the link would be done to the folder or file that it leads to.
 [[nodiscard]] bool IsOutOfReach(const wchar_t* path);
