@@ -4,15 +4,10 @@
 
 namespace {
 
-#define FILES "Confirm File Replace/4"
-#define FOLDERS "Confirm Folder Replace/4"
-
-constexpr Asks Many = Asks::WithYesToAll;
-
 // Each of the three is asked about in turn.
 #define SOURCES "s/a s/m s/b"
 #define BEFORE "s/a=1 s/m/f=2 s/b=3 d/a=old d/m/ d/b=old"
-#define ALL_THREE FILES "; " FOLDERS "; " FILES
+#define ALL_THREE FILE_ALL "; " FOLDER "; " FILE_ALL
 
 const OperationRow CopyRows[] = {
     {"all_yes",
@@ -29,7 +24,7 @@ const OperationRow CopyRows[] = {
      "d",
      Many,
      {All, Yes},
-     FILES "; " FOLDERS,
+     FILE_ALL "; " FOLDER,
      "s/a=1 s/m/f=2 s/b=3 d/a=1 d/m/f=2 d/b=3"},
     {"first_no",
      BEFORE,
@@ -39,14 +34,14 @@ const OperationRow CopyRows[] = {
      {No, Yes, Yes},
      ALL_THREE,
      "s/a=1 s/m/f=2 s/b=3 d/a=old d/m/f=2 d/b=3"},
-    {"first_cancel", BEFORE, SOURCES, "d", Many, {Cancel}, FILES, BEFORE},
+    {"first_cancel", BEFORE, SOURCES, "d", Many, {Cancel}, FILE_ALL, BEFORE},
     {"second_all",
      BEFORE,
      SOURCES,
      "d",
      Many,
      {Yes, All},
-     FILES "; " FOLDERS,
+     FILE_ALL "; " FOLDER,
      "s/a=1 s/m/f=2 s/b=3 d/a=1 d/m/f=2 d/b=3"},
     {"second_no",
      BEFORE,
@@ -62,7 +57,7 @@ const OperationRow CopyRows[] = {
      "d",
      Many,
      {Yes, Cancel},
-     FILES "; " FOLDERS,
+     FILE_ALL "; " FOLDER,
      "s/a=1 s/m/f=2 s/b=3 d/a=1 d/m/ d/b=old"},
     {"third_all",
      BEFORE,
@@ -99,17 +94,17 @@ const OperationRow MoveRows[] = {
      "d",
      Many,
      {All, Yes},
-     FILES "; " FOLDERS "; Error: Error Move file 183",
+     FILE_ALL "; " FOLDER "; Error: Error Move file 183",
      "s/b=3 d/a=1 d/m/f=2 d/b=old"},
     {"first_no", BEFORE, SOURCES, "d", Many, {No, Yes, Yes}, ALL_THREE, "s/a=1 d/a=old d/m/f=2 d/b=3"},
-    {"first_cancel", BEFORE, SOURCES, "d", Many, {Cancel}, FILES, BEFORE},
+    {"first_cancel", BEFORE, SOURCES, "d", Many, {Cancel}, FILE_ALL, BEFORE},
     {"second_all",
      BEFORE,
      SOURCES,
      "d",
      Many,
      {Yes, All},
-     FILES "; " FOLDERS "; Error: Error Move file 183",
+     FILE_ALL "; " FOLDER "; Error: Error Move file 183",
      "s/b=3 d/a=1 d/m/f=2 d/b=old"},
     {"second_no", BEFORE, SOURCES, "d", Many, {Yes, No, Yes}, ALL_THREE, "s/m/f=2 d/a=1 d/m/ d/b=3"},
     {"second_cancel",
@@ -118,7 +113,7 @@ const OperationRow MoveRows[] = {
      "d",
      Many,
      {Yes, Cancel},
-     FILES "; " FOLDERS,
+     FILE_ALL "; " FOLDER,
      "s/m/f=2 s/b=3 d/a=1 d/m/ d/b=old"},
     {"third_all", BEFORE, SOURCES, "d", Many, {Yes, Yes, All}, ALL_THREE, "s/ d/a=1 d/m/f=2 d/b=3"},
     {"third_no", BEFORE, SOURCES, "d", Many, {Yes, Yes, No}, ALL_THREE, "s/b=3 d/a=1 d/m/f=2 d/b=old"},
@@ -136,7 +131,7 @@ const OperationRow MoveRows[] = {
 #define UPDATES "s/a s/m s/b"
 #define BEFORE_UPDATE "s/a=new s/m/f=new s/b=new d/a=old d/f=old d/b=old"
 #define SOURCES_STAY "s/a=new s/m/f=new s/b=new "
-#define THREE_FILES FILES "; " FILES "; " FILES
+#define THREE_FILES FILE_ALL "; " FILE_ALL "; " FILE_ALL
 
 const OperationRow UpdateRows[] = {
     {"all_yes",
@@ -147,7 +142,7 @@ const OperationRow UpdateRows[] = {
      {Yes, Yes, Yes},
      THREE_FILES,
      SOURCES_STAY "d/a=new d/f=new d/b=new"},
-    {"first_all", BEFORE_UPDATE, UPDATES, "d", Many, {All}, FILES, SOURCES_STAY "d/a=new d/f=new d/b=new"},
+    {"first_all", BEFORE_UPDATE, UPDATES, "d", Many, {All}, FILE_ALL, SOURCES_STAY "d/a=new d/f=new d/b=new"},
     {"first_no",
      BEFORE_UPDATE,
      UPDATES,
@@ -156,14 +151,14 @@ const OperationRow UpdateRows[] = {
      {No, Yes, Yes},
      THREE_FILES,
      SOURCES_STAY "d/a=old d/f=new d/b=new"},
-    {"first_cancel", BEFORE_UPDATE, UPDATES, "d", Many, {Cancel}, FILES, BEFORE_UPDATE},
+    {"first_cancel", BEFORE_UPDATE, UPDATES, "d", Many, {Cancel}, FILE_ALL, BEFORE_UPDATE},
     {"second_all",
      BEFORE_UPDATE,
      UPDATES,
      "d",
      Many,
      {Yes, All},
-     FILES "; " FILES,
+     FILE_ALL "; " FILE_ALL,
      SOURCES_STAY "d/a=new d/f=new d/b=new"},
     {"second_no",
      BEFORE_UPDATE,
@@ -179,7 +174,7 @@ const OperationRow UpdateRows[] = {
      "d",
      Many,
      {Yes, Cancel},
-     FILES "; " FILES,
+     FILE_ALL "; " FILE_ALL,
      SOURCES_STAY "d/a=new d/f=old d/b=old"},
     {"third_all",
      BEFORE_UPDATE,

@@ -4,12 +4,7 @@
 
 namespace {
 
-#define DELETES "Confirm File Delete/4"
-
-constexpr Asks Many = Asks::WithYesToAll;
-
 // An exclusion asks about the folder, whose No ends the run, and then about each file in it.
-#define FOLDER_DELETES "Confirm Folder Delete/4"
 #define BEFORE_EXCLUSION "s/ d/m/f=1 d/m/g=2 d/k=kept"
 
 const OperationRow ExcludeRows[] = {
@@ -19,19 +14,26 @@ const OperationRow ExcludeRows[] = {
      "d",
      Many,
      {Yes, Yes, Yes},
-     FOLDER_DELETES "; " DELETES "; " DELETES,
+     DELETE_FOLDER "; " DELETE_ALL "; " DELETE_ALL,
      "s/ d/k=kept"},
-    {"first_all", BEFORE_EXCLUSION, "s", "d", Many, {All}, FOLDER_DELETES, "s/ d/k=kept"},
-    {"first_no", BEFORE_EXCLUSION, "s", "d", Many, {No}, FOLDER_DELETES, BEFORE_EXCLUSION},
-    {"first_cancel", BEFORE_EXCLUSION, "s", "d", Many, {Cancel}, FOLDER_DELETES, BEFORE_EXCLUSION},
-    {"second_all", BEFORE_EXCLUSION, "s", "d", Many, {Yes, All}, FOLDER_DELETES "; " DELETES, "s/ d/k=kept"},
+    {"first_all", BEFORE_EXCLUSION, "s", "d", Many, {All}, DELETE_FOLDER, "s/ d/k=kept"},
+    {"first_no", BEFORE_EXCLUSION, "s", "d", Many, {No}, DELETE_FOLDER, BEFORE_EXCLUSION},
+    {"first_cancel", BEFORE_EXCLUSION, "s", "d", Many, {Cancel}, DELETE_FOLDER, BEFORE_EXCLUSION},
+    {"second_all",
+     BEFORE_EXCLUSION,
+     "s",
+     "d",
+     Many,
+     {Yes, All},
+     DELETE_FOLDER "; " DELETE_ALL,
+     "s/ d/k=kept"},
     {"second_no",
      BEFORE_EXCLUSION,
      "s",
      "d",
      Many,
      {Yes, No, Yes},
-     FOLDER_DELETES "; " DELETES "; " DELETES "; Error: Folder not empty",
+     DELETE_FOLDER "; " DELETE_ALL "; " DELETE_ALL "; Error: Folder not empty",
      "s/ d/m/f=1 d/k=kept"},
     {"second_cancel",
      BEFORE_EXCLUSION,
@@ -39,7 +41,7 @@ const OperationRow ExcludeRows[] = {
      "d",
      Many,
      {Yes, Cancel},
-     FOLDER_DELETES "; " DELETES,
+     DELETE_FOLDER "; " DELETE_ALL,
      BEFORE_EXCLUSION},
     {"third_all",
      BEFORE_EXCLUSION,
@@ -47,7 +49,7 @@ const OperationRow ExcludeRows[] = {
      "d",
      Many,
      {Yes, Yes, All},
-     FOLDER_DELETES "; " DELETES "; " DELETES,
+     DELETE_FOLDER "; " DELETE_ALL "; " DELETE_ALL,
      "s/ d/k=kept"},
     {"third_no",
      BEFORE_EXCLUSION,
@@ -55,7 +57,7 @@ const OperationRow ExcludeRows[] = {
      "d",
      Many,
      {Yes, Yes, No},
-     FOLDER_DELETES "; " DELETES "; " DELETES "; Error: Folder not empty",
+     DELETE_FOLDER "; " DELETE_ALL "; " DELETE_ALL "; Error: Folder not empty",
      "s/ d/m/g=2 d/k=kept"},
     {"third_cancel",
      BEFORE_EXCLUSION,
@@ -63,15 +65,15 @@ const OperationRow ExcludeRows[] = {
      "d",
      Many,
      {Yes, Yes, Cancel},
-     FOLDER_DELETES "; " DELETES "; " DELETES,
+     DELETE_FOLDER "; " DELETE_ALL "; " DELETE_ALL,
      "s/ d/m/g=2 d/k=kept"},
 };
 
-#define ALL_DELETES DELETES "; " DELETES "; " DELETES
+#define ALL_DELETES DELETE_ALL "; " DELETE_ALL "; " DELETE_ALL
 
 const OperationRow DeleteRows[] = {
     {"all_yes", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {Yes, Yes, Yes}, ALL_DELETES, "s/"},
-    {"first_all", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {All}, DELETES, "s/"},
+    {"first_all", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {All}, DELETE_ALL, "s/"},
     {"first_no", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {No, Yes, Yes}, ALL_DELETES, "s/a=1"},
     {"first_cancel",
      "s/a=1 s/m/f=2 s/b=3",
@@ -79,16 +81,23 @@ const OperationRow DeleteRows[] = {
      "",
      Many,
      {Cancel},
-     DELETES,
+     DELETE_ALL,
      "s/a=1 s/m/f=2 s/b=3"},
-    {"second_all", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {Yes, All}, DELETES "; " DELETES, "s/"},
+    {"second_all",
+     "s/a=1 s/m/f=2 s/b=3",
+     "s/a s/m s/b",
+     "",
+     Many,
+     {Yes, All},
+     DELETE_ALL "; " DELETE_ALL,
+     "s/"},
     {"second_no",
      "s/a=1 s/m/f=2 s/b=3",
      "s/a s/m s/b",
      "",
      Many,
      {Yes, No},
-     DELETES "; " DELETES "; Error: Folder not empty",
+     DELETE_ALL "; " DELETE_ALL "; Error: Folder not empty",
      "s/m/f=2 s/b=3"},
     {"second_cancel",
      "s/a=1 s/m/f=2 s/b=3",
@@ -96,7 +105,7 @@ const OperationRow DeleteRows[] = {
      "",
      Many,
      {Yes, Cancel},
-     DELETES "; " DELETES,
+     DELETE_ALL "; " DELETE_ALL,
      "s/m/f=2 s/b=3"},
     {"third_all", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {Yes, Yes, All}, ALL_DELETES, "s/"},
     {"third_no", "s/a=1 s/m/f=2 s/b=3", "s/a s/m s/b", "", Many, {Yes, Yes, No}, ALL_DELETES, "s/b=3"},

@@ -4,14 +4,6 @@
 
 namespace {
 
-#define DELETE_ALL "Confirm File Delete/4"
-#define DELETE_ONE "Confirm File Delete/2"
-#define DELETE_FOLDER "Confirm Folder Delete/4"
-
-constexpr Asks Never = Asks::Never;
-constexpr Asks One = Asks::OnePerFile;
-constexpr Asks Many = Asks::WithYesToAll;
-
 // A second source shows whether the run went on.
 const OperationRow ExcludeRows[] = {
     {"folder_without_counterpart_yes",

@@ -2,14 +2,6 @@
 
 namespace {
 
-#define FILE_ALL "Confirm File Replace/4"
-#define FILE_ONE "Confirm File Replace/2"
-#define FOLDER "Confirm Folder Replace/4"
-
-constexpr Asks Never = Asks::Never;
-constexpr Asks One = Asks::OnePerFile;
-constexpr Asks Many = Asks::WithYesToAll;
-
 // The source s/z comes last and shows whether the run went on.
 const OperationRow MoveRows[] = {
     {"file_into_a_folder", "s/a=new s/z=Z d/", "s/a s/z", "d", Many, {}, "", "s/ d/a=new d/z=Z"},

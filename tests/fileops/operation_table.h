@@ -10,6 +10,18 @@
 // When the engine asks.
 enum class Asks { Never, OnePerFile, WithYesToAll };
 
+constexpr Asks Never = Asks::Never;
+constexpr Asks One = Asks::OnePerFile;
+constexpr Asks Many = Asks::WithYesToAll;
+
+// The questions by their titles and the number of their answers; literals, for rows to join.
+#define FILE_ALL "Confirm File Replace/4"
+#define FILE_ONE "Confirm File Replace/2"
+#define FOLDER "Confirm Folder Replace/4"
+#define DELETE_ALL "Confirm File Delete/4"
+#define DELETE_ONE "Confirm File Delete/2"
+#define DELETE_FOLDER "Confirm Folder Delete/4"
+
 constexpr int Yes = IDYES;
 constexpr int All = 20;
 constexpr int No = IDNO;

@@ -2,13 +2,6 @@
 
 namespace {
 
-#define FILE_ALL "Confirm File Replace/4"
-#define FILE_ONE "Confirm File Replace/2"
-
-constexpr Asks Never = Asks::Never;
-constexpr Asks One = Asks::OnePerFile;
-constexpr Asks Many = Asks::WithYesToAll;
-
 // The source s/z comes last and shows whether the run went on.
 const OperationRow UpdateRows[] = {
     {"newer_file_yes",
