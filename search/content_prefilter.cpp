@@ -99,11 +99,11 @@ class Window {
         constexpr std::size_t Together = 4 * Width;
         const std::size_t reach = Together + lastIndex;
         for (; static_cast<std::size_t>(stop - at) >= reach; at += Together) {
-            const Bytes16 worths[] = {Worth<folding>(at), Worth<folding>(at + Width),
-                                      Worth<folding>(at + 2 * Width), Worth<folding>(at + 3 * Width)};
-            if (!AnySet(worths[0] | worths[1] | worths[2] | worths[3])) continue;
+            Bytes16 worth = Worth<folding>(at);
+            for (std::size_t i = Width; i < Together; i += Width)
+                worth |= Worth<folding>(at + i);
+            if (!AnySet(worth)) continue;
             for (std::size_t i = 0; i < Together; ++i) {
-                if (worths[i / Width][i % Width] == 0) continue;
                 const Place place = ExamineOne(at + i);
                 if (place != Place::Nothing) return place;
             }
@@ -119,7 +119,8 @@ class Window {
         const Bytes16 next = Load(at + 1);
         Bytes16 worth = first.EqualTo<folding>(here) & second.EqualTo<folding>(next) &
                         last.EqualTo<folding>(Load(at + lastIndex));
-        worth |= reinterpret_cast<Bytes16>((here == CarriageReturn) & (next != LineFeed));
+        // A byte that is no line feed differs from one in some bit.
+        worth |= reinterpret_cast<Bytes16>(here == CarriageReturn) & (next ^ LineFeed);
         if constexpr (folding) {
             worth |= reinterpret_cast<Bytes16>((here == LineFeed) &
                                                ((next == LineFeed) | (next == CarriageReturn)));
