@@ -80,14 +80,19 @@ bool CompareStart(int runs) {
     const std::wstring program = folder + L"\\..\\quorinsearch.exe";
     StartedProgram ours(program, MainWindowClass);
     StartedProgram bare(folder + L"\\quorin_bare_window.exe", L"QuorinBareWindow");
-    MeasureAndPrint(
-        {"start / start of a bare window with a list", [&] { ours.Start(); }, [&] { bare.Start(); },
-         [&] {
-             ours.End();
-             bare.End();
-         }},
-        runs);
-    if (!ours.Failed() && !bare.Failed() && PrintSize(program)) return true;
+    StartedProgram same(folder + L"\\quorin_same_windows.exe", L"QuorinSameWindows");
+    const auto compare = [runs](const char* name, StartedProgram& one, StartedProgram& other) {
+        MeasureAndPrint({name, [&] { one.Start(); }, [&] { other.Start(); },
+                         [&] {
+                             one.End();
+                             other.End();
+                         }},
+                        runs);
+    };
+    compare("start / start of a bare window with a list", ours, bare);
+    compare("start / start of the same windows alone", ours, same);
+    compare("the same windows alone / the bare window", same, bare);
+    if (!ours.Failed() && !bare.Failed() && !same.Failed() && PrintSize(program)) return true;
     std::printf("a program did not start or end as it should\n");
     return false;
 }

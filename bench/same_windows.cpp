@@ -1,0 +1,115 @@
+// The windows of the program's first picture, made by the shortest calls that make them, with nothing behind
+// them: what a start costs above the bare window whoever makes it.
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr int TabHeight = 126;
+constexpr int BarHeight = 26;
+constexpr int ColumnWidths[] = {100, 140, 40, 74, 104};
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DESTROY) PostQuitMessage(0);
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+INT_PTR CALLBACK DialogProcedure(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
+HWND MakeFrame(HINSTANCE instance) {
+    WNDCLASSW windowClass = {};
+    windowClass.lpfnWndProc = Procedure;
+    windowClass.hInstance = instance;
+    windowClass.lpszClassName = L"QuorinSameWindows";
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    RegisterClassW(&windowClass);
+    const HWND window = CreateWindowExW(
+        0, windowClass.lpszClassName, L"Same", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 0, 0,
+        GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr, nullptr, instance, nullptr);
+    SendMessageW(window, WM_SETICON, ICON_SMALL,
+                 reinterpret_cast<LPARAM>(LoadImageW(instance, MAKEINTRESOURCEW(ICON_PROGRAM), IMAGE_ICON, 16,
+                                                     16, LR_DEFAULTCOLOR)));
+    return window;
+}
+
+HWND MakeControl(HWND parent, const wchar_t* className, DWORD style, const RECT& place) {
+    const HWND control = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, place.left,
+                                         place.top, place.right - place.left, place.bottom - place.top,
+                                         parent, nullptr, nullptr, nullptr);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    return control;
+}
+
+// The three menus and the two pictures.
+void AddBar(HWND window, const RECT& place) {
+    const HWND bar = MakeControl(window, TOOLBARCLASSNAMEW,
+                                 TBSTYLE_FLAT | TBSTYLE_LIST | CCS_NODIVIDER | CCS_NORESIZE, place);
+    SendMessageW(bar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    const TBADDBITMAP pictures = {HINST_COMMCTRL, IDB_STD_SMALL_COLOR};
+    SendMessageW(bar, TB_ADDBITMAP, 15, reinterpret_cast<LPARAM>(&pictures));
+    TBBUTTON buttons[5] = {};
+    const wchar_t* const captions[] = {L"File", L"View", L"Option"};
+    for (int i = 0; i < 5; ++i) {
+        buttons[i].fsState = TBSTATE_ENABLED;
+        buttons[i].fsStyle = BTNS_AUTOSIZE;
+        buttons[i].idCommand = i + 1;
+        buttons[i].iBitmap = i < 3 ? I_IMAGENONE : STD_FIND;
+        buttons[i].iString = i < 3 ? reinterpret_cast<INT_PTR>(captions[i]) : 0;
+    }
+    SendMessageW(bar, TB_ADDBUTTONSW, 5, reinterpret_cast<LPARAM>(buttons));
+}
+
+void AddTabs(HWND window, HINSTANCE instance, const RECT& place) {
+    const HWND tabs = MakeControl(window, WC_TABCONTROLW, 0, place);
+    for (int i = 0; i < 3; ++i) {
+        TCITEMW item = {};
+        item.mask = TCIF_TEXT;
+        item.pszText = const_cast<wchar_t*>(L"Page");
+        SendMessageW(tabs, TCM_INSERTITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+    }
+    RECT area = place;
+    SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+    const HWND page = CreateDialogParamW(instance, L"NAME_E", tabs, DialogProcedure, 0);
+    SetWindowPos(page, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
+                 SWP_NOZORDER | SWP_SHOWWINDOW);
+    SetFocus(tabs);
+}
+
+void AddList(HWND window, const RECT& place) {
+    const HWND list = MakeControl(window, WC_LISTVIEWW, LVS_REPORT, place);
+    for (int i = 0; i < 5; ++i) {
+        LVCOLUMNW column = {};
+        column.mask = LVCF_WIDTH | LVCF_TEXT;
+        column.cx = ColumnWidths[i];
+        column.pszText = const_cast<wchar_t*>(L"Column");
+        SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
+    const INITCOMMONCONTROLSEX classes = {sizeof(classes),
+                                          ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
+    InitCommonControlsEx(&classes);
+    const HWND window = MakeFrame(instance);
+    RECT area;
+    GetClientRect(window, &area);
+    AddBar(window, {0, area.bottom - BarHeight, area.right, area.bottom});
+    AddTabs(window, instance, {0, 0, area.right, TabHeight});
+    AddList(window, {0, TabHeight, area.right, area.bottom - BarHeight});
+    ShowWindow(window, SW_SHOW);
+    UpdateWindow(window);
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return 0;
+}
