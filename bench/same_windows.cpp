@@ -1,48 +1,33 @@
 // The windows of the program's first picture, made by the shortest calls that make them, with nothing behind
 // them: what a start costs above the bare window whoever makes it.
 
-#include <windows.h>
-
-#include <commctrl.h>
-
+#include "bench/plain_frame.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
 constexpr int TabHeight = 126;
 constexpr int BarHeight = 26;
-constexpr int ColumnWidths[] = {100, 140, 40, 74, 104};
-
-LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY) PostQuitMessage(0);
-    return DefWindowProcW(window, message, wParam, lParam);
-}
 
 INT_PTR CALLBACK DialogProcedure(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-HWND MakeFrame(HINSTANCE instance) {
-    WNDCLASSW windowClass = {};
-    windowClass.lpfnWndProc = Procedure;
-    windowClass.hInstance = instance;
-    windowClass.lpszClassName = L"QuorinSameWindows";
-    windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    RegisterClassW(&windowClass);
-    const HWND window = CreateWindowExW(
-        0, windowClass.lpszClassName, L"Same", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 0, 0,
-        GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), nullptr, nullptr, instance, nullptr);
-    SendMessageW(window, WM_SETICON, ICON_SMALL,
-                 reinterpret_cast<LPARAM>(LoadImageW(instance, MAKEINTRESOURCEW(ICON_PROGRAM), IMAGE_ICON, 16,
-                                                     16, LR_DEFAULTCOLOR)));
-    return window;
+void SetSmallIcon(HWND window, HINSTANCE instance) {
+    const HANDLE icon =
+        LoadImageW(instance, MAKEINTRESOURCEW(ICON_PROGRAM), IMAGE_ICON, 16, 16, LR_DEFAULTCOLOR);
+    SendMessageW(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+}
+
+void SetFont(HWND control) {
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
 }
 
 HWND MakeControl(HWND parent, const wchar_t* className, DWORD style, const RECT& place) {
     const HWND control = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, place.left,
                                          place.top, place.right - place.left, place.bottom - place.top,
                                          parent, nullptr, nullptr, nullptr);
-    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    SetFont(control);
     return control;
 }
 
@@ -81,35 +66,18 @@ void AddTabs(HWND window, HINSTANCE instance, const RECT& place) {
     SetFocus(tabs);
 }
 
-void AddList(HWND window, const RECT& place) {
-    const HWND list = MakeControl(window, WC_LISTVIEWW, LVS_REPORT, place);
-    for (int i = 0; i < 5; ++i) {
-        LVCOLUMNW column = {};
-        column.mask = LVCF_WIDTH | LVCF_TEXT;
-        column.cx = ColumnWidths[i];
-        column.pszText = const_cast<wchar_t*>(L"Column");
-        SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
-    }
-}
-
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
     const INITCOMMONCONTROLSEX classes = {sizeof(classes),
                                           ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    const HWND window = MakeFrame(instance);
+    const HWND window = MakePlainFrame(instance, L"QuorinSameWindows");
+    SetSmallIcon(window, instance);
     RECT area;
     GetClientRect(window, &area);
     AddBar(window, {0, area.bottom - BarHeight, area.right, area.bottom});
     AddTabs(window, instance, {0, 0, area.right, TabHeight});
-    AddList(window, {0, TabHeight, area.right, area.bottom - BarHeight});
-    ShowWindow(window, SW_SHOW);
-    UpdateWindow(window);
-    MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-    return 0;
+    SetFont(AddPlainList(window, TabHeight, area.bottom - BarHeight));
+    return ShowAndRun(window);
 }
