@@ -204,22 +204,9 @@ const OperationRow UpdateRows[] = {
 
 }  // namespace
 
-class CopyAnswers : public OperationTable {};
-class MoveAnswers : public OperationTable {};
-class UpdateAnswers : public OperationTable {};
-
-TEST_P(CopyAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Copy);
-}
-
-TEST_P(MoveAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Move);
-}
-
-TEST_P(UpdateAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Update);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, CopyAnswers, testing::ValuesIn(CopyRows), RowName);
-INSTANTIATE_TEST_SUITE_P(Rows, MoveAnswers, testing::ValuesIn(MoveRows), RowName);
-INSTANTIATE_TEST_SUITE_P(Rows, UpdateAnswers, testing::ValuesIn(UpdateRows), RowName);
+INSTANTIATE_TEST_SUITE_P(CopyAnswers, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Copy, CopyRows)), CaseName);
+INSTANTIATE_TEST_SUITE_P(MoveAnswers, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Move, MoveRows)), CaseName);
+INSTANTIATE_TEST_SUITE_P(UpdateAnswers, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Update, UpdateRows)), CaseName);

@@ -301,10 +301,5 @@ const OperationRow CopyRows[] = {
 
 }  // namespace
 
-class CopyTable : public OperationTable {};
-
-TEST_P(CopyTable, is_kept) {
-    ExpectRow(FileOperationKind::Copy);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, CopyTable, testing::ValuesIn(CopyRows), RowName);
+INSTANTIATE_TEST_SUITE_P(Copy, OperationTable, testing::ValuesIn(CasesOf(FileOperationKind::Copy, CopyRows)),
+                         CaseName);

@@ -121,16 +121,7 @@ const OperationRow DeleteRows[] = {
 
 }  // namespace
 
-class ExcludeAnswers : public OperationTable {};
-class DeleteAnswers : public OperationTable {};
-
-TEST_P(ExcludeAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Exclude);
-}
-
-TEST_P(DeleteAnswers, are_followed) {
-    ExpectRow(FileOperationKind::Delete);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, ExcludeAnswers, testing::ValuesIn(ExcludeRows), RowName);
-INSTANTIATE_TEST_SUITE_P(Rows, DeleteAnswers, testing::ValuesIn(DeleteRows), RowName);
+INSTANTIATE_TEST_SUITE_P(ExcludeAnswers, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Exclude, ExcludeRows)), CaseName);
+INSTANTIATE_TEST_SUITE_P(DeleteAnswers, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Delete, DeleteRows)), CaseName);

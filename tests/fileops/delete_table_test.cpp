@@ -180,16 +180,7 @@ const OperationRow DeleteRows[] = {
 
 }  // namespace
 
-class ExcludeTable : public OperationTable {};
-class DeleteTable : public OperationTable {};
-
-TEST_P(ExcludeTable, is_kept) {
-    ExpectRow(FileOperationKind::Exclude);
-}
-
-TEST_P(DeleteTable, is_kept) {
-    ExpectRow(FileOperationKind::Delete);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, ExcludeTable, testing::ValuesIn(ExcludeRows), RowName);
-INSTANTIATE_TEST_SUITE_P(Rows, DeleteTable, testing::ValuesIn(DeleteRows), RowName);
+INSTANTIATE_TEST_SUITE_P(Exclude, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Exclude, ExcludeRows)), CaseName);
+INSTANTIATE_TEST_SUITE_P(Delete, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Delete, DeleteRows)), CaseName);

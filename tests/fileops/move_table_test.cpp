@@ -286,10 +286,5 @@ const OperationRow MoveRows[] = {
 
 }  // namespace
 
-class MoveTable : public OperationTable {};
-
-TEST_P(MoveTable, is_kept) {
-    ExpectRow(FileOperationKind::Move);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, MoveTable, testing::ValuesIn(MoveRows), RowName);
+INSTANTIATE_TEST_SUITE_P(Move, OperationTable, testing::ValuesIn(CasesOf(FileOperationKind::Move, MoveRows)),
+                         CaseName);

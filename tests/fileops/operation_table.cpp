@@ -13,16 +13,16 @@ std::vector<std::string> Words(const char* line) {
 
 }  // namespace
 
-void PrintTo(const OperationRow& row, std::ostream* out) {
-    *out << row.name;
+void PrintTo(const OperationCase& operationCase, std::ostream* out) {
+    *out << operationCase.row->name;
 }
 
-std::string RowName(const testing::TestParamInfo<OperationRow>& info) {
-    return info.param.name;
+std::string CaseName(const testing::TestParamInfo<OperationCase>& info) {
+    return info.param.row->name;
 }
 
-void OperationTable::ExpectRow(FileOperationKind kind) {
-    const OperationRow& row = GetParam();
+TEST_P(OperationTable, is_kept) {
+    const OperationRow& row = *GetParam().row;
     AddContents(tree, row.before);
     for (const std::string& entry : Words(row.before)) {
         const std::size_t equals = entry.find('=');
@@ -32,7 +32,7 @@ void OperationTable::ExpectRow(FileOperationKind kind) {
     }
     operation.confirm = row.asks != Asks::Never;
     operation.multiple = row.asks == Asks::WithYesToAll;
-    Prepare(kind, Words(row.sources), row.destination);
+    Prepare(GetParam().kind, Words(row.sources), row.destination);
 
     std::vector<int> answers = row.answers;
     answers.push_back(IDOK);

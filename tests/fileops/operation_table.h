@@ -38,11 +38,22 @@ struct OperationRow {
     const char* after;
 };
 
-void PrintTo(const OperationRow& row, std::ostream* out);
-[[nodiscard]] std::string RowName(const testing::TestParamInfo<OperationRow>& info);
-
-class OperationTable : public OperationTest, public testing::WithParamInterface<OperationRow> {
-  protected:
-    // Runs the row and looks at everything that it says.
-    void ExpectRow(FileOperationKind kind);
+// A row, and the operation that it is of.
+struct OperationCase {
+    FileOperationKind kind;
+    const OperationRow* row;
 };
+
+void PrintTo(const OperationCase& operationCase, std::ostream* out);
+[[nodiscard]] std::string CaseName(const testing::TestParamInfo<OperationCase>& info);
+
+template <std::size_t count>
+std::vector<OperationCase> CasesOf(FileOperationKind kind, const OperationRow (&rows)[count]) {
+    std::vector<OperationCase> cases;
+    for (const OperationRow& row : rows)
+        cases.push_back({kind, &row});
+    return cases;
+}
+
+// Its one test runs the row and looks at everything that it says; the tables only give it their rows.
+class OperationTable : public OperationTest, public testing::WithParamInterface<OperationCase> {};

@@ -161,10 +161,5 @@ const OperationRow UpdateRows[] = {
 
 }  // namespace
 
-class UpdateTable : public OperationTable {};
-
-TEST_P(UpdateTable, is_kept) {
-    ExpectRow(FileOperationKind::Update);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, UpdateTable, testing::ValuesIn(UpdateRows), RowName);
+INSTANTIATE_TEST_SUITE_P(Update, OperationTable,
+                         testing::ValuesIn(CasesOf(FileOperationKind::Update, UpdateRows)), CaseName);
