@@ -113,6 +113,13 @@ void ProgramDialog::TurnTo(int page) const {
     Ask(window, PSM_SETCURSEL, static_cast<WPARAM>(page));
 }
 
+HWND ProgramDialog::Focus() const {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof(thread);
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread)) return nullptr;
+    return IsChild(window, thread.hwndFocus) ? thread.hwndFocus : nullptr;
+}
+
 std::optional<ProgramDialog> OpenDialogOf(HWND mainWindow) {
     HWND dialog = nullptr;
     EnumThreadWindows(GetWindowThreadProcessId(mainWindow, nullptr), TakeOpenDialog,
@@ -127,5 +134,7 @@ ProgramDialog WaitForDialog(HWND mainWindow) {
         dialog = OpenDialogOf(mainWindow);
         return dialog.has_value();
     });
+    constexpr DWORD LongestOpening = 1000;
+    static_cast<void>(HoldsWithin(LongestOpening, [&] { return dialog->Focus() != nullptr; }));
     return *dialog;
 }

@@ -21,6 +21,8 @@ class ProgramDialog {
     [[nodiscard]] HWND Control(int id) const;
     [[nodiscard]] RECT Place() const;
     [[nodiscard]] bool IsChecked(int id) const;
+    // Its control that has the focus; null while none has.
+    [[nodiscard]] HWND Focus() const;
     // A click's message to the control; Press returns when the dialog is gone.
     void Click(int id) const;
     void Press(int id) const;
@@ -34,7 +36,8 @@ class ProgramDialog {
     HWND window;
 };
 
-// The program's dialog that takes input now, waited for; throws DriverError when none comes.
+// The program's dialog that takes input now, waited for until the focus is in it where it takes that; throws
+// DriverError when none comes.
 ProgramDialog WaitForDialog(HWND mainWindow);
 // The same, without waiting.
 std::optional<ProgramDialog> OpenDialogOf(HWND mainWindow);

@@ -28,6 +28,16 @@ class RowProperties : public ResultsTest {
             if (GetDlgItem(page, id) != nullptr && IsWindowVisible(page)) return true;
         return false;
     }
+    // Whether the key with Alt takes the focus to the control. A busy system loses a key now and then while a
+    // page is being turned, so it is pressed again as a user would.
+    [[nodiscard]] static bool ReachesByKey(WORD key, const ProgramDialog& sheet, int id) {
+        constexpr int MostPresses = 5;
+        for (int press = 0; press < MostPresses; ++press) {
+            PressKey(key, {VK_MENU});
+            if (HoldsWithin(1000, [&] { return sheet.Focus() == sheet.Control(id); })) return true;
+        }
+        return false;
+    }
     [[nodiscard]] bool Has(DWORD attribute) const {
         return (GetFileAttributesW(Real(L"a.qsa").c_str()) & attribute) != 0;
     }
@@ -131,7 +141,7 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches
     PressKey(VK_RIGHT);
     ASSERT_TRUE(HoldsWithin(5000, [&] { return ShowsPageWith(sheet, EDIT_TARGET); }));
     EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
-    PressKey('T', {VK_MENU});
+    ASSERT_TRUE(ReachesByKey('T', sheet, EDIT_TARGET));
     PressKey(VK_END);
     PressKey(VK_BACK);
     EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.Text(EDIT_TARGET) == Path(L"a.qs"); }));

@@ -22,6 +22,16 @@ void SendInputs(std::vector<INPUT>& inputs) {
     if (SendInput(count, inputs.data(), sizeof(INPUT)) != count) throw DriverError("the keys were not taken");
 }
 
+// A key that comes while no window has the focus, as in the middle of turning a sheet's page, is lost.
+void WaitForFocus() {
+    constexpr DWORD LongestTurning = 2000;
+    static_cast<void>(HoldsWithin(LongestTurning, [] {
+        GUITHREADINFO foreground = {};
+        foreground.cbSize = sizeof(foreground);
+        return GetGUIThreadInfo(0, &foreground) && foreground.hwndFocus != nullptr;
+    }));
+}
+
 INPUT Mouse(DWORD flags, POINT point) {
     INPUT input = {};
     input.type = INPUT_MOUSE;
@@ -67,6 +77,7 @@ void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
 }  // namespace
 
 void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
+    WaitForFocus();
     std::vector<INPUT> inputs;
     for (const WORD modifier : modifiers)
         inputs.push_back(Key(modifier, 0, 0));
@@ -78,6 +89,7 @@ void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
 }
 
 void TypeText(const std::wstring& text) {
+    WaitForFocus();
     std::vector<INPUT> inputs;
     for (const wchar_t unit : text) {
         inputs.push_back(Key(0, unit, KEYEVENTF_UNICODE));
