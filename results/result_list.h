@@ -68,7 +68,7 @@ class ResultList : public ListView, public MatchSink {
     // The column of the last sort, by its number; a negative one would mean the order of finding.
     int sortColumn = 0;
     bool sortAscending = true;
-    std::unique_ptr<FileIconCache> iconCache;  // null before the first row, or without memory for it
+    std::unique_ptr<FileIconCache> iconCache;  // null before LoadIcons, or without memory for it
     TypeNames typeNames;
     std::unique_ptr<ResultHeading> heading;
     std::unique_ptr<NameEdit> nameEdit;  // of the last editing; null before the first
