@@ -6,16 +6,36 @@ namespace ce {
 
 namespace {
 
-constexpr UINT_PTR WatchId = 1;
-// On a watched top-level window: its MenuDropDowns.
-constexpr wchar_t WatcherProperty[] = L"QuorinMenuBar";
 constexpr LPARAM AltIsDown = 1L << 29;
+constexpr LPARAM WasDownBefore = 1L << 30;
 
-// Hook procedures are given no word of their own, so what they serve stands here: the one open menu of the
-// thread, and the hook that all bars with drop-downs share.
+// Hook and window procedures are given no word of their own, so what they serve is kept here: the one open
+// menu of the thread, the bars whose parents are watched, and the hook that these share.
 MenuDropDowns* openMenus = nullptr;
+MenuDropDowns* firstWatcher = nullptr;
 HHOOK keyHook = nullptr;
-int keyHookUsers = 0;
+// Whether another key or a click came while Alt was held: letting go of Alt then asks for no menu. The system
+// knows that of keys which reach its default processing, and some never do.
+bool altWasUsed = false;
+
+void NoteUseOfAlt(const MSG& message) {
+    switch (message.message) {
+        case WM_SYSKEYDOWN:
+        case WM_KEYDOWN:
+            if (message.wParam != VK_MENU)
+                altWasUsed = (message.lParam & AltIsDown) != 0;
+            else if ((message.lParam & WasDownBefore) == 0)
+                altWasUsed = false;
+            break;
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+            altWasUsed = GetKeyState(VK_MENU) < 0;
+            break;
+        default:
+            break;
+    }
+}
 
 bool HasNestedMenu(HMENU menu) {
     const int items = GetMenuItemCount(menu);
@@ -37,15 +57,19 @@ void MenuDropDowns::Add(WORD command, int position) {
     dropDowns[count++] = DropDown{command, position, subMenu};
 }
 
+// The parent's window procedure is replaced for good, and by the plain means: the system's own chain of
+// subclasses would look the chain up anew for every message of the parent, a list's thousands among them.
 void MenuDropDowns::Attach(HWND barWindow, HWND toolBarWindow, HWND parentWindow) {
     bar = barWindow;
     toolBar = toolBarWindow;
     parent = parentWindow;
-    if (count == 0 || GetAncestor(parent, GA_ROOT) != parent) return;
-    watching = SetWindowSubclass(parent, WatchParent, WatchId, reinterpret_cast<DWORD_PTR>(this)) != FALSE;
-    if (!watching) return;
-    SetPropW(parent, WatcherProperty, this);
-    if (keyHookUsers++ == 0) {
+    if (count == 0 || GetAncestor(parent, GA_ROOT) != parent || WatcherOf(parent) != nullptr) return;
+    parentProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WatchParent)));
+    if (parentProcedure == nullptr) return;
+    nextWatcher = firstWatcher;
+    firstWatcher = this;
+    if (keyHook == nullptr) {
         keyHook = SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId());
     }
 }
@@ -55,14 +79,26 @@ void MenuDropDowns::Detach() {
         EndMenu();
         openMenus = nullptr;
     }
-    if (!watching) return;
-    watching = false;
-    RemoveWindowSubclass(parent, WatchParent, WatchId);
-    RemovePropW(parent, WatcherProperty);
-    if (--keyHookUsers == 0 && keyHook != nullptr) {
+    if (parentProcedure == nullptr) return;
+    // Whoever has replaced the procedure since goes on calling this one, which then has no watcher to ask.
+    if (GetWindowLongPtrW(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&WatchParent))
+        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(parentProcedure));
+    parentProcedure = nullptr;
+    MenuDropDowns** link = &firstWatcher;
+    while (*link != nullptr && *link != this)
+        link = &(*link)->nextWatcher;
+    if (*link != nullptr) *link = nextWatcher;
+    if (firstWatcher == nullptr && keyHook != nullptr) {
         UnhookWindowsHookEx(keyHook);
         keyHook = nullptr;
     }
+}
+
+MenuDropDowns* MenuDropDowns::WatcherOf(HWND window) {
+    MenuDropDowns* watcher = firstWatcher;
+    while (watcher != nullptr && watcher->parent != window)
+        watcher = watcher->nextWatcher;
+    return watcher;
 }
 
 HMENU MenuDropDowns::MenuOfCommand(WORD command) const {
@@ -106,6 +142,7 @@ void MenuDropDowns::Run(int first, bool byKeyboard) {
     const HWND window = bar;
     HHOOK menuHook = SetWindowsHookExW(WH_MSGFILTER, WatchOpenMenu, nullptr, GetCurrentThreadId());
     openMenus = this;
+    GetCursorPos(&pointer);
     GoOnTo(first, byKeyboard);
     while (openMenus == this && next >= 0) {
         open = next;
@@ -152,6 +189,9 @@ bool MenuDropDowns::TakeMenuMessage(const MSG& message) {
             GoOnTo(-1, false);
             return true;
         case WM_MOUSEMOVE: {
+            // The system tells of a pointer that has not moved whenever a window opens or closes under it.
+            if (message.pt.x == pointer.x && message.pt.y == pointer.y) return false;
+            pointer = message.pt;
             const int hit = DropDownAt(message.pt);
             if (hit < 0 || hit == open) return false;
             GoOnTo(hit, false);
@@ -187,24 +227,28 @@ int MenuDropDowns::DropDownAt(POINT onScreen) const {
     return -1;
 }
 
-LRESULT CALLBACK MenuDropDowns::WatchParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                            DWORD_PTR object) {
+LRESULT CALLBACK MenuDropDowns::WatchParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    MenuDropDowns* const watcher = WatcherOf(window);
+    if (watcher == nullptr) return DefWindowProcW(window, message, wParam, lParam);
     if (message == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_KEYMENU && lParam != VK_SPACE) {
-        if (reinterpret_cast<MenuDropDowns*>(object)->RequestByKey(static_cast<wchar_t>(lParam))) return 0;
+        if (lParam == 0 && altWasUsed) return 0;
+        if (watcher->RequestByKey(static_cast<wchar_t>(lParam))) return 0;
     }
-    return DefSubclassProc(window, message, wParam, lParam);
+    return CallWindowProcW(watcher->parentProcedure, window, message, wParam, lParam);
 }
 
 // Alt with a letter goes to the window that has the focus, and a control keeps it to itself instead of
 // passing it on to the top-level window.
 LRESULT CALLBACK MenuDropDowns::WatchKeys(int code, WPARAM removed, LPARAM lParam) {
     auto* message = reinterpret_cast<MSG*>(lParam);
-    if (code == HC_ACTION && removed == PM_REMOVE && message->message == WM_SYSCHAR &&
-        (message->lParam & AltIsDown) != 0 && message->wParam > VK_SPACE) {
-        auto* watcher =
-            static_cast<MenuDropDowns*>(GetPropW(GetAncestor(message->hwnd, GA_ROOT), WatcherProperty));
-        if (watcher != nullptr && watcher->RequestByKey(static_cast<wchar_t>(message->wParam))) {
-            message->message = WM_NULL;
+    if (code == HC_ACTION && removed == PM_REMOVE) {
+        NoteUseOfAlt(*message);
+        if (message->message == WM_SYSCHAR && (message->lParam & AltIsDown) != 0 &&
+            message->wParam > VK_SPACE) {
+            MenuDropDowns* const watcher = WatcherOf(GetAncestor(message->hwnd, GA_ROOT));
+            if (watcher != nullptr && watcher->RequestByKey(static_cast<wchar_t>(message->wParam))) {
+                message->message = WM_NULL;
+            }
         }
     }
     return CallNextHookEx(nullptr, code, removed, lParam);

@@ -44,10 +44,12 @@ class MenuDropDowns {
         HMENU menu;
     };
 
-    static LRESULT CALLBACK WatchParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                        DWORD_PTR object);
+    static LRESULT CALLBACK WatchParent(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK WatchKeys(int code, WPARAM removed, LPARAM lParam);
     static LRESULT CALLBACK WatchOpenMenu(int code, WPARAM wParam, LPARAM lParam);
+
+    // The one that watches this top-level window, or null.
+    static MenuDropDowns* WatcherOf(HWND window);
 
     void TrackOpenOne();
     bool TakeMenuMessage(const MSG& message);
@@ -62,11 +64,14 @@ class MenuDropDowns {
     HMENU menu = nullptr;
     DropDown dropDowns[MaxMenuBarButtons]{};
     int count = 0;
-    bool watching = false;
+    // The parent's own, while it is watched; null otherwise.
+    WNDPROC parentProcedure = nullptr;
+    MenuDropDowns* nextWatcher = nullptr;
     // While one is open: which, which comes after it (-1: none), and whether its first item is to be marked.
     int open = -1;
     int next = -1;
     bool openedByKeyboard = false;
+    POINT pointer{};  // on the screen, where it was last seen
 };
 
 // To a bar: open drop-down number wParam; lParam is 1 when the keyboard asked.
