@@ -3,11 +3,7 @@
 #include "resources/resource_ids.h"
 
 UINT CaseOptionState(HMENU menu) {
-    MENUITEMINFOW item{};
-    item.cbSize = sizeof item;
-    item.fMask = MIIM_STATE;
-    GetMenuItemInfoW(menu, COMMAND_CHECK_CASE, FALSE, &item);
-    return item.fState;
+    return ce::MenuItemState(menu, COMMAND_CHECK_CASE);
 }
 
 void ToggleCaseOption(HMENU menu) {

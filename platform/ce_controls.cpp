@@ -59,6 +59,14 @@ DWORD ce::SpinPosition(HWND spin) {
     return LOWORD(answer) | NoNumber;
 }
 
+UINT ce::MenuItemState(HMENU menu, UINT command) {
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_STATE;
+    GetMenuItemInfoW(menu, command, FALSE, &item);
+    return item.fState & ~static_cast<UINT>(MFS_HILITE);
+}
+
 int ce::FindComboEntry(HWND combo, int start, const wchar_t* text) {
     const auto count = static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0));
     const auto textLength = static_cast<int>(std::wcslen(text));

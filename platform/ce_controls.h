@@ -11,6 +11,11 @@ namespace ce {
 // word. The desktop counts an empty text as 0 and refuses what lies outside the range.
 [[nodiscard]] DWORD SpinPosition(HWND spin);
 
+// GetMenuItemInfoW by command for the state word; 0 without a menu or such an item. The desktop leaves the
+// mark of the item that was highlighted last (MFS_HILITE) in the word after the menu has closed; it is
+// dropped here.
+[[nodiscard]] UINT MenuItemState(HMENU menu, UINT command);
+
 // CB_FINDSTRING: the first entry after `start`, and round again up to `start` itself, that begins with the
 // text, without regard to case; CB_ERR for none. Every entry begins with an empty text. The desktop finds
 // nothing for an empty text and overlooks a "[" before an entry.

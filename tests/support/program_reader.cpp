@@ -133,6 +133,7 @@ std::vector<MenuItemState> ProgramDriver::Menu() {
         item.state = fields.Unsigned();
         item.type = fields.Unsigned();
         item.text = fields.Text();
+        item.rectangle = fields.Rectangle();
         items.push_back(item);
     }
     return items;

@@ -39,6 +39,7 @@ struct MenuItemState {
     UINT state = 0;
     UINT type = 0;
     std::wstring text;
+    RECT rectangle = {};  // on the screen, while its menu is open; empty otherwise
 
     [[nodiscard]] bool Grayed() const { return (state & MFS_GRAYED) != 0; }
     [[nodiscard]] bool Checked() const { return (state & MFS_CHECKED) != 0; }

@@ -53,13 +53,54 @@ bool MouseIsAt(POINT point) {
     return now.x == point.x && now.y == point.y;
 }
 
-void MoveTo(POINT point) {
+}  // namespace
+
+void MovePointerTo(POINT point) {
     WaitUntil("the mouse to stay where it was moved", [&] {
         SendOne(Mouse(MOUSEEVENTF_MOVE, point));
         Sleep(MousePause);
         return MouseIsAt(point);
     });
 }
+
+void RestPointerAt(POINT point, DWORD milliseconds) {
+    MovePointerTo(point);
+    Sleep(milliseconds);
+}
+
+void DragPointer(POINT from, POINT to) {
+    constexpr int Steps = 8;
+    MovePointerTo(from);
+    SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, from));
+    for (int step = 1; step <= Steps; ++step) {
+        Sleep(MousePause);
+        const POINT place = {from.x + (to.x - from.x) * step / Steps,
+                             from.y + (to.y - from.y) * step / Steps};
+        SendOne(Mouse(MOUSEEVENTF_MOVE, place));
+    }
+    Sleep(MousePause);
+    SendOne(Mouse(MOUSEEVENTF_LEFTUP, to));
+}
+
+void HoldKey(WORD key) {
+    WaitForFocus();
+    SendOne(Key(key, 0, 0));
+}
+
+void ReleaseKey(WORD key) {
+    SendOne(Key(key, 0, KEYEVENTF_KEYUP));
+}
+
+void RepeatKey(WORD key, int times) {
+    WaitForFocus();
+    std::vector<INPUT> inputs;
+    for (int time = 0; time < times; ++time)
+        inputs.push_back(Key(key, 0, 0));
+    inputs.push_back(Key(key, 0, KEYEVENTF_KEYUP));
+    SendInputs(inputs);
+}
+
+namespace {
 
 void Click(POINT point) {
     SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, point));
@@ -99,13 +140,13 @@ void TypeText(const std::wstring& text) {
 }
 
 void ClickAt(POINT point) {
-    MoveTo(point);
+    MovePointerTo(point);
     Click(point);
 }
 
 void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers) {
     // Wine reads the real keyboard whenever the mouse comes into a window, and finds the keys let go of.
-    MoveTo(point);
+    MovePointerTo(point);
     if (modifiers.size() > 0) Sleep(4 * MousePause);
     HoldKeys(modifiers, 0);
     Click(point);

@@ -11,11 +11,25 @@
 // Presses and releases the key while the modifiers (VK_SHIFT, VK_CONTROL, VK_MENU) are held down.
 void PressKey(WORD key, std::initializer_list<WORD> modifiers = {});
 
+// The key stays down until it is released.
+void HoldKey(WORD key);
+void ReleaseKey(WORD key);
+
+// The key goes down so many times, as the keyboard repeats one that is held, and up once.
+void RepeatKey(WORD key, int times);
+
 // Types the text as characters.
 void TypeText(const std::wstring& text);
 
-// Moves the mouse to a point of the screen and clicks the left button there, once the mouse stays there: a
-// window that has only just come up still gets the system's own news of where the mouse is.
+// Moves the mouse to a point of the screen and waits until it stays there: a window that has only just come
+// up still gets the system's own news of where the mouse is.
+void MovePointerTo(POINT point);
+// The same, and leaves it there for a while.
+void RestPointerAt(POINT point, DWORD milliseconds);
+// Presses the left button at one point, moves to the other in a few steps and lets go there.
+void DragPointer(POINT from, POINT to);
+
+// Moves the mouse to the point and clicks the left button there.
 void ClickAt(POINT point);
 
 // Two clicks in short order while the modifiers are held down.

@@ -21,7 +21,11 @@ void AnswerMenuItems(AnswerWriter& writer, HMENU menu, int depth) {
         item.cch = TextCapacity;
         GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
         const long long id = item.hSubMenu != nullptr ? 0 : static_cast<long long>(item.wID);
-        writer.Number(depth).Number(id).Number(item.fState).Number(item.fType).Text(text).End();
+        writer.Number(depth).Number(id).Number(item.fState).Number(item.fType).Text(text);
+        // Only an open menu has places for its items.
+        RECT rectangle = {};
+        GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &rectangle);
+        writer.Rectangle(rectangle).End();
         if (item.hSubMenu != nullptr) AnswerMenuItems(writer, item.hSubMenu, depth + 1);
     }
 }

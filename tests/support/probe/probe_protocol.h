@@ -25,7 +25,8 @@ enum class Question : DWORD {
     Rows,        // numbers: first, count -> a record a row: five cells, parameter, state, image,
                  // the name's screen rectangle
     Columns,     // a record a column: heading, width, format, screen rectangle
-    Menu,        // a record an item, popups before their items: depth, id, state, type, text
+    Menu,        // a record an item, popups before their items: depth, id, state, type, text,
+                 // screen rectangle while the menu is open
     Bar,         // a record a button: command, image, state, style, text, screen rectangle
     Tabs,        // a record a tab: caption, current?, screen rectangle
     Control,     // numbers: page, id -> one record (ControlState)

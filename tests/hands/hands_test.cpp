@@ -1,0 +1,104 @@
+#include "tests/hands/hands_test.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr int DropDownCommands[] = {100, 200, 300};
+
+HWND ToolBarOf(HWND window) {
+    const HWND bar = FindWindowExW(window, nullptr, L"QuorinMenuBar", nullptr);
+    return FindWindowExW(bar, nullptr, TOOLBARCLASSNAMEW, nullptr);
+}
+
+void WaitForMenu() {
+    WaitUntil("the menu to open", [] { return FindWindowW(L"#32768", nullptr) != nullptr; });
+}
+
+}  // namespace
+
+void HandsTest::OpenMenuByPointer(MenuIndex menu) {
+    ClickAt(PlaceOfBarButton(DropDownCommands[menu]));
+    WaitForMenu();
+}
+
+void HandsTest::OpenMenuByKeys(MenuIndex menu) {
+    PressKey(VK_F10);
+    WaitForMenu();
+    for (int step = 0; step < menu; ++step) {
+        PressKey(VK_RIGHT);
+        const UINT first = menu == FileMenu ? COMMAND_OPEN
+                           : step == 0      ? COMMAND_LARGE_ICON
+                                            : COMMAND_CHECK_CASE;
+        WaitUntil("the next menu", [&] {
+            const RECT place = Program().MenuItem(first).rectangle;
+            return !IsRectEmpty(&place);
+        });
+    }
+    Program().WaitForQueue();
+}
+
+void HandsTest::ClickMenuItem(UINT command) {
+    RECT place = {};
+    WaitUntil("the menu's item", [&] {
+        const RECT rectangle = Program().MenuItem(command).rectangle;
+        place = rectangle;
+        return !IsRectEmpty(&rectangle);
+    });
+    ClickAt(CentreOf(place));
+    WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
+}
+
+void HandsTest::TakeMenuItemByKeys(UINT command) {
+    constexpr int MostItems = 20;
+    for (int step = 0; step < MostItems; ++step) {
+        if ((Program().MenuItem(command).state & MFS_HILITE) != 0) {
+            PressKey(VK_RETURN);
+            WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
+            return;
+        }
+        PressKey(VK_DOWN);
+        Sleep(50);
+    }
+    throw DriverError("the keys do not reach the menu's item");
+}
+
+void HandsTest::CloseMenus() {
+    WaitUntil("the menus to close", [] {
+        if (!IsMenuOpen()) return true;
+        PressKey(VK_ESCAPE);
+        Sleep(50);
+        return !IsMenuOpen();
+    });
+}
+
+POINT HandsTest::PlaceOfBarButton(int command) {
+    for (const ButtonState& button : Program().Bar()) {
+        if (button.command == command) return CentreOf(button.rectangle);
+    }
+    throw DriverError("the bar has no such button");
+}
+
+void HandsTest::ClickBarButton(int command) {
+    ClickAt(PlaceOfBarButton(command));
+}
+
+// The buttons stand in the order Cancel, OK, from the left. A tool bar of another process gives no
+// rectangles, but its size of buttons.
+POINT HandsTest::PlaceOfDialogButton(HWND dialog, int command) {
+    const HWND toolBar = ToolBarOf(dialog);
+    if (toolBar == nullptr) throw DriverError("the dialog has no bar");
+    const LRESULT size = SendMessageW(toolBar, TB_GETBUTTONSIZE, 0, 0);
+    const LRESULT index = SendMessageW(toolBar, TB_COMMANDTOINDEX, static_cast<WPARAM>(command), 0);
+    if (index < 0) throw DriverError("the dialog's bar has no such button");
+    const LONG width = LOWORD(size);
+    POINT place = {static_cast<LONG>(index) * width + width / 2, HIWORD(size) / 2};
+    ClientToScreen(toolBar, &place);
+    return place;
+}
+
+HWND HandsTest::FocusWindow() {
+    GUITHREADINFO foreground = {};
+    foreground.cbSize = sizeof(foreground);
+    return GetGUIThreadInfo(0, &foreground) ? foreground.hwndFocus : nullptr;
+}
