@@ -1,5 +1,7 @@
 #include "results/name_edit.h"
 
+#include <algorithm>
+
 NameEdit::NameEdit(WindowObject* parentObject, HWND edit)
     : Control(parentObject, edit, L"Edit", Ownership::Wrapped) {
     Subclass();
@@ -7,6 +9,7 @@ NameEdit::NameEdit(WindowObject* parentObject, HWND edit)
     OnMessage(WM_KILLFOCUS, this, &NameEdit::OnFocusLost);
     OnMessage(WM_IME_STARTCOMPOSITION, this, &NameEdit::OnComposition, TRUE);
     OnMessage(WM_IME_ENDCOMPOSITION, this, &NameEdit::OnComposition, FALSE);
+    OnMessage(WM_WINDOWPOSCHANGING, this, &NameEdit::OnMoving);
     OnMessage(WM_DESTROY, this, &NameEdit::OnDestroyed);
     OnMessage(WM_NCDESTROY, this, &NameEdit::OnDestroyed);
 }
@@ -31,6 +34,21 @@ LRESULT NameEdit::OnKeyDown(MessageRecord& record) {
 // The list takes what stands in an edit that is left.
 LRESULT NameEdit::OnFocusLost(MessageRecord& record) {
     if (!givenUp) taken = true;
+    return DefaultProcessing(record);
+}
+
+// The list makes the edit as wide as its text, also where the list ends before that.
+LRESULT NameEdit::OnMoving(MessageRecord& record) {
+    auto& place = *reinterpret_cast<WINDOWPOS*>(record.lParam);
+    RECT room{};
+    GetClientRect(ParentHandle(), &room);
+    if ((place.flags & SWP_NOMOVE) == 0) place.x = std::max(place.x, 0);
+    RECT now{};
+    GetWindowRect(Handle(), &now);
+    MapWindowPoints(nullptr, ParentHandle(), reinterpret_cast<POINT*>(&now), 2);
+    const int left = (place.flags & SWP_NOMOVE) == 0 ? place.x : static_cast<int>(now.left);
+    if ((place.flags & SWP_NOSIZE) == 0)
+        place.cx = std::min(place.cx, std::max(static_cast<int>(room.right) - left, 0));
     return DefaultProcessing(record);
 }
 

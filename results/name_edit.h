@@ -19,6 +19,7 @@ class NameEdit : public Control {
     LRESULT OnKeyDown(MessageRecord& record);
     LRESULT OnFocusLost(MessageRecord& record);
     LRESULT OnComposition(MessageRecord& record);
+    LRESULT OnMoving(MessageRecord& record);
     LRESULT OnDestroyed(MessageRecord& record);
 
     bool composing = false;

@@ -77,7 +77,8 @@ void ResultCommands::EndRename(const NMLVDISPINFOW& edited) {
     // The control's buffer does not outlive the message boxes.
     std::wstring newName;
     if (!list.EditedName(edited, newName)) return;
-    const int row = edited.item.iItem;
+    const int row = list.EditedRow(edited);
+    if (row < 0) return;
     wchar_t folder[MAX_PATH];
     wchar_t oldName[MAX_PATH];
     wchar_t oldPath[MAX_PATH];

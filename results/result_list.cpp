@@ -30,6 +30,12 @@ constexpr ColumnDescription Columns[ResultColumnCount] = {
 
 constexpr DWORD ViewMask = 3;
 
+// How far an arrow key moves the columns, in pixels.
+constexpr int ScrollStep = 40;
+
+// Of a key's lParam: it was down already, and repeats itself.
+constexpr LPARAM KeyWasDown = 1L << 30;
+
 // A redraw is due no sooner than this, and no sooner than ten times what the last one cost.
 constexpr ULONGLONG RefreshInterval = 250;
 constexpr ULONGLONG RefreshCostFactor = 10;
@@ -111,7 +117,10 @@ void ResultList::EndFilling() {
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
+// Scrolled up first: while drawing is suspended the list would keep the place where it was, and the first
+// rows of the next search be out of sight.
 void ResultList::Clear() {
+    SendMessageW(Handle(), LVM_ENSUREVISIBLE, 0, FALSE);
     SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
     rowsPending = true;
 }
@@ -165,6 +174,14 @@ void ResultList::ShowPending() {
 
 int ResultList::RowCount() const {
     return static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0));
+}
+
+int ResultList::RowWithNumber(LPARAM number) const {
+    LVFINDINFOW wanted{};
+    wanted.flags = LVFI_PARAM;
+    wanted.lParam = number;
+    return static_cast<int>(
+        SendMessageW(Handle(), LVM_FINDITEMW, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&wanted)));
 }
 
 void ResultList::SetCell(int row, ResultColumn column, const wchar_t* text) {
@@ -226,10 +243,29 @@ int ResultList::SelectedCount() const {
 // The desktop's list edits only while it has the focus.
 void ResultList::EditName(int row) {
     SetFocus(Handle());
+    SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    RECT bounds{LVIR_BOUNDS, 0, 0, 0};
+    SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
+    if (bounds.left < 0) SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(bounds.left), 0);
     SendMessageW(Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
 }
 
-LRESULT ResultList::OnBeginNameEdit(EventArguments&) {
+void ResultList::EndEditing() {
+    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) == 0) return;
+    SetFocus(Handle());
+    // Where the focus could not be moved the editing is given up.
+    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) != 0)
+        SendMessageW(Handle(), LVM_CANCELEDITLABEL, 0, 0);
+}
+
+int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
+    return editedNumber ? RowWithNumber(*editedNumber) : edited.item.iItem;
+}
+
+// A click on the selected row's name begins an editing half a second later, whatever has been opened meanwhile.
+LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
+    if (filling || !IsWindowEnabled(ParentHandle())) return TRUE;
+    editedNumber = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
     const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
     if (edit != nullptr) nameEdit.reset(new (std::nothrow) NameEdit(this, edit));
     return FALSE;
@@ -257,6 +293,7 @@ void ResultList::SetView(DWORD view) {
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
     if (sortColumn < 0) return 0;
+    EndEditing();
     const WaitCursor waiting;
     const int clicked = reinterpret_cast<const NMLISTVIEW*>(arguments.argument)->iSubItem;
     sortAscending = clicked != sortColumn || !sortAscending;
@@ -265,23 +302,41 @@ LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
     return 0;
 }
 
-// Without a pointer no heading can be clicked: Ctrl with 1 to 5 stands for the click on that column's.
 LRESULT ResultList::OnKeyDown(MessageRecord& record) {
-    const auto column = static_cast<int>(record.wParam) - L'1';
+    // A key that is held is one press: a file is opened once.
+    const bool isRepeated = (record.lParam & KeyWasDown) != 0;
+    if (record.wParam == VK_RETURN && isRepeated) return 0;
     // With Alt as well it is another letter of the keyboard.
     const bool controlAlone = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
-    if (column < 0 || column >= ResultColumnCount || !controlAlone) return DefaultProcessing(record);
+    const auto column = static_cast<int>(record.wParam) - L'1';
+    if (controlAlone && column >= 0 && column < ResultColumnCount) {
+        SortByKey(column);
+        return 0;
+    }
+    return ScrollByKey(record.wParam) ? 0 : DefaultProcessing(record);
+}
+
+// The columns are wider than a small screen, and not every list goes sideways by its arrow keys.
+bool ResultList::ScrollByKey(WPARAM key) {
+    const bool isReport = (GetWindowLongW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
+    if (!isReport || (key != VK_LEFT && key != VK_RIGHT)) return false;
+    SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(key == VK_LEFT ? -ScrollStep : ScrollStep), 0);
+    return true;
+}
+
+// Without a pointer no heading can be clicked: Ctrl with 1 to 5 stands for the click on that column's.
+void ResultList::SortByKey(int column) {
     NMLISTVIEW click{};
     click.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_COLUMNCLICK)};
     click.iItem = -1;
     click.iSubItem = column;
     SendMessageW(GetParent(Handle()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
-    return 0;
 }
 
 // The handheld's list reports Enter with Alt held like any key; the desktop's keeps it to itself.
 LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
     if (record.wParam != VK_RETURN) return DefaultProcessing(record);
+    if ((record.lParam & KeyWasDown) != 0) return 0;
     NMLVKEYDOWN key{};
     key.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_KEYDOWN)};
     key.wVKey = VK_RETURN;

@@ -3,6 +3,8 @@
 // The list of found files in the lower part of the main window. It is the only store of what was found: the
 // full path of a row is rebuilt from its Folder and Name cells.
 
+#include <optional>
+
 #include "framework/control.h"
 #include "results/file_icon_cache.h"
 #include "results/name_edit.h"
@@ -30,6 +32,8 @@ class ResultList : public ListView, public MatchSink {
     void Refresh() override;
 
     [[nodiscard]] int RowCount() const;
+    // The index of the row with this number; -1 when there is none.
+    [[nodiscard]] int RowWithNumber(LPARAM number) const;
 
     // The index of the selected row; -1 when there is none.
     [[nodiscard]] int SelectedRow() const;
@@ -46,8 +50,15 @@ class ResultList : public ListView, public MatchSink {
     void SelectRow(int row);
     [[nodiscard]] int SelectedCount() const;
 
-    // Starts the editing of the row's name in place.
+    // Starts the editing of the row's name in place, which is brought into view first.
     void EditName(int row);
+    // Ends an editing as if its edit were left: what stands in it is taken, and EndLabelEdit is raised before
+    // this returns. Whatever moves, removes or acts on rows calls it first, for the list keeps no more of an
+    // editing than the place of its row.
+    void EndEditing();
+    // The row whose editing began, wherever it is by now; -1 when it is gone. The one that the list reports,
+    // when it did not tell of the beginning.
+    [[nodiscard]] int EditedRow(const NMLVDISPINFOW& edited) const;
     // What the editing that the list reports as ended has made of the name; false when it was given up.
     [[nodiscard]] bool EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const;
 
@@ -61,6 +72,8 @@ class ResultList : public ListView, public MatchSink {
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
     LRESULT OnKeyDown(MessageRecord& record);
+    bool ScrollByKey(WPARAM key);
+    void SortByKey(int column);
     LRESULT OnSystemKeyDown(MessageRecord& record);
     LRESULT OnSystemCharacter(MessageRecord& record);
     void ShowPending();
@@ -72,6 +85,7 @@ class ResultList : public ListView, public MatchSink {
     TypeNames typeNames;
     std::unique_ptr<ResultHeading> heading;
     std::unique_ptr<NameEdit> nameEdit;  // of the last editing; null before the first
+    std::optional<LPARAM> editedNumber;  // of the row whose name is being edited
     HFONT font = nullptr;
     bool filling = false;
     bool rowsPending = false;

@@ -189,6 +189,60 @@ TEST_F(RenameInPlace, leaves_nothing_of_its_edit_behind) {
     }
 }
 
+TEST_F(RenameInPlace, means_the_file_whose_editing_began_wherever_its_row_is_by_then) {
+    const AnsweredBoxes boxes{IDOK};
+    AddFileRow(L"z.txt", "of z");
+    Begin(L"b.txt");
+    const PFNLVCOMPARE backwards = [](LPARAM first, LPARAM second, LPARAM) {
+        return first < second ? 1 : first > second ? -1 : 0;
+    };
+    SendMessageW(List().Handle(), LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(backwards));
+    ASSERT_EQ(RowNames(), (Names{L"z.txt", L"a.txt"}));
+    SetFocus(List().Handle());
+    PumpQueue();
+    EXPECT_EQ(RowNames(), (Names{L"z.txt", L"b.txt"}));
+    EXPECT_EQ(ContentOf(L"b.txt"), "of a");
+    EXPECT_EQ(ContentOf(L"z.txt"), "of z");
+}
+
+TEST_F(RenameInPlace, is_given_up_when_its_row_is_gone) {
+    const AnsweredBoxes boxes{IDOK};
+    AddFileRow(L"z.txt", "of z");
+    Begin(L"b.txt");
+    NMLVDISPINFOW edited = {};
+    std::wstring text = L"b.txt";
+    edited.item.mask = LVIF_TEXT;
+    edited.item.pszText = text.data();
+    List().DeleteRow(0);
+    Commands().EndRename(edited);
+    EXPECT_EQ(Files(), (Names{L"a.txt", L"z.txt"}));
+    EXPECT_EQ(RowNames(), (Names{L"z.txt"}));
+}
+
+TEST_F(RenameInPlace, is_taken_at_once_when_something_else_is_to_be_done) {
+    const AnsweredBoxes boxes{IDOK};
+    Begin(L"b.txt");
+    List().EndEditing();
+    EXPECT_EQ(Edit(), nullptr);
+    ExpectRenamedTo(L"b.txt");
+    List().EndEditing();
+    EXPECT_EQ(listener.ends, 1);
+}
+
+TEST_F(RenameInPlace, does_not_begin_behind_a_dialog_or_during_a_search) {
+    EnableWindow(OwnerHandle(), FALSE);
+    Commands().BeginRename();
+    EXPECT_EQ(Edit(), nullptr);
+    EnableWindow(OwnerHandle(), TRUE);
+    List().BeginFilling();
+    Commands().BeginRename();
+    EXPECT_EQ(Edit(), nullptr);
+    List().EndFilling();
+    Commands().BeginRename();
+    EXPECT_NE(Edit(), nullptr);
+    SendMessageW(List().Handle(), LVM_CANCELEDITLABEL, 0, 0);
+}
+
 TEST_F(RenameInPlace, can_be_done_again_and_again) {
     for (int i = 0; i < 20; ++i) {
         BeginAndEnd(L"b.txt", VK_RETURN);
