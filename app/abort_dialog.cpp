@@ -10,6 +10,17 @@ namespace {
 
 constexpr ULONGLONG ShowInterval = 80;
 
+// Keys that were pressed while the job ran were meant for this dialog and for no window behind it.
+void DropKeys() {
+    MSG key;
+    while (PeekMessageW(&key, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+        if (key.message != WM_QUIT) continue;
+        // The one message that comes whatever is asked for.
+        PostQuitMessage(static_cast<int>(key.wParam));
+        return;
+    }
+}
+
 PropertySet TemplateAndFlags() {
     PropertySet properties = TemplateProperties(InLanguage(L"AbortDialog_E", L"AbortDialog_J"));
     properties.Set(property::FullScreenFlags, ce::DialogLowerInputPanel);
@@ -62,6 +73,7 @@ void AbortDialog::RunJob(MessageRecord& record) {
     jobStarted = true;
     abortRequested = false;
     RaiseEvent(event::DialogRun, COMMAND_RUN, 0, record);
+    DropKeys();
     if (!abortRequested) End(ResultOk);
 }
 
@@ -70,10 +82,10 @@ void AbortDialog::Abort() {
     End(ResultCancel);
 }
 
-// The search pumps messages without the dialog's keyboard rules, so the button itself knows the keys that
-// press it.
+// The search pumps messages without the dialog's keyboard rules, so the button itself knows the key that
+// presses it. Not Enter: it starts searches, and pressed once too often it would end one.
 LRESULT AbortDialog::OnButtonKey(MessageRecord& record) {
-    if (record.wParam != VK_RETURN && record.wParam != VK_ESCAPE) return button->DefaultProcessing(record);
+    if (record.wParam != VK_ESCAPE) return button->DefaultProcessing(record);
     Abort();
     return 0;
 }

@@ -167,7 +167,8 @@ LRESULT MainWindow::OnPageChanged(EventArguments&) {
 LRESULT MainWindow::OnTabControlKeyDown(MessageRecord& record) {
     if (record.wParam != VK_TAB) return tabControl->DefaultProcessing(record);
     const bool backwards = GetKeyState(VK_SHIFT) < 0;
-    SetFocus(backwards ? results->Handle() : FirstTabStop(Page(currentPage)->Handle()));
+    const HWND page = Page(currentPage)->Handle();
+    SetFocus(backwards ? LastTabStop(page) : FirstTabStop(page));
     return 0;
 }
 
@@ -187,7 +188,10 @@ LRESULT MainWindow::OnWmClose(MessageRecord& record) {
         fileOperation->StopAndCloseParent();
         return 0;
     }
-    if (!abortDialog->IsRunning()) return DefaultProcessing(record);
+    if (!abortDialog->IsRunning()) {
+        results->EndEditing();
+        return DefaultProcessing(record);
+    }
     closeAfterSearch = true;
     abortDialog->Abort();
     return 0;

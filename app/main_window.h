@@ -66,6 +66,8 @@ class MainWindow : public ApplicationView {
     void RunCommand(UINT command);
     void RunResultCommand(UINT command);
     void Activate();
+    // Whether an Enter in the list, pressed now, is one more of those that started the last search.
+    [[nodiscard]] bool BelongsToSearch(ULONGLONG now);
     void Find();
     void SetResultView(UINT command, DWORD view);
     void ResetConditions();
@@ -76,6 +78,8 @@ class MainWindow : public ApplicationView {
     SearchConditions conditions;
     int currentPage = 0;
     bool closeAfterSearch = false;
+    // Until when an Enter in the list still belongs to a search; in milliseconds of GetTickCount64.
+    ULONGLONG searchKeysEnd = 0;
     // Set by an uninstall: the keys just removed are not written again.
     bool skipSaving = false;
 

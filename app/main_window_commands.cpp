@@ -18,6 +18,8 @@ LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
     // A command that arrives in the middle of a search or of a file operation, past the disabled menus, is
     // dropped; leaving is not.
     const auto command = static_cast<UINT>(arguments.extra);
+    // A command acts on what is there when the name that is being edited has been taken.
+    if (!IsBusy()) results->EndEditing();
     if (!IsBusy() || command == COMMAND_EXIT) RunCommand(command);
     UpdateWindow(Handle());
     return 0;
@@ -98,8 +100,17 @@ LRESULT MainWindow::OnResultDoubleClick(EventArguments&) {
 }
 
 LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
-    if (reinterpret_cast<const NMLVKEYDOWN*>(arguments.argument)->wVKey == VK_RETURN) Activate();
+    if (reinterpret_cast<const NMLVKEYDOWN*>(arguments.argument)->wVKey != VK_RETURN) return 0;
+    if (!BelongsToSearch(GetTickCount64())) Activate();
     return 0;
+}
+
+// Whoever presses Enter several times to start a search does not mean the file that has just been found: each
+// press that follows the last one so fast belongs to them.
+bool MainWindow::BelongsToSearch(ULONGLONG now) {
+    if (now >= searchKeysEnd) return false;
+    searchKeysEnd = now + GetDoubleClickTime();
+    return true;
 }
 
 // The control is told to forget the text: the cell follows the file, not the editing.
@@ -110,7 +121,9 @@ LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
 }
 
 void MainWindow::Find() {
+    const bool startedByEnter = GetKeyState(VK_RETURN) < 0;
     abortDialog->RunModal();
+    searchKeysEnd = startedByEnter ? GetTickCount64() + GetDoubleClickTime() : 0;
     UpdateWindow(Handle());
     results->SelectRow(0);
     if (results->SelectedCount() == 0) EnableResultCommands(false);

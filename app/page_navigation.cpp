@@ -82,7 +82,9 @@ bool NavigateByKey(MSG& message, const NavigationStops& stops) {
         SendMessageW(message.hwnd, BM_CLICK, 0, 0);
         return true;
     }
-    // Esc would hide a page as if it were a dialog that can be cancelled.
+    // Esc and Ctrl+Break would cancel the page as if it were a dialog. The first closes an open list; the
+    // other would copy what is selected in a field.
     if (isKey && message.wParam == VK_ESCAPE) return false;
+    if (isKey && message.wParam == VK_CANCEL) return true;
     return IsDialogMessageW(stops.page, &message) != 0;
 }

@@ -7,6 +7,11 @@ LRESULT ConditionPage::OnInitDialog(MessageRecord& record) {
     return 0;
 }
 
+LRESULT ConditionPage::OnWmCommand(MessageRecord& record) {
+    const bool isCancel = record.lParam == 0 && LOWORD(record.wParam) == IDCANCEL;
+    return isCancel ? 0 : Dialog::OnWmCommand(record);
+}
+
 LRESULT ConditionPage::SendToItem(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
     return SendMessageW(Item(id), message, wParam, lParam);
 }

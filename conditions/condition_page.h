@@ -21,6 +21,8 @@ class ConditionPage : public Dialog {
     // Wraps the controls and gives them their first contents.
     virtual void SetUpControls() = 0;
     LRESULT OnInitDialog(MessageRecord& record) override;
+    // A page cannot be cancelled.
+    LRESULT OnWmCommand(MessageRecord& record) override;
 
     [[nodiscard]] HWND Item(int id) const { return DialogItem(*this, id); }
     LRESULT SendToItem(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;

@@ -144,21 +144,42 @@ TEST_F(AbortDialogTest, the_bars_cancel_and_closing_the_dialog_abort_as_well) {
     }
 }
 
-TEST_F(AbortDialogTest, enter_and_escape_on_the_button_abort) {
+TEST_F(AbortDialogTest, escape_on_the_button_aborts_and_enter_does_not) {
     Make();
     for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
+        const bool aborts = key == VK_ESCAPE;
         bool stopped = false;
-        HWND focus = nullptr;
         EXPECT_EQ(RunWith([&] {
-                      focus = GetFocus();
-                      EXPECT_EQ(focus, Button());
+                      EXPECT_EQ(GetFocus(), Button());
                       PostMessageW(Button(), WM_KEYDOWN, key, 1);
                       PumpAsASearchDoes();
                       stopped = dialog->StopRequested();
                   }),
-                  2);
-        EXPECT_TRUE(stopped) << key;
+                  aborts ? 2 : 1);
+        EXPECT_EQ(stopped, aborts) << key;
     }
+}
+
+TEST_F(AbortDialogTest, keys_that_wait_at_the_end_of_the_job_go_nowhere) {
+    Make();
+    EXPECT_EQ(RunWith([&] {
+                  PostMessageW(Button(), WM_KEYDOWN, VK_ESCAPE, 1);
+                  PostMessageW(Button(), WM_CHAR, 'x', 1);
+              }),
+              1);
+    MSG message;
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_NOREMOVE));
+}
+
+TEST_F(AbortDialogTest, the_programs_end_that_waits_behind_the_keys_is_not_lost) {
+    Make();
+    RunWith([&] {
+        PostMessageW(Button(), WM_CHAR, 'x', 1);
+        PostQuitMessage(7);
+    });
+    MSG message{};
+    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7u);
 }
 
 TEST_F(AbortDialogTest, another_key_on_the_button_aborts_nothing) {

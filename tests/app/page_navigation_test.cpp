@@ -59,10 +59,11 @@ TEST_F(PageNavigation, a_disabled_browse_button_is_passed_by) {
     EXPECT_EQ(FocusedId(), CHECK_SUBFOLDERS);
 }
 
-TEST_F(PageNavigation, shift_tab_goes_the_same_way_backwards) {
+TEST_F(PageNavigation, shift_tab_goes_backwards_and_from_the_tab_control_into_the_page_as_tab_does) {
     EnableBrowse(true);
     SetFocus(List());
-    for (const int id : {CHECK_SUBFOLDERS, BUTTON_BROWSE, COMBO_LOCATION, EDIT_CONTENT, COMBO_NAME, 0, -1}) {
+    for (const int id :
+         {CHECK_SUBFOLDERS, BUTTON_BROWSE, COMBO_LOCATION, EDIT_CONTENT, COMBO_NAME, 0, CHECK_SUBFOLDERS}) {
         TabulateBack();
         EXPECT_EQ(FocusedId(), id);
     }

@@ -82,6 +82,15 @@ void DragPointer(POINT from, POINT to) {
     SendOne(Mouse(MOUSEEVENTF_LEFTUP, to));
 }
 
+void TurnWheelAt(POINT point, int notches) {
+    MovePointerTo(point);
+    INPUT input = Mouse(MOUSEEVENTF_WHEEL, point);
+    input.mi.dwFlags &= ~static_cast<DWORD>(MOUSEEVENTF_ABSOLUTE);
+    input.mi.dx = input.mi.dy = 0;
+    input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    SendOne(input);
+}
+
 void HoldKey(WORD key) {
     WaitForFocus();
     SendOne(Key(key, 0, 0));

@@ -32,5 +32,8 @@ void DragPointer(POINT from, POINT to);
 // Moves the mouse to the point and clicks the left button there.
 void ClickAt(POINT point);
 
+// Turns the wheel by so many notches over the point; a negative number turns it towards the user.
+void TurnWheelAt(POINT point, int notches);
+
 // Two clicks in short order while the modifiers are held down.
 void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers = {});
