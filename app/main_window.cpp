@@ -160,7 +160,8 @@ void MainWindow::ShowPage(int index) {
 
 LRESULT MainWindow::OnPageChanged(EventArguments&) {
     CompleteParts();
-    ShowPage(tabControl->Selected());
+    const int selected = tabControl->Selected();
+    if (selected >= 0 && selected < PageCount) ShowPage(selected);
     return 0;
 }
 

@@ -44,7 +44,7 @@ int TabControl::Selected() const {
 }
 
 void TabControl::Select(int index) {
-    SendMessageW(Handle(), TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
+    ce::SelectTab(Handle(), index);
 }
 
 RECT TabControl::DisplayArea() const {

@@ -67,6 +67,18 @@ UINT ce::MenuItemState(HMENU menu, UINT command) {
     return item.fState & ~static_cast<UINT>(MFS_HILITE);
 }
 
+void ce::SelectTab(HWND tabs, int index) {
+    SendMessageW(tabs, TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
+    TCITEMW unmarked{};
+    unmarked.mask = TCIF_STATE;
+    unmarked.dwStateMask = TCIS_BUTTONPRESSED;
+    const auto count = static_cast<int>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+    for (int each = 0; each < count; ++each) {
+        if (each != index)
+            SendMessageW(tabs, TCM_SETITEMW, static_cast<WPARAM>(each), reinterpret_cast<LPARAM>(&unmarked));
+    }
+}
+
 int ce::FindComboEntry(HWND combo, int start, const wchar_t* text) {
     const auto count = static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0));
     const auto textLength = static_cast<int>(std::wcslen(text));

@@ -16,6 +16,10 @@ namespace ce {
 // dropped here.
 [[nodiscard]] UINT MenuItemState(HMENU menu, UINT command);
 
+// TCM_SETCURSEL. The desktop's control keeps a mark on a tab that was left by an arrow key, and the next click on
+// it then changes nothing; no other tab is left marked here.
+void SelectTab(HWND tabs, int index);
+
 // CB_FINDSTRING: the first entry after `start`, and round again up to `start` itself, that begins with the
 // text, without regard to case; CB_ERR for none. Every entry begins with an empty text. The desktop finds
 // nothing for an empty text and overlooks a "[" before an entry.

@@ -145,6 +145,7 @@ void MenuDropDowns::Run(int first, bool byKeyboard) {
     GetCursorPos(&pointer);
     GoOnTo(first, byKeyboard);
     while (openMenus == this && next >= 0) {
+        FollowPointer();
         open = next;
         next = -1;
         TrackOpenOne();
@@ -156,6 +157,17 @@ void MenuDropDowns::Run(int first, bool byKeyboard) {
         openMenus = nullptr;
     }
     if (menuHook != nullptr) UnhookWindowsHookEx(menuHook);
+}
+
+// The news of a pointer that moves on while one menu closes and the next opens may be lost.
+void MenuDropDowns::FollowPointer() {
+    const POINT before = pointer;
+    GetCursorPos(&pointer);
+    if (pointer.x == before.x && pointer.y == before.y) return;
+    const int hit = DropDownAt(pointer);
+    if (hit < 0) return;
+    next = hit;
+    openedByKeyboard = false;
 }
 
 void MenuDropDowns::TrackOpenOne() {

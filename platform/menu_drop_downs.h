@@ -51,6 +51,7 @@ class MenuDropDowns {
     // The one that watches this top-level window, or null.
     static MenuDropDowns* WatcherOf(HWND window);
 
+    void FollowPointer();
     void TrackOpenOne();
     bool TakeMenuMessage(const MSG& message);
     void GoOnTo(int index, bool byKeyboard);

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int DropDownCommands[] = {100, 200, 300};
-
 HWND ToolBarOf(HWND window) {
     const HWND bar = FindWindowExW(window, nullptr, L"QuorinMenuBar", nullptr);
     return FindWindowExW(bar, nullptr, TOOLBARCLASSNAMEW, nullptr);
@@ -18,7 +16,8 @@ void WaitForMenu() {
 }  // namespace
 
 void HandsTest::OpenMenuByPointer(MenuIndex menu) {
-    ClickAt(PlaceOfBarButton(DropDownCommands[menu]));
+    constexpr int Buttons[] = {FileButton, ViewButton, OptionButton};
+    ClickAt(PlaceOfBarButton(Buttons[menu]));
     WaitForMenu();
 }
 

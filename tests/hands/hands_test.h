@@ -14,6 +14,8 @@ class HandsTest : public ResultsTest {
   protected:
     // The drop-downs of the menu bar, in its order.
     enum MenuIndex { FileMenu, ViewMenu, OptionMenu };
+    // The commands of the buttons that open them.
+    static constexpr int FileButton = 100, ViewButton = 200, OptionButton = 300;
 
     // A click on the bar's button; returns when the drop-down is open.
     void OpenMenuByPointer(MenuIndex menu);

@@ -1,4 +1,6 @@
-// The menus, taken with pointer and keys.
+// The menu bar: its menus and buttons, taken with pointer and keys.
+
+#include <commctrl.h>
 
 #include "tests/hands/hands_test.h"
 
@@ -40,4 +42,154 @@ TEST_F(Menus, left_and_right_go_from_menu_to_menu_while_the_pointer_rests_on_a_b
     CloseMenus();
     OpenMenuByKeys(OptionMenu);
     CloseMenus();
+}
+
+TEST_F(Menus, the_pointer_goes_from_menu_to_menu_and_a_click_on_the_open_ones_button_closes_it) {
+    const auto isOpen = [&](UINT command) {
+        const RECT place = Program().MenuItem(command).rectangle;
+        return !IsRectEmpty(&place);
+    };
+    OpenMenuByPointer(FileMenu);
+    GlidePointerTo(PlaceOfBarButton(OptionButton));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return isOpen(COMMAND_CHECK_CASE); }));
+    GlidePointerTo(PlaceOfBarButton(ViewButton));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return isOpen(COMMAND_DETAILS); }));
+    ClickAt(PlaceOfBarButton(ViewButton));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [] { return !IsMenuOpen(); }));
+    EXPECT_FALSE(HoldsWithin(400, [] { return IsMenuOpen(); }));
+}
+
+TEST_F(Menus, a_pointer_that_rests_on_a_bar_button_or_passes_it_does_nothing) {
+    Program().FocusControl(NamePage, EDIT_CONTENT);
+    const int searches = Program().SearchesBegun();
+    for (const ButtonState& button : Program().Bar())
+        RestPointerAt(CentreOf(button.rectangle), 900);
+    EXPECT_FALSE(IsMenuOpen());
+    EXPECT_TRUE(NoDialogOpen());
+    EXPECT_EQ(searches, Program().SearchesBegun());
+    EXPECT_TRUE(Program().HasFocus(NamePage, EDIT_CONTENT));
+}
+
+TEST_F(Menus, the_find_and_properties_buttons_do_their_work) {
+    AddFile(L"a.qsa");
+    Program().Fill(Where(Folder()));
+    ClickBarButton(COMMAND_FIND);
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().RowNames() == Names{L"a.qsa"}; }));
+    Program().WaitForEndOfSearch();
+    ClickBarButton(COMMAND_PROPERTIES);
+    EXPECT_EQ(L"Alpha kind", Dialog().Text(STATIC_TYPE));
+    PressKey(VK_ESCAPE);
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
+}
+
+// Every item of every menu, once by the pointer and once by keys.
+class MenuItems : public Menus {
+  protected:
+    enum class Way { Pointer, Keys };
+
+    void Take(Way way, MenuIndex menu, UINT command) {
+        if (way == Way::Pointer) {
+            OpenMenuByPointer(menu);
+            ClickMenuItem(command);
+        } else {
+            OpenMenuByKeys(menu);
+            TakeMenuItemByKeys(command);
+        }
+        if (command != COMMAND_EXIT) Program().WaitForQueue();
+    }
+    void LeaveDialog() {
+        PressKey(VK_ESCAPE);
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
+    }
+    [[nodiscard]] bool ShowsView(DWORD view, UINT command) {
+        return HoldsWithin(StepDeadline, [&] {
+            return (Program().List().style & LVS_TYPEMASK) == view &&
+                   Program().MenuItem(command).RadioMarked();
+        });
+    }
+    [[nodiscard]] bool EditHasFocus() {
+        return HoldsWithin(StepDeadline, [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
+    }
+
+    void TakeEachOnARow(Way way) {
+        AddFile(L"a.qsa");
+        Find();
+        Take(way, FileMenu, COMMAND_OPEN);
+        EXPECT_EQ(1u, Started(1).size());
+        Program().BringForward();
+
+        Take(way, FileMenu, COMMAND_DELETE);
+        EXPECT_EQ(Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"), Dialog().Caption());
+        LeaveDialog();
+        EXPECT_TRUE(Stands(L"a.qsa"));
+
+        Take(way, FileMenu, COMMAND_RENAME);
+        EXPECT_TRUE(EditHasFocus()) << testing::PrintToString(Program().FocusPath());
+        PressKey(VK_ESCAPE);
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
+
+        Take(way, FileMenu, COMMAND_PROPERTIES);
+        EXPECT_EQ(L"Alpha kind", Dialog().Text(STATIC_TYPE));
+        LeaveDialog();
+    }
+    void TakeEachOther(Way way) {
+        Take(way, ViewMenu, COMMAND_LARGE_ICON);
+        EXPECT_TRUE(ShowsView(LVS_ICON, COMMAND_LARGE_ICON));
+        Take(way, ViewMenu, COMMAND_SMALL_ICON);
+        EXPECT_TRUE(ShowsView(LVS_SMALLICON, COMMAND_SMALL_ICON));
+        Take(way, ViewMenu, COMMAND_DETAILS);
+        EXPECT_TRUE(ShowsView(LVS_REPORT, COMMAND_DETAILS));
+
+        Take(way, ViewMenu, COMMAND_ABOUT);
+        EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), Dialog().Caption());
+        LeaveDialog();
+
+        for (const bool checked : {false, true}) {
+            Take(way, OptionMenu, COMMAND_CHECK_CASE);
+            EXPECT_EQ(checked, CaseIsChecked());
+        }
+
+        Program().Fill(Named(L"x", L"\\names"));
+        Take(way, OptionMenu, COMMAND_NEW_CONDITION);
+        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_NAME).text);
+        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text);
+
+        Take(way, FileMenu, COMMAND_EXIT);
+        EXPECT_EQ(0u, Program().WaitForEnd());
+    }
+};
+
+TEST_F(MenuItems, of_a_row_do_their_work_by_pointer) {
+    TakeEachOnARow(Way::Pointer);
+}
+
+TEST_F(MenuItems, of_a_row_do_their_work_by_keys) {
+    TakeEachOnARow(Way::Keys);
+}
+
+TEST_F(MenuItems, that_need_no_row_do_their_work_by_pointer) {
+    TakeEachOther(Way::Pointer);
+}
+
+TEST_F(MenuItems, that_need_no_row_do_their_work_by_keys) {
+    TakeEachOther(Way::Keys);
+}
+
+TEST_F(MenuItems, that_are_grey_do_nothing_when_they_are_clicked) {
+    Find(L"nothing has this name");
+    struct Grey {
+        MenuIndex menu;
+        UINT command;
+    };
+    for (const Grey& grey :
+         {Grey{FileMenu, COMMAND_OPEN}, Grey{FileMenu, COMMAND_DELETE}, Grey{FileMenu, COMMAND_RENAME},
+          Grey{FileMenu, COMMAND_PROPERTIES}, Grey{OptionMenu, COMMAND_SAVE_RESULT}}) {
+        OpenMenuByPointer(grey.menu);
+        ClickAt(CentreOf(Program().MenuItem(grey.command).rectangle));
+        Program().WaitForQueue();
+        EXPECT_TRUE(Program().MenuItem(grey.command).Grayed());
+        CloseMenus();
+        EXPECT_TRUE(NoDialogOpen()) << "command " << grey.command;
+    }
+    EXPECT_TRUE(NothingStarted());
 }

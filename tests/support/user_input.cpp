@@ -1,5 +1,6 @@
 #include "tests/support/user_input.h"
 
+#include <cstdlib>
 #include <vector>
 
 #include "tests/support/deadline.h"
@@ -61,6 +62,19 @@ void MovePointerTo(POINT point) {
         Sleep(MousePause);
         return MouseIsAt(point);
     });
+}
+
+void GlidePointerTo(POINT point) {
+    constexpr int Steps = 4;
+    POINT from = {};
+    GetCursorPos(&from);
+    for (int step = 1; step < Steps; ++step) {
+        const POINT place = {from.x + (point.x - from.x) * step / Steps,
+                             from.y + (point.y - from.y) * step / Steps};
+        SendOne(Mouse(MOUSEEVENTF_MOVE, place));
+        Sleep(MousePause);
+    }
+    MovePointerTo(point);
 }
 
 void RestPointerAt(POINT point, DWORD milliseconds) {
@@ -148,7 +162,24 @@ void TypeText(const std::wstring& text) {
     SendInputs(inputs);
 }
 
+namespace {
+
+// Two clicks of two steps are no double click, however fast the steps follow each other.
+void KeepApartFromLastClick(POINT point) {
+    static POINT lastPoint = {};
+    static DWORD lastTime = 0;
+    const bool isNear = std::abs(point.x - lastPoint.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                        std::abs(point.y - lastPoint.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+    const DWORD since = GetTickCount() - lastTime;
+    if (isNear && since <= GetDoubleClickTime()) Sleep(GetDoubleClickTime() - since + MousePause);
+    lastPoint = point;
+    lastTime = GetTickCount();
+}
+
+}  // namespace
+
 void ClickAt(POINT point) {
+    KeepApartFromLastClick(point);
     MovePointerTo(point);
     Click(point);
 }

@@ -24,7 +24,9 @@ void TypeText(const std::wstring& text);
 // Moves the mouse to a point of the screen and waits until it stays there: a window that has only just come
 // up still gets the system's own news of where the mouse is.
 void MovePointerTo(POINT point);
-// The same, and leaves it there for a while.
+// The same in a few steps, as a hand moves it.
+void GlidePointerTo(POINT point);
+// Moves it there at once and leaves it for a while.
 void RestPointerAt(POINT point, DWORD milliseconds);
 // Presses the left button at one point, moves to the other in a few steps and lets go there.
 void DragPointer(POINT from, POINT to);
