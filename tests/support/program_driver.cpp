@@ -171,7 +171,15 @@ void ProgramDriver::Find() {
 }
 
 bool ProgramDriver::FindAndHold(int rows, DWORD longest) {
-    link->Ask(probe::Question::ArmHold, rows, static_cast<int>(longest));
+    return FindAndHold(rows, longest, false);
+}
+
+bool ProgramDriver::FindAndHoldAwake(int rows, DWORD longest) {
+    return FindAndHold(rows, longest, true);
+}
+
+bool ProgramDriver::FindAndHold(int rows, DWORD longest, bool staysAwake) {
+    link->Ask(probe::Question::ArmHold, rows, static_cast<int>(longest), staysAwake ? 1 : 0);
     BeginFind();
     bool held = false;
     WaitUntil("the search to be held", [&] {

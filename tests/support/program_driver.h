@@ -63,6 +63,8 @@ class ProgramDriver {
     // Runs a search up to the moment when the list has this many rows, and holds it there until Release, or
     // for the longest time at most. False when the search ended first.
     [[nodiscard]] bool FindAndHold(int rows = 0, DWORD longest = 20000);
+    // The same, but pointer and keys work while it is held, as in any search that takes long.
+    [[nodiscard]] bool FindAndHoldAwake(int rows = 0, DWORD longest = 20000);
     void Release();
     void WaitForEndOfSearch(DWORD milliseconds = 2 * StepDeadline);
     [[nodiscard]] int SearchesBegun();
@@ -107,6 +109,7 @@ class ProgramDriver {
     bool ListHasFocus();
 
   private:
+    [[nodiscard]] bool FindAndHold(int rows, DWORD longest, bool staysAwake);
     void Connect();
     [[nodiscard]] HWND ControlWindow(int page, int id);
 

@@ -62,7 +62,7 @@ void Answer(Exchange& exchange) {
             SelectRow(numbers[0], numbers[1] != 0);
             break;
         case Question::ArmHold:
-            ArmHold(numbers[0], numbers[1]);
+            ArmHold(numbers[0], numbers[1], numbers[2] != 0);
             break;
         case Question::Repaint:
             Repaint();

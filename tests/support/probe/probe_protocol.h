@@ -38,7 +38,7 @@ enum class Question : DWORD {
     SetPicker,   // numbers: page, id, yyyymmdd -> nothing
     SetFocus,    // numbers: page, id -> nothing
     SelectRow,   // numbers: row, 1 to select or 0 to deselect -> nothing
-    ArmHold,     // numbers: rows to wait for, longest hold in milliseconds -> nothing
+    ArmHold,     // numbers: rows to wait for, longest hold in milliseconds, 1 to stay awake -> nothing
     Repaint,     // nothing
     Tree,        // a record an item of the folder browser, parents first: depth, state, two images, text
     SelectItem,  // numbers: an item's place in that order -> nothing

@@ -15,6 +15,7 @@ struct Watch {
     bool armed = false;
     int rowsToWaitFor = 0;
     DWORD longestHold = 0;
+    bool staysAwake = false;
     UINT holdMessage = 0;
     UINT syncMessage = 0;
 };
@@ -32,6 +33,15 @@ void Signal(const wchar_t* format) {
     CloseHandle(event);
 }
 
+// What the message pump of a search does.
+void TakeWaitingMessages() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
 // Messages sent to the thread are still answered: the driver asks its questions during a hold.
 void HoldThread() {
     const HANDLE release = NamedEvent(ReleaseEventNameFormat);
@@ -42,9 +52,13 @@ void HoldThread() {
         const ULONGLONG now = GetTickCount64();
         if (now >= end) break;
         const DWORD left = static_cast<DWORD>(end - now);
-        const DWORD woken =
-            MsgWaitForMultipleObjectsEx(1, &release, left, QS_SENDMESSAGE, MWMO_INPUTAVAILABLE);
+        const DWORD awaited = watch.staysAwake ? QS_ALLINPUT : QS_SENDMESSAGE;
+        const DWORD woken = MsgWaitForMultipleObjectsEx(1, &release, left, awaited, MWMO_INPUTAVAILABLE);
         if (woken != WAIT_OBJECT_0 + 1) break;
+        if (watch.staysAwake) {
+            TakeWaitingMessages();
+            continue;
+        }
         MSG message;
         PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     }
@@ -78,8 +92,9 @@ void AnswerCounters(AnswerWriter& writer) {
     writer.Number(watch.begun).Number(watch.ended).End();
 }
 
-void ArmHold(int rows, int longestMilliseconds) {
+void ArmHold(int rows, int longestMilliseconds, bool staysAwake) {
     watch.rowsToWaitFor = rows;
+    watch.staysAwake = staysAwake;
     watch.longestHold = static_cast<DWORD>(longestMilliseconds);
     watch.armed = true;
     // Kept open on purpose: the driver's steps may be processes of their own, none of which outlives the

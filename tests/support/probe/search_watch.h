@@ -13,8 +13,9 @@ namespace probe {
 
 void AnswerCounters(AnswerWriter& writer);
 
-// Holds the next search once the list shows this many rows.
-void ArmHold(int rows, int longestMilliseconds);
+// Holds the next search once the list shows this many rows. A hold that stays awake takes every message, as
+// the search's own pump does: pointer and keys work then.
+void ArmHold(int rows, int longestMilliseconds, bool staysAwake);
 
 // To be called for every message that the thread takes from its queue, and for every message sent to one of
 // its windows.
