@@ -1,5 +1,7 @@
 #include "framework/container_window.h"
 
+#include <cstdint>
+
 #include "framework/application.h"
 #include "framework/property_keys.h"
 
@@ -47,7 +49,7 @@ LRESULT ContainerWindow::OnWmCommand(MessageRecord& record) {
         RaiseEvent(event::Command, command, 0, record);
         return record.result;
     }
-    const EventCode code = TranslateNativeCode(object->NativeCodes(), HIWORD(record.wParam));
+    const EventCode code = TranslateNativeCode(object->NativeCodes(), CommandCodeOf(record));
     if (code == event::RaiseAsCommand) {
         RaiseEvent(event::Command, command, 0, record);
     } else {
@@ -58,11 +60,21 @@ LRESULT ContainerWindow::OnWmCommand(MessageRecord& record) {
 
 LRESULT ContainerWindow::OnWmNotify(MessageRecord& record) {
     const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
-    const WindowObject* object = ObjectOf(header->hwndFrom);
+    const WindowObject* object = header != nullptr ? ObjectOf(header->hwndFrom) : nullptr;
     if (object == nullptr) return record.result;
-    const EventCode code = TranslateNotification(header->code, object->NativeCodes());
-    RaiseEvent(code, reinterpret_cast<EventSource>(header->hwndFrom), record.lParam, record);
+    RaiseNotification(object->NativeCodes(), reinterpret_cast<EventSource>(header->hwndFrom), record);
     return record.result;
+}
+
+std::uint32_t ContainerWindow::CommandCodeOf(const MessageRecord& record) {
+    return static_cast<std::uint32_t>(static_cast<std::int16_t>(HIWORD(record.wParam)));
+}
+
+void ContainerWindow::RaiseNotification(NativeCodeTable controlCodes, EventSource source,
+                                        MessageRecord& record) {
+    const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    const EventCode code = TranslateNotification(header->code, controlCodes);
+    if (code != event::Command) RaiseEvent(code, source, record.lParam, record);
 }
 
 EventCode ContainerWindow::TranslateNotification(std::uint32_t native, NativeCodeTable controlCodes) const {
@@ -72,6 +84,7 @@ EventCode ContainerWindow::TranslateNotification(std::uint32_t native, NativeCod
 
 LRESULT ContainerWindow::OnWmDrawItem(MessageRecord& record) {
     const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(record.lParam);
+    if (item == nullptr) return 1;
     const EventSource source = ObjectOf(item->hwndItem) != nullptr
                                    ? reinterpret_cast<EventSource>(item->hwndItem)
                                    : static_cast<EventSource>(item->CtlID);

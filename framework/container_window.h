@@ -23,8 +23,14 @@ class ContainerWindow : public WindowObject {
     virtual LRESULT OnWmActivate(MessageRecord& record);
     virtual LRESULT OnWmDestroy(MessageRecord& record);
 
+    // The native code of a WM_COMMAND: the high word, signed as the system's error codes are.
+    [[nodiscard]] static std::uint32_t CommandCodeOf(const MessageRecord& record);
+
     // The window's own translation of a WM_NOTIFY code, or that of the control's table.
     [[nodiscard]] EventCode TranslateNotification(std::uint32_t native, NativeCodeTable controlCodes) const;
+    // Raises what the notification translates to. One that no table knows translates to the code of a click,
+    // but nothing was clicked: it raises nothing.
+    void RaiseNotification(NativeCodeTable controlCodes, EventSource source, MessageRecord& record);
 
     // Remembers the focus when the window is deactivated and gives it back on activation.
     void KeepFocus(const MessageRecord& record);

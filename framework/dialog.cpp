@@ -147,7 +147,8 @@ LRESULT Dialog::OnWmCommand(MessageRecord& record) {
     const auto control = reinterpret_cast<HWND>(record.lParam);
     const EventSource id = LOWORD(record.wParam);
     if (control != nullptr) {
-        RaiseEvent(TranslateByClassName(control, HIWORD(record.wParam)), id, 0, record);
+        if (IsOwnControl(control))
+            RaiseEvent(TranslateByClassName(control, CommandCodeOf(record)), id, 0, record);
     } else if (id == IDCANCEL) {
         End(ResultCancel);
     } else {
@@ -156,14 +157,31 @@ LRESULT Dialog::OnWmCommand(MessageRecord& record) {
     return record.result;
 }
 
-// A control with no object of its own is known by its class.
+// A control with no object of its own is known by its class. The tooltip of a button notifies the dialog with
+// the button's id, and means no click.
 LRESULT Dialog::OnWmNotify(MessageRecord& record) {
     const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    if (header == nullptr || !IsOwnControl(header->hwndFrom)) return record.result;
     const WindowObject* object = ObjectOf(header->hwndFrom);
-    const EventCode code = TranslateNotification(
-        header->code, object != nullptr ? object->NativeCodes() : NativeCodesByClassName(header->hwndFrom));
-    RaiseEvent(code, static_cast<EventSource>(header->idFrom), record.lParam, record);
+    const NativeCodeTable codes =
+        object != nullptr ? object->NativeCodes() : NativeCodesByClassName(header->hwndFrom);
+    RaiseNotification(codes, static_cast<EventSource>(header->idFrom), record);
     return record.result;
+}
+
+// By the handle of a control with an object; its handlers are registered under its id, though.
+LRESULT Dialog::OnWmDrawItem(MessageRecord& record) {
+    const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(record.lParam);
+    if (item == nullptr) return 1;
+    const bool byHandle =
+        ObjectOf(item->hwndItem) != nullptr &&
+        RaiseEvent(event::DrawItem, reinterpret_cast<EventSource>(item->hwndItem), record.lParam, record);
+    if (!byHandle) RaiseEvent(event::DrawItem, item->CtlID, record.lParam, record);
+    return 1;
+}
+
+bool Dialog::IsOwnControl(HWND window) const {
+    return IsChild(Handle(), window) && GetParent(window) == Handle();
 }
 
 EventCode Dialog::TranslateByClassName(HWND control, std::uint32_t native) {

@@ -45,6 +45,7 @@ class Dialog : public ContainerWindow {
   protected:
     LRESULT OnWmCommand(MessageRecord& record) override;
     LRESULT OnWmNotify(MessageRecord& record) override;
+    LRESULT OnWmDrawItem(MessageRecord& record) override;
     LRESULT OnWmActivate(MessageRecord& record) override;
     virtual LRESULT OnInitDialog(MessageRecord& record);
     virtual LRESULT OnWmPaint(MessageRecord& record);
@@ -75,6 +76,8 @@ class Dialog : public ContainerWindow {
     static INT_PTR Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
+    // A tooltip, another dialog or a window that is gone is none.
+    [[nodiscard]] bool IsOwnControl(HWND window) const;
     LRESULT OnWmCtlColorDialog(MessageRecord& record);
     void ShowIconOfOwner();
     void CreateMenuBar(DialogBar bar);

@@ -92,6 +92,22 @@ TEST_F(ContainerEvents, a_control_s_code_that_its_table_lacks_is_raised_as_0) {
     EXPECT_EQ(listener.events.size(), 1U);
 }
 
+// The error codes of list and combo boxes are negative, and the message has 16 bits for them.
+TEST_F(ContainerEvents, a_list_or_combo_box_without_memory_tells_so) {
+    PropertySet lists = ChildProperties(10401);
+    PropertySet combos = ChildProperties(10402);
+    Control list(&window, L"ListBox", lists);
+    Control combo(&window, L"combobox", combos);
+    list.OnNotification(event::OutOfMemory, &listener, &Listener::TakeEvent, 1);
+    combo.OnNotification(event::OutOfMemory, &listener, &Listener::TakeEvent, 2);
+    SendCommand(window.Handle(), 10401, -2, list.Handle());
+    ASSERT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener.events[0].extra, 1U);
+    SendCommand(window.Handle(), 10402, -1, combo.Handle());
+    ASSERT_EQ(listener.events.size(), 2U);
+    EXPECT_EQ(listener.events[1].extra, 2U);
+}
+
 TEST_F(ContainerEvents, a_real_edit_tells_that_its_text_changed) {
     PropertySet properties = ChildProperties(10701);
     Control edit(&window, L"Edit", properties);
@@ -141,6 +157,21 @@ TEST_F(ContainerEvents, a_notification_of_a_control_without_an_object_is_not_rai
     window.OnCommand(321, &listener, &Listener::TakeEvent);
     window.OnEvent(event::Command, SourceOf(foreign), &listener, &Listener::TakeEvent);
     EXPECT_EQ(SendNotification(window.Handle(), foreign, 321, NM_DBLCLK), 0);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+// Buttons notify of a pointer that comes over them, and of being drawn.
+TEST_F(ContainerEvents, a_notification_that_no_table_knows_is_no_click) {
+    button->OnNotification(event::Command, &listener, &Listener::TakeEvent);
+    for (const UINT code : {UINT{NM_CUSTOMDRAW}, UINT{NM_SETFOCUS}, static_cast<UINT>(-1249)})
+        SendNotification(window.Handle(), button->Handle(), ButtonId, code);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+TEST_F(ContainerEvents, a_notification_or_a_drawing_without_its_structure_is_ignored) {
+    window.OnEvent(event::DrawItem, 0, &listener, &Listener::TakeEvent);
+    EXPECT_EQ(SendMessageW(window.Handle(), WM_NOTIFY, ButtonId, 0), 0);
+    EXPECT_EQ(SendMessageW(window.Handle(), WM_DRAWITEM, ButtonId, 0), 1);
     EXPECT_TRUE(listener.events.empty());
 }
 

@@ -104,6 +104,24 @@ TEST_F(DialogCommands, of_an_unknown_class_translate_to_0) {
     EXPECT_EQ(TestDialog::TranslateByClassName(dialog.Item(PLAIN_BUTTON), 5), 33U);
 }
 
+// A command that was posted may come when its control is gone, or from elsewhere.
+TEST_F(DialogCommands, of_a_window_that_is_no_control_of_the_dialog_raise_nothing) {
+    TestDialog other(L"Plain_E");
+    other.CreateModeless();
+    dialog.OnCommand(PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    const HWND gone = dialog.Item(PLAIN_LIST);
+    DestroyWindow(gone);
+    for (const HWND foreign : {other.Item(PLAIN_BUTTON), other.Handle(), gone})
+        SendCommand(dialog.Handle(), PLAIN_BUTTON, BN_CLICKED, foreign);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+TEST_F(DialogCommands, of_a_list_box_without_memory_tell_so) {
+    dialog.OnEvent(event::OutOfMemory, PLAIN_LIST, &listener, &Listener::TakeEvent);
+    SendCommand(dialog.Handle(), PLAIN_LIST, -2, dialog.Item(PLAIN_LIST));
+    EXPECT_EQ(listener.events.size(), 1U);
+}
+
 TEST_F(DialogCommands, leave_no_trace_of_the_translation_in_the_map) {
     const HWND button = dialog.Item(PLAIN_BUTTON);
     EXPECT_EQ(TestDialog::TranslateByClassName(button, 5), 33U);
@@ -134,6 +152,79 @@ TEST_F(DialogNotifications, of_a_control_with_an_object_are_translated_by_that_o
     dialog.OnEvent(event::SelectionChanged, PLAIN_PICKER, &listener, &Listener::TakeEvent);
     SendNotification(dialog.Handle(), wrapped.Handle(), PLAIN_PICKER, static_cast<UINT>(-551));
     EXPECT_EQ(listener.events.size(), 1U);
+}
+
+// What the tooltip of a bar's button does, with the button's id.
+TEST_F(DialogNotifications, of_a_window_that_is_no_control_of_the_dialog_raise_nothing) {
+    TestDialog other(L"Plain_E");
+    other.CreateModeless();
+    const HWND tip = ::CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP, 0, 0, 10, 10, dialog.Handle(),
+                                       nullptr, Globals().instance, nullptr);
+    ASSERT_NE(tip, nullptr);
+    const WindowObject wrappedTip(&dialog, tip, Ownership::Owned);
+    dialog.OnCommand(PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    dialog.OnEvent(event::DoubleClick, PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    dialog.OnEvent(event::DateTimeChanged, PLAIN_PICKER, &listener, &Listener::TakeEvent);
+    for (const HWND foreign : {tip, other.Item(PLAIN_PICKER), dialog.Handle(), static_cast<HWND>(nullptr)}) {
+        for (const UINT code : {UINT{NM_CUSTOMDRAW}, UINT{NM_DBLCLK}, static_cast<UINT>(-759), 0U})
+            SendNotification(dialog.Handle(), foreign, PLAIN_PICKER, code);
+    }
+    EXPECT_TRUE(listener.events.empty());
+}
+
+TEST_F(DialogNotifications, that_no_table_knows_are_no_clicks) {
+    dialog.OnCommand(PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    const HWND button = dialog.Item(PLAIN_BUTTON);
+    for (const UINT code : {UINT{NM_CUSTOMDRAW}, UINT{NM_RELEASEDCAPTURE}, static_cast<UINT>(-1249)})
+        SendNotification(dialog.Handle(), button, PLAIN_BUTTON, code);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+TEST_F(DialogNotifications, and_drawings_without_their_structure_are_ignored) {
+    dialog.OnEvent(event::DrawItem, 0, &listener, &Listener::TakeEvent);
+    MessageRecord notification{WM_NOTIFY, PLAIN_BUTTON, 0, 0, 0};
+    MessageRecord drawing{WM_DRAWITEM, PLAIN_BUTTON, 0, 0, 0};
+    EXPECT_EQ(dialog.Dispatch(notification), 0);
+    EXPECT_EQ(dialog.Dispatch(drawing), 1);
+    EXPECT_TRUE(listener.events.empty());
+}
+
+class DialogDrawing : public DialogEvents {
+  protected:
+    DialogDrawing() : button(dialog.Item(PLAIN_BUTTON)) {
+        SetWindowLongW(button, GWL_STYLE, GetWindowLongW(button, GWL_STYLE) | BS_OWNERDRAW);
+    }
+    void Draw() const { RedrawWindow(button, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
+    HWND button;
+};
+
+TEST_F(DialogDrawing, of_a_wrapped_control_reaches_the_handler_that_was_registered_on_it) {
+    Control wrapped(&dialog, button, L"Button");
+    wrapped.OnNotification(event::DrawItem, &listener, &Listener::TakeEvent, 6);
+    Draw();
+    ASSERT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener.events[0].extra, 6U);
+    EXPECT_EQ(listener.events[0].record.message, static_cast<UINT>(WM_DRAWITEM));
+}
+
+TEST_F(DialogDrawing, of_a_wrapped_control_is_raised_by_its_handle_first) {
+    const Control wrapped(&dialog, button, L"Button");
+    Listener byId;
+    dialog.OnEvent(event::DrawItem, reinterpret_cast<EventSource>(button), &listener, &Listener::TakeEvent);
+    dialog.OnEvent(event::DrawItem, PLAIN_BUTTON, &byId, &Listener::TakeEvent);
+    Draw();
+    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_TRUE(byId.events.empty());
+}
+
+TEST_F(DialogDrawing, of_a_control_without_an_object_is_raised_by_its_id) {
+    Listener byHandle;
+    dialog.OnEvent(event::DrawItem, PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    dialog.OnEvent(event::DrawItem, reinterpret_cast<EventSource>(button), &byHandle, &Listener::TakeEvent);
+    Draw();
+    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_TRUE(byHandle.events.empty());
 }
 
 class DialogControls : public DialogEvents {};
