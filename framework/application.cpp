@@ -8,7 +8,20 @@ Application::Application(const wchar_t* productName, int count, const wchar_t* c
 }
 
 Application::~Application() {
+    SetMainView(nullptr);
     current = nullptr;
+}
+
+MainView::~MainView() {
+    if (servedBy != nullptr) servedBy->SetMainView(nullptr);
+}
+
+void Application::SetMainView(MainView* view) {
+    if (mainView != nullptr) mainView->servedBy = nullptr;
+    mainView = view;
+    if (view == nullptr) return;
+    if (view->servedBy != nullptr) view->servedBy->mainView = nullptr;
+    view->servedBy = this;
 }
 
 WindowMap* Application::Windows() {

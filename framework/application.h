@@ -6,14 +6,22 @@
 #include "framework/window_map.h"
 #include "platform/system_types.h"
 
-// A top-level window that sees the message loop's messages before they are dispatched.
+class Application;
+
+// A top-level window that sees the message loop's messages before they are dispatched, for as long as both it
+// and the application are there.
 class MainView {
   public:
+    MainView() = default;
+    MainView(const MainView&) = delete;
+    MainView& operator=(const MainView&) = delete;
     // Answers true when it has consumed the message.
     virtual bool PreTranslate(MSG& message) = 0;
+    virtual ~MainView();
 
-  protected:
-    ~MainView() = default;
+  private:
+    friend class Application;
+    Application* servedBy = nullptr;
 };
 
 class Application {
@@ -27,7 +35,8 @@ class Application {
     // Runs the message loop until WM_QUIT and returns its wParam.
     int Run();
 
-    void SetMainView(MainView* view) { mainView = view; }
+    // In the place of the one before; null for none.
+    void SetMainView(MainView* view);
     [[nodiscard]] const wchar_t* Name() const { return name; }
     [[nodiscard]] int WordCount() const { return wordCount; }
     [[nodiscard]] const wchar_t* const* Words() const { return words; }

@@ -15,26 +15,31 @@ PropertySet& WithClippedChildren(PropertySet& properties) {
 }  // namespace
 
 ContainerWindow::ContainerWindow(WindowObject* parentObject, const wchar_t* title, PropertySet& properties)
-    : WindowObject(parentObject, title, WithClippedChildren(properties)) {
-    RouteMessages();
-}
+    : WindowObject(parentObject, title, WithClippedChildren(properties)) {}
 
 ContainerWindow::ContainerWindow(WindowObject* parentObject, HWND existing, Ownership ownership)
-    : WindowObject(parentObject, existing, ownership) {
-    RouteMessages();
-}
+    : WindowObject(parentObject, existing, ownership) {}
 
 WindowObject* ContainerWindow::ObjectOf(HWND window) {
     const WindowMap* map = Application::Windows();
     return map != nullptr ? map->Find(window) : nullptr;
 }
 
-void ContainerWindow::RouteMessages() {
-    OnMessage(WM_COMMAND, this, &ContainerWindow::OnWmCommand);
-    OnMessage(WM_NOTIFY, this, &ContainerWindow::OnWmNotify);
-    OnMessage(WM_DRAWITEM, this, &ContainerWindow::OnWmDrawItem);
-    OnMessage(WM_ACTIVATE, this, &ContainerWindow::OnWmActivate);
-    OnMessage(WM_DESTROY, this, &ContainerWindow::OnWmDestroy);
+LRESULT ContainerWindow::DispatchToClass(MessageRecord& record) {
+    switch (record.message) {
+        case WM_COMMAND:
+            return OnWmCommand(record);
+        case WM_NOTIFY:
+            return OnWmNotify(record);
+        case WM_DRAWITEM:
+            return OnWmDrawItem(record);
+        case WM_ACTIVATE:
+            return OnWmActivate(record);
+        case WM_DESTROY:
+            return OnWmDestroy(record);
+        default:
+            return WindowObject::DispatchToClass(record);
+    }
 }
 
 NativeCodeTable ContainerWindow::NativeCodes() const {

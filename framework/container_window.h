@@ -14,6 +14,8 @@ class ContainerWindow : public WindowObject {
     [[nodiscard]] NativeCodeTable NativeCodes() const override;
 
   protected:
+    LRESULT DispatchToClass(MessageRecord& record) override;
+
     // The object of the window, or null.
     [[nodiscard]] static WindowObject* ObjectOf(HWND window);
 
@@ -38,7 +40,6 @@ class ContainerWindow : public WindowObject {
     void ForgetFocus() { rememberedFocus = nullptr; }
 
   private:
-    void RouteMessages();
     // Whether it is this window or one inside it.
     [[nodiscard]] bool HoldsWindow(HWND window) const;
 

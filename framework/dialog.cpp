@@ -54,14 +54,10 @@ Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
       templateName(properties.GetText(property::DialogTemplate)),
       initArgument(properties.Get(property::InitArgument)),
       fullScreenFlags(FullScreenFlagsOf(properties)),
-      font(CreateDialogFont()) {
-    OnMessage(WM_INITDIALOG, this, &Dialog::OnInitDialog);
-    OnMessage(WM_PAINT, this, &Dialog::OnWmPaint);
-    OnMessage(WM_CTLCOLORSTATIC, this, &Dialog::OnWmCtlColorStatic);
-    OnMessage(WM_CTLCOLORDLG, this, &Dialog::OnWmCtlColorDialog);
-}
+      font(CreateDialogFont()) {}
 
 Dialog::~Dialog() {
+    Dialog::End(ResultCancel);
     DestroyMenuBar();
     DeleteObject(font);
     const HWND window = Handle();
@@ -82,8 +78,11 @@ void Dialog::CreateModeless() {
     const DLGTEMPLATE* dialogTemplate = FindTemplate();
     if (dialogTemplate == nullptr) return;
     pendingModeless = this;
-    CreateDialogIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
+    const HWND created =
+        CreateDialogIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
     pendingModeless = nullptr;
+    // A dialog that its messages do not find would answer nobody.
+    if (created != nullptr && ObjectOf(created) == nullptr) DestroyWindow(created);
 }
 
 void Dialog::ShowModeless() {
@@ -104,39 +103,78 @@ INT_PTR Dialog::RunModal() {
 }
 
 void Dialog::End(INT_PTR result) {
+    if (!canEnd) return;
+    canEnd = false;
     DestroyMenuBar();
     EndDialog(Handle(), result);
 }
 
 INT_PTR CALLBACK Dialog::ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY) {
-        WindowMap* map = Application::Windows();
-        auto* dialog = map != nullptr ? static_cast<Dialog*>(map->Find(window)) : nullptr;
-        if (dialog != nullptr) {
-            dialog->DestroyMenuBar();
-            dialog->Detach();
+    if (message == WM_INITDIALOG && pendingModal != nullptr) {
+        Dialog* created = pendingModal;
+        if (!TakeWindow(pendingModal, window)) {
+            EndDialog(window, -1);
+            return 0;
         }
+        created->canEnd = true;
+    }
+    if (message == WM_DESTROY || message == WM_NCDESTROY) {
+        WindowIsGone(window);
         return 0;
     }
-    return Procedure(pendingModal, window, message, wParam, lParam);
+    return DispatchToObject(window, message, wParam, lParam);
 }
 
 INT_PTR CALLBACK Dialog::ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return Procedure(pendingModeless, window, message, wParam, lParam);
+    if (message == WM_INITDIALOG && pendingModeless != nullptr) {
+        if (!TakeWindow(pendingModeless, window)) return 0;
+    }
+    const INT_PTR result = DispatchToObject(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) WindowIsGone(window);
+    return result;
 }
 
-INT_PTR Dialog::Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG && pending != nullptr) {
-        Dialog* created = pending;
-        pending = nullptr;
-        created->ForgetFocus();
-        created->Attach(window);
-    }
-    const WindowMap* map = Application::Windows();
-    WindowObject* object = map != nullptr ? map->Find(window) : nullptr;
+bool Dialog::TakeWindow(Dialog*& pending, HWND window) {
+    Dialog* created = pending;
+    pending = nullptr;
+    created->ForgetFocus();
+    const bool found = created->Attach(window);
+    if (!found) created->Detach();
+    return found;
+}
+
+INT_PTR Dialog::DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    WindowObject* object = ObjectOf(window);
     if (object == nullptr) return 0;
     MessageRecord record{message, wParam, lParam, 0, 0};
     return object->Dispatch(record);
+}
+
+// A run that is cut short ends nevertheless: its owner would stay disabled.
+void Dialog::LoseWindow() {
+    Dialog::End(ResultCancel);
+    DestroyMenuBar();
+    ContainerWindow::LoseWindow();
+}
+
+void Dialog::Forget(const WindowObject* gone) {
+    ContainerWindow::Forget(gone);
+    if (initialisation.target == gone) initialisation = {};
+}
+
+LRESULT Dialog::DispatchToClass(MessageRecord& record) {
+    switch (record.message) {
+        case WM_INITDIALOG:
+            return OnInitDialog(record);
+        case WM_PAINT:
+            return OnWmPaint(record);
+        case WM_CTLCOLORSTATIC:
+            return OnWmCtlColorStatic(record);
+        case WM_CTLCOLORDLG:
+            return OnWmCtlColorDialog(record);
+        default:
+            return ContainerWindow::DispatchToClass(record);
+    }
 }
 
 LRESULT Dialog::DefaultProcessing(MessageRecord&) {

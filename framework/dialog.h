@@ -26,7 +26,8 @@ class Dialog : public ContainerWindow {
     // Runs the dialog and returns its result, -1 when the template is missing or the dialog is up already. It
     // can be run again.
     virtual INT_PTR RunModal();
-    // Ends a modal dialog; its menu bar goes first.
+    // Ends a modal dialog; its menu bar goes first. One that is not running or is ending already is left
+    // alone, so the first result counts.
     virtual void End(INT_PTR result);
 
     // Called on initialisation with the init argument, before the dialog wraps its controls.
@@ -55,6 +56,13 @@ class Dialog : public ContainerWindow {
     void CallInitialisation(MessageRecord& record);
     void SetUpShell(DWORD fullScreenFlags, DialogBar bar);
 
+    LRESULT DispatchToClass(MessageRecord& record) override;
+    void LoseWindow() override;
+    void Forget(const WindowObject* gone) override;
+
+    // The resource of the template, or null.
+    [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
+
     // Moves the dialog to the middle of its parent, or of the screen when it has none.
     void Centre();
 
@@ -73,9 +81,10 @@ class Dialog : public ContainerWindow {
 
     static INT_PTR CALLBACK ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR CALLBACK ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static INT_PTR Procedure(Dialog*& pending, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static INT_PTR DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    // Gives the dialog that is being created its window; false when messages could not find it.
+    static bool TakeWindow(Dialog*& pending, HWND window);
 
-    [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
     // A tooltip, another dialog or a window that is gone is none.
     [[nodiscard]] bool IsOwnControl(HWND window) const;
     LRESULT OnWmCtlColorDialog(MessageRecord& record);
@@ -94,4 +103,5 @@ class Dialog : public ContainerWindow {
     HWND menuBar = nullptr;
     HFONT font;
     Initialisation initialisation;
+    bool canEnd = false;
 };

@@ -13,6 +13,19 @@ void DeleteAll(Entry* entry) {
     }
 }
 
+template <class Entry>
+void DeleteEntriesOf(const WindowObject* target, Entry** link) {
+    while (*link != nullptr) {
+        Entry* entry = *link;
+        if (entry->target != target) {
+            link = &entry->next;
+            continue;
+        }
+        *link = entry->next;
+        delete entry;
+    }
+}
+
 }  // namespace
 
 MessageTable::~MessageTable() {
@@ -31,6 +44,10 @@ const MessageEntry* MessageTable::Find(UINT message) const {
     return entry;
 }
 
+void MessageTable::RemoveTarget(const WindowObject* target) {
+    DeleteEntriesOf(target, &head);
+}
+
 EventTable::~EventTable() {
     DeleteAll(head);
 }
@@ -46,4 +63,8 @@ const EventEntry* EventTable::Find(EventCode code, EventSource source) const {
     while (entry != nullptr && (entry->code != code || entry->source != source))
         entry = entry->next;
     return entry;
+}
+
+void EventTable::RemoveTarget(const WindowObject* target) {
+    DeleteEntriesOf(target, &head);
 }

@@ -51,6 +51,8 @@ class MessageTable {
     void Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
     // The newest entry for the message, or null.
     [[nodiscard]] const MessageEntry* Find(UINT message) const;
+    // Takes out what would call an object that is gone.
+    void RemoveTarget(const WindowObject* target);
 
   private:
     MessageEntry* head = nullptr;
@@ -77,6 +79,8 @@ class EventTable {
              std::uintptr_t extra);
     // The newest entry for the event from this source, or null.
     [[nodiscard]] const EventEntry* Find(EventCode code, EventSource source) const;
+    // Takes out what would call an object that is gone.
+    void RemoveTarget(const WindowObject* target);
 
   private:
     EventEntry* head = nullptr;

@@ -34,6 +34,7 @@ PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* 
     : Dialog(parentObject, properties), titleText(title, title + std::wcslen(title) + 1) {}
 
 HPROPSHEETPAGE PropertySheetPage::CreatePage() {
+    if (FindTemplate() == nullptr) return nullptr;
     PROPSHEETPAGEW page{};
     page.dwSize = sizeof page;
     page.dwFlags = PSP_USECALLBACK | PSP_USETITLE;
@@ -54,14 +55,15 @@ UINT CALLBACK PropertySheetPage::PageCallback(HWND, UINT, PROPSHEETPAGEW*) {
 INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         const auto* page = reinterpret_cast<const PROPSHEETPAGEW*>(lParam);
-        reinterpret_cast<PropertySheetPage*>(page->lParam)->Attach(window);
+        auto* created = reinterpret_cast<PropertySheetPage*>(page->lParam);
+        // Without its map entry the page shows its template and changes nothing.
+        if (!created->Attach(window)) created->Detach();
     }
-    const WindowMap* map = Application::Windows();
-    auto* object = map != nullptr ? static_cast<PropertySheetPage*>(map->Find(window)) : nullptr;
+    WindowObject* object = ObjectOf(window);
     if (object == nullptr) return 0;
     MessageRecord record{message, wParam, lParam, 0, 0};
     const INT_PTR result = object->Dispatch(record);
-    if (message == WM_DESTROY) object->Detach();
+    if (message == WM_DESTROY || message == WM_NCDESTROY) WindowIsGone(window);
     return result;
 }
 

@@ -11,7 +11,8 @@ class PropertySheetPage : public Dialog {
     // The template's name comes from the set; the title is copied.
     PropertySheetPage(WindowObject* parent, const wchar_t* title, const PropertySet& properties);
 
-    // The page as the system's sheet wants it; the caller hands it to a sheet or destroys it.
+    // The page as the system's sheet wants it; the caller hands it to a sheet or destroys it. Null without
+    // the template: a sheet that cannot make its page cannot be closed either.
     [[nodiscard]] HPROPSHEETPAGE CreatePage();
 
     // Called when the user takes over the changes.

@@ -13,10 +13,11 @@ WindowMap::~WindowMap() {
     }
 }
 
-void WindowMap::Insert(HWND window, WindowObject* object) {
+bool WindowMap::Insert(HWND window, WindowObject* object) {
     Entry*& head = buckets[BucketOf(window)];
     auto* entry = new (std::nothrow) Entry{window, object, head};
     if (entry != nullptr) head = entry;
+    return entry != nullptr;
 }
 
 WindowObject* WindowMap::Find(HWND window) const {
@@ -27,8 +28,13 @@ WindowObject* WindowMap::Find(HWND window) const {
 }
 
 bool WindowMap::Remove(HWND window) {
+    const WindowObject* newest = Find(window);
+    return newest != nullptr && Remove(window, newest);
+}
+
+bool WindowMap::Remove(HWND window, const WindowObject* object) {
     for (Entry** link = &buckets[BucketOf(window)]; *link != nullptr; link = &(*link)->next) {
-        if ((*link)->window != window) continue;
+        if ((*link)->window != window || (*link)->object != object) continue;
         Entry* entry = *link;
         *link = entry->next;
         delete entry;

@@ -18,11 +18,13 @@ class WindowMap {
     WindowMap(const WindowMap&) = delete;
     WindowMap& operator=(const WindowMap&) = delete;
 
-    // A newer entry of the same handle hides an older one. Lost silently when there is no memory for it.
-    void Insert(HWND window, WindowObject* object);
+    // A newer entry of the same handle hides an older one. Answers whether there was memory for it.
+    bool Insert(HWND window, WindowObject* object);
     [[nodiscard]] WindowObject* Find(HWND window) const;
     // Removes the newest entry of the handle; answers whether there was one.
     bool Remove(HWND window);
+    // Removes this object's entry of the handle, be it the newest or not.
+    bool Remove(HWND window, const WindowObject* object);
 
     [[nodiscard]] static std::size_t BucketOf(HWND window);
 

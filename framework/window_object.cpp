@@ -7,6 +7,7 @@
 #include "framework/application.h"
 #include "framework/fatal_message.h"
 #include "framework/property_keys.h"
+#include "framework/subclassing.h"
 #include "framework/window_class.h"
 
 namespace {
@@ -31,13 +32,17 @@ bool IsDialogWindow(HWND window) {
     return ce::GetClassNameW(window, name, ClassNameCapacity) > 0 && std::wcscmp(name, L"Dialog") == 0;
 }
 
+WindowObject* WindowObject::firstObject = nullptr;
+
 WindowObject::WindowObject(WindowObject* parentObject, const wchar_t* title, PropertySet& properties)
     : parent(parentObject) {
+    JoinObjects();
     Create(title, properties);
 }
 
 WindowObject::WindowObject(WindowObject* parentObject, HWND existing, Ownership ownership)
     : parent(parentObject) {
+    JoinObjects();
     if (existing == nullptr) return;
     Attach(existing);
     ownsHandle = ownership == Ownership::Owned ||
@@ -49,6 +54,7 @@ WindowObject::~WindowObject() {
     messages.reset();
     const HWND window = handle;
     Detach();
+    LeaveObjects();
     if (window != nullptr && ownsHandle && IsWindow(window)) DestroyWindow(window);
 }
 
@@ -70,20 +76,55 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
     ownsHandle = true;
 }
 
-void WindowObject::Attach(HWND window) {
+void WindowObject::JoinObjects() {
+    nextObject = firstObject;
+    firstObject = this;
+}
+
+void WindowObject::LeaveObjects() {
+    WindowObject** link = &firstObject;
+    while (*link != this)
+        link = &(*link)->nextObject;
+    *link = nextObject;
+    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject)
+        object->Forget(this);
+}
+
+bool WindowObject::Attach(HWND window) {
     handle = window;
-    if (WindowMap* map = Application::Windows()) map->Insert(window, this);
+    WindowMap* map = Application::Windows();
+    return map != nullptr && map->Insert(window, this);
 }
 
 void WindowObject::Detach() {
-    if (WindowMap* map = Application::Windows(); map != nullptr && handle != nullptr) map->Remove(handle);
+    if (WindowMap* map = Application::Windows(); map != nullptr && handle != nullptr)
+        map->Remove(handle, this);
     handle = nullptr;
+}
+
+void WindowObject::WindowIsGone(HWND window) {
+    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject) {
+        const HWND own = object->handle;
+        if (own != nullptr && (own == window || !IsWindow(own))) object->LoseWindow();
+    }
+    ForgetProcedure(window);
+}
+
+void WindowObject::LoseWindow() {
+    Detach();
+    ownsHandle = false;
+    savedProcedure = nullptr;
+}
+
+void WindowObject::Forget(const WindowObject* gone) {
+    if (parent == gone) parent = nullptr;
+    if (events != nullptr) events->RemoveTarget(gone);
+    if (messages != nullptr) messages->RemoveTarget(gone);
 }
 
 void WindowObject::Subclass() {
     if (savedProcedure != nullptr || handle == nullptr) return;
-    savedProcedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FrameworkWindowProcedure)));
+    savedProcedure = ReplaceProcedure(handle, &FrameworkWindowProcedure);
 }
 
 bool WindowObject::RaiseEvent(EventCode code, EventSource source, std::intptr_t argument,
@@ -122,9 +163,13 @@ LRESULT WindowObject::DefaultProcessing(MessageRecord& record) {
 
 LRESULT WindowObject::Dispatch(MessageRecord& record) {
     const MessageEntry* entry = messages != nullptr ? messages->Find(record.message) : nullptr;
-    if (entry == nullptr) return DefaultProcessing(record);
+    if (entry == nullptr) return DispatchToClass(record);
     record.extra = entry->extra;
     return (entry->target->*entry->method)(record);
+}
+
+LRESULT WindowObject::DispatchToClass(MessageRecord& record) {
+    return DefaultProcessing(record);
 }
 
 void WindowObject::AddEventHandler(EventCode code, EventSource source, WindowObject* target,
@@ -166,10 +211,21 @@ void WindowObject::Disable() {
     ShowWindow(handle, SW_SHOW);
 }
 
-LRESULT CALLBACK FrameworkWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+namespace {
+
+LRESULT DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const WindowMap* map = Application::Windows();
     WindowObject* object = map != nullptr ? map->Find(window) : nullptr;
     if (object == nullptr || !IsWindow(window)) return DefWindowProcW(window, message, wParam, lParam);
     MessageRecord record{message, wParam, lParam, 0, 0};
     return object->Dispatch(record);
+}
+
+}  // namespace
+
+// A handler may delete its object: nothing is asked of it when the handler has returned.
+LRESULT CALLBACK FrameworkWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = DispatchToObject(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) WindowObject::WindowIsGone(window);
+    return result;
 }

@@ -76,7 +76,8 @@ class WindowObject {
     [[nodiscard]] virtual std::span<const EventCode> OwnEvents() const;
     // What becomes of a message that no handler takes.
     virtual LRESULT DefaultProcessing(MessageRecord& record);
-    // The way of every message through the object.
+    // The way of every message through the object: to the newest handler that was registered for it, else to
+    // the class itself.
     virtual LRESULT Dispatch(MessageRecord& record);
     virtual void AddEventHandler(EventCode code, EventSource source, WindowObject* target, EventMethod method,
                                  std::uintptr_t extra);
@@ -89,14 +90,34 @@ class WindowObject {
 
     void AddMessageHandler(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
 
+    // To be called at the very end of a window that the framework gets the messages of. No object keeps its
+    // handle, nor that of a child that went with it: the system may give it to another window.
+    static void WindowIsGone(HWND window);
+
   protected:
-    // For windows that the system creates before it tells (dialogs): takes the handle into the map.
-    void Attach(HWND window);
+    // For windows that the system creates before it tells (dialogs): takes the handle into the map. Answers
+    // whether it is there, so that messages find the object.
+    bool Attach(HWND window);
     // Takes the handle out of the map and forgets it.
     void Detach();
 
+    // What the class does with a message of its own accord. It needs no table entry, which memory may be
+    // short for: a dialog can be closed whatever happens.
+    virtual LRESULT DispatchToClass(MessageRecord& record);
+
+    // The object's window is gone, and not by the object's doing.
+    virtual void LoseWindow();
+    // The other object is gone: it is called no more.
+    virtual void Forget(const WindowObject* gone);
+
   private:
     void Create(const wchar_t* title, PropertySet& properties);
+
+    // All objects that there are, with a window or without.
+    static WindowObject* firstObject;
+    WindowObject* nextObject = nullptr;
+    void JoinObjects();
+    void LeaveObjects();
 
     HWND handle = nullptr;
     std::unique_ptr<EventTable> events;

@@ -18,10 +18,10 @@ TEST(FailingAllocation, of_a_map_entry_loses_the_entry_and_nothing_else) {
     const auto window = reinterpret_cast<HWND>(std::uintptr_t{0x10020});
     const auto neighbour = reinterpret_cast<HWND>(std::uintptr_t{0x10020 + 113});
     WindowMap map;
-    map.Insert(neighbour, Object(1));
+    EXPECT_TRUE(map.Insert(neighbour, Object(1)));
     {
         const RefusedMemory noMemory;
-        map.Insert(window, Object(2));
+        EXPECT_FALSE(map.Insert(window, Object(2)));
     }
     EXPECT_EQ(map.Find(window), nullptr);
     EXPECT_EQ(map.Find(neighbour), Object(1));

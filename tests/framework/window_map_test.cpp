@@ -71,6 +71,18 @@ TEST(WindowMap, puts_a_new_entry_before_an_older_one_of_the_same_handle) {
     EXPECT_EQ(map.Find(Window(77)), Object(1));
 }
 
+TEST(WindowMap, removes_the_entry_of_one_object_and_leaves_the_others) {
+    for (const std::uintptr_t gone : {1U, 2U}) {
+        WindowMap map;
+        map.Insert(Window(77), Object(1));
+        map.Insert(Window(77), Object(2));
+        EXPECT_TRUE(map.Remove(Window(77), Object(gone)));
+        EXPECT_FALSE(map.Remove(Window(77), Object(gone)));
+        EXPECT_FALSE(map.Remove(Window(77), Object(9)));
+        EXPECT_EQ(map.Find(Window(77)), Object(3 - gone));
+    }
+}
+
 TEST(WindowMap, finds_each_of_a_thousand_windows) {
     WindowMap map;
     for (std::uintptr_t i = 1; i <= 1000; ++i)
