@@ -1,0 +1,209 @@
+// The keys that leave or answer a dialog, pressed in each of them: they do one expected thing or nothing, and
+// the main window has the keyboard afterwards.
+
+#include "tests/hands/hands_test.h"
+
+namespace {
+
+struct DialogKey {
+    const char* name;
+    WORD key;
+    std::vector<WORD> modifiers;
+};
+
+const DialogKey Esc = {"Esc", VK_ESCAPE, {}};
+const DialogKey Enter = {"Enter", VK_RETURN, {}};
+const DialogKey Space = {"Space", VK_SPACE, {}};
+const DialogKey AltF4 = {"Alt+F4", VK_F4, {VK_MENU}};
+const DialogKey CtrlBreak = {"Ctrl+Break", VK_CANCEL, {VK_CONTROL}};
+const DialogKey F1 = {"F1", VK_F1, {}};
+
+// Long enough for a key that would close a dialog.
+constexpr DWORD TimeToClose = 400;
+
+}  // namespace
+
+class DialogKeys : public HandsTest {
+  protected:
+    void SetUp() override {
+        HandsTest::SetUp();
+        AddFile(L"a.qsa");
+        AddFile(L"b.qsb");
+    }
+
+    static void Press(const DialogKey& key) {
+        for (const WORD modifier : key.modifiers)
+            HoldKey(modifier);
+        PressKey(key.key);
+        for (const WORD modifier : key.modifiers)
+            ReleaseKey(modifier);
+    }
+
+    ProgramDialog InFront() {
+        const ProgramDialog dialog = Dialog();
+        WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Window(); });
+        return dialog;
+    }
+
+    static bool IsOpen(const ProgramDialog& dialog) { return IsWindowVisible(dialog.Window()) != FALSE; }
+
+    void ExpectClosedBy(const DialogKey& key, const ProgramDialog& dialog) {
+        SCOPED_TRACE(key.name);
+        Press(key);
+        ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsOpen(dialog); }));
+    }
+    void ExpectMainWindowInUse() {
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [] { return GetForegroundWindow() == Program().Window(); }));
+        EXPECT_TRUE(IsWindowEnabled(Program().Window()));
+        EXPECT_TRUE(NoDialogOpen());
+        EXPECT_TRUE(!IsMenuOpen());
+    }
+    // Nothing else opens either.
+    void ExpectLeftOpenBy(const DialogKey& key, const ProgramDialog& dialog) {
+        SCOPED_TRACE(key.name);
+        Press(key);
+        EXPECT_FALSE(HoldsWithin(TimeToClose, [&] { return !IsOpen(dialog); }));
+        EXPECT_EQ(dialog.Window(), GetForegroundWindow());
+    }
+
+    void OpenForRow(UINT command) {
+        OpenMenuByPointer(FileMenu);
+        ClickMenuItem(command);
+    }
+};
+
+TEST_F(DialogKeys, close_the_about_box_and_never_uninstall) {
+    CloseProgram();
+    StartAgain();
+    Program().BringForward();
+    for (const DialogKey& key : {Esc, Enter, AltF4, CtrlBreak}) {
+        PressKey(VK_F1);
+        const ProgramDialog about = InFront();
+        ExpectLeftOpenBy(Space, about);
+        ExpectLeftOpenBy(F1, about);
+        ExpectClosedBy(key, about);
+        ExpectMainWindowInUse();
+    }
+    EXPECT_TRUE(Program().IsRunning());
+}
+
+TEST_F(DialogKeys, leave_the_folder_browser_without_a_folder_but_for_enter) {
+    // Alt+F4 is left out: not every system's tree lets it through.
+    for (const DialogKey& key : {Esc, CtrlBreak}) {
+        Program().FocusControl(NamePage, BUTTON_BROWSE);
+        PressKey(VK_SPACE);
+        const ProgramDialog browser = InFront();
+        PressKey(VK_DOWN);
+        ExpectLeftOpenBy(F1, browser);
+        ExpectClosedBy(key, browser);
+        ExpectMainWindowInUse();
+        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text) << key.name;
+        EXPECT_TRUE(Program().HasFocus(NamePage, BUTTON_BROWSE)) << key.name;
+    }
+    PressKey(VK_SPACE);
+    const ProgramDialog browser = InFront();
+    PressKey(VK_HOME);
+    PressKey(VK_DOWN);
+    WaitUntil("the folder", [&] { return Program().Tree().at(1).Selected(); });
+    const std::wstring chosen = L"\\" + Program().Tree().at(1).text;
+    ExpectClosedBy(Enter, browser);
+    EXPECT_TRUE(HoldsWithin(StepDeadline,
+                            [&] { return Program().Control(NamePage, COMBO_LOCATION).text == chosen; }));
+}
+
+TEST_F(DialogKeys, answer_the_delete_question_with_no_but_for_enter_and_space) {
+    for (const DialogKey& key : {Esc, AltF4, CtrlBreak}) {
+        Find(L"*.qs?");
+        SelectRow(L"a.qsa");
+        OpenForRow(COMMAND_DELETE);
+        const ProgramDialog question = InFront();
+        ExpectLeftOpenBy(F1, question);
+        ExpectClosedBy(key, question);
+        ExpectMainWindowInUse();
+        EXPECT_TRUE(Stands(L"a.qsa")) << key.name;
+    }
+    struct Row {
+        const DialogKey& key;
+        const wchar_t* file;
+    };
+    for (const Row& row : {Row{Enter, L"a.qsa"}, Row{Space, L"b.qsb"}}) {
+        SelectRow(row.file);
+        OpenForRow(COMMAND_DELETE);
+        ExpectClosedBy(row.key, InFront());
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !Stands(row.file); })) << row.key.name;
+        ExpectMainWindowInUse();
+    }
+}
+
+TEST_F(DialogKeys, give_the_properties_sheet_up_but_for_enter) {
+    const auto isReadOnly = [&] {
+        return (GetFileAttributesW(Real(L"a.qsa").c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
+    };
+    Find(L"a.qsa");
+    for (const DialogKey& key : {Esc, AltF4, CtrlBreak, Enter}) {
+        PressKey(VK_RETURN, {VK_MENU});
+        const ProgramDialog sheet = InFront();
+        ClickAt([&] {
+            RECT box = {};
+            GetWindowRect(sheet.Control(CHECK_READ_ONLY), &box);
+            return CentreOf(box);
+        }());
+        WaitUntil("the tick", [&] { return sheet.IsChecked(CHECK_READ_ONLY); });
+        PressKey(VK_SPACE);
+        WaitUntil("the tick to go", [&] { return !sheet.IsChecked(CHECK_READ_ONLY); });
+        PressKey(VK_SPACE);
+        WaitUntil("the tick again", [&] { return sheet.IsChecked(CHECK_READ_ONLY); });
+        ExpectLeftOpenBy(F1, sheet);
+        EXPECT_FALSE(isReadOnly()) << key.name;
+        ExpectClosedBy(key, sheet);
+        ExpectMainWindowInUse();
+    }
+    EXPECT_TRUE(HoldsWithin(StepDeadline, isReadOnly));
+}
+
+TEST_F(DialogKeys, close_an_error_box) {
+    for (const DialogKey& key : {Esc, Enter, Space, AltF4}) {
+        Find(L"*.qs?");
+        SelectRow(L"a.qsa");
+        OpenForRow(COMMAND_RENAME);
+        WaitUntil("the edit", [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
+        TypeText(L"b.qsb");
+        PressKey(VK_RETURN);
+        // The reason first, then that the rename failed.
+        for (int box = 0; box < 2; ++box) {
+            const ProgramDialog error = InFront();
+            ASSERT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+            if (box == 0) ExpectLeftOpenBy(F1, error);
+            ExpectClosedBy(key, error);
+        }
+        ExpectMainWindowInUse();
+        EXPECT_TRUE(Stands(L"a.qsa")) << key.name;
+    }
+}
+
+TEST_F(DialogKeys, abort_a_search_or_leave_it_alone) {
+    for (const DialogKey& key : {Esc, Space, AltF4}) {
+        Program().Fill(Where(Folder()));
+        ASSERT_TRUE(Program().FindAndHoldAwake(1)) << key.name;
+        const ProgramDialog finding = InFront();
+        ExpectLeftOpenBy(F1, finding);
+        ExpectLeftOpenBy(CtrlBreak, finding);
+        ExpectClosedBy(key, finding);
+        Program().Release();
+        Program().WaitForEndOfSearch();
+        ExpectMainWindowInUse();
+    }
+}
+
+TEST_F(DialogKeys, leave_the_page_and_its_fields_where_they_are) {
+    for (const int id : {EDIT_CONTENT, BUTTON_BROWSE}) {
+        for (const DialogKey& key : {Esc, CtrlBreak}) {
+            Program().FocusControl(NamePage, id);
+            Press(key);
+            EXPECT_FALSE(HoldsWithin(TimeToClose, [&] {
+                return !Program().Control(NamePage, EDIT_CONTENT).visible;
+            })) << key.name;
+            EXPECT_TRUE(Program().HasFocus(NamePage, id)) << key.name;
+        }
+    }
+}
