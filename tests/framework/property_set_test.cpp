@@ -127,46 +127,4 @@ TEST(PropertySet, keeps_an_address_whole) {
     EXPECT_EQ(properties.GetText(property::ClassName), text);
 }
 
-// The numbers are shared with every place that reads them.
-TEST(PropertyKeys, have_their_numbers) {
-    struct Row {
-        PropertyKey key;
-        PropertyKey number;
-    };
-    const Row rows[] = {
-        {property::InitArgument, 101},
-        {property::ExtraControlClasses, 1000},
-        {property::Accelerators, 1001},
-        {property::ClassBackground, 1004},
-        {property::ClassName, 1011},
-        {property::ClassStyle, 1012},
-        {property::ClassExtraBytes, 1014},
-        {property::ControlId, 1016},
-        {property::ClassCursor, 1017},
-        {property::HasRebar, 1021},
-        {property::HasStatusBar, 1022},
-        {property::RefuseEmpty, 1028},
-        {property::ExtendedStyle, 1032},
-        {property::Height, 1046},
-        {property::ClassIcon, 1052},
-        {property::SmallIcon, 1053},
-        {property::MaximumEntries, 1075},
-        {property::MenuBar, 1078},
-        {property::ClassMenuName, 1079},
-        {property::CreationParameter, 1095},
-        {property::ClassIsRegistered, 1101},
-        {property::FullScreenFlags, 1110},
-        {property::Style, 1115},
-        {property::DialogTemplate, 1117},
-        {property::TabNotification, 1126},
-        {property::Width, 1135},
-        {property::WindowExtraBytes, 1137},
-        {property::WindowProcedure, 1138},
-        {property::X, 1139},
-        {property::Y, 1140},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(row.key, row.number);
-}
-
 }  // namespace
