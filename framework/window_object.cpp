@@ -180,6 +180,7 @@ void WindowObject::AddEventHandler(EventCode code, EventSource source, WindowObj
 
 void WindowObject::AddNotificationHandler(EventCode code, WindowObject* target, EventMethod method,
                                           std::uintptr_t extra) {
+    if (handle == nullptr) return;
     for (const EventCode own : OwnEvents()) {
         if (own == code) {
             AddEventHandler(code, reinterpret_cast<EventSource>(handle), target, method, extra);

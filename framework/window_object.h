@@ -82,7 +82,8 @@ class WindowObject {
     virtual void AddEventHandler(EventCode code, EventSource source, WindowObject* target, EventMethod method,
                                  std::uintptr_t extra);
     // On a child: into its own table when the event is one of its own, else into the parent's table, with
-    // the child's handle as source or, when the parent is a dialog, the child's control id.
+    // the child's handle as source or, when the parent is a dialog, the child's control id. Nothing comes
+    // from a child without a window.
     virtual void AddNotificationHandler(EventCode code, WindowObject* target, EventMethod method,
                                         std::uintptr_t extra);
     virtual void Enable();

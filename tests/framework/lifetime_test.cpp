@@ -262,6 +262,25 @@ TEST_F(LostObjects, may_go_with_their_window_in_the_middle_of_a_click_on_it) {
     EXPECT_EQ(button.Handle(), nullptr);
 }
 
+class MissingControls : public Lifetimes {};
+
+// No handle and no id reads as 0, and so do a menu's item that is drawn and a command without a number.
+TEST_F(MissingControls, get_nothing_that_is_meant_for_others) {
+    TestWindow window;
+    TestDialog dialog(L"Plain_E");
+    dialog.CreateModeless();
+    for (WindowObject* parent : {static_cast<WindowObject*>(&window), static_cast<WindowObject*>(&dialog)}) {
+        Control missing(parent, nullptr, L"Button");
+        missing.OnNotification(event::DrawItem, &listener, &Listener::TakeEvent);
+        missing.OnNotification(event::Command, &listener, &Listener::TakeEvent);
+        DRAWITEMSTRUCT menuItem{};
+        menuItem.CtlType = ODT_MENU;
+        SendMessageW(parent->Handle(), WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&menuItem));
+        SendCommand(parent->Handle(), 0, 0, nullptr);
+    }
+    EXPECT_TRUE(listener.events.empty());
+}
+
 class DialogEnds : public Lifetimes {};
 
 TEST_F(DialogEnds, count_once_and_the_first_one_decides) {
