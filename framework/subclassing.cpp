@@ -25,6 +25,7 @@ SubclassedWindow** LinkTo(HWND window) {
 // is its own successor never comes back.
 WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement) {
     if (const SubclassedWindow* known = *LinkTo(window)) return known->procedure;
+    if (!IsWindow(window)) return nullptr;
     auto* entry = new (std::nothrow) SubclassedWindow{window, nullptr, subclassedWindows};
     if (entry == nullptr) return nullptr;
     entry->procedure = reinterpret_cast<WNDPROC>(

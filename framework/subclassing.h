@@ -7,7 +7,7 @@
 #include "platform/system_types.h"
 
 // Puts the replacement in front of the window's procedure, unless it is there already, and returns that
-// procedure; null, with the window left as it is, when there is no memory to remember it.
+// procedure; null, with the window left as it is, when there is no memory to remember it or no such window.
 [[nodiscard]] WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement);
 
 // To be called when the window is gone, since its handle may come back.

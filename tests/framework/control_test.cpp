@@ -49,6 +49,20 @@ TEST_F(Controls, wrapped_in_a_window_that_is_no_dialog_are_owned) {
     EXPECT_FALSE(IsWindow(existing));
 }
 
+// Only the class "Dialog" itself is one of dialogs.
+TEST_F(Controls, wrapped_in_a_window_whose_class_begins_like_a_dialog_s_are_owned) {
+    for (const wchar_t* name : {L"DialogFrame", L"Dialo", L"dialog"}) {
+        PropertySet properties = PopupProperties();
+        properties.SetText(property::ClassName, name);
+        TestWindow parent(properties);
+        PropertySet place = ChildProperties(1);
+        const Control made(&parent, L"Button", place);
+        EXPECT_FALSE(IsDialogWindow(parent.Handle()));
+        const Control wrapper(&parent, made.Handle(), L"Button");
+        EXPECT_TRUE(wrapper.OwnsHandle());
+    }
+}
+
 TEST_F(Controls, can_be_wrapped_without_owning_them) {
     PropertySet properties = ChildProperties(1);
     const Control made(&window, L"Button", properties);

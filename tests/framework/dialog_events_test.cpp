@@ -172,6 +172,19 @@ TEST_F(DialogNotifications, of_a_window_that_is_no_control_of_the_dialog_raise_n
     EXPECT_TRUE(listener.events.empty());
 }
 
+// A list's heading or an edit inside a control notifies the control, which may pass it on.
+TEST_F(DialogNotifications, of_a_window_inside_a_control_raise_nothing) {
+    const HWND inner =
+        ::CreateWindowExW(0, L"Button", L"", WS_CHILD, 0, 0, 10, 10, dialog.Item(PLAIN_LIST),
+                          reinterpret_cast<HMENU>(UINT_PTR{PLAIN_BUTTON}), Globals().instance, nullptr);
+    ASSERT_NE(inner, nullptr);
+    dialog.OnEvent(event::DoubleClick, PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    dialog.OnCommand(PLAIN_BUTTON, &listener, &Listener::TakeEvent);
+    SendNotification(dialog.Handle(), inner, PLAIN_BUTTON, NM_DBLCLK);
+    SendCommand(dialog.Handle(), PLAIN_BUTTON, BN_CLICKED, inner);
+    EXPECT_TRUE(listener.events.empty());
+}
+
 TEST_F(DialogNotifications, that_no_table_knows_are_no_clicks) {
     dialog.OnCommand(PLAIN_BUTTON, &listener, &Listener::TakeEvent);
     const HWND button = dialog.Item(PLAIN_BUTTON);

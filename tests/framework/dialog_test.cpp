@@ -215,6 +215,26 @@ TEST_F(ModelessDialogs, are_shown_in_front) {
     EXPECT_TRUE(IsWindowVisible(window));
 }
 
+TEST_F(ModelessDialogs, that_are_shown_already_come_to_the_front) {
+    const TestWindow other;
+    TestDialog dialog(L"Plain_E");
+    dialog.ShowModeless();
+    SetForegroundWindow(other.Handle());
+    ASSERT_EQ(GetForegroundWindow(), other.Handle());
+    ASSERT_TRUE(IsWindowVisible(dialog.Handle()));
+    dialog.ShowModeless();
+    EXPECT_EQ(GetForegroundWindow(), dialog.Handle());
+}
+
+TEST_F(ModelessDialogs, have_the_small_icon_of_their_owner) {
+    TestWindow owner;
+    const HICON icon = LoadIconW(nullptr, IDI_WARNING);
+    SendMessageW(owner.Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    TestDialog dialog(L"Plain_E", &owner);
+    dialog.CreateModeless();
+    EXPECT_EQ(reinterpret_cast<HICON>(SendMessageW(dialog.Handle(), WM_GETICON, ICON_SMALL, 0)), icon);
+}
+
 TEST_F(ModelessDialogs, without_their_template_get_no_window) {
     TestDialog missing(L"NoSuchTemplate_E");
     missing.ShowModeless();

@@ -69,6 +69,21 @@ TEST_F(TextFields, leave_a_key_to_the_input_method_that_composes) {
     EXPECT_TRUE(tabs.events.empty());
 }
 
+// Some input methods leave Enter and Tab as they are while they compose.
+TEST_F(TextFields, leave_enter_and_tab_alone_as_long_as_an_input_method_composes) {
+    field.TurnOnTabNotification();
+    SendMessageW(field.Handle(), WM_IME_STARTCOMPOSITION, 0, 0);
+    TypeKey(field.Handle(), VK_RETURN);
+    TypeKey(field.Handle(), VK_TAB);
+    EXPECT_TRUE(enters.events.empty());
+    EXPECT_TRUE(tabs.events.empty());
+    SendMessageW(field.Handle(), WM_IME_ENDCOMPOSITION, 0, 0);
+    TypeKey(field.Handle(), VK_RETURN);
+    TypeKey(field.Handle(), VK_TAB);
+    EXPECT_EQ(enters.events.size(), 1U);
+    EXPECT_EQ(tabs.events.size(), 1U);
+}
+
 WNDPROC editProcedure = nullptr;
 std::wstring seenCharacters;
 

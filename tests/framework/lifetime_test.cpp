@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "framework/control.h"
+#include "framework/subclassing.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/foreign_window.h"
 #include "tests/framework/test_dialog.h"
@@ -70,6 +71,40 @@ TEST_F(Resubclassing, behind_a_procedure_that_somebody_else_put_in_comes_to_an_e
     listener.answer = 9;
     EXPECT_EQ(SumOf(foreign), 34);
     EXPECT_EQ(SendMessageW(foreign.window, OtherMessage, 0, 0), 9);
+}
+
+// The handle may come back for another window.
+TEST_F(Resubclassing, remembers_no_procedure_of_a_window_that_is_gone) {
+    HWND gone = nullptr;
+    {
+        const ForeignWindow foreign;
+        gone = foreign.window;
+        WindowObject wrapper(nullptr, gone);
+        wrapper.Subclass();
+        ASSERT_NE(ReplaceProcedure(gone, &FrameworkWindowProcedure), nullptr);
+    }
+    EXPECT_EQ(ReplaceProcedure(gone, &FrameworkWindowProcedure), nullptr);
+}
+
+// An object that takes one window after another, as a dialog's does.
+class ManyWindows : public WindowObject {
+  public:
+    ManyWindows() : WindowObject(nullptr, nullptr) {}
+    using WindowObject::Attach;
+};
+
+TEST_F(Resubclassing, by_an_object_that_has_lost_a_window_before_works) {
+    ManyWindows object;
+    for (int time = 0; time < 2; ++time) {
+        const ForeignWindow foreign;
+        ASSERT_TRUE(object.Attach(foreign.window));
+        object.Subclass();
+        EXPECT_EQ(reinterpret_cast<WNDPROC>(GetWindowLongPtrW(foreign.window, GWLP_WNDPROC)),
+                  &FrameworkWindowProcedure)
+            << time;
+        EXPECT_EQ(SumOf(foreign), 34) << time;
+    }
+    EXPECT_EQ(object.Handle(), nullptr);
 }
 
 class LostWindows : public Lifetimes {};

@@ -55,6 +55,10 @@ TEST_F(Messages, for_a_handle_that_is_no_window_any_more_reach_no_object) {
     const HWND window = object.Handle();
     DestroyWindow(window);
     EXPECT_EQ(FrameworkWindowProcedure(window, SumMessage, 5, 6), 0);
+    // Not even through an entry that somebody has left in the map.
+    Application::Windows()->Insert(window, &object);
+    EXPECT_EQ(FrameworkWindowProcedure(window, SumMessage, 5, 6), 0);
+    Application::Windows()->Remove(window);
     EXPECT_TRUE(listener.messages.empty());
 }
 

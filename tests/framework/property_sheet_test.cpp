@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "framework/centring.h"
 #include "framework/dialog_template.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/framework_test.h"
@@ -75,6 +76,29 @@ TEST_F(Sheets, show_their_pages_until_they_are_cancelled) {
     EXPECT_EQ(page.Handle(), nullptr);
     EXPECT_EQ(Application::Windows()->Find(window), nullptr);
     EXPECT_TRUE(IsWindowEnabled(owner.Handle()));
+}
+
+TEST_F(Sheets, have_ok_and_cancel_alone_in_the_middle_of_their_owner) {
+    constexpr int ApplyButton = 0x3021;
+    owner.Move(30, 20, 180, 240);
+    TestPage page(L"Page_E");
+    doing = [&](HWND sheet) {
+        EXPECT_TRUE(IsWindowVisible(GetDlgItem(sheet, IDOK)));
+        EXPECT_TRUE(IsWindowVisible(GetDlgItem(sheet, IDCANCEL)));
+        const HWND apply = GetDlgItem(sheet, ApplyButton);
+        EXPECT_TRUE(apply == nullptr || !IsWindowVisible(apply));
+        RECT place{};
+        GetWindowRect(sheet, &place);
+        const LONG width = place.right - place.left;
+        const LONG height = place.bottom - place.top;
+        const RECT parent{30, 20, 210, 260};
+        const POINT corner = CentredPosition(width, height, &parent, ce::GetSystemMetrics(SM_CXSCREEN),
+                                             ce::GetSystemMetrics(SM_CYSCREEN));
+        EXPECT_EQ(place.left, corner.x);
+        EXPECT_EQ(place.top, corner.y);
+    };
+    Run({&page});
+    EXPECT_GT(sheetsSeen, 0);
 }
 
 TEST_F(Sheets, are_not_shown_when_no_page_has_its_template) {
