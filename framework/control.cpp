@@ -1,5 +1,6 @@
 #include "framework/control.h"
 
+#include "framework/application.h"
 #include "framework/property_keys.h"
 
 namespace {
@@ -119,15 +120,23 @@ std::span<const EventCode> ComboBox::OwnEvents() const {
 
 LRESULT ComboBox::OnEditKey(EventArguments& arguments) {
     if (IsListOpen()) {
-        // The first Enter takes the entry chosen in the open list, as in any combo box.
+        // The first Enter takes the entry chosen in the open list, as in any combo box. The parent hears of
+        // it meanwhile, and may delete this object.
+        const HWND box = Handle();
         const bool enter = arguments.extra == event::EnterKey;
-        if (enter) SendMessageW(Handle(), WM_KEYDOWN, VK_RETURN, 0);
-        if (IsListOpen()) SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
-        if (enter) return 0;
+        if (enter) SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
+        SendMessageW(box, CB_SHOWDROPDOWN, FALSE, 0);
+        if (enter || !IsObjectOf(box)) return 0;
     }
     RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()),
                arguments.argument, arguments.record);
     return arguments.record.result;
+}
+
+// Asks nothing of the object itself.
+bool ComboBox::IsObjectOf(HWND window) const {
+    const WindowMap* map = Application::Windows();
+    return map != nullptr && map->Find(window) == this;
 }
 
 bool ComboBox::IsListOpen() const {

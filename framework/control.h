@@ -79,6 +79,7 @@ class ComboBox : public Control {
   private:
     LRESULT OnEditKey(EventArguments& arguments);
     [[nodiscard]] bool IsListOpen() const;
+    [[nodiscard]] bool IsObjectOf(HWND window) const;
 
     TextField edit;
 };

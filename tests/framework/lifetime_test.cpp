@@ -297,6 +297,57 @@ TEST_F(LostObjects, may_go_with_their_window_in_the_middle_of_a_click_on_it) {
     EXPECT_EQ(button.Handle(), nullptr);
 }
 
+// One whose memory is overwritten when it goes: whoever still asks it falls over.
+class SpoiledComboBox : public ComboBox {
+  public:
+    using ComboBox::ComboBox;
+    static void operator delete(void* memory) {
+        auto* bytes = static_cast<volatile unsigned char*>(memory);
+        for (std::size_t i = 0; i < sizeof(SpoiledComboBox); ++i)
+            bytes[i] = 0xDD;
+        ::operator delete(memory);
+    }
+};
+
+// The parent hears of the key, or of the list that closes because of it, and takes the combo box's object
+// away.
+TEST_F(LostObjects, may_go_in_the_middle_of_a_key_in_a_combo_box) {
+    struct Row {
+        WPARAM key;
+        bool listOpen;
+        EventCode heard;
+    };
+    const Row rows[] = {{VK_RETURN, false, event::EnterKey},
+                        {VK_TAB, false, event::TabKey},
+                        {VK_RETURN, true, event::Command},
+                        {VK_TAB, true, event::Command},
+                        {VK_TAB, true, event::TabKey}};
+    for (const Row& row : rows) {
+        TestDialog dialog(L"Plain_E");
+        dialog.CreateModeless();
+        Deleter deleter;
+        auto combo = std::make_unique<SpoiledComboBox>(&dialog, dialog.Item(PLAIN_COMBO));
+        const HWND box = combo->Handle();
+        const HWND edit = combo->Edit().Handle();
+        combo->TurnOnTabNotification();
+        SendMessageW(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"entry"));
+        SetFocus(edit);
+        if (row.listOpen) SendMessageW(box, CB_SHOWDROPDOWN, TRUE, 0);
+        // A combo box's own class is not translated: whatever it tells comes as a command of its id.
+        if (row.heard == event::Command) {
+            dialog.OnCommand(PLAIN_COMBO, &deleter, &Deleter::DeleteOnEvent);
+        } else {
+            combo->OnNotification(row.heard, &deleter, &Deleter::DeleteOnEvent);
+        }
+        deleter.object = std::move(combo);
+        TypeKey(edit, row.key);
+        EXPECT_EQ(deleter.object, nullptr) << row.key << " " << row.listOpen;
+        EXPECT_EQ(Application::Windows()->Find(box), nullptr);
+        EXPECT_EQ(Application::Windows()->Find(edit), nullptr);
+        EXPECT_TRUE(IsWindow(box));
+    }
+}
+
 class MissingControls : public Lifetimes {};
 
 // No handle and no id reads as 0, and so do a menu's item that is drawn and a command without a number.
