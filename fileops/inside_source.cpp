@@ -2,16 +2,18 @@
 
 #include <cwchar>
 
+#include "platform/name_wildcard.h"
 #include "search/split_path.h"
 
 bool IsInsideSource(const wchar_t* source, const wchar_t* destination) {
     const PathParts parts = SplitPath(source);
     const std::size_t folderLength = std::wcslen(parts.folder);
-    if (std::wcslen(destination) == folderLength && _wcsnicmp(parts.folder, destination, folderLength) == 0)
+    const std::size_t destinationLength = std::wcslen(destination);
+    if (destinationLength == folderLength && NamesTheSame(parts.folder, destination, folderLength))
         return true;
 
     const std::size_t sourceLength = std::wcslen(source);
-    if (_wcsnicmp(destination, source, sourceLength) != 0) return false;
+    if (destinationLength < sourceLength || !NamesTheSame(destination, source, sourceLength)) return false;
     const wchar_t following = destination[sourceLength];
     return following == L'\0' || following == L'\\' || following == L'/';
 }

@@ -24,6 +24,13 @@ bool SameUnit(wchar_t one, wchar_t other) {
 
 }  // namespace
 
+bool NamesTheSame(const wchar_t* one, const wchar_t* other, std::size_t units) {
+    for (std::size_t at = 0; at < units; ++at) {
+        if (!SameUnit(one[at], other[at])) return false;
+    }
+    return true;
+}
+
 bool MatchesEveryName(const wchar_t* pattern) {
     if (pattern[0] != L'*') return false;
     return pattern[1] == L'\0' || (pattern[1] == L'.' && pattern[2] == L'*' && pattern[3] == L'\0');

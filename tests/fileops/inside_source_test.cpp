@@ -24,6 +24,15 @@ const OverlapCase OverlapCases[] = {
     {"inside_itself_in_another_case", L"\\a", L"\\A\\x", true},
     {"inside_itself_by_a_slash", L"\\a", L"\\a/x", true},
     {"deep_inside_itself", L"\\a", L"\\a\\b\\c\\d", true},
+    {"destination_shorter_than_itself", L"\\a\\bcd", L"\\a\\b", false},
+#ifdef _WIN32
+    {"itself_in_another_case_of_german", L"\\Ärger", L"\\ärger", true},
+    {"inside_itself_in_another_case_of_russian", L"\\ДОМ", L"\\дом\\x", true},
+    {"folder_that_holds_it_in_another_case_of_full_width", L"\\ａｂｃ\\x", L"\\ＡＢＣ", true},
+    {"inside_itself_in_another_case_of_greek", L"\\σ", L"\\Σ\\x", true},
+    {"letter_with_another_accent", L"\\ä", L"\\á\\x", false},
+    {"half_width_of_the_same_letter", L"\\ア", L"\\ｱ\\x", false},
+#endif
     {"name_that_begins_alike", L"\\a", L"\\ab", false},
     {"folder_of_a_name_that_begins_alike", L"\\a", L"\\ab\\a", false},
     {"another_folder", L"\\a\\b", L"\\c", false},

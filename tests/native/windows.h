@@ -62,10 +62,6 @@ inline int _vsnwprintf(wchar_t* text, std::size_t capacity, const wchar_t* forma
     return std::vswprintf(text, capacity, format, arguments);
 }
 
-inline int _wcsnicmp(const wchar_t* first, const wchar_t* second, std::size_t units) {
-    return ::wcsncasecmp(first, second, units);
-}
-
 #define LOCALE_SYSTEM_DEFAULT 0x0800
 
 // Writes the number with two digits for each of the letters that the picture can hold, and quoted text as it

@@ -79,7 +79,20 @@ TEST(NameWildcard, letters_of_other_languages_are_folded_as_the_system_does) {
     Check({L"\uFF41.txt", L"\uFF21.*", true});
     Check({L"\u3042", L"\u3044", false});
 }
+
+TEST(NamesTheSame, whose_letters_of_any_language_differ_in_case_only) {
+    EXPECT_TRUE(NamesTheSame(L"\u00C4rger", L"\u00E4RGER", 6));
+    EXPECT_TRUE(NamesTheSame(L"\u0434\u043E\u043C", L"\u0414\u041E\u041C", 3));
+    EXPECT_FALSE(NamesTheSame(L"\u00E4", L"\u00E1", 1));
+    EXPECT_FALSE(NamesTheSame(L"\u30A2", L"\uFF71", 1));
+}
 #endif
+
+TEST(NamesTheSame, looks_at_as_many_units_as_it_is_told) {
+    EXPECT_TRUE(NamesTheSame(L"abc", L"ABx", 2));
+    EXPECT_FALSE(NamesTheSame(L"abc", L"ABx", 3));
+    EXPECT_TRUE(NamesTheSame(L"a", L"b", 0));
+}
 
 TEST(NameWildcard, star_dot_star_matches_every_name) {
     Check({L"readme", L"*.*", true});
