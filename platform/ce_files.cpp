@@ -64,20 +64,28 @@ DWORD GetAttributes(const wchar_t* path) {
                     [](const wchar_t* literal) { return GetFileAttributesW(literal); });
 }
 
-BOOL SetAttributes(const wchar_t* path, DWORD attributes) {
-    return WithPath(path, FALSE,
-                    [attributes](const wchar_t* literal) { return SetFileAttributesW(literal, attributes); });
-}
-
-// Removing or moving a link must not touch what it leads to.
-bool MayBeTaken(const wchar_t* path) {
+// What is done to a link must not be done to what it leads to.
+bool MayBeChanged(const wchar_t* path) {
     if (!IsOutOfReach(path)) return true;
     SetLastError(ERROR_NOT_SUPPORTED);
     return false;
 }
 
+// Every system writes through a link to a file.
+bool MayBeWritten(const wchar_t* path) {
+    if (!LeadsToAnotherFile(path)) return true;
+    SetLastError(ERROR_NOT_SUPPORTED);
+    return false;
+}
+
+BOOL SetAttributes(const wchar_t* path, DWORD attributes) {
+    if (!MayBeChanged(path)) return FALSE;
+    return WithPath(path, FALSE,
+                    [attributes](const wchar_t* literal) { return SetFileAttributesW(literal, attributes); });
+}
+
 BOOL Delete(const wchar_t* path) {
-    if (!MayBeTaken(path)) return FALSE;
+    if (!MayBeChanged(path)) return FALSE;
     return WithPath(path, FALSE, [](const wchar_t* literal) { return DeleteFileW(literal); });
 }
 
@@ -92,16 +100,24 @@ bool IsNewName(const wchar_t* literal) {
 }
 
 BOOL Move(const wchar_t* from, const wchar_t* to) {
-    if (!MayBeTaken(from)) return FALSE;
+    if (!MayBeChanged(from)) return FALSE;
     return WithTwoPaths(from, to, [](const wchar_t* literalFrom, const wchar_t* literalTo) -> BOOL {
         return IsNewName(literalTo) && MoveFileW(literalFrom, literalTo);
     });
 }
 
+bool IsMissing(const wchar_t* literal) {
+    return GetFileAttributesW(literal) == INVALID_FILE_ATTRIBUTES && GetLastError() == ERROR_FILE_NOT_FOUND;
+}
+
 BOOL Copy(const wchar_t* from, const wchar_t* to, BOOL failIfExists) {
+    if (!MayBeWritten(to)) return FALSE;
     return WithTwoPaths(from, to,
                         [failIfExists](const wchar_t* literalFrom, const wchar_t* literalTo) -> BOOL {
-                            return IsNewName(literalTo) && CopyFileW(literalFrom, literalTo, failIfExists);
+                            // A link that leads nowhere looks missing, and the file would be made where it
+                            // leads to.
+                            const BOOL madeAnew = failIfExists || IsMissing(literalTo);
+                            return IsNewName(literalTo) && CopyFileW(literalFrom, literalTo, madeAnew);
                         });
 }
 
@@ -111,7 +127,7 @@ BOOL CreateFolder(const wchar_t* path, SECURITY_ATTRIBUTES* security) {
 }
 
 BOOL RemoveFolder(const wchar_t* path) {
-    if (!MayBeTaken(path)) return FALSE;
+    if (!MayBeChanged(path)) return FALSE;
     return WithPath(path, FALSE, [](const wchar_t* literal) { return RemoveDirectoryW(literal); });
 }
 

@@ -2,6 +2,8 @@
 
 #include <cwchar>
 
+#include "platform/name_wildcard.h"
+#include "platform/same_file.h"
 #include "platform/system_path.h"
 
 namespace {
@@ -32,24 +34,42 @@ bool IsMountedVolume(const wchar_t* path) {
     return GetVolumeNameForVolumeMountPointW(folder, volume, MAX_PATH) != FALSE;
 }
 
-// Letter case does not tell names apart, nor do dots and blanks at the end: the system leaves them out where
-// it says what it has opened.
-bool IsSameName(const wchar_t* one, const wchar_t* other) {
-    const auto unitsThatCount = [](const wchar_t* name) {
-        auto units = static_cast<int>(std::wcslen(name));
-        while (units > 0 && (name[units - 1] == L'.' || name[units - 1] == L' '))
-            --units;
-        return units;
-    };
-    return CompareStringOrdinal(one, unitsThatCount(one), other, unitsThatCount(other), TRUE) == CSTR_EQUAL;
+// The name under which the folder lists what stands at the path.
+bool ListedName(const wchar_t* path, wchar_t (&name)[MAX_PATH]) {
+    WIN32_FIND_DATAW entry;
+    const HANDLE listing = FindFirstFileW(path, &entry);
+    if (listing == INVALID_HANDLE_VALUE) return false;
+    FindClose(listing);
+    std::wcscpy(name, entry.cFileName);
+    return true;
 }
 
-enum class Standing { Unknown, InItsPlace, UnderAnotherName, Elsewhere };
+std::size_t UnitsWithoutEnd(const wchar_t* name) {
+    std::size_t units = std::wcslen(name);
+    while (units > 0 && (name[units - 1] == L'.' || name[units - 1] == L' '))
+        --units;
+    return units;
+}
 
-// How what the system finds at the path stands to the parent and the name that the path gives. The place is
-// written unless that is unknown.
-Standing StandingOf(const SystemPath& literal, LastLink lastLink, wchar_t (&place)[LiteralPathSize]) {
+// Whether the path and the place, both in one folder, are one entry of it. Either may be its long or its
+// short name, in any letter case. Where the system says what it has opened, it leaves out dots and blanks at
+// the end: the place is then another file's, or nobody's.
+bool IsSameEntry(const wchar_t* path, const wchar_t* place) {
+    wchar_t listed[MAX_PATH], listedPlace[MAX_PATH];
+    if (ListedName(path, listed) && ListedName(place, listedPlace))
+        return std::wcscmp(listed, listedPlace) == 0 || !IsSameFile(path, place);
+    const wchar_t* const name = std::wcsrchr(path, L'\\');
+    const wchar_t* const placeName = std::wcsrchr(place, L'\\');
+    const std::size_t units = UnitsWithoutEnd(name);
+    return UnitsWithoutEnd(placeName) == units && NamesTheSame(name, placeName, units);
+}
+
+enum class Standing { Unknown, InItsPlace, Elsewhere };
+
+// How what the system finds at the path stands to the parent and the name that the path gives.
+Standing StandingOf(const SystemPath& literal, LastLink lastLink) {
     const wchar_t* const name = std::wcsrchr(literal.Text(), L'\\');
+    wchar_t place[LiteralPathSize];
     if (name == nullptr || !WhereItStands(literal.Text(), lastLink, place)) return Standing::Unknown;
 
     wchar_t parent[LiteralPathSize];
@@ -62,38 +82,19 @@ Standing StandingOf(const SystemPath& literal, LastLink lastLink, wchar_t (&plac
 
     std::size_t units = std::wcslen(parentPlace);
     if (units > 0 && parentPlace[units - 1] == L'\\') --units;
-    if (_wcsnicmp(place, parentPlace, units) != 0) return Standing::Elsewhere;
-    if (IsSameName(place + units, name)) return Standing::InItsPlace;
-    return std::wcsrchr(place, L'\\') == place + units ? Standing::UnderAnotherName : Standing::Elsewhere;
+    if (std::wcslen(place) < units || !NamesTheSame(place, parentPlace, units)) return Standing::Elsewhere;
+    if (std::wcsrchr(place, L'\\') != place + units) return Standing::Elsewhere;
+    return IsSameEntry(literal.Text(), place) ? Standing::InItsPlace : Standing::Elsewhere;
 }
 
 bool StandsInItsPlace(const SystemPath& literal, LastLink lastLink) {
-    wchar_t place[LiteralPathSize];
-    return StandingOf(literal, lastLink, place) == Standing::InItsPlace;
-}
-
-// Whether the file at the place is listed there, but not by this name.
-bool IsListedByOthers(const wchar_t* place, const wchar_t* name) {
-    WIN32_FIND_DATAW entry;
-    const HANDLE listing = FindFirstFileW(place, &entry);
-    if (listing == INVALID_HANDLE_VALUE) return false;
-    FindClose(listing);
-    return !IsSameName(entry.cFileName, name) && !IsSameName(entry.cAlternateFileName, name);
+    return StandingOf(literal, lastLink) == Standing::InItsPlace;
 }
 
 // A link to a file bears no mark where the system follows it. It is known by the file that it opens: that one
 // stands in another folder, or has another name. A file that says nothing of itself is none.
-bool IsFollowedFileLink(const SystemPath& literal) {
-    wchar_t place[LiteralPathSize];
-    switch (StandingOf(literal, LastLink::Itself, place)) {
-        case Standing::Elsewhere:
-            return true;
-        case Standing::UnderAnotherName:
-            // A file may have two names of its own, a long and a short one.
-            return IsListedByOthers(place, std::wcsrchr(literal.Text(), L'\\') + 1);
-        default:
-            return false;
-    }
+bool OpensAnotherFile(const SystemPath& literal, LastLink lastLink) {
+    return StandingOf(literal, lastLink) == Standing::Elsewhere;
 }
 
 }  // namespace
@@ -111,7 +112,15 @@ bool IsOutOfReach(const wchar_t* path) {
     if (!literal.Fits()) return false;
     const DWORD attributes = GetFileAttributesW(literal.Text());
     if (attributes == INVALID_FILE_ATTRIBUTES) return false;
-    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return IsFollowedFileLink(literal);
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return OpensAnotherFile(literal, LastLink::Itself);
     if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
     return LeadsElsewhere(path) && !StandsInItsPlace(literal, LastLink::Itself);
+}
+
+bool LeadsToAnotherFile(const wchar_t* path) {
+    const SystemPath literal(path);
+    if (!literal.Fits()) return false;
+    const DWORD attributes = GetFileAttributesW(literal.Text());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return false;
+    return OpensAnotherFile(literal, LastLink::Followed);
 }

@@ -69,6 +69,32 @@ TEST_F(OperationLinks, to_files_keep_them_in_a_deletion) {
     EXPECT_TRUE(Has(Contents(), "outside/f=2"));
 }
 
+TEST_F(OperationLinks, to_files_keep_their_attributes_in_a_deletion) {
+    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    const std::wstring file = tree.Path(L"outside\\f");
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
+    Prepare(FileOperationKind::Delete, {"s"}, "");
+    const std::string boxes = Run();
+    EXPECT_TRUE(boxes.empty() || boxes == "Error: Error DeleteFile 50") << boxes;
+    EXPECT_NE(GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY, 0U);
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(OperationLinks, to_files_keep_them_when_a_copy_or_an_update_meets_one_in_the_destination) {
+    AddContents(tree, "d/s/");
+    if (!tree.AddFileLink(L"d\\s\\a", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    // Older than what an update brings.
+    SetLastWriteTime(PathIn(tree, "outside/f"), SYSTEMTIME{2001, 2, 6, 3, 4, 5, 6, 0});
+    Prepare(FileOperationKind::Copy, {"s"}, "d");
+    std::string boxes = Run({IDYES, IDOK});
+    EXPECT_NE(boxes.find("Error: Error CopyFile 50"), std::string::npos) << boxes;
+    EXPECT_TRUE(Has(Contents(), "outside/f=2")) << boxes;
+    Prepare(FileOperationKind::Update, {"s"}, "d/s");
+    boxes = Run();
+    EXPECT_NE(boxes.find("Error: Error CopyFile 50"), std::string::npos) << boxes;
+    EXPECT_TRUE(Has(Contents(), "outside/f=2")) << boxes;
+}
+
 TEST_F(OperationLinks, to_files_keep_them_in_a_move) {
     if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
     Prepare(FileOperationKind::Move, {"s"}, "d");
