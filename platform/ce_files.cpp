@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <cwchar>
 
+#include "platform/folder_entry.h"
 #include "platform/folder_listing.h"
 #include "platform/links.h"
+#include "platform/same_file.h"
 #include "platform/system_path.h"
 
 namespace {
@@ -99,10 +101,20 @@ bool IsNewName(const wchar_t* literal) {
     return false;
 }
 
+// Not every system tells that the new name is taken where it is found to lead to the same file: by a link, or
+// as another spelling of the old one.
+BOOL MoveEntry(const wchar_t* literalFrom, const wchar_t* literalTo) {
+    if (std::wcscmp(literalFrom, literalTo) == 0 || !OpensSameFile(literalFrom, literalTo))
+        return MoveFileW(literalFrom, literalTo);
+    if (IsSameEntry(literalFrom, literalTo)) return RespellEntry(literalFrom, literalTo, &MoveFileW);
+    SetLastError(ERROR_ALREADY_EXISTS);
+    return FALSE;
+}
+
 BOOL Move(const wchar_t* from, const wchar_t* to) {
     if (!MayBeChanged(from)) return FALSE;
     return WithTwoPaths(from, to, [](const wchar_t* literalFrom, const wchar_t* literalTo) -> BOOL {
-        return IsNewName(literalTo) && MoveFileW(literalFrom, literalTo);
+        return IsNewName(literalTo) && MoveEntry(literalFrom, literalTo);
     });
 }
 

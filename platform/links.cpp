@@ -2,6 +2,7 @@
 
 #include <cwchar>
 
+#include "platform/folder_entry.h"
 #include "platform/name_wildcard.h"
 #include "platform/same_file.h"
 #include "platform/system_path.h"
@@ -34,16 +35,6 @@ bool IsMountedVolume(const wchar_t* path) {
     return GetVolumeNameForVolumeMountPointW(folder, volume, MAX_PATH) != FALSE;
 }
 
-// The name under which the folder lists what stands at the path.
-bool ListedName(const wchar_t* path, wchar_t (&name)[MAX_PATH]) {
-    WIN32_FIND_DATAW entry;
-    const HANDLE listing = FindFirstFileW(path, &entry);
-    if (listing == INVALID_HANDLE_VALUE) return false;
-    FindClose(listing);
-    std::wcscpy(name, entry.cFileName);
-    return true;
-}
-
 std::size_t UnitsWithoutEnd(const wchar_t* name) {
     std::size_t units = std::wcslen(name);
     while (units > 0 && (name[units - 1] == L'.' || name[units - 1] == L' '))
@@ -54,10 +45,10 @@ std::size_t UnitsWithoutEnd(const wchar_t* name) {
 // Whether the path and the place, both in one folder, are one entry of it. Either may be its long or its
 // short name, in any letter case. Where the system says what it has opened, it leaves out dots and blanks at
 // the end: the place is then another file's, or nobody's.
-bool IsSameEntry(const wchar_t* path, const wchar_t* place) {
+bool IsNameOfPlace(const wchar_t* path, const wchar_t* place) {
     wchar_t listed[MAX_PATH], listedPlace[MAX_PATH];
     if (ListedName(path, listed) && ListedName(place, listedPlace))
-        return std::wcscmp(listed, listedPlace) == 0 || !IsSameFile(path, place);
+        return std::wcscmp(listed, listedPlace) == 0 || !OpensSameFile(path, place);
     const wchar_t* const name = std::wcsrchr(path, L'\\');
     const wchar_t* const placeName = std::wcsrchr(place, L'\\');
     const std::size_t units = UnitsWithoutEnd(name);
@@ -84,7 +75,7 @@ Standing StandingOf(const SystemPath& literal, LastLink lastLink) {
     if (units > 0 && parentPlace[units - 1] == L'\\') --units;
     if (std::wcslen(place) < units || !NamesTheSame(place, parentPlace, units)) return Standing::Elsewhere;
     if (std::wcsrchr(place, L'\\') != place + units) return Standing::Elsewhere;
-    return IsSameEntry(literal.Text(), place) ? Standing::InItsPlace : Standing::Elsewhere;
+    return IsNameOfPlace(literal.Text(), place) ? Standing::InItsPlace : Standing::Elsewhere;
 }
 
 bool StandsInItsPlace(const SystemPath& literal, LastLink lastLink) {

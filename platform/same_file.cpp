@@ -6,13 +6,10 @@ namespace {
 
 class IdentifiedFile {
   public:
-    explicit IdentifiedFile(const wchar_t* path) {
-        const SystemPath literal(path);
-        if (!literal.Fits()) return;
-        // No access at all is needed to be told which file it is.
-        handle = CreateFileW(literal.Text(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                             nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    }
+    // No access at all is needed to be told which file it is.
+    explicit IdentifiedFile(const wchar_t* literal)
+        : handle(CreateFileW(literal, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {}
     IdentifiedFile(const IdentifiedFile&) = delete;
     IdentifiedFile& operator=(const IdentifiedFile&) = delete;
     ~IdentifiedFile() {
@@ -24,12 +21,18 @@ class IdentifiedFile {
     }
 
   private:
-    HANDLE handle = INVALID_HANDLE_VALUE;
+    HANDLE handle;
 };
 
 }  // namespace
 
 bool IsSameFile(const wchar_t* first, const wchar_t* second) {
+    const SystemPath literal(first);
+    const SystemPath otherLiteral(second);
+    return literal.Fits() && otherLiteral.Fits() && OpensSameFile(literal.Text(), otherLiteral.Text());
+}
+
+bool OpensSameFile(const wchar_t* first, const wchar_t* second) {
     // Both are held open: an identity may be given to another file once its file is gone.
     const IdentifiedFile firstFile(first);
     const IdentifiedFile secondFile(second);
