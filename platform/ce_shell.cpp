@@ -4,6 +4,7 @@
 #include "platform/ce_windows.h"
 #include "platform/menu_bar.h"
 #include "platform/screen_area.h"
+#include "platform/shell_file_info.h"
 #include "platform/window_placement.h"
 
 namespace ce {
@@ -36,36 +37,6 @@ void MakeRoomForBar(HWND dialog) {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool IsShortcutFile(const wchar_t* path) {
-    const int length = lstrlenW(path);
-    if (length < 5 || lstrcmpiW(path + length - 4, L".lnk") != 0) return false;
-    const DWORD attributes = GetFileAttributesW(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-// To look for its icon the desktop's shell opens a shortcut, and not every shell survives one that is
-// damaged: of such a file it is asked for the icon of its kind.
-DWORD_PTR ShortcutInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
-    constexpr UINT IconFlags = SHGFI_ICON | SHGFI_SMALLICON;
-    SHFILEINFOW icon{};
-    ::SHGetFileInfoW(path, FILE_ATTRIBUTE_NORMAL, &icon, sizeof icon,
-                     (flags & IconFlags) | SHGFI_USEFILEATTRIBUTES);
-    const DWORD_PTR answer = ::SHGetFileInfoW(path, attributes, info, size, flags & ~IconFlags);
-    info->hIcon = icon.hIcon;
-    info->iIcon = icon.iIcon;
-    return answer;
-}
-
-// The desktop's shell knows no path without a drive.
-DWORD_PTR GetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
-    wchar_t full[MAX_PATH];
-    const DWORD length = GetFullPathNameW(path, MAX_PATH, full, nullptr);
-    const wchar_t* asked = length > 0 && length < MAX_PATH ? full : path;
-    const bool looksInside = (flags & SHGFI_ICON) != 0 && (flags & SHGFI_USEFILEATTRIBUTES) == 0;
-    if (looksInside && IsShortcutFile(asked)) return ShortcutInfo(asked, attributes, info, size, flags);
-    return ::SHGetFileInfoW(asked, attributes, info, size, flags);
-}
-
 }  // namespace
 
 BOOL SHCreateMenuBar(MenuBarInfo* info) {
@@ -95,7 +66,7 @@ BOOL SHInitDialog(const DialogInitInfo* info) {
 }
 
 ShellCalls shellCalls = {
-    GetFileInfo,
+    GetShellFileInfo,
 };
 
 }  // namespace ce

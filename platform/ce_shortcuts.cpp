@@ -9,7 +9,10 @@
 #include <string>
 
 #include "platform/ce_files.h"
+#include "platform/links.h"
 #include "platform/shell_link_file.h"
+#include "platform/shell_path.h"
+#include "platform/system_path.h"
 
 namespace {
 
@@ -120,6 +123,14 @@ CommandLine Split(const wchar_t* target) {
     return parts;
 }
 
+// Through a link to a file, that file would be written.
+bool SaveAs(IPersistFile& file, const wchar_t* shortcut) {
+    if (LeadsToAnotherFile(shortcut)) return false;
+    if (ShellTakesPath(shortcut)) return SUCCEEDED(file.Save(shortcut, TRUE));
+    const SystemPath literal(shortcut);
+    return literal.Fits() && SUCCEEDED(file.Save(literal.Text(), TRUE));
+}
+
 BOOL CreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
     const ObjectLibrary library;
     const Held<IShellLinkW> link = NewShellLink();
@@ -127,15 +138,26 @@ BOOL CreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
     const CommandLine parts = Split(target);
     // The desktop's links need the drive as well.
     wchar_t program[MAX_PATH];
-    const DWORD length = GetFullPathNameW(parts.program.c_str(), MAX_PATH, program, nullptr);
-    if (length == 0 || length >= MAX_PATH) return FALSE;
+    if (parts.program.empty() || !FindShellPath(parts.program.c_str(), program)) return FALSE;
     if (FAILED(link->SetPath(program)) || FAILED(link->SetArguments(parts.arguments.c_str()))) return FALSE;
     const Held<IPersistFile> file = FileOf(*link);
-    return file != nullptr && SUCCEEDED(file->Save(shortcut, TRUE));
+    return file != nullptr && SaveAs(*file, shortcut);
 }
 
+// By its short path where its own leads the shell elsewhere, or not at all.
 BOOL Execute(SHELLEXECUTEINFOW* info) {
-    return ::ShellExecuteExW(info);
+    if (info->lpFile == nullptr || ShellTakesPath(info->lpFile)) return ::ShellExecuteExW(info);
+    wchar_t file[MAX_PATH];
+    if (!FindShellPath(info->lpFile, file)) {
+        SetLastError(ERROR_FILE_NOT_FOUND);
+        return FALSE;
+    }
+    SHELLEXECUTEINFOW found = *info;
+    found.lpFile = file;
+    const BOOL executed = ::ShellExecuteExW(&found);
+    info->hInstApp = found.hInstApp;
+    info->hProcess = found.hProcess;
+    return executed;
 }
 
 }  // namespace

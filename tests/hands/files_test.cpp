@@ -12,10 +12,63 @@ std::wstring Literal(const std::wstring& path) {
 
 class FilesInHand : public HandsTest {
   protected:
+    void SetUp() override {
+        HandsTest::SetUp();
+        Tree().AddFolder(StartMenu().substr(1));
+    }
     void TearDown() override {
-        for (const std::wstring& name : NamesOnDisk())
+        for (const std::wstring& name : NamesOnDisk()) {
+            SetFileAttributesW(Literal(Real(name)).c_str(), FILE_ATTRIBUTE_NORMAL);
             DeleteFileW(Literal(Real(name)).c_str());
+        }
         HandsTest::TearDown();
+    }
+    static std::wstring StartMenu() {
+        return Shown(L"\\Windows\\Start Menu\\Programs", L"\\Windows\\ｽﾀｰﾄ ﾒﾆｭｰ\\ﾌﾟﾛｸﾞﾗﾑ");
+    }
+    // A file whose name is taken unit by unit.
+    void AddOddFile(const std::wstring& name, const std::string& bytes) const {
+        const HANDLE file = CreateFileW(Literal(Real(name)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+        ASSERT_NE(INVALID_HANDLE_VALUE, file);
+        DWORD written = 0;
+        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+        CloseHandle(file);
+    }
+    // "mine" in a file of each odd name, beside one for which it might be taken.
+    void AddOddFiles() {
+        AddFile(L"a.qsa", "another file");
+        AddOddFile(L"a.qsa.", "mine");
+        AddOddFile(L"a.qsa ", "mine");
+        Find();
+    }
+    // What a program reads that is started with a path as its one argument.
+    [[nodiscard]] static std::string ReadByArgument(std::wstring argument) {
+        if (argument.size() >= 2 && argument.front() == L'"')
+            argument = argument.substr(1, argument.size() - 2);
+        const HANDLE file =
+            CreateFileW(argument.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+        if (file == INVALID_HANDLE_VALUE) return "(not opened)";
+        char bytes[100];
+        DWORD read = 0;
+        ReadFile(file, bytes, sizeof(bytes), &read, nullptr);
+        CloseHandle(file);
+        return std::string(bytes, read);
+    }
+    [[nodiscard]] bool IsReadOnly(const std::wstring& name) const {
+        return (GetFileAttributesW(Literal(Real(name)).c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
+    }
+    static void ClickControl(const ProgramDialog& dialog, int id) {
+        RECT place = {};
+        GetWindowRect(dialog.Control(id), &place);
+        ClickAt(CentreOf(place));
+    }
+    static bool IsGone(const ProgramDialog& dialog) {
+        return HoldsWithin(5000, [&] { return !IsWindow(dialog.Window()); });
+    }
+    void TakeFileMenu(UINT command) {
+        OpenMenuByPointer(FileMenu);
+        ClickMenuItem(command);
     }
     // What the folder of the test lists itself.
     [[nodiscard]] Names NamesOnDisk() const {
@@ -58,4 +111,63 @@ TEST_F(FilesInHand, a_name_typed_in_another_letter_case_is_the_files_name_on_the
     PressKey(VK_RETURN);
     EXPECT_TRUE(IsOnDisk({L"NOTES.qsa"}));
     EXPECT_EQ((Names{L"NOTES.qsa"}), NamesFoundBy(Named(L"*.qsa", Folder())));
+}
+
+TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_opened_itself) {
+    AddOddFiles();
+    ClickAt(PlaceOf(L"a.qsa."));
+    PressKey(VK_RETURN);
+    EXPECT_EQ("mine", ReadByArgument(Started(1).at(0)));
+    ClickAt(PlaceOf(L"a.qsa "));
+    TakeFileMenu(COMMAND_OPEN);
+    EXPECT_EQ("mine", ReadByArgument(Started(2).at(1)));
+}
+
+TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_has_its_own_properties) {
+    AddOddFiles();
+    for (const std::wstring name : {L"a.qsa.", L"a.qsa "}) {
+        SCOPED_TRACE(testing::PrintToString(name));
+        EXPECT_NE(L"Alpha kind", Row(name).type);
+        ClickAt(PlaceOf(name));
+        PressKey(VK_RETURN, {VK_MENU});
+        const ProgramDialog sheet = Dialog();
+        EXPECT_EQ(name, sheet.Text(STATIC_DISPLAY_NAME));
+        EXPECT_EQ(Row(name).type, sheet.Text(STATIC_TYPE));
+        EXPECT_EQ(L"0.0KB (4 bytes)", sheet.Text(STATIC_SIZE));
+        ClickControl(sheet, CHECK_READ_ONLY);
+        EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+        PressKey(VK_RETURN);
+        EXPECT_TRUE(IsGone(sheet));
+        EXPECT_TRUE(IsReadOnly(name));
+        EXPECT_FALSE(IsReadOnly(L"a.qsa"));
+    }
+}
+
+TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_added_to_the_start_menu_itself) {
+    AddOddFiles();
+    for (const std::wstring name : {L"a.qsa.", L"a.qsa "}) {
+        ClickAt(PlaceOf(name));
+        // No menu has this command.
+        Program().SendMenuCommand(COMMAND_ADD_TO_START_MENU);
+        Program().WaitForQueue();
+    }
+    EXPECT_EQ((Names{L"a.qsa .lnk", L"a.qsa..lnk"}), Sorted(NamesFoundBy(Where(StartMenu()))));
+    std::size_t opened = 0;
+    for (const wchar_t* shortcut : {L"a.qsa .lnk", L"a.qsa..lnk"}) {
+        ClickAt(PlaceOf(shortcut));
+        PressKey(VK_RETURN);
+        EXPECT_EQ("mine", ReadByArgument(Started(++opened).back()));
+        DeleteFileW((Drive().Letter() + StartMenu() + L"\\" + shortcut).c_str());
+    }
+}
+
+TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_deleted_itself) {
+    AddOddFiles();
+    for (const wchar_t* name : {L"a.qsa.", L"a.qsa "}) {
+        ClickAt(PlaceOf(name));
+        TakeFileMenu(COMMAND_DELETE);
+        ClickControl(Dialog(), IDYES);
+    }
+    EXPECT_TRUE(IsOnDisk({L"a.qsa"}));
+    EXPECT_EQ("another file", ContentOf(L"a.qsa"));
 }

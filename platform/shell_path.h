@@ -1,0 +1,15 @@
+#pragma once
+
+// Paths for the desktop's shell, and for the programs that it starts: they leave out dots and blanks at the
+// end of a name, take some names for devices, and know no path of MAX_PATH units and more. What they are told
+// has to lead to the very file that the program means.
+
+#include "platform/system_types.h"
+
+// Whether the shell takes the path for just what it says. So it does with an address ("http://...") and with
+// a path on another machine, which are not looked at.
+[[nodiscard]] bool ShellTakesPath(const wchar_t* path);
+
+// Writes a path with a drive by which the shell finds the file: the path itself, or else the short names that
+// the file system keeps beside the long ones. False where there are none that lead to this file.
+[[nodiscard]] bool FindShellPath(const wchar_t* path, wchar_t (&found)[MAX_PATH]);
