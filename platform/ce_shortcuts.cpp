@@ -79,11 +79,9 @@ std::wstring TextTarget(const std::string& bytes) {
     const unsigned long announced = std::strtoul(bytes.c_str(), &end, 10);
     if (*end != '#' || bytes[0] < '0' || bytes[0] > '9') return {};
     std::string_view target = end + 1;
-    // People who write such files by hand announce more than follows, and end the line.
-    std::size_t length = 0;
-    while (length < target.size() && static_cast<unsigned char>(target[length]) >= ' ')
-        ++length;
-    return FromCodePage(target.substr(0, std::min<std::size_t>(announced, length)));
+    // People who write such files by hand announce more than follows, and end the line. A tab is part of it.
+    target = target.substr(0, target.find_first_of(std::string_view("\r\n\0", 3)));
+    return FromCodePage(target.substr(0, std::min<std::size_t>(announced, target.size())));
 }
 
 std::wstring LinkTarget(const std::string& bytes) {

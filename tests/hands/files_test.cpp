@@ -171,3 +171,24 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_deleted_itself) {
     EXPECT_TRUE(IsOnDisk({L"a.qsa"}));
     EXPECT_EQ("another file", ContentOf(L"a.qsa"));
 }
+
+TEST_F(FilesInHand, a_tab_before_the_arguments_of_a_shortcut_keeps_them) {
+    AddProgram(L"recorder.exe");
+    const std::wstring target = L"\"" + Path(L"recorder.exe") + L"\"\tx y";
+    AddShortcut(L"s.lnk", target);
+    Find(L"s.lnk");
+    ClickAt(PlaceOf(L"s.lnk"));
+    PressKey(VK_RETURN);
+    EXPECT_EQ((Names{L"x y"}), Started(1));
+
+    // What was started took the foreground.
+    Program().BringForward();
+    ClickBarButton(COMMAND_PROPERTIES);
+    const ProgramDialog sheet = Dialog();
+    sheet.TurnTo(1);
+    EXPECT_EQ(target, sheet.Text(EDIT_TARGET));
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(IsGone(sheet));
+    TakeFileMenu(COMMAND_OPEN);
+    EXPECT_EQ(L"x y", Started(2).back());
+}

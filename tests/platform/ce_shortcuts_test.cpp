@@ -80,6 +80,13 @@ TEST_F(TextShortcut, may_announce_more_than_follows_and_end_with_its_line) {
     EXPECT_EQ(Read("99999999999999999999999#\\a.txt"), L"\\a.txt");
 }
 
+TEST_F(TextShortcut, keeps_its_tabs_and_whatever_else_ends_no_line) {
+    EXPECT_EQ(Read("14#\\plain.exe\tx y"), L"\\plain.exe\tx y");
+    EXPECT_EQ(Read("255#\\plain.exe\tx\ty\tz\r\n"), L"\\plain.exe\tx\ty\tz");
+    EXPECT_EQ(Read("255#\\a.exe \x01\x1F z\nmore"), L"\\a.exe \x01\x1F z");
+    EXPECT_EQ(Read("255#\\a.exe x\rmore"), L"\\a.exe x");
+}
+
 TEST_F(TextShortcut, is_in_the_systems_code_page) {
     if (GetACP() == 932) {
         EXPECT_EQ(Read("7#\\\x93\xFA\x96\x7B\xB1.x"), L"\\日本ｱ.");
