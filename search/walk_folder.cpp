@@ -44,9 +44,13 @@ bool PatternsStayInFolder(ObjectList& patterns) {
     return true;
 }
 
+// A null item is the end of the patterns, also as the first of them.
+const ListObject* FirstLaterPattern(ObjectList& patterns) {
+    return patterns.First() != nullptr ? patterns.Next() : nullptr;
+}
+
 bool MatchesLaterPattern(ObjectList& patterns, const wchar_t* name) {
-    patterns.First();
-    while (const ListObject* const item = patterns.Next()) {
+    for (const ListObject* item = FirstLaterPattern(patterns); item != nullptr; item = patterns.Next()) {
         if (MatchesWildcard(name, TextOf(item))) return true;
     }
     return false;
@@ -147,9 +151,8 @@ void WalkListedSubFolders(SearchWalk& walk, const wchar_t* folder) {
 void WalkListedOnce(SearchWalk& walk, const wchar_t* folder) {
     KeptEntries kept;
     if (!TestAndKeep(walk, folder, kept)) return;
-    walk.patterns.First();
     ObjectList* const laterMatches = kept.laterMatchesComplete ? &kept.laterMatches : nullptr;
-    if (!TestPatterns(walk, folder, walk.patterns.Next(), laterMatches)) return;
+    if (!TestPatterns(walk, folder, FirstLaterPattern(walk.patterns), laterMatches)) return;
     if (kept.subFoldersComplete) {
         WalkKeptSubFolders(walk, folder, kept.subFolders);
     } else {

@@ -31,7 +31,9 @@ void RandomFolders::Fill(FakeFolders& folders, const std::wstring& folder, int d
 std::vector<const wchar_t*> RandomFolders::SomePatterns() {
     std::vector<const wchar_t*> patterns;
     const int count = UpTo(3);
-    for (int i = 0; i < count; ++i)
-        patterns.push_back(Patterns[UpTo(static_cast<int>(std::size(Patterns)) - 1)]);
+    for (int i = 0; i < count; ++i) {
+        const wchar_t* const pattern = Patterns[UpTo(static_cast<int>(std::size(Patterns)) - 1)];
+        patterns.push_back(UpTo(9) == 0 ? nullptr : pattern);
+    }
     return patterns;
 }

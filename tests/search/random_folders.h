@@ -19,7 +19,7 @@ class RandomFolders {
     // Adds files, folders, links and folders that cannot be listed, this many levels below the folder.
     void Fill(FakeFolders& folders, const std::wstring& folder, int depth);
 
-    // None up to three.
+    // None up to three, now and then one for which there was no memory.
     std::vector<const wchar_t*> SomePatterns();
 
   private:

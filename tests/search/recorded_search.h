@@ -52,7 +52,8 @@ struct RecordedWalk {
         : walk{conditions, patterns, nameSubstring, sink, progress} {
         conditions.flags = flags;
         for (const wchar_t* text : patternTexts) {
-            if (!patterns.Append(new StringObject(text))) std::abort();
+            // A null text is a pattern for which there was no memory.
+            if (!patterns.Append(text != nullptr ? new StringObject(text) : nullptr)) std::abort();
         }
         ExpectMessages();
     }

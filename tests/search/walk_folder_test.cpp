@@ -81,6 +81,15 @@ TEST(WalkFolder, takes_a_null_item_for_the_end_of_the_patterns) {
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\z.htm"});
 }
 
+TEST(WalkFolder, takes_a_null_item_for_the_end_also_as_the_first_of_the_patterns) {
+    FakeFolders folders;
+    AddTree(folders);
+    RecordedWalk recorded(SubFolders, {nullptr, L"*.txt", L"*.htm"});
+    WalkFolder(recorded.walk, L"\\");
+    EXPECT_EQ(recorded.sink.paths, Texts{});
+    EXPECT_EQ(recorded.progress.folders.size(), 4U);
+}
+
 TEST(WalkFolder, lists_a_folder_that_matches_like_a_file) {
     FakeFolders folders;
     AddTree(folders);
