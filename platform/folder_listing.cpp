@@ -36,10 +36,10 @@ const wchar_t* NamePartOf(const wchar_t* pattern) {
 }
 
 // "." and ".." are no entries of a handheld's folder, and what cannot be named in a path is left out: another
-// system's file name with a separator in it would lead to some other file.
+// system's file name with a separator in it, or one that starts like a drive, would lead to some other file.
 bool IsEntry(const wchar_t* name) {
     if (name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'))) return false;
-    return std::wcspbrk(name, L"\\/") == nullptr;
+    return name[1] != L':' && std::wcspbrk(name, L"\\/") == nullptr;
 }
 
 bool IsWanted(const Listing& listing, const WIN32_FIND_DATAW& data) {

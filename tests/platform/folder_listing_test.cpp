@@ -132,6 +132,20 @@ TEST(FolderListing, keeps_folders_apart_whose_names_end_in_dots_or_spaces) {
     EXPECT_EQ(List(tree.Path(L"a \\*")).names, Names{L"with space"});
 }
 
+TEST(FolderListing, leaves_out_what_starts_like_a_drive) {
+    TempTree tree;
+    tree.AddFile(L"b:x");
+    tree.AddFile(L"c:");
+    tree.AddFile(L"a.txt");
+    WIN32_FIND_DATAW data;
+    const HANDLE search = FindFirstFileW(tree.Path(L"?:*").c_str(), &data);
+    if (search == INVALID_HANDLE_VALUE) GTEST_SKIP() << "the system makes no such names";
+    FindClose(search);
+    EXPECT_EQ(List(tree.Path(L"*")).names, Names{L"a.txt"});
+    EXPECT_EQ(List(tree.Path(L"?:*")).names, Names{});
+    EXPECT_EQ(List(tree.Path(L"b:x")).names, Names{});
+}
+
 TEST(FolderListing, refuses_handles_that_are_none) {
     WIN32_FIND_DATAW data;
     SetLastError(0);
