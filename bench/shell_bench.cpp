@@ -54,8 +54,9 @@ class BenchTypes {
     }
 };
 
-// How many questions of each kind the files are worth: a type's name once, with the folders' as one more; an
-// icon once for a registered type, and once for each application and each file of icons.
+// How many questions of each kind the files are worth: a type's name once for each extension, with the
+// folders' as one more; an icon once for a registered type, and once for each application and each file of
+// icons.
 void CountKinds(const std::wstring& folder, std::size_t& types, std::size_t& icons) {
     std::set<std::wstring> typeSet = {L"a folder"};
     std::set<std::wstring> iconSet;
@@ -63,7 +64,7 @@ void CountKinds(const std::wstring& folder, std::size_t& types, std::size_t& ico
         const std::size_t dot = path.find(L'.', path.rfind(L'\\'));
         const std::wstring extension = dot != std::wstring::npos ? path.substr(dot) : L"";
         const std::wstring type = BenchTypes::TypeOf(extension);
-        typeSet.insert(type.empty() ? extension : type);
+        typeSet.insert(extension);
         if (!type.empty()) iconSet.insert(type);
         if (extension == L".exe" || extension == L".ico") iconSet.insert(path);
     }
@@ -86,7 +87,7 @@ bool CompareShellQuestions(const BenchTree& tree) {
     std::size_t types = 0;
     std::size_t icons = 0;
     CountKinds(tree.Kinds(), types, icons);
-    PrintLine("type names asked of the shell / kinds of files", asked.typeNames, static_cast<double>(types));
+    PrintLine("type names asked of the shell / extensions", asked.typeNames, static_cast<double>(types));
     PrintLine("large icons asked / types, applications, icon files", asked.largeIcons,
               static_cast<double>(icons));
     PrintLine("small icons asked / types, applications, icon files", asked.smallIcons,

@@ -1,7 +1,8 @@
 #pragma once
 
-// The shell's names for kinds of files ("Text Document"), each asked for once: a question costs more than the
-// whole rest of a row.
+// The shell's names for kinds of files ("Text Document"). A question costs more than the whole rest of a row,
+// so the shell is asked once for each extension, just as it is written: what it says for ".TXT" may be
+// another name than that for ".txt", and two extensions of one registered type may have two.
 
 #include <string>
 #include <unordered_map>
@@ -12,17 +13,13 @@ class FileTypeTable;
 
 class TypeNames {
   public:
-    // The types tell which extensions are of one kind; they outlive this object. Null for each on its own.
-    explicit TypeNames(const FileTypeTable* fileTypes = nullptr) : types(fileTypes) {}
-    void UseTypes(const FileTypeTable* fileTypes) { types = fileTypes; }
+    // Which extensions are of one registered type does not matter here.
+    void UseTypes(const FileTypeTable*) {}
 
-    // The type name of the file at this path, empty for some types. Empty, and asked for
-    // again next time, where the shell has no answer. The text lives until the next call.
+    // The type name of the file at this path, empty for some types. Empty, and asked for again next time,
+    // where the shell has no answer. The text lives until the next call.
     [[nodiscard]] const wchar_t* Of(const wchar_t* fullPath, DWORD attributes);
 
   private:
-    [[nodiscard]] std::wstring KeyOf(const wchar_t* fullPath, DWORD attributes) const;
-
-    const FileTypeTable* types;
     std::unordered_map<std::wstring, std::wstring> names;  // by what KeyOf makes of a path
 };

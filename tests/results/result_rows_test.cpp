@@ -1,4 +1,7 @@
+#include "platform/shell_file_info.h"
+#include "tests/results/registered_types.h"
 #include "tests/results/result_list_test.h"
+#include "tests/support/temp_tree.h"
 
 using Cells = std::vector<std::wstring>;
 
@@ -21,6 +24,25 @@ TEST_F(ResultRows, a_file_becomes_a_row_of_five_texts) {
     ASSERT_EQ(List().RowCount(), 1);
     EXPECT_EQ(CellsOf(Handle(), 0),
               (Cells{L"report.txt", L"\\My Documents", L"1K", L"Kind", L"02/07/15 09:05:30"}));
+}
+
+TEST_F(ResultRows, have_the_type_that_the_shell_tells_of_that_very_path) {
+    RegisteredTypes types;
+    // Of one type for the table, which reads a value of that name; for the shell, of two.
+    for (const std::wstring extension : {L".qsda", L".qsdb"}) {
+        types.Add(extension, L"qs" + extension);
+        types.Add(L"qs" + extension, L"Kind of " + extension);
+        RegSetKeyValueW(HKEY_CLASSES_ROOT, extension.c_str(), L"Default", REG_SZ, L"qs.qsda", 16);
+    }
+    const Replaced<decltype(ce::shellCalls.getFileInfo)> shell(ce::shellCalls.getFileInfo, &GetShellFileInfo);
+    TempTree tree;
+    for (const wchar_t* name : {L"a.qsda", L"b.qsdb", L"c.xyz", L"D.XYZ", L"e.Xyz", L"f.QSDB"}) {
+        const std::wstring path = tree.AddFile(name);
+        AddFile(tree.Root(), name);
+        SHFILEINFOW info = {};
+        SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, SHGFI_TYPENAME);
+        EXPECT_EQ(Cell(List().RowCount() - 1, ResultColumn::Type), info.szTypeName);
+    }
 }
 
 TEST_F(ResultRows, the_texts_are_the_same_in_japanese) {

@@ -58,7 +58,7 @@ TEST_F(TypeNamesTest, the_shell_is_asked_for_the_type_name_alone_without_attribu
 TEST_F(TypeNamesTest, files_of_one_extension_are_asked_for_once) {
     EXPECT_EQ(Of(L"\\f\\a.txt"), L"kind of \\f\\a.txt");
     EXPECT_EQ(Of(L"\\g\\b.txt"), L"kind of \\f\\a.txt");
-    EXPECT_EQ(Of(L"\\g\\c.d.TXT"), L"kind of \\f\\a.txt");
+    EXPECT_EQ(Of(L"\\g\\c.d.txt"), L"kind of \\f\\a.txt");
     EXPECT_EQ(asked.size(), 1U);
 }
 
@@ -105,8 +105,11 @@ TEST_F(TypeNamesTest, an_empty_name_is_an_answer_and_not_asked_for_again) {
     EXPECT_EQ(asked.size(), 1U);
 }
 
-TEST_F(TypeNamesTest, extensions_in_other_scripts_are_folded_as_well) {
+TEST_F(TypeNamesTest, an_extension_in_another_letter_case_is_asked_for_on_its_own) {
+    EXPECT_EQ(Of(L"\\f\\a.txt"), L"kind of \\f\\a.txt");
+    EXPECT_EQ(Of(L"\\f\\B.TXT"), L"kind of \\f\\B.TXT");
     EXPECT_EQ(Of(L"\\f\\a.ÄÖ"), L"kind of \\f\\a.ÄÖ");
-    EXPECT_EQ(Of(L"\\f\\b.äö"), L"kind of \\f\\a.ÄÖ");
-    EXPECT_EQ(asked.size(), 1U);
+    EXPECT_EQ(Of(L"\\f\\b.äö"), L"kind of \\f\\b.äö");
+    EXPECT_EQ(Of(L"\\g\\c.TXT"), L"kind of \\f\\B.TXT");
+    EXPECT_EQ(asked.size(), 4U);
 }
