@@ -84,7 +84,6 @@ void ResultList::LoadIcons() {
     if (iconCache != nullptr) return;
     iconCache.reset(new (std::nothrow) FileIconCache);
     if (iconCache == nullptr) return;
-    typeNames.UseTypes(iconCache->Types());
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(iconCache->SmallImages()));
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL,
                  reinterpret_cast<LPARAM>(iconCache->LargeImages()));

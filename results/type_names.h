@@ -9,13 +9,8 @@
 
 #include "platform/system_types.h"
 
-class FileTypeTable;
-
 class TypeNames {
   public:
-    // Which extensions are of one registered type does not matter here.
-    void UseTypes(const FileTypeTable*) {}
-
     // The type name of the file at this path, empty for some types. Empty, and asked for again next time,
     // where the shell has no answer. The text lives until the next call.
     [[nodiscard]] const wchar_t* Of(const wchar_t* fullPath, DWORD attributes);
