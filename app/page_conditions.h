@@ -15,7 +15,7 @@ class PageConditions final : public ConditionSource {
 
     void LocationText(wchar_t (&text)[MAX_PATH]) const override { namePage.LocationText(text); }
     void NameText(wchar_t (&text)[MAX_PATH]) const override { namePage.NameText(text); }
-    void ContentText(wchar_t (&text)[MAX_PATH]) const override { namePage.ContentText(text); }
+    void ContentText(wchar_t (&text)[ContentTextSize]) const override { namePage.ContentText(text); }
     [[nodiscard]] bool SubFoldersChecked() const override { return namePage.SubFoldersChecked(); }
     [[nodiscard]] bool DateRangeChosen(DateRange& range) const override {
         return datePage.DateRangeChosen(range);

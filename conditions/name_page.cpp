@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr WPARAM ContentLimit = 260;
+constexpr WPARAM ContentLimit = ContentTextSize - 1;
 
 constexpr const wchar_t* SubFolderValue = L"Sub Folder";
 
@@ -83,8 +83,8 @@ void NamePage::NameText(wchar_t (&text)[MAX_PATH]) const {
     GetDlgItemTextW(Handle(), COMBO_NAME, text, MAX_PATH);
 }
 
-void NamePage::ContentText(wchar_t (&text)[MAX_PATH]) const {
-    GetDlgItemTextW(Handle(), EDIT_CONTENT, text, MAX_PATH);
+void NamePage::ContentText(wchar_t (&text)[ContentTextSize]) const {
+    GetDlgItemTextW(Handle(), EDIT_CONTENT, text, ContentTextSize);
 }
 
 bool NamePage::SubFoldersChecked() const {

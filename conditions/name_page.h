@@ -4,6 +4,7 @@
 
 #include "conditions/condition_page.h"
 #include "conditions/history_combo.h"
+#include "search/condition_source.h"
 
 class NamePage : public ConditionPage {
   public:
@@ -18,10 +19,10 @@ class NamePage : public ConditionPage {
     void LoadSettings(const wchar_t* registryPath);
     void SaveSettings(const wchar_t* registryPath) const;
 
-    // The texts as they stand in the fields, cut at 259 units.
+    // The texts as they stand in the fields, cut at 259 units, the contained one at 260.
     void LocationText(wchar_t (&text)[MAX_PATH]) const;
     void NameText(wchar_t (&text)[MAX_PATH]) const;
-    void ContentText(wchar_t (&text)[MAX_PATH]) const;
+    void ContentText(wchar_t (&text)[ContentTextSize]) const;
     [[nodiscard]] bool SubFoldersChecked() const;
 
   protected:

@@ -9,6 +9,9 @@
 #include "search/date_range.h"
 #include "search/size_bound.h"
 
+// Room for the text that a file has to hold: at most 260 units of it count.
+constexpr int ContentTextSize = 261;
+
 class ConditionSource {
   public:
     virtual ~ConditionSource() = default;
@@ -16,7 +19,7 @@ class ConditionSource {
     // Each text is terminated, and cut where it does not fit.
     virtual void LocationText(wchar_t (&text)[MAX_PATH]) const = 0;
     virtual void NameText(wchar_t (&text)[MAX_PATH]) const = 0;
-    virtual void ContentText(wchar_t (&text)[MAX_PATH]) const = 0;
+    virtual void ContentText(wchar_t (&text)[ContentTextSize]) const = 0;
 
     [[nodiscard]] virtual bool SubFoldersChecked() const = 0;
 

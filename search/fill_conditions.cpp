@@ -16,7 +16,7 @@ void StoreAsUtc(const SYSTEMTIME& local, FILETIME& utc) {
 }
 
 void FillContentPattern(const ConditionSource& source, SearchConditions& conditions) {
-    wchar_t content[MAX_PATH] = {};
+    wchar_t content[ContentTextSize] = {};
     source.ContentText(content);
     // Emptiness is tested, not blankness.
     if (content[0] == L'\0') return;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <cwchar>
 #include <string>
 
@@ -9,6 +10,7 @@
 #include "platform/windows_ce.h"
 #include "search/date_and_size_filter.h"
 #include "search/double_byte_text.h"
+#include "search/system_text_conversion.h"
 #include "search/text_conversion.h"
 
 namespace {
@@ -30,7 +32,7 @@ class FakePages final : public ConditionSource {
 
     void LocationText(wchar_t (&text)[MAX_PATH]) const override { Copy(text, location); }
     void NameText(wchar_t (&text)[MAX_PATH]) const override { Copy(text, name); }
-    void ContentText(wchar_t (&text)[MAX_PATH]) const override { Copy(text, content); }
+    void ContentText(wchar_t (&text)[ContentTextSize]) const override { Copy(text, content); }
     bool SubFoldersChecked() const override { return subFolders; }
     bool DateRangeChosen(DateRange& chosen) const override {
         if (hasRange) chosen = range;
@@ -44,8 +46,9 @@ class FakePages final : public ConditionSource {
     std::uint32_t CaseOptionState() const override { return caseState; }
 
   private:
-    static void Copy(wchar_t (&text)[MAX_PATH], const std::wstring& source) {
-        text[source.copy(text, MAX_PATH - 1)] = L'\0';
+    template <std::size_t size>
+    static void Copy(wchar_t (&text)[size], const std::wstring& source) {
+        text[source.copy(text, size - 1)] = L'\0';
     }
 };
 
@@ -310,5 +313,31 @@ TEST_F(FillConditionsTest, texts_as_long_as_their_buffers_are_cut_not_overrun) {
     EXPECT_EQ(std::wcslen(texts.location), 259U);
     EXPECT_EQ(std::wcslen(texts.name), 259U);
     EXPECT_EQ(std::wcslen(texts.extensions), 259U);
-    EXPECT_EQ(std::string(conditions.contentPattern), std::string(259, 'x'));
+    EXPECT_EQ(std::string(conditions.contentPattern), std::string(260, 'x'));
+}
+
+TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_conversion) {
+    const std::string bytes = std::string(259, 'x') + 'y';
+    pages.content = std::wstring(bytes.begin(), bytes.end());
+    for (const ToMultiByteRoutine conversion :
+         {&DefaultToMultiByte, &LibraryToMultiByte, &SystemToMultiByte}) {
+        GlobalsForStartUp().toMultiByte = conversion;
+        Fill();
+        EXPECT_EQ(bytes, conditions.contentPattern);
+    }
+}
+
+TEST_F(FillConditionsTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_last_character_that_fits) {
+    UseConversionLibrary([](unsigned short unit) -> unsigned short { return unit == L'あ' ? 0x82A0 : 0; },
+                         nullptr);
+    GlobalsForStartUp().toMultiByte = &LibraryToMultiByte;
+    pages.content = std::wstring(260, L'あ');
+    Fill();
+    UseConversionLibrary(nullptr, nullptr);
+    // A pair of which only the first byte fits is cut there.
+    EXPECT_EQ(std::strlen(conditions.contentPattern), 519U);
+    if (GetACP() != 932) return;
+    GlobalsForStartUp().toMultiByte = &SystemToMultiByte;
+    Fill();
+    EXPECT_EQ(std::strlen(conditions.contentPattern), 518U);
 }

@@ -149,6 +149,19 @@ TEST(OddWorlds, a_file_that_vanishes_before_it_is_opened_holds_no_text) {
     EXPECT_EQ(folders.opened, (Texts{L"\\gone.txt", L"\\there.txt"}));
 }
 
+TEST(OddWorlds, the_260th_unit_of_a_content_text_has_to_be_in_the_file_as_well) {
+    TempTree tree;
+    const std::string bytes(259, 'x');
+    tree.AddFile(L"whole.txt", "a " + bytes + "y b");
+    tree.AddFile(L"all but the last.txt", "a " + bytes + "z b");
+    AnsweredSource source = Below(tree.Root());
+    source.content = std::wstring(259, L'x') + L"y";
+    for (const std::uint32_t caseState : {0U, 8U}) {
+        source.caseOptionState = caseState;
+        EXPECT_EQ(Inside(tree, Search(source)), Texts{L"whole.txt"});
+    }
+}
+
 TEST(OddWorlds, a_locked_file_is_found_by_name_and_not_by_content) {
     TempTree tree;
     const std::wstring path = tree.AddFile(L"locked.txt", "text");

@@ -11,7 +11,7 @@ class AnsweredSource : public ConditionSource {
   public:
     void LocationText(wchar_t (&text)[MAX_PATH]) const override { Copy(location, text); }
     void NameText(wchar_t (&text)[MAX_PATH]) const override { Copy(name, text); }
-    void ContentText(wchar_t (&text)[MAX_PATH]) const override { Copy(content, text); }
+    void ContentText(wchar_t (&text)[ContentTextSize]) const override { Copy(content, text); }
     [[nodiscard]] bool SubFoldersChecked() const override { return subFolders; }
     [[nodiscard]] bool DateRangeChosen(DateRange& range) const override {
         if (dateRangeChosen) range = dateRange;
@@ -39,8 +39,9 @@ class AnsweredSource : public ConditionSource {
     std::uint32_t caseOptionState = 8;
 
   private:
-    static void Copy(const std::wstring& from, wchar_t (&to)[MAX_PATH]) {
-        std::wcsncpy(to, from.c_str(), MAX_PATH - 1);
-        to[MAX_PATH - 1] = L'\0';
+    template <std::size_t size>
+    static void Copy(const std::wstring& from, wchar_t (&to)[size]) {
+        std::wcsncpy(to, from.c_str(), size - 1);
+        to[size - 1] = L'\0';
     }
 };
