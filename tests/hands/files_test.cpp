@@ -172,6 +172,17 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_deleted_itself) {
     EXPECT_EQ("another file", ContentOf(L"a.qsa"));
 }
 
+TEST_F(FilesInHand, a_name_without_an_extension_is_not_opened_as_the_program_beside_it) {
+    AddFile(L"recorder", "no program");
+    AddProgram(L"recorder.exe");
+    Find();
+    ClickAt(PlaceOf(L"recorder"));
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(NothingStarted());
+    // The shell may tell that it knows no program for the file.
+    if (const std::optional<ProgramDialog> told = OpenDialogOf(Program().Window())) told->Press(IDOK);
+}
+
 TEST_F(FilesInHand, a_tab_before_the_arguments_of_a_shortcut_keeps_them) {
     AddProgram(L"recorder.exe");
     const std::wstring target = L"\"" + Path(L"recorder.exe") + L"\"\tx y";
