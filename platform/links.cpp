@@ -46,11 +46,13 @@ std::size_t UnitsWithoutEnd(const wchar_t* name) {
 // short name, in any letter case. Where the system says what it has opened, it leaves out dots and blanks at
 // the end: the place is then another file's, or nobody's.
 bool IsNameOfPlace(const wchar_t* path, const wchar_t* place) {
+    const wchar_t* const name = std::wcsrchr(path, L'\\');
+    const wchar_t* const placeName = std::wcsrchr(place, L'\\');
+    // So it is nearly always, and a listing costs more than all the rest.
+    if (std::wcscmp(name, placeName) == 0) return true;
     wchar_t listed[MAX_PATH], listedPlace[MAX_PATH];
     if (ListedName(path, listed) && ListedName(place, listedPlace))
         return std::wcscmp(listed, listedPlace) == 0 || !OpensSameFile(path, place);
-    const wchar_t* const name = std::wcsrchr(path, L'\\');
-    const wchar_t* const placeName = std::wcsrchr(place, L'\\');
     const std::size_t units = UnitsWithoutEnd(name);
     return UnitsWithoutEnd(placeName) == units && NamesTheSame(name, placeName, units);
 }
