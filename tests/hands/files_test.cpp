@@ -118,6 +118,8 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_opened_itself) {
     ClickAt(PlaceOf(L"a.qsa."));
     PressKey(VK_RETURN);
     EXPECT_EQ("mine", ReadByArgument(Started(1).at(0)));
+    // What was started took the foreground.
+    Program().BringForward();
     ClickAt(PlaceOf(L"a.qsa "));
     TakeFileMenu(COMMAND_OPEN);
     EXPECT_EQ("mine", ReadByArgument(Started(2).at(1)));
@@ -157,6 +159,7 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_added_to_the_start_m
         ClickAt(PlaceOf(shortcut));
         PressKey(VK_RETURN);
         EXPECT_EQ("mine", ReadByArgument(Started(++opened).back()));
+        Program().BringForward();
         DeleteFileW((Drive().Letter() + StartMenu() + L"\\" + shortcut).c_str());
     }
 }
