@@ -29,6 +29,9 @@ DatePage::DatePage(WindowObject* parentObject)
     OnCommand(RADIO_ALL_FILES, this, &DatePage::OnAllFiles);
     OnCommand(RADIO_BETWEEN, this, &DatePage::OnBetween);
     OnCommand(RADIO_PAST, this, &DatePage::OnPast);
+    for (const int picker : {PICKER_FROM, PICKER_TO})
+        OnEvent(event::DropDownOpened, static_cast<EventSource>(picker), this, &DatePage::OnCalendarOpened,
+                static_cast<std::uintptr_t>(picker));
 }
 
 void DatePage::SetUpControls() {
@@ -78,6 +81,11 @@ LRESULT DatePage::OnPast(EventArguments&) {
     // The size page's ids, which this page lacks: without effect, and kept.
     EnableWindow(Item(EDIT_KILOBYTES), FALSE);
     EnableWindow(Item(SPIN_KILOBYTES), FALSE);
+    return 0;
+}
+
+LRESULT DatePage::OnCalendarOpened(EventArguments& arguments) {
+    calendar.Fit(Item(static_cast<int>(arguments.extra)));
     return 0;
 }
 

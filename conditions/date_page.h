@@ -21,11 +21,14 @@ class DatePage : public ConditionPage {
     LRESULT OnAllFiles(EventArguments& arguments);
     LRESULT OnBetween(EventArguments& arguments);
     LRESULT OnPast(EventArguments& arguments);
+    LRESULT OnCalendarOpened(EventArguments& arguments);
 
     void SetPickersFromClock();
     void EnablePickers(bool enable);
     void EnableDays(bool enable);
     [[nodiscard]] SYSTEMTIME PickedDate(int picker) const;
+
+    ce::DroppedCalendar calendar;
 };
 
 // The same day three months earlier, whether that month has the day or not.

@@ -38,4 +38,17 @@ RECT TopLevelPlacement(bool handheld, const RECT& area, const FrameExtent& frame
     return RECT{left, top, left + width, top + height};
 }
 
+RECT DropDownPlacement(const RECT& anchor, LONG width, LONG height, const RECT& area) {
+    LONG left = anchor.left;
+    LONG top = anchor.bottom;
+    const bool fitsBelow = anchor.bottom + height <= area.bottom;
+    const bool fitsAbove = anchor.top - height >= area.top;
+    const bool fitsOnTheRight = anchor.right + width <= area.right;
+    if (!fitsBelow && fitsAbove) top = anchor.top - height;
+    if (!fitsBelow && !fitsAbove && fitsOnTheRight) left = anchor.right;
+    left = std::max(std::min(left, area.right - width), area.left);
+    top = std::max(std::min(top, area.bottom - height), area.top);
+    return RECT{left, top, left + width, top + height};
+}
+
 }  // namespace ce

@@ -31,4 +31,9 @@ constexpr int DesktopClientHeight = 480;
 // the desktop client area with its frame, centred in the area and cut to it.
 [[nodiscard]] RECT TopLevelPlacement(bool handheld, const RECT& area, const FrameExtent& frame);
 
+// The rectangle of something of this size that opens from the anchor: below it, with the left edges in line,
+// else above it, else to its right, else over it; always inside the area, at whose upper left corner anything
+// larger begins.
+[[nodiscard]] RECT DropDownPlacement(const RECT& anchor, LONG width, LONG height, const RECT& area);
+
 }  // namespace ce

@@ -18,3 +18,4 @@
 #include "platform/ce_shortcuts.h"
 #include "platform/ce_system.h"
 #include "platform/ce_windows.h"
+#include "platform/dropped_calendar.h"

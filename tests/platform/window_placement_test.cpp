@@ -65,4 +65,32 @@ TEST(TopLevelPlacement, is_cut_to_a_screen_that_is_too_low) {
     ExpectRectangle(ce::TopLevelPlacement(false, RECT{0, 0, 1024, 500}, {6, 25}), 329, 0, 695, 500);
 }
 
+TEST(DropDownPlacement, opens_below_its_anchor_where_there_is_room) {
+    ExpectRectangle(ce::DropDownPlacement({10, 60, 90, 80}, 200, 160, {0, 0, 240, 320}), 10, 80, 210, 240);
+    ExpectRectangle(ce::DropDownPlacement({10, 60, 90, 80}, 200, 240, {0, 0, 240, 320}), 10, 80, 210, 320);
+}
+
+TEST(DropDownPlacement, moves_to_the_left_as_far_as_it_has_to) {
+    ExpectRectangle(ce::DropDownPlacement({90, 60, 190, 80}, 200, 160, {0, 0, 240, 320}), 40, 80, 240, 240);
+    ExpectRectangle(ce::DropDownPlacement({90, 60, 190, 80}, 200, 160, {0, 0, 300, 320}), 90, 80, 290, 240);
+}
+
+TEST(DropDownPlacement, opens_above_where_there_is_no_room_below) {
+    ExpectRectangle(ce::DropDownPlacement({10, 200, 90, 220}, 200, 160, {0, 0, 240, 320}), 10, 40, 210, 200);
+    // One pixel more than there is above: over the anchor, at the lower edge.
+    ExpectRectangle(ce::DropDownPlacement({10, 200, 90, 220}, 200, 201, {0, 0, 240, 320}), 10, 119, 210, 320);
+}
+
+TEST(DropDownPlacement, opens_on_the_right_where_there_is_room_neither_below_nor_above) {
+    ExpectRectangle(ce::DropDownPlacement({10, 100, 90, 120}, 200, 160, {0, 0, 640, 240}), 90, 80, 290, 240);
+}
+
+TEST(DropDownPlacement, covers_its_anchor_where_there_is_room_on_no_side) {
+    ExpectRectangle(ce::DropDownPlacement({10, 100, 90, 120}, 200, 160, {0, 0, 240, 240}), 10, 80, 210, 240);
+}
+
+TEST(DropDownPlacement, begins_at_the_corner_of_an_area_that_is_too_small) {
+    ExpectRectangle(ce::DropDownPlacement({10, 100, 90, 120}, 300, 260, {0, 26, 240, 240}), 0, 26, 300, 286);
+}
+
 }  // namespace

@@ -1,0 +1,88 @@
+// The calendar of a date picker on screens of all sizes, dropped by a click as the control sees it.
+
+#include <gtest/gtest.h>
+
+#include "platform/windows_ce.h"
+#include "tests/support/replaced_calls.h"
+
+namespace {
+
+SIZE screen = {};
+
+int MetricsOfScreen(int index) {
+    if (index == SM_CXSCREEN) return screen.cx;
+    if (index == SM_CYSCREEN) return screen.cy;
+    return GetSystemMetrics(index);
+}
+
+struct Opening {
+    ce::DroppedCalendar* calendar;
+    RECT place;
+};
+Opening* opening = nullptr;
+
+LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    if (message == WM_NOTIFY && opening != nullptr && header->code == static_cast<UINT>(DTN_DROPDOWN)) {
+        opening->calendar->Fit(header->hwndFrom);
+        const auto month = reinterpret_cast<HWND>(SendMessageW(header->hwndFrom, DTM_GETMONTHCAL, 0, 0));
+        GetWindowRect(month, &opening->place);
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+class DroppedCalendar : public testing::Test {
+  protected:
+    DroppedCalendar() : size(ce::systemCalls.getSystemMetrics, MetricsOfScreen) {
+        const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_DATE_CLASSES};
+        InitCommonControlsEx(&classes);
+        parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 640, 480, nullptr, nullptr,
+                                 nullptr, nullptr);
+        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ParentProcedure));
+    }
+    ~DroppedCalendar() override { DestroyWindow(parent); }
+
+    // Where the calendar lies that a picker at this place drops.
+    RECT PlaceOfCalendar(int left, int top) {
+        const HWND picker = CreateWindowExW(0, DATETIMEPICK_CLASSW, L"", WS_CHILD | WS_VISIBLE, left, top,
+                                            110, 20, parent, nullptr, nullptr, nullptr);
+        ce::DroppedCalendar calendar;
+        Opening dropped = {&calendar, {}};
+        opening = &dropped;
+        SendMessageW(picker, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(102, 10));
+        SendMessageW(picker, WM_LBUTTONUP, 0, MAKELPARAM(102, 10));
+        opening = nullptr;
+        DestroyWindow(picker);
+        return dropped.place;
+    }
+
+  private:
+    Replaced<int (*)(int)> size;
+    HWND parent;
+};
+
+}  // namespace
+
+TEST_F(DroppedCalendar, lies_inside_every_screen_wherever_its_picker_is) {
+    for (const SIZE each : {SIZE{240, 320}, {640, 240}, {320, 240}, {240, 240}, {480, 640}, {800, 600}}) {
+        screen = each;
+        for (const POINT picker : {POINT{0, 0}, {90, 88}, {90, 110}, {each.cx - 110, each.cy - 20}}) {
+            const RECT place = PlaceOfCalendar(picker.x, picker.y);
+            SCOPED_TRACE(testing::Message()
+                         << each.cx << " x " << each.cy << ", picker at " << picker.x << ", " << picker.y);
+            EXPECT_FALSE(IsRectEmpty(&place));
+            EXPECT_GE(place.left, 0);
+            EXPECT_GE(place.top, 0);
+            EXPECT_LE(place.right, each.cx);
+            EXPECT_LE(place.bottom, each.cy);
+        }
+    }
+}
+
+TEST_F(DroppedCalendar, leaves_its_picker_free_where_there_is_room) {
+    screen = {480, 640};
+    EXPECT_GE(PlaceOfCalendar(90, 100).top, 120);
+    EXPECT_LE(PlaceOfCalendar(90, 500).bottom, 500);
+    screen = {640, 240};
+    EXPECT_GE(PlaceOfCalendar(90, 100).left, 200);
+}
