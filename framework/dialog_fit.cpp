@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "framework/dialog_squeeze.h"
 #include "platform/ce_shell.h"
 #include "platform/screen_area.h"
 #include "resources/resource_ids.h"
@@ -56,6 +57,15 @@ void MoveBelow(HWND dialog, LONG line, LONG right, LONG down) {
         OffsetRect(&place, right, down);
         Place(control, place);
     }
+}
+
+bool HasCutText(HWND dialog) {
+    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        const RECT place = PlaceOf(control);
+        if (place.top >= TitleLineY && HeightForText(control) > place.bottom - place.top) return true;
+    }
+    return false;
 }
 
 SIZE ClientSizeOf(HWND window) {
@@ -169,14 +179,18 @@ void FitToScreen(HWND dialog, int lastKept) {
     CutToWidth(dialog);
     const SIZE room = RoomFor(dialog);
     SIZE client = ClientSizeOf(dialog);
-    if (client.cy <= room.cy) return;
+    const LONG columnWidth = client.cx;
     const HWND kept = GetDlgItem(dialog, lastKept);
     if (PartBelow(dialog, 0).bottom > room.cy && kept != nullptr && HasRoomForTwoColumns(dialog)) {
         const LONG line = PlaceOf(kept).bottom - Rounding;
         MoveBelow(dialog, line, client.cx, ColumnTop - PartBelow(dialog, line).top);
         client.cx *= 2;
     }
-    client.cy = std::min(std::max(PartBelow(dialog, 0).bottom + GapBelowText, LONG{0}), room.cy);
+    if (PartBelow(dialog, 0).bottom > room.cy || HasCutText(dialog))
+        SqueezeRows(dialog, columnWidth, room.cy);
+    const LONG lowest = PartBelow(dialog, 0).bottom;
+    if (client.cy <= room.cy && lowest <= client.cy) return;
+    client.cy = std::min(lowest + GapBelowText, room.cy);
     SetClientSize(dialog, client);
 }
 

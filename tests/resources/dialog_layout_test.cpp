@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <string>
+#include <vector>
+
 #include "fileops/question_texts.h"
 #include "framework/dialog_fit.h"
 #include "tests/resources/dialog_window.h"
@@ -21,13 +24,17 @@ struct LayoutCase {
 
 void PrintTo(const LayoutCase& layout, std::ostream* out) {
     *out << (layout.language == UiLanguage::Japanese ? "japanese_on_" : "english_on_")
-         << (layout.screen == Screen::Pocket ? 240 : 640);
+         << SizeOfScreen(layout.screen).cx << "_by_" << SizeOfScreen(layout.screen).cy;
 }
 
-constexpr LayoutCase Everywhere[] = {{UiLanguage::English, Screen::Pocket},
-                                     {UiLanguage::Japanese, Screen::Pocket},
-                                     {UiLanguage::English, Screen::Handheld},
-                                     {UiLanguage::Japanese, Screen::Handheld}};
+std::vector<LayoutCase> Everywhere() {
+    std::vector<LayoutCase> cases;
+    for (const UiLanguage language : {UiLanguage::English, UiLanguage::Japanese})
+        for (const Screen screen :
+             {Screen::Pocket, Screen::Handheld, Screen::Low, Screen::Square, Screen::Tall, Screen::Desktop})
+            cases.push_back({language, screen});
+    return cases;
+}
 
 constexpr const wchar_t* LongEnglishName = L"Quarterly sales report of the northern branch 2008.xls";
 constexpr const wchar_t* LongJapaneseName = L"四半期営業報告書2008年第三四半期北支店.xls";
@@ -56,7 +63,7 @@ class QuestionLayout : public testing::TestWithParam<LayoutCase> {
         ExpectAllShown(dialog);
     }
 
-    void AskAboutReplacing(const wchar_t* english, const wchar_t* japanese) {
+    void AskAboutReplacing(const wchar_t* english, const wchar_t* japanese, LONG size = 102399999) {
         wchar_t folder[MAX_PATH] = {};
         GetTempPathW(MAX_PATH, folder);
         const std::wstring existing = folder + Name();
@@ -65,7 +72,7 @@ class QuestionLayout : public testing::TestWithParam<LayoutCase> {
             const HANDLE file =
                 CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
             ASSERT_NE(file, INVALID_HANDLE_VALUE);
-            SetFilePointer(file, 102399999, nullptr, FILE_BEGIN);
+            SetFilePointer(file, size, nullptr, FILE_BEGIN);
             SetEndOfFile(file);
             CloseHandle(file);
         }
@@ -111,7 +118,28 @@ TEST_P(QuestionLayout, the_longest_question_about_replacing_one_of_many_files_is
     AskAboutReplacing(L"EConfirmMultipleFileReplaceDialog_E", L"EConfirmMultipleFileReplaceDialog_J");
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, QuestionLayout, testing::ValuesIn(Everywhere),
+// Nearly as many as a name of 255 bytes holds.
+TEST_P(QuestionLayout, a_question_about_a_name_of_76_wide_letters_is_shown_whole) {
+    const std::wstring path = L"\\tools.exe\\" + std::wstring(72, L'報') + L".xls";
+    Ask(L"EConfirmYesNoDialog_E", L"EConfirmYesNoDialog_J", FillFileDeleteText, path.c_str(),
+        GetParam().Pick(L"no longer be able to run", L"実行できなくなり"));
+    Ask(L"EConfirmYesAllNoCancelDialog_E", L"EConfirmYesAllNoCancelDialog_J", FillFileDeleteText,
+        path.c_str(), GetParam().Pick(L"no longer be able to run", L"実行できなくなり"));
+}
+
+TEST_P(QuestionLayout, a_question_about_a_path_of_259_letters_is_shown_whole) {
+    const std::wstring path = L"\\" + std::wstring(129, L'n') + L"\\" + std::wstring(128, L'm');
+    Ask(L"EConfirmYesAllNoCancelDialog_E", L"EConfirmYesAllNoCancelDialog_J", FillFolderReplaceText,
+        path.c_str(), GetParam().Pick(L"replace the existing files?", L"上書きしますか"));
+}
+
+TEST_P(QuestionLayout, the_size_and_the_date_of_a_large_file_are_both_shown) {
+    AskAboutReplacing(L"EConfirmFileReplaceDialog_E", L"EConfirmFileReplaceDialog_J", 1500000000);
+    AskAboutReplacing(L"EConfirmMultipleFileReplaceDialog_E", L"EConfirmMultipleFileReplaceDialog_J",
+                      1500000000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, QuestionLayout, testing::ValuesIn(Everywhere()),
                          testing::PrintToStringParamName());
 
 class DialogLayout : public testing::TestWithParam<LayoutCase> {};
@@ -170,7 +198,7 @@ TEST_P(DialogLayout, a_heading_ends_above_the_title_line) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, DialogLayout, testing::ValuesIn(Everywhere),
+INSTANTIATE_TEST_SUITE_P(Screens, DialogLayout, testing::ValuesIn(Everywhere()),
                          testing::PrintToStringParamName());
 
 }  // namespace

@@ -12,15 +12,12 @@ constexpr LONG BarHeight = 26;
 // Places and sizes in dialog units are rounded one by one.
 constexpr LONG Rounding = 1;
 
-int PocketMetrics(int index) {
-    if (index == SM_CXSCREEN) return 240;
-    if (index == SM_CYSCREEN) return 320;
-    return GetSystemMetrics(index);
-}
+constexpr SIZE Sizes[] = {{240, 320}, {640, 240}, {320, 240}, {240, 240}, {480, 640}, {800, 600}};
 
-int HandheldMetrics(int index) {
-    if (index == SM_CXSCREEN) return 640;
-    if (index == SM_CYSCREEN) return 240;
+template <Screen screen>
+int Metrics(int index) {
+    if (index == SM_CXSCREEN) return SizeOfScreen(screen).cx;
+    if (index == SM_CYSCREEN) return SizeOfScreen(screen).cy;
     return GetSystemMetrics(index);
 }
 
@@ -39,8 +36,15 @@ bool IsText(const DialogControl& control) {
 
 }  // namespace
 
+SIZE SizeOfScreen(Screen screen) {
+    return Sizes[static_cast<std::size_t>(screen)];
+}
+
 int (*MetricsOf(Screen screen))(int index) {
-    return screen == Screen::Pocket ? PocketMetrics : HandheldMetrics;
+    constexpr int (*metrics[])(int) = {Metrics<Screen::Pocket>, Metrics<Screen::Handheld>,
+                                       Metrics<Screen::Low>,    Metrics<Screen::Square>,
+                                       Metrics<Screen::Tall>,   Metrics<Screen::Desktop>};
+    return metrics[static_cast<std::size_t>(screen)];
 }
 
 SIZE TextRoom(HWND control, const std::wstring& text, LONG width) {

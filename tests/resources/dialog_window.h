@@ -14,7 +14,10 @@
 #include "platform/ce_system.h"
 #include "tests/support/replaced_calls.h"
 
-enum class Screen { Pocket, Handheld };  // 240 x 320, 640 x 240
+enum class Screen { Pocket, Handheld, Low, Square, Tall, Desktop };
+
+// The whole screen in pixels.
+[[nodiscard]] SIZE SizeOfScreen(Screen screen);
 
 // The system's figures, with the screen's size in place of the real one.
 [[nodiscard]] int (*MetricsOf(Screen screen))(int index);
