@@ -4,6 +4,7 @@
 
 #include "app/language.h"
 #include "conditions/folder_tree.h"
+#include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
@@ -37,8 +38,23 @@ LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
     BuildTree();
     const LRESULT result = Dialog::OnInitDialog(record);
     StretchTree();
-    Centre();
+    CentreOnMainWindow();
     return result;
+}
+
+// The parent is a page, a part of the main window near its top; the system makes the whole window the owner.
+void FolderBrowseDialog::CentreOnMainWindow() {
+    RECT own{};
+    RECT main{};
+    GetWindowRect(Handle(), &own);
+    const HWND owner = GetWindow(Handle(), GW_OWNER);
+    const bool hasOwner = owner != nullptr && GetWindowRect(owner, &main);
+    const LONG width = own.right - own.left;
+    const LONG height = own.bottom - own.top;
+    const POINT corner =
+        CentredPosition(width, height, hasOwner ? &main : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
+                        ce::GetSystemMetrics(SM_CYSCREEN));
+    MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
 }
 
 // Down to the menu bar, with the margin that the template leaves beside it.

@@ -23,6 +23,7 @@ class FolderBrowseDialog : public Dialog {
     LRESULT OnOk(EventArguments& arguments);
 
     void StretchTree();
+    void CentreOnMainWindow();
     void LoadImages();
     void BuildTree();
 

@@ -180,6 +180,22 @@ TEST_F(BrowseButton, puts_the_chosen_folder_into_the_location_and_its_history) {
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), (Names{L"\\A\\B"}));
 }
 
+TEST_F(BrowseButton, brings_the_browser_to_the_middle_of_the_main_window) {
+    const Replaced<int (*)(int)> screen(ce::systemCalls.getSystemMetrics, [](int index) {
+        return index == SM_CXSCREEN ? 800 : index == SM_CYSCREEN ? 600 : GetSystemMetrics(index);
+    });
+    MoveWindow(HostHandle(), 210, 40, 360, 500, TRUE);
+    OpenPage();
+    RECT place = {};
+    nextDoing = [&](HWND window) {
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        GetWindowRect(window, &place);
+    };
+    Click(BUTTON_BROWSE);
+    EXPECT_NEAR((place.left + place.right) / 2, 390, 1);
+    EXPECT_NEAR((place.top + place.bottom) / 2, 290, 1);
+}
+
 TEST_F(BrowseButton, has_a_japanese_caption_on_a_japanese_surface) {
     UseJapanese();
     OpenPage();
