@@ -1,6 +1,7 @@
 #include "platform/ce_windows.h"
 
 #include "platform/ce_system.h"
+#include "platform/fixed_windows.h"
 #include "platform/screen_area.h"
 #include "platform/window_placement.h"
 
@@ -46,6 +47,7 @@ HWND CreateWindowExW(DWORD extendedStyle, const wchar_t* className, const wchar_
                                  instance, parameter);
     }
     const bool handheld = IsHandheldScreen(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    if (handheld) FixFullScreenWindows();
     // The window lays its children out once, so it gets no frame to be resized by and no maximise box.
     style |= WS_CAPTION | WS_SYSMENU | (handheld ? 0 : WS_MINIMIZEBOX);
     RECT frame{};

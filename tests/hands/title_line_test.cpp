@@ -1,0 +1,72 @@
+// What fills a handheld's screen stays where it is, whatever is tried with its title line and its system
+// menu.
+
+#include "tests/hands/hands_test.h"
+
+class TitleLine : public HandsTest {
+  protected:
+    [[nodiscard]] static RECT PlaceOfWindow(HWND window) {
+        RECT place = {};
+        GetWindowRect(window, &place);
+        return place;
+    }
+    [[nodiscard]] static bool FillsScreen(HWND window) {
+        RECT area = {};
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+        const RECT place = PlaceOfWindow(window);
+        return EqualRect(&place, &area);
+    }
+    [[nodiscard]] static POINT TitleOf(HWND window) {
+        const RECT place = PlaceOfWindow(window);
+        return {place.left + 80, place.top + 12};
+    }
+    static void DragTitle(HWND window) {
+        const POINT title = TitleOf(window);
+        DragPointer(title, {title.x + 60, title.y + 70});
+        Program().WaitForQueue();
+    }
+};
+
+TEST_F(TitleLine, of_the_main_window_cannot_be_dragged) {
+    ASSERT_TRUE(FillsScreen(Program().Window()));
+    DragTitle(Program().Window());
+    EXPECT_TRUE(FillsScreen(Program().Window()));
+    // Nothing holds the pointer: the next click arrives.
+    ClickAt(PlaceOf(NamePage, CHECK_SUBFOLDERS));
+    EXPECT_TRUE(HoldsWithin(
+        StepDeadline, [] { return Program().Control(NamePage, CHECK_SUBFOLDERS).checked == BST_CHECKED; }));
+}
+
+TEST_F(TitleLine, of_the_main_window_takes_a_double_click_without_effect) {
+    DoubleClickAt(TitleOf(Program().Window()));
+    Program().WaitForQueue();
+    EXPECT_TRUE(FillsScreen(Program().Window()));
+}
+
+TEST_F(TitleLine, of_the_main_window_is_not_moved_or_sized_from_the_system_menu) {
+    for (const WORD letter : {WORD{'M'}, WORD{'S'}}) {
+        Program().FocusTab();
+        PressKey(VK_SPACE, {VK_MENU});
+        WaitUntil("the system menu", [] { return IsMenuOpen(); });
+        PressKey(letter);
+        Sleep(200);
+        for (int step = 0; step < 3; ++step)
+            PressKey(VK_DOWN);
+        PressKey(VK_RETURN);
+        Program().WaitForQueue();
+        EXPECT_TRUE(FillsScreen(Program().Window())) << static_cast<char>(letter);
+        CloseMenus();
+    }
+}
+
+TEST_F(TitleLine, of_a_dialog_moves_it_unless_it_fills_the_screen) {
+    PressKey(VK_F1);
+    const ProgramDialog about = Dialog();
+    const bool filled = FillsScreen(about.Window());
+    EXPECT_EQ(World().screenWidth == 240, filled);
+    const RECT before = about.Place();
+    DragTitle(about.Window());
+    const RECT after = about.Place();
+    EXPECT_EQ(filled, EqualRect(&before, &after) != FALSE);
+    PressKey(VK_ESCAPE);
+}
