@@ -12,7 +12,7 @@ namespace {
 int ShowBox(HWND owner, const wchar_t* title, UINT style, const wchar_t* format, va_list arguments) {
     wchar_t text[1024];
     FormatTextV(text, std::size(text), format, arguments);
-    return MessageBoxW(owner, text, title, style);
+    return ce::MessageBoxW(owner, text, title, style);
 }
 
 }  // namespace

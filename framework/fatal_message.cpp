@@ -13,5 +13,5 @@ int ShowFatal(HWND owner, const wchar_t* format, ...) {
     va_start(arguments, format);
     FormatTextV(text, std::size(text), format, arguments);
     va_end(arguments);
-    return MessageBoxW(owner, text, InLanguage(L"Fatal", L"致命的なｴﾗｰ"), MB_ICONERROR);
+    return ce::MessageBoxW(owner, text, InLanguage(L"Fatal", L"致命的なｴﾗｰ"), MB_ICONERROR);
 }

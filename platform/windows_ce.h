@@ -13,6 +13,7 @@
 
 #include "platform/ce_controls.h"
 #include "platform/ce_files.h"
+#include "platform/ce_message_box.h"
 #include "platform/ce_registry.h"
 #include "platform/ce_shell.h"
 #include "platform/ce_shortcuts.h"

@@ -1,0 +1,179 @@
+#include "platform/ce_message_box.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "platform/ce_windows.h"
+#include "platform/screen_area.h"
+
+namespace ce {
+
+namespace {
+
+constexpr LONG Margin = 6;
+constexpr LONG SmallestLetters = 8;
+constexpr int LongestText = 2048;
+
+SIZE SizeOf(const RECT& place) {
+    return {place.right - place.left, place.bottom - place.top};
+}
+
+SIZE SizeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return SizeOf(place);
+}
+
+void Place(HWND window, LONG left, LONG top, SIZE size) {
+    SetWindowPos(window, nullptr, left, top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Only while the call runs, and only the one box.
+class BoxFit {
+  public:
+    BoxFit()
+        : outer(current), hook(SetWindowsHookExW(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId())) {
+        current = this;
+    }
+    ~BoxFit() {
+        if (hook != nullptr) UnhookWindowsHookEx(hook);
+        if (font != nullptr) DeleteObject(font);
+        current = outer;
+    }
+    BoxFit(const BoxFit&) = delete;
+    BoxFit& operator=(const BoxFit&) = delete;
+
+  private:
+    static LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam);
+
+    void Fit(HWND window);
+    void FindControls();
+    SIZE TextSize(LONG width) const;
+    SIZE FitText(SIZE room);
+    bool MakeLettersSmaller();
+    void PlaceButtons(LONG width, LONG top) const;
+
+    static BoxFit* current;
+
+    BoxFit* outer;
+    HHOOK hook;
+    HFONT font = nullptr;
+    HWND box = nullptr;
+    HWND icon = nullptr;
+    HWND text = nullptr;
+    std::vector<HWND> buttons;
+};
+
+BoxFit* BoxFit::current = nullptr;
+
+bool IsDialog(HWND window) {
+    wchar_t name[8] = L"";
+    return ce::GetClassNameW(window, name, 8) > 0 && lstrcmpW(name, L"Dialog") == 0;
+}
+
+// The first dialog that has been initialised is the box: the system has laid it out and not yet shown it.
+LRESULT CALLBACK BoxFit::Watch(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* message = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    const bool initialised =
+        code == HC_ACTION && message->message == WM_INITDIALOG && IsDialog(message->hwnd);
+    if (initialised && current != nullptr && current->box == nullptr) current->Fit(message->hwnd);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void BoxFit::FindControls() {
+    for (HWND control = GetWindow(box, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
+        wchar_t name[16] = L"";
+        ce::GetClassNameW(control, name, static_cast<int>(std::size(name)));
+        if ((style & WS_VISIBLE) == 0) continue;
+        if (lstrcmpiW(name, L"Button") == 0) buttons.push_back(control);
+        if (lstrcmpiW(name, L"Static") != 0) continue;
+        ((style & SS_TYPEMASK) == SS_ICON ? icon : text) = control;
+    }
+}
+
+SIZE BoxFit::TextSize(LONG width) const {
+    wchar_t words[LongestText] = L"";
+    const int length = GetWindowTextW(text, words, LongestText);
+    const HDC context = GetDC(text);
+    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(text, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = letters != nullptr ? SelectObject(context, letters) : nullptr;
+    RECT area{0, 0, width, 0};
+    DrawTextW(context, words, length, &area,
+              DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL | DT_EXPANDTABS);
+    if (before != nullptr) SelectObject(context, before);
+    ReleaseDC(text, context);
+    return {area.right, area.bottom};
+}
+
+bool BoxFit::MakeLettersSmaller() {
+    LOGFONTW letters{};
+    if (GetObjectW(reinterpret_cast<HFONT>(SendMessageW(text, WM_GETFONT, 0, 0)), sizeof letters, &letters) ==
+        0)
+        return false;
+    if (letters.lfHeight >= 0) letters.lfHeight = -letters.lfHeight;
+    if (++letters.lfHeight > -SmallestLetters) return false;
+    const HFONT smaller = CreateFontIndirectW(&letters);
+    if (smaller == nullptr) return false;
+    SendMessageW(text, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
+    if (font != nullptr) DeleteObject(font);
+    font = smaller;
+    return true;
+}
+
+SIZE BoxFit::FitText(SIZE room) {
+    SIZE size = TextSize(room.cx);
+    while (size.cy > room.cy && MakeLettersSmaller())
+        size = TextSize(room.cx);
+    return {std::min(size.cx, room.cx), std::min(size.cy, room.cy)};
+}
+
+void BoxFit::PlaceButtons(LONG width, LONG top) const {
+    LONG all = Margin * (static_cast<LONG>(buttons.size()) - 1);
+    for (const HWND button : buttons)
+        all += SizeOf(button).cx;
+    LONG left = (width - all) / 2;
+    for (const HWND button : buttons) {
+        Place(button, left, top, SizeOf(button));
+        left += SizeOf(button).cx + Margin;
+    }
+}
+
+void BoxFit::Fit(HWND window) {
+    box = window;
+    FindControls();
+    RECT place{};
+    RECT client{};
+    RECT inside{};
+    const RECT area = ScreenArea();
+    GetWindowRect(box, &place);
+    GetClientRect(box, &client);
+    IntersectRect(&inside, &place, &area);
+    if (EqualRect(&inside, &place) || text == nullptr || buttons.empty()) return;
+
+    const SIZE frame = {SizeOf(place).cx - client.right, SizeOf(place).cy - client.bottom};
+    const SIZE room = {SizeOf(area).cx - frame.cx, SizeOf(area).cy - frame.cy};
+    const SIZE iconSize = icon != nullptr ? SizeOf(icon) : SIZE{0, 0};
+    const LONG textLeft = icon != nullptr ? iconSize.cx + 2 * Margin : Margin;
+    const LONG buttonHeight = SizeOf(buttons.front()).cy;
+    SetWindowLongPtrW(text, GWL_STYLE, GetWindowLongPtrW(text, GWL_STYLE) | SS_EDITCONTROL);
+    const SIZE textSize = FitText({room.cx - textLeft - Margin, room.cy - buttonHeight - 3 * Margin});
+
+    const LONG rowHeight = std::max(textSize.cy, iconSize.cy);
+    if (icon != nullptr) Place(icon, Margin, Margin, iconSize);
+    Place(text, textLeft, Margin, {room.cx - textLeft - Margin, textSize.cy});
+    PlaceButtons(room.cx, rowHeight + 2 * Margin);
+    const SIZE size = {SizeOf(area).cx, rowHeight + buttonHeight + 3 * Margin + frame.cy};
+    Place(box, area.left, area.top + (SizeOf(area).cy - size.cy) / 2, size);
+}
+
+}  // namespace
+
+int MessageBoxW(HWND owner, const wchar_t* text, const wchar_t* title, UINT style) {
+    const BoxFit fit;
+    return ::MessageBoxW(owner, text, title, style);
+}
+
+}  // namespace ce
