@@ -1,4 +1,4 @@
-// Everything that opens lies inside the work area, whatever opens it: lists, calendars, menus,
+// Everything that opens lies inside the work area, whatever opens it: lists, calendars, menus, tooltips,
 // dialogs, questions and error boxes, with long names.
 
 #include <commctrl.h>
@@ -214,6 +214,37 @@ TEST_F(Edges, the_folder_browser_lies_inside) {
     ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
     ExpectDialogInside(Dialog());
     PressKey(VK_ESCAPE);
+}
+
+TEST_F(Edges, the_tooltips_of_a_dialogs_bar_lie_inside) {
+    ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
+    const ProgramDialog browser = Dialog();
+    for (const int button : {IDCANCEL, IDOK}) {
+        MovePointerTo(PlaceOfDialogButton(browser.Window(), button));
+        WaitForClass(TOOLTIPS_CLASSW);
+        ExpectWindowsInside();
+        // Away from the bar, so that the next one is a new one.
+        MovePointerTo(CentreOf(browser.Place()));
+        WaitUntil("the tooltip to go", [] { return VisibleOfClass(TOOLTIPS_CLASSW) == nullptr; });
+    }
+    PressKey(VK_ESCAPE);
+}
+
+TEST_F(Edges, the_boxes_about_a_name_that_is_taken_lie_inside) {
+    AddFile(L"taken.qsb");
+    FindLongName();
+    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_RENAME, 0);
+    WaitUntil("the edit of the name", [] { return ClassOf(FocusWindow()) == L"Edit"; });
+    TypeText(L"taken.qsb");
+    PressKey(VK_RETURN);
+    // The failed move, and that the name could not be changed.
+    for (int box = 0; box < 2; ++box) {
+        const ProgramDialog error = Dialog();
+        EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+        ExpectDialogInside(error);
+        PressKey(VK_RETURN);
+        WaitUntil("the box to close", [&] { return !IsWindow(error.Window()); });
+    }
 }
 
 TEST_F(Edges, the_properties_of_a_long_name_lie_inside) {
