@@ -125,6 +125,7 @@ TEST(ResultTime, any_time_reads_as_the_system_writes_it_and_none_where_the_syste
         if (upTo(20) == 0) time.wHour = static_cast<WORD>(24 + upTo(3));
         if (upTo(20) == 0) time.wMinute = 60;
         if (upTo(20) == 0) time.wSecond = 60;
+        if (upTo(20) == 0) time.wMilliseconds = static_cast<WORD>(999 + upTo(1));
         if (upTo(20) == 0) time.wMonth = static_cast<WORD>(upTo(1) * 13);
         wchar_t date[RowTextCapacity] = L"";
         wchar_t clock[RowTextCapacity] = L"";
