@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int ExitRunningAlready = 1;
+constexpr int ExitWithoutWindow = 2;
 
 // The button-face colour plus one, as the handheld numbers it: colour index 16 with the system-colour flag.
 constexpr PropertyValue ButtonFaceBrush = 0x40000010;
@@ -51,8 +52,13 @@ int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showComm
         PropertySet properties;
         DescribeMainWindow(properties);
         const auto mainWindow = std::make_unique<MainWindow>(ProductName, properties, application);
-        mainWindow->Show();
-        exitCode = application.Run();
+        // Without its window nothing could ever end the program; the user has been told.
+        if (mainWindow->Handle() == nullptr) {
+            exitCode = ExitWithoutWindow;
+        } else {
+            mainWindow->Show();
+            exitCode = application.Run();
+        }
     }
     ReleaseConversionLibrary(globals);
     return exitCode;
