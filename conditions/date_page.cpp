@@ -100,7 +100,8 @@ void DatePage::EnableDays(bool enable) {
 }
 
 bool DatePage::DateRangeChosen(DateRange& range) const {
-    if (IsChecked(RADIO_ALL_FILES)) return false;
+    // A page that could not be made restricts nothing.
+    if (Handle() == nullptr || IsChecked(RADIO_ALL_FILES)) return false;
     if (IsChecked(RADIO_BETWEEN)) {
         range = BetweenDates(PickedDate(PICKER_FROM), PickedDate(PICKER_TO));
     } else if (IsChecked(RADIO_PAST)) {

@@ -53,7 +53,8 @@ void SizePage::TypeExtensions(wchar_t (&text)[MAX_PATH]) const {
     text[0] = L'\0';
     const LRESULT selected = SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL);
     const LRESULT data = SendToItem(COMBO_FILE_TYPE, CB_GETITEMDATA, static_cast<WPARAM>(selected));
-    if (selected == CB_ERR || data == CB_ERR) return;
+    // A combo that could not be made answers 0 to everything.
+    if (selected == CB_ERR || data == CB_ERR || data == 0) return;
     std::wcsncpy(text, reinterpret_cast<const wchar_t*>(data), MAX_PATH - 1);
     text[MAX_PATH - 1] = L'\0';
 }
