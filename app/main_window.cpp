@@ -155,7 +155,12 @@ void MainWindow::ShowPage(int index) {
     tabControl->Select(index);
     Page(index)->Show();
     currentPage = index;
-    SetFocus(tabControl->Handle());
+    FocusOn(*tabControl);
+}
+
+// One that could not be made leaves the focus where it is: without any the keys would reach nobody.
+void MainWindow::FocusOn(const WindowObject& object) {
+    if (object.Handle() != nullptr) SetFocus(object.Handle());
 }
 
 LRESULT MainWindow::OnPageChanged(EventArguments&) {
@@ -169,7 +174,8 @@ LRESULT MainWindow::OnTabControlKeyDown(MessageRecord& record) {
     if (record.wParam != VK_TAB) return tabControl->DefaultProcessing(record);
     const bool backwards = GetKeyState(VK_SHIFT) < 0;
     const HWND page = Page(currentPage)->Handle();
-    SetFocus(backwards ? LastTabStop(page) : FirstTabStop(page));
+    const HWND next = backwards ? LastTabStop(page) : FirstTabStop(page);
+    if (next != nullptr) SetFocus(next);
     return 0;
 }
 

@@ -73,6 +73,7 @@ class MainWindow : public ApplicationView {
     void ResetConditions();
     void EnableResultCommands(bool enable);
     void ShowPage(int index);
+    static void FocusOn(const WindowObject& object);
     [[nodiscard]] ConditionPage* Page(int index) const;
 
     SearchConditions conditions;

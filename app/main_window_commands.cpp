@@ -127,7 +127,7 @@ void MainWindow::Find() {
     UpdateWindow(Handle());
     results->SelectRow(0);
     if (results->SelectedCount() == 0) EnableResultCommands(false);
-    SetFocus(results->Handle());
+    FocusOn(*results);
     if (closeAfterSearch) PostMessageW(Handle(), WM_CLOSE, 0, 0);
 }
 

@@ -24,7 +24,9 @@ HWND PageControlOf(HWND page, HWND focus) {
 }
 
 // A text field that gets the focus by Tab has its text selected, as in any dialog.
+// What could not be made is left out: the focus stays where it is.
 void FocusControl(HWND control) {
+    if (control == nullptr) return;
     SetFocus(control);
     if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
         SendMessageW(control, EM_SETSEL, 0, -1);
@@ -34,7 +36,7 @@ void LeavePage(const NavigationStops& stops, HWND control, bool backwards) {
     const HWND next = GetNextDlgTabItem(stops.page, control, backwards);
     const HWND end = backwards ? LastTabStop(stops.page) : FirstTabStop(stops.page);
     if (next == nullptr || next == end) {
-        SetFocus(backwards ? stops.tabControl : stops.list);
+        FocusControl(backwards ? stops.tabControl : stops.list);
     } else {
         FocusControl(next);
     }
@@ -54,7 +56,8 @@ bool OnTab(MSG& message, const NavigationStops& stops) {
 // A label's letter leads to its field from the tab control and the list as well: the page is asked as if it
 // had got the key itself.
 bool OnMnemonic(const MSG& message, const NavigationStops& stops) {
-    if (message.hwnd != stops.tabControl && message.hwnd != stops.list) return false;
+    if (stops.page == nullptr || (message.hwnd != stops.tabControl && message.hwnd != stops.list))
+        return false;
     // Enter and the blank have meanings of their own with Alt.
     if (message.wParam <= L' ') return false;
     MSG asked = message;
@@ -76,7 +79,7 @@ bool NavigateByKey(MSG& message, const NavigationStops& stops) {
     const bool isKey = message.message == WM_KEYDOWN;
     if (isKey && message.wParam == VK_TAB) return OnTab(message, stops);
     if (message.message == WM_SYSCHAR && OnMnemonic(message, stops)) return true;
-    if (!IsChild(stops.page, message.hwnd)) return false;
+    if (stops.page == nullptr || !IsChild(stops.page, message.hwnd)) return false;
     if (isKey && message.wParam == VK_RETURN) {
         if (!IsPushButton(message.hwnd)) return false;
         SendMessageW(message.hwnd, BM_CLICK, 0, 0);
