@@ -101,8 +101,9 @@ void ResultList::InsertColumns() {
     }
 }
 
+// Where the list could not be made, the system would take a drawing of no window for one of the whole screen.
 void ResultList::BeginFilling() {
-    if (filling) return;
+    if (filling || Handle() == nullptr) return;
     filling = true;
     rowsPending = false;
     nextRefresh = GetTickCount64() + RefreshInterval;
@@ -193,6 +194,7 @@ void ResultList::SetCell(int row, ResultColumn column, const wchar_t* text) {
 // The way of a message through the system and back takes as long as the list needs for a row's cell, and a
 // row takes seven: calling the control's own procedure instead saves a tenth of the time of filling.
 LRESULT ResultList::CallControl(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (Handle() == nullptr) return 0;
     MessageRecord record{message, wParam, lParam, 0, 0};
     return DefaultProcessing(record);
 }
@@ -287,7 +289,7 @@ void ResultList::SetView(DWORD view) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
     // The desktop's list draws the new view over the old one.
-    InvalidateRect(Handle(), nullptr, TRUE);
+    if (Handle() != nullptr) InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
