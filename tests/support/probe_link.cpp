@@ -13,10 +13,8 @@ std::wstring OwnFolder() {
 }
 
 HMODULE LoadProbe() {
-    const std::wstring folder = OwnFolder();
-    HMODULE library = LoadLibraryW((folder + L"quorin_probe.dll").c_str());
-    if (library == nullptr) library = LoadLibraryW((folder + L"tests\\quorin_probe.dll").c_str());
-    if (library == nullptr) throw DriverError("quorin_probe.dll is neither beside the driver nor in tests");
+    const HMODULE library = LoadLibraryW(ProbePath().c_str());
+    if (library == nullptr) throw DriverError("quorin_probe.dll cannot be loaded");
     return library;
 }
 
@@ -45,6 +43,15 @@ std::vector<Record> SplitAnswer(const probe::Exchange& exchange) {
 }
 
 }  // namespace
+
+std::wstring ProbePath() {
+    const std::wstring folder = OwnFolder();
+    for (const wchar_t* place : {L"quorin_probe.dll", L"tests\\quorin_probe.dll"}) {
+        const std::wstring path = folder + place;
+        if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) return path;
+    }
+    throw DriverError("quorin_probe.dll is neither beside the driver nor in tests");
+}
 
 ProbeLink::ProbeLink(HWND mainWindow) : window(mainWindow) {
     const DWORD thread = GetWindowThreadProcessId(window, &processId);

@@ -12,10 +12,12 @@
 
 using Record = std::vector<std::wstring>;
 
+// The probe's library, beside the calling program or in its folder "tests". Throws DriverError.
+std::wstring ProbePath();
+
 class ProbeLink {
   public:
-    // Of the program whose main window this is. The probe's library is looked for beside the calling
-    // program and in its folder "tests". Throws DriverError.
+    // Of the program whose main window this is. Throws DriverError.
     explicit ProbeLink(HWND mainWindow);
     ~ProbeLink();
     ProbeLink(const ProbeLink&) = delete;

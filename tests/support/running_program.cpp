@@ -3,6 +3,10 @@
 #include "tests/support/driver_error.h"
 #include "tests/support/utf8.h"
 
+namespace {
+constexpr DWORD LongestLoading = 10000;
+}
+
 RunningProgram::~RunningProgram() {
     if (job != nullptr) Kill();
     if (process != nullptr) CloseHandle(process);
@@ -22,6 +26,7 @@ void RunningProgram::Start(const ProgramStart& start) {
     process = started.hProcess;
     processId = started.dwProcessId;
     AssignProcessToJobObject(job, process);
+    if (!start.library.empty()) BringLibrary(start.library);
     ResumeThread(started.hThread);
     CloseHandle(started.hThread);
 }
@@ -45,6 +50,22 @@ PROCESS_INFORMATION RunningProgram::CreateSuspended(const ProgramStart& start) {
         code = GetLastError();
     }
     throw DriverError("cannot start " + Utf8(start.path) + ", error " + std::to_string(code));
+}
+
+// A thread of the process loads it while the program's own one waits for its beginning.
+void RunningProgram::BringLibrary(const std::wstring& path) const {
+    const SIZE_T size = (path.size() + 1) * sizeof(wchar_t);
+    void* const name = VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    const auto load = reinterpret_cast<LPTHREAD_START_ROUTINE>(
+        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "LoadLibraryW"));
+    HANDLE thread = nullptr;
+    if (name != nullptr && WriteProcessMemory(process, name, path.c_str(), size, nullptr))
+        thread = CreateRemoteThread(process, nullptr, 0, load, name, 0, nullptr);
+    DWORD loaded = 0;
+    if (thread != nullptr && WaitForSingleObject(thread, LongestLoading) == WAIT_OBJECT_0)
+        GetExitCodeThread(thread, &loaded);
+    if (thread != nullptr) CloseHandle(thread);
+    if (loaded == 0) throw DriverError("the library could not be brought into the program: " + Utf8(path));
 }
 
 void RunningProgram::Attach(HWND mainWindow) {

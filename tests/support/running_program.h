@@ -13,6 +13,8 @@ struct ProgramStart {
     std::wstring workingFolder;  // empty: the caller's own
     std::wstring arguments;
     int showCommand = SW_SHOWNORMAL;
+    // Loaded into the process before the program's first instruction; empty for none.
+    std::wstring library;
 };
 
 class RunningProgram {
@@ -40,6 +42,7 @@ class RunningProgram {
 
   private:
     static PROCESS_INFORMATION CreateSuspended(const ProgramStart& start);
+    void BringLibrary(const std::wstring& path) const;
 
     HANDLE process = nullptr;
     HANDLE job = nullptr;

@@ -4,6 +4,7 @@
 
 #include "tests/support/probe/answers.h"
 #include "tests/support/probe/probe_protocol.h"
+#include "tests/support/probe/refusals.h"
 #include "tests/support/probe/search_watch.h"
 
 namespace probe {
@@ -121,6 +122,7 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
         HMODULE pinned = nullptr;
         GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
                            reinterpret_cast<const wchar_t*>(instance), &pinned);
+        probe::PrepareRefusals();
     }
     return TRUE;
 }

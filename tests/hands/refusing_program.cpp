@@ -1,0 +1,163 @@
+#include "tests/hands/refusing_program.h"
+
+#include "resources/resource_ids.h"
+#include "tests/program/program_test.h"
+#include "tests/support/deadline.h"
+#include "tests/support/user_input.h"
+
+namespace {
+
+constexpr UINT LongestAnswer = 5000;
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+std::wstring CaptionOf(HWND window) {
+    wchar_t caption[64] = L"";
+    GetWindowTextW(window, caption, 64);
+    return caption;
+}
+
+struct DialogSearch {
+    DWORD processId;
+    HWND found;
+};
+
+BOOL CALLBACK TakeDialog(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<DialogSearch*>(parameter);
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner != search.processId || ClassOf(window) != L"#32770") return TRUE;
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+struct PageSearch {
+    int control;
+    HWND found;
+};
+
+BOOL CALLBACK TakePage(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<PageSearch*>(parameter);
+    if (ClassOf(window) != L"#32770" || GetDlgItem(window, search.control) == nullptr) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+}  // namespace
+
+RefusingProgram::RefusingProgram() {
+    const std::wstring name = L"Local\\QuorinRefusals-" + std::to_wstring(GetCurrentProcessId());
+    section = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(probe::Refusals),
+                                 name.c_str());
+    refusals = static_cast<probe::Refusals*>(
+        MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(probe::Refusals)));
+    if (refusals == nullptr) throw DriverError("there is no section for the refusals");
+    SetEnvironmentVariableW(probe::RefusalsVariable, name.c_str());
+}
+
+RefusingProgram::~RefusingProgram() {
+    if (process != nullptr) process->Kill();
+    SetEnvironmentVariableW(probe::RefusalsVariable, nullptr);
+    UnmapViewOfFile(refusals);
+    CloseHandle(section);
+}
+
+void RefusingProgram::Refuse(LONG number) {
+    refusals->refused = 0;
+    refusals->asked = 0;
+    refusals->name[0] = L'\0';
+    refusals->refused = number;
+}
+
+void RefusingProgram::Start(const std::wstring& workingFolder) {
+    if (process != nullptr) process->Kill();
+    link.reset();
+    hasComplained = false;
+    ProgramStart start;
+    start.path = ProgramPath();
+    start.workingFolder = workingFolder;
+    start.library = ProbePath();
+    process = std::make_unique<RunningProgram>();
+    process->Start(start);
+    Settle();
+}
+
+void RefusingProgram::Settle() {
+    WaitUntil("the program to wait for commands or to end", [this] {
+        if (!process->IsRunning()) return true;
+        if (const HWND box = OpenDialog()) {
+            // A search ends by itself.
+            if (GetDlgItem(box, STATIC_FOLDER) == nullptr) Answer(box);
+            return false;
+        }
+        const HWND window = Window();
+        if (window == nullptr || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
+        if (!Connects()) return false;
+        WaitForQueue();
+        return OpenDialog() == nullptr && IsWindowEnabled(window) != FALSE;
+    });
+}
+
+// A window that is just going under takes no hooks.
+bool RefusingProgram::Connects() {
+    if (link != nullptr) return true;
+    try {
+        link = std::make_unique<ProbeLink>(Window());
+    } catch (const DriverError&) {
+        return false;
+    }
+    return true;
+}
+
+void RefusingProgram::WaitForQueue() {
+    link->WaitForQueue();
+}
+
+void RefusingProgram::Answer(HWND box) {
+    hasComplained = hasComplained || CaptionOf(box) == Shown(L"Fatal", L"致命的なｴﾗｰ");
+    if (GetForegroundWindow() != box) SetForegroundWindow(box);
+    PressKey(VK_RETURN);
+    static_cast<void>(HoldsWithin(LongestAnswer, [&] { return !IsWindow(box) || !IsWindowVisible(box); }));
+}
+
+DWORD RefusingProgram::Close() {
+    PostMessageW(Window(), WM_CLOSE, 0, 0);
+    return ExitCode();
+}
+
+DWORD RefusingProgram::ExitCode() const {
+    const std::optional<DWORD> code = process->ExitCode(StepDeadline);
+    if (!code) throw DriverError("the program does not end");
+    return *code;
+}
+
+HWND RefusingProgram::Child(const wchar_t* className) const {
+    return Window() != nullptr ? FindWindowExW(Window(), nullptr, className, nullptr) : nullptr;
+}
+
+HWND RefusingProgram::PageWith(int control) const {
+    PageSearch search = {control, nullptr};
+    if (Window() != nullptr) EnumChildWindows(Window(), TakePage, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND RefusingProgram::Control(int control) const {
+    const HWND page = PageWith(control);
+    return page != nullptr ? GetDlgItem(page, control) : nullptr;
+}
+
+HWND RefusingProgram::OpenDialog() const {
+    DialogSearch search = {process->ProcessId(), nullptr};
+    EnumWindows(TakeDialog, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+void RefusingProgram::Run(UINT command) {
+    PostMessageW(Window(), WM_COMMAND, command, 0);
+    Settle();
+}

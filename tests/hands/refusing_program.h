@@ -1,0 +1,60 @@
+#pragma once
+
+// The program in a system that runs out of windows, or of whatever else it makes: a test has one creation
+// refused and uses what is left.
+
+#include <memory>
+#include <string>
+
+#include "tests/support/probe/refusals.h"
+#include "tests/support/probe_link.h"
+#include "tests/support/running_program.h"
+
+class RefusingProgram {
+  public:
+    RefusingProgram();
+    ~RefusingProgram();
+    RefusingProgram(const RefusingProgram&) = delete;
+    RefusingProgram& operator=(const RefusingProgram&) = delete;
+
+    // The creations are counted from now on, and the one with this number, from 1, fails; 0 for none.
+    void Refuse(LONG number);
+    // What was refused since: a window's class, or a word for anything else; empty for nothing yet.
+    [[nodiscard]] std::wstring Refused() const { return refusals->name; }
+
+    // Starts the program and waits as Settle does. What is refused was said before.
+    void Start(const std::wstring& workingFolder);
+    // Answers with Enter whatever the program says, until it waits for commands in its main window or has
+    // ended. Throws DriverError when it does neither.
+    void Settle();
+    // Closes the main window as a person does who is told of anything on the way; the exit code.
+    DWORD Close();
+    [[nodiscard]] bool IsRunning() const { return process != nullptr && process->IsRunning(); }
+    [[nodiscard]] DWORD ExitCode() const;
+    // Whether the user was told of a window that could not be created since the start.
+    [[nodiscard]] bool HasComplained() const { return hasComplained; }
+
+    // Its windows; null where they do not exist.
+    [[nodiscard]] HWND Window() const { return process->MainWindow(); }
+    [[nodiscard]] HWND Child(const wchar_t* className) const;
+    // The condition page with this control, and the control.
+    [[nodiscard]] HWND PageWith(int control) const;
+    [[nodiscard]] HWND Control(int control) const;
+    // A dialog or message box that takes input.
+    [[nodiscard]] HWND OpenDialog() const;
+
+    // Posts the command and waits as Settle does.
+    void Run(UINT command);
+    // Waits until the program has taken what was posted to it, or asks something in the middle of it.
+    void WaitForQueue();
+
+  private:
+    void Answer(HWND box);
+    [[nodiscard]] bool Connects();
+
+    HANDLE section = nullptr;
+    probe::Refusals* refusals = nullptr;
+    std::unique_ptr<RunningProgram> process;
+    std::unique_ptr<ProbeLink> link;
+    bool hasComplained = false;
+};
