@@ -1,0 +1,109 @@
+// Pages, or their controls, that could not be created: what they would restrict is not restricted.
+
+#include "conditions/date_page.h"
+#include "conditions/name_page.h"
+#include "conditions/size_page.h"
+#include "tests/conditions/page_test.h"
+#include "tests/support/refused_windows.h"
+
+namespace {
+
+constexpr wchar_t UnusedKey[] = L"Software\\QuorinMissingPageTest";
+
+// What the page writes over a text that stands there.
+template <typename Page, std::size_t Size>
+std::wstring TextFrom(const Page& page, void (Page::*question)(wchar_t (&)[Size]) const) {
+    wchar_t text[Size] = L"before";
+    (page.*question)(text);
+    return text;
+}
+
+}  // namespace
+
+class MissingPages : public PageTest {
+  protected:
+    // The page's window is refused, or one of its controls.
+    template <typename Page>
+    void CreateRefused(Page& page, int number) {
+        const RefusedWindows refusal = RefusedWindows::Only(number);
+        page.CreateModeless();
+        ASSERT_TRUE(refusal.HasRefused());
+        ASSERT_EQ(nullptr, page.Handle());
+    }
+};
+
+TEST_F(MissingPages, without_the_date_page_any_date_will_do) {
+    DatePage page(Host());
+    CreateRefused(page, 1);
+    DateRange range{};
+    EXPECT_FALSE(page.DateRangeChosen(range));
+}
+
+TEST_F(MissingPages, a_date_page_without_one_of_its_controls_does_not_exist) {
+    DatePage page(Host());
+    CreateRefused(page, 2);
+    DateRange range{};
+    EXPECT_FALSE(page.DateRangeChosen(range));
+}
+
+TEST_F(MissingPages, without_the_size_page_there_is_neither_type_nor_bound) {
+    SizePage page(Host(), nullptr);
+    CreateRefused(page, 1);
+    EXPECT_EQ(0, page.TypeIndex());
+    EXPECT_EQ(L"", TextFrom(page, &SizePage::TypeExtensions));
+    std::uint32_t bound = 1;
+    EXPECT_EQ(SizeAnswer::None, page.SizeBound(bound));
+}
+
+TEST_F(MissingPages, a_size_page_that_has_lost_its_combos_has_neither_type_nor_bound) {
+    SizePage page(Host(), nullptr);
+    Open(page);
+    DestroyWindow(Item(COMBO_FILE_TYPE));
+    DestroyWindow(Item(COMBO_FILE_SIZE));
+    EXPECT_EQ(0, page.TypeIndex());
+    EXPECT_EQ(L"", TextFrom(page, &SizePage::TypeExtensions));
+    std::uint32_t bound = 1;
+    EXPECT_EQ(SizeAnswer::None, page.SizeBound(bound));
+}
+
+TEST_F(MissingPages, without_the_name_page_every_name_in_the_root_is_meant) {
+    NamePage page(Host(), HostHandle());
+    CreateRefused(page, 1);
+    EXPECT_EQ(L"", TextFrom(page, &NamePage::NameText));
+    EXPECT_EQ(L"", TextFrom(page, &NamePage::LocationText));
+    EXPECT_EQ(L"", TextFrom(page, &NamePage::ContentText));
+    EXPECT_FALSE(page.SubFoldersChecked());
+}
+
+TEST_F(MissingPages, without_the_name_page_nothing_is_saved_over_an_earlier_run) {
+    NamePage page(Host(), HostHandle());
+    CreateRefused(page, 1);
+    page.LoadSettings(UnusedKey);
+    page.SaveSettings(UnusedKey);
+    HKEY key = nullptr;
+    EXPECT_NE(ERROR_SUCCESS, RegOpenKeyExW(HKEY_CURRENT_USER, UnusedKey, 0, KEY_READ, &key));
+}
+
+TEST_F(MissingPages, a_page_that_could_not_be_created_is_shown_hidden_and_reset_without_effect) {
+    NamePage name(Host(), HostHandle());
+    DatePage date(Host());
+    SizePage size(Host(), nullptr);
+    for (ConditionPage* page : {static_cast<ConditionPage*>(&name), static_cast<ConditionPage*>(&date),
+                                static_cast<ConditionPage*>(&size)}) {
+        CreateRefused(*page, 1);
+        page->Show();
+        page->Reset();
+        page->Hide();
+        EXPECT_EQ(nullptr, page->Handle());
+    }
+    EXPECT_TRUE(IsWindowVisible(HostHandle()));
+}
+
+TEST_F(MissingPages, a_page_is_created_by_a_later_try) {
+    DatePage page(Host());
+    CreateRefused(page, 1);
+    page.CreateModeless();
+    ASSERT_NE(nullptr, page.Handle());
+    DateRange range{};
+    EXPECT_FALSE(page.DateRangeChosen(range));
+}
