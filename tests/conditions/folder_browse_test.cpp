@@ -1,41 +1,11 @@
 // The folder browser from its real template, and the name page's button that opens it.
 
-#include "conditions/folder_browse_dialog.h"
-
-#include <functional>
-#include <string>
-#include <vector>
+#include "tests/conditions/folder_browse_test.h"
 
 #include "conditions/name_page.h"
-#include "tests/conditions/page_test.h"
 #include "tests/conditions/tree_reading.h"
-#include "tests/search/fake_folders.h"
 
 namespace {
-
-using Names = std::vector<std::wstring>;
-
-// What the user does with the next dialog that comes up, once.
-std::function<void(HWND)> nextDoing;
-
-LRESULT CALLBACK WatchActivation(int code, WPARAM wParam, LPARAM lParam) {
-    const auto window = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_ACTIVATE && nextDoing && GetDlgItem(window, TREE_FOLDERS) != nullptr) {
-        const std::function<void(HWND)> doing = std::exchange(nextDoing, nullptr);
-        doing(window);
-    }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-HWND TreeIn(HWND dialog) {
-    return GetDlgItem(dialog, TREE_FOLDERS);
-}
-
-std::wstring TextOfWindow(HWND window) {
-    wchar_t text[MAX_PATH] = L"";
-    GetWindowTextW(window, text, MAX_PATH);
-    return text;
-}
 
 void PostOk(HWND dialog) {
     PostMessageW(dialog, WM_COMMAND, IDOK, 0);
@@ -47,33 +17,6 @@ void Choose(HWND dialog, const Names& names) {
 }
 
 }  // namespace
-
-class FolderBrowse : public PageTest {
-  protected:
-    FolderBrowse() {
-        const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
-        InitCommonControlsEx(&classes);
-        hook = SetWindowsHookExW(WH_CBT, WatchActivation, nullptr, GetCurrentThreadId());
-        folders.AddFolder(L"\\", L"My Documents");
-        folders.AddFolder(L"\\", L"A");
-        folders.AddFolder(L"\\A", L"B");
-    }
-    ~FolderBrowse() override {
-        UnhookWindowsHookEx(hook);
-        nextDoing = nullptr;
-    }
-
-    // Runs the dialog while the user does this with it.
-    INT_PTR Run(FolderBrowseDialog& dialog, const std::function<void(HWND)>& doing) {
-        nextDoing = doing;
-        return dialog.RunModal();
-    }
-
-    FakeFolders folders;
-
-  private:
-    HHOOK hook;
-};
 
 TEST_F(FolderBrowse, shows_the_whole_tree_with_the_root_open_and_drawing_on) {
     FolderBrowseDialog dialog(Host(), L"Select Folder");
