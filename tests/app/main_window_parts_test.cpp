@@ -57,6 +57,12 @@ TEST_F(MainWindowParts, the_rest_is_made_once) {
     EXPECT_EQ(dialogs, 3);
 }
 
+TEST_F(MainWindowParts, no_timer_runs_on_when_the_rest_is_made) {
+    OpenFirstPicture();
+    ASSERT_TRUE(PumpUntil([&] { return Standing() == all; }));
+    EXPECT_FALSE(KillTimer(Handle(), 1));
+}
+
 TEST_F(MainWindowParts, a_tab_that_is_chosen_before_that_shows_its_page) {
     OpenFirstPicture();
     ClickTab(SizePageIndex);
