@@ -204,6 +204,12 @@ LRESULT MainWindow::OnWmClose(MessageRecord& record) {
     return 0;
 }
 
+// Activated from outside while a dialog is open, as by a click on a task bar.
+LRESULT MainWindow::OnWmActivate(MessageRecord& record) {
+    if (LOWORD(record.wParam) != WA_INACTIVE && ce::PassActivationOn(Handle())) return 0;
+    return ApplicationView::OnWmActivate(record);
+}
+
 LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
     if (!skipSaving && namePage != nullptr) namePage->SaveSettings(ProductRegistryKey);
     return ApplicationView::OnWmDestroy(record);

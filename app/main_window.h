@@ -32,6 +32,7 @@ class MainWindow : public ApplicationView {
     [[nodiscard]] FileOperation& Operation() { return *fileOperation; }
 
   protected:
+    LRESULT OnWmActivate(MessageRecord& record) override;
     LRESULT OnWmDestroy(MessageRecord& record) override;
     void ShowAbout() override;
 

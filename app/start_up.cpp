@@ -76,6 +76,6 @@ void ReleaseConversionLibrary(AppGlobals& globals) {
 bool BringRunningCopyForward() {
     const HWND window = FindWindowW(MainWindowClass, nullptr);
     if (window == nullptr) return false;
-    SetForegroundWindow(window);
+    ce::SetForegroundWindow(window);
     return true;
 }

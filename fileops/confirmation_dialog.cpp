@@ -84,6 +84,11 @@ void ConfirmationDialog::FreeFileIcons() {
     }
 }
 
+void ConfirmationDialog::End(INT_PTR result) {
+    if (successor != nullptr) ce::LeaveInputTo(successor, Handle());
+    Dialog::End(result);
+}
+
 LRESULT ConfirmationDialog::OnAnswer(EventArguments& arguments) {
     answered = true;
     End(static_cast<INT_PTR>(arguments.extra));

@@ -26,8 +26,13 @@ class ConfirmationDialog : public Dialog {
 
     ~ConfirmationDialog() override;
 
+    // The window that takes the input when the question has been answered, instead of its owner.
+    void LeaveInputTo(HWND window) { successor = window; }
+
     // Asks; a dialog that cannot be made or that nobody answers counts as Cancel.
     [[nodiscard]] ConfirmResult Ask();
+
+    void End(INT_PTR result) override;
 
   protected:
     LRESULT OnInitDialog(MessageRecord& record) override;
@@ -42,6 +47,7 @@ class ConfirmationDialog : public Dialog {
     QuestionRoutine fill;
     const void* argument;
     bool answered = false;
+    HWND successor = nullptr;
     // Of the existing and the new file, from the shell; null where the template's own is shown.
     HICON fileIcons[FileIcons] = {};
 };

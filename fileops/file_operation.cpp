@@ -116,6 +116,8 @@ INT_PTR FileOperation::RunModal() {
 void FileOperation::StopAndCloseParent() {
     closeParentAfterwards = true;
     StopOrLeave();
+    const HWND front = ce::InputWindowOf(Handle());
+    if (front != Handle()) PostMessageW(front, WM_CLOSE, 0, 0);
 }
 
 LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
@@ -154,12 +156,27 @@ LRESULT FileOperation::OnStop(EventArguments&) {
 }
 
 // A run pumps messages without the dialog's keyboard rules, so the button itself knows the keys that press
-// it.
+// it. One that is still down from the answer to a question only repeats itself and stops nothing.
 LRESULT FileOperation::OnButtonKey(MessageRecord& record) {
     if (record.wParam != VK_RETURN && record.wParam != VK_ESCAPE)
         return stopButton->DefaultProcessing(record);
-    Stop();
+    if ((HIWORD(record.lParam) & KF_REPEAT) == 0) Stop();
     return 0;
+}
+
+// Activated from outside while a question or an error box is open.
+LRESULT FileOperation::OnWmActivate(MessageRecord& record) {
+    if (LOWORD(record.wParam) != WA_INACTIVE && ce::PassActivationOn(Handle())) return 1;
+    return Dialog::OnWmActivate(record);
+}
+
+// Also after a question that could not be made, and after one that ended with something else in front.
+void FileOperation::TakeInput() {
+    if (Handle() == nullptr) return;
+    EnableWindow(ParentHandle(), FALSE);
+    EnableWindow(Handle(), TRUE);
+    ce::ActivateOnTop(Handle());
+    SetFocus(stopButton->Handle());
 }
 
 LRESULT FileOperation::OnRun(EventArguments&) {

@@ -46,12 +46,14 @@ class FileOperation : public Dialog {
 
     // What the Stop button does: the run ends before the next file. What was done stays done.
     void Stop() { abortRequested = true; }
-    // Stops, and closes the parent's window when the run is over.
+    // Stops, and closes the parent's window when the run is over. A question that is open is given up, an
+    // error box closed.
     void StopAndCloseParent();
 
   protected:
     LRESULT OnInitDialog(MessageRecord& record) override;
     LRESULT OnWmCommand(MessageRecord& record) override;
+    LRESULT OnWmActivate(MessageRecord& record) override;
 
   private:
     enum class FolderStep { Enter, Skip, End };
@@ -61,6 +63,7 @@ class FileOperation : public Dialog {
     LRESULT OnWmClose(MessageRecord& record);
     LRESULT OnButtonKey(MessageRecord& record);
     void StopOrLeave();
+    void TakeInput();
 
     void RunFileOperation();
     [[nodiscard]] bool ProcessSource(const wchar_t* path);

@@ -93,8 +93,14 @@ ConfirmResult FileOperation::AskFileReplace(const wchar_t* source, const wchar_t
                     &paths);
 }
 
+// The question is the main window's, so it is here that the progress dialog is kept from taking input
+// meanwhile.
 ConfirmResult FileOperation::AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument) {
-    const ConfirmResult answer = AskQuestion(Parent(), question, fill, argument);
+    EnableWindow(Handle(), FALSE);
+    ConfirmationDialog dialog(Parent(), question, fill, argument);
+    dialog.LeaveInputTo(Handle());
+    const ConfirmResult answer = dialog.Ask();
+    TakeInput();
     if (answer == ConfirmResult::YesToAll) confirm = false;
     if (answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll) {
         UpdateWindow(ParentHandle());

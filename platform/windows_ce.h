@@ -11,6 +11,7 @@
 
 #include <cstdio>
 
+#include "platform/activation.h"
 #include "platform/ce_controls.h"
 #include "platform/ce_files.h"
 #include "platform/ce_message_box.h"
