@@ -34,6 +34,7 @@ MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Applicatio
     AddBarButtons();
     CreateDialogs();
     OnMessage(WM_CLOSE, this, &MainWindow::OnWmClose);
+    OnMessage(WM_ENDSESSION, this, &MainWindow::OnWmEndSession);
     OnMessage(WM_TIMER, this, &MainWindow::OnWmTimer);
     SetInitialMenuState();
     const RECT area = LayoutRectangle();
@@ -188,19 +189,32 @@ bool MainWindow::PreTranslate(MSG& message) {
     return NavigateByKey(message, {tabControl->Handle(), Page(currentPage)->Handle(), results->Handle()});
 }
 
-// A search or a file operation stands on this window: it is ended first, and the window closes when it has
-// unwound.
 LRESULT MainWindow::OnWmClose(MessageRecord& record) {
+    return EndWorkUnderWay() ? 0 : DefaultProcessing(record);
+}
+
+// A search or a file operation stands on this window: it is ended first, and the window closes when it has
+// unwound. A name that is being edited is taken.
+bool MainWindow::EndWorkUnderWay() {
     if (fileOperation->IsRunning()) {
         fileOperation->StopAndCloseParent();
-        return 0;
+        return true;
     }
     if (!abortDialog->IsRunning()) {
         results->EndEditing();
-        return DefaultProcessing(record);
+        return false;
     }
     closeAfterSearch = true;
     abortDialog->Abort();
+    return true;
+}
+
+// The system may end the process as soon as this has been answered, so the settings are saved here and now;
+// the window's own end saves them no second time.
+LRESULT MainWindow::OnWmEndSession(MessageRecord& record) {
+    if (record.wParam == FALSE) return 0;
+    SaveSettingsOnce();
+    if (!EndWorkUnderWay()) PostMessageW(Handle(), WM_CLOSE, 0, 0);
     return 0;
 }
 
@@ -211,8 +225,14 @@ LRESULT MainWindow::OnWmActivate(MessageRecord& record) {
 }
 
 LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
-    if (!skipSaving && namePage != nullptr) namePage->SaveSettings(ProductRegistryKey);
+    SaveSettingsOnce();
     return ApplicationView::OnWmDestroy(record);
+}
+
+void MainWindow::SaveSettingsOnce() {
+    if (skipSaving || namePage == nullptr) return;
+    namePage->SaveSettings(ProductRegistryKey);
+    skipSaving = true;
 }
 
 // F1 in a dialog comes here as well, from dialog to owner: the box does not open over another one.

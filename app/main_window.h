@@ -53,6 +53,7 @@ class MainWindow : public ApplicationView {
     void RouteCommands();
 
     LRESULT OnWmClose(MessageRecord& record);
+    LRESULT OnWmEndSession(MessageRecord& record);
     LRESULT OnWmTimer(MessageRecord& record);
     LRESULT OnMenuCommand(EventArguments& arguments);
     LRESULT OnPageChanged(EventArguments& arguments);
@@ -63,6 +64,9 @@ class MainWindow : public ApplicationView {
     LRESULT OnUninstall(EventArguments& arguments);
     LRESULT OnSearchRun(EventArguments& arguments);
 
+    // False when there is none.
+    bool EndWorkUnderWay();
+    void SaveSettingsOnce();
     [[nodiscard]] bool IsBusy() const;
     void RunCommand(UINT command);
     void RunResultCommand(UINT command);
@@ -82,7 +86,7 @@ class MainWindow : public ApplicationView {
     bool closeAfterSearch = false;
     // Until when an Enter in the list still belongs to a search; in milliseconds of GetTickCount64.
     ULONGLONG searchKeysEnd = 0;
-    // Set by an uninstall: the keys just removed are not written again.
+    // Set once they are saved, and by an uninstall: the keys just removed are not written again.
     bool skipSaving = false;
 
     std::unique_ptr<RegisteredFileTypes> fileTypes;

@@ -2,6 +2,9 @@
 
 #include <thread>
 
+#include "app/product.h"
+#include "platform/registry_key.h"
+
 namespace {
 
 // As slow as a person's file, so that there is time to press something.
@@ -248,6 +251,11 @@ void OperationByHand::ClickBehind() {
             if (GetAncestor(WindowFromPoint(point), GA_ROOT) == main) ClickAt(point);
         }
     }
+}
+
+bool OperationByHand::AreSettingsSaved() {
+    DWORD value = 0;
+    return ReadRegistryDword(HKEY_CURRENT_USER, ProductRegistryKey, L"Sub Folder", value) == ERROR_SUCCESS;
 }
 
 POINT MiddleOf(HWND window) {

@@ -56,6 +56,9 @@ class OperationByHand : public MainWindowTest {
     // A click on each window of the main window's that the dialogs leave in sight.
     void ClickBehind();
 
+    // In the registry.
+    [[nodiscard]] static bool AreSettingsSaved();
+
     [[nodiscard]] HWND Main() const { return main; }
     TempTree tree;
 

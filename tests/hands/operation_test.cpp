@@ -308,3 +308,28 @@ TEST_F(OperationByHand, closing_the_main_window_from_outside_gives_up_the_questi
     EXPECT_EQ(world.TheApplication().Run(), 0);
     EXPECT_FALSE(IsWindow(Main()));
 }
+
+TEST_F(OperationByHand, a_log_off_saves_the_settings_and_ends_the_run_before_the_next_file) {
+    PrepareCopy(Many);
+    int filesAtEnd = 0;
+    RunToTheProgramsEnd([&] {
+        AwaitProgress();
+        AwaitFiles(3);
+        SendMessageW(Main(), WM_ENDSESSION, TRUE, ENDSESSION_LOGOFF);
+        filesAtEnd = Files();
+    });
+    EXPECT_EQ(Files(), filesAtEnd);
+    EXPECT_TRUE(AreSettingsSaved());
+    EXPECT_EQ(world.TheApplication().Run(), 0);
+}
+
+TEST_F(OperationByHand, a_log_off_over_a_question_counts_as_cancel) {
+    PrepareCopyWithQuestion(Few);
+    RunToTheProgramsEnd([&] {
+        static_cast<void>(AwaitBox());
+        SendMessageW(Main(), WM_ENDSESSION, TRUE, ENDSESSION_LOGOFF);
+    });
+    EXPECT_EQ(Files(), 0);
+    EXPECT_TRUE(AreSettingsSaved());
+    EXPECT_EQ(world.TheApplication().Run(), 0);
+}
