@@ -56,6 +56,13 @@ test_shift_jis_text_is_found_on_an_english_and_a_japanese_system() {
         "$(tour --japanese --handheld --contains 予算 --subfolders)"
 }
 
+test_no_rows_is_an_answer() {
+    expect_equal 'paths' '' "$(tour --contains 予算)"
+    expect_match 'the last line' 'rows found: 0; *' "$(tail -n 1 "$scratch/said")"
+    expect_that 'there is a picture of the results' compgen -G "$root/build/tour/*-results.png" >/dev/null
+    expect_that 'there is a picture of the About box' compgen -G "$root/build/tour/*-about.png" >/dev/null
+}
+
 test_a_folder_of_the_user_is_the_root() {
     mkdir -p "$scratch/own/sub folder"
     echo one >"$scratch/own/one.txt"
