@@ -32,7 +32,7 @@ at_exit() {
 
 run_cleanups() {
     local status=$? command
-    trap '' INT TERM
+    trap '' INT TERM HUP
     for command in "${cleanups[@]}"; do
         eval "$command" || true
     done
@@ -44,8 +44,9 @@ run_cleanups() {
 arm_cleanups() {
     cleanups=()
     trap run_cleanups EXIT
+    trap 'exit 129' HUP
     trap 'exit 130' INT
-    trap 'exit 143' TERM HUP
+    trap 'exit 143' TERM
 }
 
 # wait_until SECONDS COMMAND WORD...: polls the command; status 1 when the deadline passes first.

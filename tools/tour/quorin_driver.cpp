@@ -29,7 +29,8 @@ constexpr char Usage[] =
     "  sort NUMBER                  clicks the heading of a column: 0 name, 1 folder\n"
     "  browse                       opens the folder browser\n"
     "  cancel                       cancels the dialog that is open\n"
-    "  close                        closes the program and waits for its end\n";
+    "  close                        closes the program and waits for its end\n"
+    "  close-screen                 closes the virtual screen, as the close box of its window does\n";
 
 struct UsageError {};
 
@@ -129,6 +130,10 @@ void Run(const Words& words) {
     if (step == L"wait-window") {
         if (words.size() != 2) throw UsageError();
         driver.Attach(static_cast<DWORD>(ToNumber(words[1])) * 1000);
+        return;
+    }
+    if (step == L"close-screen") {
+        PostMessageW(GetDesktopWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
         return;
     }
     driver.Attach(AttachDeadline);
