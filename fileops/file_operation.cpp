@@ -170,15 +170,6 @@ LRESULT FileOperation::OnWmActivate(MessageRecord& record) {
     return Dialog::OnWmActivate(record);
 }
 
-// Also after a question that could not be made, and after one that ended with something else in front.
-void FileOperation::TakeInput() {
-    if (Handle() == nullptr) return;
-    EnableWindow(ParentHandle(), FALSE);
-    EnableWindow(Handle(), TRUE);
-    ce::ActivateOnTop(Handle());
-    SetFocus(stopButton->Handle());
-}
-
 LRESULT FileOperation::OnRun(EventArguments&) {
     // Once only: a second command that arrives in the middle of the run starts nothing.
     if (runBegun) return 0;

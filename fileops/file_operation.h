@@ -63,7 +63,6 @@ class FileOperation : public Dialog {
     LRESULT OnWmClose(MessageRecord& record);
     LRESULT OnButtonKey(MessageRecord& record);
     void StopOrLeave();
-    void TakeInput();
 
     void RunFileOperation();
     [[nodiscard]] bool ProcessSource(const wchar_t* path);

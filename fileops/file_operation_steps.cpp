@@ -100,7 +100,8 @@ ConfirmResult FileOperation::AskInRun(const wchar_t* question, QuestionRoutine f
     ConfirmationDialog dialog(Parent(), question, fill, argument);
     dialog.LeaveInputTo(Handle());
     const ConfirmResult answer = dialog.Ask();
-    TakeInput();
+    // A question that could not be made has not done that.
+    EnableWindow(Handle(), TRUE);
     if (answer == ConfirmResult::YesToAll) confirm = false;
     if (answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll) {
         UpdateWindow(ParentHandle());

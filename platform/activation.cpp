@@ -47,16 +47,12 @@ BOOL ce::SetForegroundWindow(HWND window) {
 bool ce::PassActivationOn(HWND window) {
     const HWND front = InputWindowOf(window);
     if (front == window) return false;
-    ActivateOnTop(front);
+    SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    SetActiveWindow(front);
     return true;
 }
 
 void ce::LeaveInputTo(HWND window, HWND dialog) {
     EnableWindow(window, TRUE);
     SetWindowLongPtrW(dialog, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(window));
-}
-
-void ce::ActivateOnTop(HWND window) {
-    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    SetActiveWindow(window);
 }

@@ -18,9 +18,6 @@ BOOL SetForegroundWindow(HWND window);
 // window that takes its input. False if it keeps it.
 bool PassActivationOn(HWND window);
 
-// Makes a window of this thread the active one, above all others of the program.
-void ActivateOnTop(HWND window);
-
 // For a dialog of this thread that is about to end: the window takes the input afterwards, and not the
 // dialog's owner, which the desktop enables and activates then, and whose raising nobody could undo before
 // the thread takes messages again.

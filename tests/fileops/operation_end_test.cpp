@@ -46,6 +46,28 @@ class OperationOfClosingParent : public FileOperation {
     }
 };
 
+// Remembers whether it took input when it ended.
+class EnabledOperation : public FileOperation {
+  public:
+    using FileOperation::FileOperation;
+    bool enabledAtEnd = false;
+
+    void End(INT_PTR result) override {
+        enabledAtEnd = IsWindowEnabled(Handle()) != FALSE;
+        FileOperation::End(result);
+    }
+};
+
+int dialogsAllowed = 0;
+
+// Refuses the dialogs of this thread beyond those allowed.
+LRESULT CALLBACK RefuseDialogs(int code, WPARAM wParam, LPARAM lParam) {
+    if (code != HCBT_CREATEWND) return CallNextHookEx(nullptr, code, wParam, lParam);
+    wchar_t name[16] = L"";
+    GetClassNameW(reinterpret_cast<HWND>(wParam), name, 16);
+    return lstrcmpW(name, L"#32770") == 0 && --dialogsAllowed < 0 ? 1 : 0;
+}
+
 }  // namespace
 
 class OperationEnd : public OperationTest {
@@ -220,4 +242,19 @@ TEST_F(OperationEnd, stop_behind_an_open_question_ends_the_run_after_the_answere
     EXPECT_EQ(Run({IDYES}, [this](HWND) { PostMessageW(StopButton(), BM_CLICK, 0, 0); }),
               "Confirm File Replace/4");
     EXPECT_EQ(Contents(), InOrder("s/a=1 s/b=2 s/c=3 d/a=1 d/b=2"));
+}
+
+TEST_F(OperationEnd, after_a_question_that_could_not_be_made_finds_the_dialog_enabled) {
+    AddContents(tree, "d/a=old");
+    EnabledOperation asking(&host.Object());
+    ASSERT_TRUE(asking.AddSource(PathIn(tree, "s/a").c_str()));
+    ASSERT_TRUE(asking.SetDestination(PathIn(tree, "d").c_str()));
+    dialogsAllowed = 1;
+    const HHOOK refusal = SetWindowsHookExW(WH_CBT, RefuseDialogs, nullptr, GetCurrentThreadId());
+    EXPECT_EQ(asking.RunModal(), 1);
+    UnhookWindowsHookEx(refusal);
+    EXPECT_LT(dialogsAllowed, 0) << "nothing was asked";
+    EXPECT_TRUE(asking.enabledAtEnd);
+    EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+    EXPECT_EQ(Contents(), InOrder("s/a=1 s/b=2 s/c=3 d/a=old"));
 }

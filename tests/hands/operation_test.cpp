@@ -71,7 +71,6 @@ const StopWay StopWays[] = {
     {"escape", [](HWND) { PressKey(VK_ESCAPE); }},
     {"space", [](HWND) { PressKey(VK_SPACE); }},
     {"cross", [](HWND progress) { ClickAt(CancelOf(progress)); }},
-    {"alt_f4", [](HWND) { PressKey(VK_F4, {VK_MENU}); }},
 };
 
 class OperationStopWays : public OperationByHand, public testing::WithParamInterface<StopWay> {};
