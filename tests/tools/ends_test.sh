@@ -1,7 +1,7 @@
 #!/bin/bash
 # How the window that ./run opens comes to its end: by the program itself, by a signal, by the virtual screen. What
 # it remembers is saved each time.
-# shellcheck disable=SC1091,SC2034,SC2154,SC2317 # tests are called by name, variables are shared
+# shellcheck disable=SC1090,SC1091,SC2034,SC2154,SC2317 # tests are called by name, variables are shared
 source "$(dirname "${BASH_SOURCE[0]}")/expect.sh"
 for part in common setup screen prefix world tour; do
     source "$root/tools/lib/$part.sh"
