@@ -202,7 +202,8 @@ bool MenuDropDowns::TakeMenuMessage(const MSG& message) {
             return true;
         case WM_MOUSEMOVE: {
             // The system tells of a pointer that has not moved whenever a window opens or closes under it.
-            if (message.pt.x == pointer.x && message.pt.y == pointer.y) return false;
+            // That marks no item and changes no menu.
+            if (message.pt.x == pointer.x && message.pt.y == pointer.y) return true;
             pointer = message.pt;
             const int hit = DropDownAt(message.pt);
             if (hit < 0 || hit == open) return false;

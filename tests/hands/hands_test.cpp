@@ -21,20 +21,18 @@ void HandsTest::OpenMenuByPointer(MenuIndex menu) {
     WaitForMenu();
 }
 
+// A menu that the keyboard opened has its first item marked.
 void HandsTest::OpenMenuByKeys(MenuIndex menu) {
+    constexpr UINT FirstItems[] = {COMMAND_OPEN, COMMAND_LARGE_ICON, COMMAND_CHECK_CASE};
     PressKey(VK_F10);
     WaitForMenu();
-    for (int step = 0; step < menu; ++step) {
-        PressKey(VK_RIGHT);
-        const UINT first = menu == FileMenu ? COMMAND_OPEN
-                           : step == 0      ? COMMAND_LARGE_ICON
-                                            : COMMAND_CHECK_CASE;
-        WaitUntil("the next menu", [&] {
-            const RECT place = Program().MenuItem(first).rectangle;
-            return !IsRectEmpty(&place);
+    for (int step = 0; step <= menu; ++step) {
+        if (step > 0) PressKey(VK_RIGHT);
+        WaitUntil("the menu's first item to be marked", [&] {
+            const MenuItemState first = Program().MenuItem(FirstItems[step]);
+            return !IsRectEmpty(&first.rectangle) && (first.state & MFS_HILITE) != 0;
         });
     }
-    Program().WaitForQueue();
 }
 
 void HandsTest::ClickMenuItem(UINT command) {

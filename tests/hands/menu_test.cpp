@@ -44,6 +44,17 @@ TEST_F(Menus, left_and_right_go_from_menu_to_menu_while_the_pointer_rests_on_a_b
     CloseMenus();
 }
 
+TEST_F(Menus, a_pointer_that_rests_where_a_menu_opens_marks_none_of_its_items) {
+    OpenMenuByPointer(FileMenu);
+    const RECT item = Program().MenuItem(COMMAND_EXIT).rectangle;
+    CloseMenus();
+    MovePointerTo(CentreOf(item));
+    OpenMenuByKeys(FileMenu);
+    EXPECT_FALSE(
+        HoldsWithin(400, [&] { return (Program().MenuItem(COMMAND_EXIT).state & MFS_HILITE) != 0; }));
+    CloseMenus();
+}
+
 TEST_F(Menus, the_pointer_goes_from_menu_to_menu_and_a_click_on_the_open_ones_button_closes_it) {
     const auto isOpen = [&](UINT command) {
         const RECT place = Program().MenuItem(command).rectangle;
