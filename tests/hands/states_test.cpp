@@ -125,6 +125,7 @@ class States : public HandsTest {
             EXPECT_TRUE(Program().IsRunning()) << what;
             Leave();
             ExpectAtRest(what);
+            EXPECT_EQ(Names(), Started(0)) << what;
             if (HasFailure()) return;
             if (Program().CurrentPage() != NamePage) Program().ShowPage(NamePage);
             Program().SelectRow(0);

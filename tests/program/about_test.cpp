@@ -166,8 +166,8 @@ TEST_F(About, opens_by_f1_from_each_place_of_the_window) {
     Program().FocusControl(NamePage, EDIT_CONTENT);
     opensHere();
     EXPECT_TRUE(Program().HasFocus(NamePage, EDIT_CONTENT)) << "the focus did not come back";
-    Program().FocusTab();
-    PressKey(VK_TAB, {VK_SHIFT});
+    Program().FocusControl(NamePage, CHECK_SUBFOLDERS);
+    PressKey(VK_TAB);
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     opensHere();
 }

@@ -57,7 +57,11 @@ bool MouseIsAt(POINT point) {
 }  // namespace
 
 void MovePointerTo(POINT point) {
+    // While a menu is open Wine leaves the display's own pointer alone and tells the new place for a tenth of
+    // a second only, counted from a change: so each try comes from beside the point and looks soon.
+    const POINT beside = {point.x > 0 ? point.x - 1 : 1, point.y};
     WaitUntil("the mouse to stay where it was moved", [&] {
+        SendOne(Mouse(MOUSEEVENTF_MOVE, beside));
         SendOne(Mouse(MOUSEEVENTF_MOVE, point));
         Sleep(MousePause);
         return MouseIsAt(point);
@@ -68,13 +72,10 @@ void GlidePointerTo(POINT point) {
     constexpr int Steps = 4;
     POINT from = {};
     GetCursorPos(&from);
-    for (int step = 1; step < Steps; ++step) {
-        const POINT place = {from.x + (point.x - from.x) * step / Steps,
-                             from.y + (point.y - from.y) * step / Steps};
-        SendOne(Mouse(MOUSEEVENTF_MOVE, place));
-        Sleep(MousePause);
+    for (int step = 1; step <= Steps; ++step) {
+        MovePointerTo(
+            {from.x + (point.x - from.x) * step / Steps, from.y + (point.y - from.y) * step / Steps});
     }
-    MovePointerTo(point);
 }
 
 void RestPointerAt(POINT point, DWORD milliseconds) {
@@ -165,23 +166,32 @@ void TypeText(const std::wstring& text) {
 namespace {
 
 // Two clicks of two steps are no double click, however fast the steps follow each other.
-void KeepApartFromLastClick(POINT point) {
-    static POINT lastPoint = {};
-    static DWORD lastTime = 0;
-    const bool isNear = std::abs(point.x - lastPoint.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
-                        std::abs(point.y - lastPoint.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
-    const DWORD since = GetTickCount() - lastTime;
-    if (isNear && since <= GetDoubleClickTime()) Sleep(GetDoubleClickTime() - since + MousePause);
-    lastPoint = point;
-    lastTime = GetTickCount();
-}
+class ClickHistory {
+  public:
+    void KeepApart(POINT point) const {
+        const bool isNear = std::abs(point.x - lastPoint.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                            std::abs(point.y - lastPoint.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+        const DWORD since = GetTickCount() - lastTime;
+        if (isNear && since <= GetDoubleClickTime()) Sleep(GetDoubleClickTime() - since + 2 * MousePause);
+    }
+    void Note(POINT point) {
+        lastPoint = point;
+        lastTime = GetTickCount();
+    }
+
+  private:
+    POINT lastPoint = {};
+    DWORD lastTime = 0;
+};
 
 }  // namespace
 
 void ClickAt(POINT point) {
-    KeepApartFromLastClick(point);
+    static ClickHistory history;
+    history.KeepApart(point);
     MovePointerTo(point);
     Click(point);
+    history.Note(point);
 }
 
 void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers) {
