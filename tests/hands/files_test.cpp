@@ -1,5 +1,7 @@
 // What is done with the file of a row: that very file, whatever its name is and whatever stands beside it.
 
+#include <algorithm>
+
 #include "tests/hands/hands_test.h"
 
 namespace {
@@ -170,6 +172,11 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_deleted_itself) {
         ClickAt(PlaceOf(name));
         TakeFileMenu(COMMAND_DELETE);
         ClickControl(Dialog(), IDYES);
+        // The rows below move up.
+        WaitUntil("the row to go", [&] {
+            const Names rows = Program().RowNames();
+            return std::find(rows.begin(), rows.end(), name) == rows.end();
+        });
     }
     EXPECT_TRUE(IsOnDisk({L"a.qsa"}));
     EXPECT_EQ("another file", ContentOf(L"a.qsa"));
