@@ -36,9 +36,8 @@ DatePage::DatePage(WindowObject* parentObject)
 
 void DatePage::SetUpControls() {
     // Three letters for the year, as the handheld is given it.
-    const auto format = reinterpret_cast<LPARAM>(L"yyy/MM/dd");
-    SendToItem(PICKER_FROM, DTM_SETFORMATW, 0, format);
-    SendToItem(PICKER_TO, DTM_SETFORMATW, 0, format);
+    for (const int picker : {PICKER_FROM, PICKER_TO})
+        ce::SetPickerFormat(Item(picker), L"yyy/MM/dd");
     SendToItem(SPIN_DAYS, UDM_SETRANGE, 0, DaysRange);
     Reset();
 }

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <cstddef>
 #include <cwchar>
 #include <iterator>
 
@@ -9,6 +10,8 @@ namespace {
 
 constexpr int TextCapacity = 20;
 constexpr int EntryCapacity = 1024;
+constexpr std::size_t FormatCapacity = 32;
+constexpr std::size_t LettersOfShortYear = 3;
 constexpr unsigned long LargestPosition = 0xFFFF;
 constexpr DWORD NoNumber = 0x10000;
 
@@ -45,6 +48,20 @@ bool EntryBeginsWith(HWND combo, int index, const wchar_t* text, int textLength)
     return CompareStringOrdinal(entry, textLength, text, textLength, TRUE) == CSTR_EQUAL;
 }
 
+// A format that would no longer fit stays as it is, cut to the room.
+void SpellOutYear(const wchar_t* format, wchar_t (&result)[FormatCapacity]) {
+    const wchar_t* const year = std::wcschr(format, L'y');
+    const std::size_t before = year != nullptr ? static_cast<std::size_t>(year - format) : 0;
+    const bool isShort = year != nullptr && std::wcsspn(year, L"y") == LettersOfShortYear;
+    if (isShort && std::wcslen(format) + 1 < FormatCapacity) {
+        std::wmemcpy(result, format, before);
+        result[before] = L'y';
+        std::wcscpy(result + before + 1, year);
+    } else {
+        lstrcpynW(result, format, FormatCapacity);
+    }
+}
+
 }  // namespace
 
 DWORD ce::SpinPosition(HWND spin) {
@@ -77,6 +94,12 @@ void ce::SelectTab(HWND tabs, int index) {
         if (each != index)
             SendMessageW(tabs, TCM_SETITEMW, static_cast<WPARAM>(each), reinterpret_cast<LPARAM>(&unmarked));
     }
+}
+
+void ce::SetPickerFormat(HWND picker, const wchar_t* format) {
+    wchar_t changeable[FormatCapacity];
+    SpellOutYear(format, changeable);
+    SendMessageW(picker, DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(changeable));
 }
 
 int ce::FindComboEntry(HWND combo, int start, const wchar_t* text) {

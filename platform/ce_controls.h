@@ -16,9 +16,13 @@ namespace ce {
 // dropped here.
 [[nodiscard]] UINT MenuItemState(HMENU menu, UINT command);
 
-// TCM_SETCURSEL. The desktop's control keeps a mark on a tab that was left by an arrow key, and the next click on
-// it then changes nothing; no other tab is left marked here.
+// TCM_SETCURSEL. The desktop's control keeps a mark on a tab that was left by an arrow key, and the next
+// click on it then changes nothing; no other tab is left marked here.
 void SelectTab(HWND tabs, int index);
+
+// DTM_SETFORMAT. A year of three letters is one of four digits, as it is shown anywhere; the desktop's
+// control shows it so, but not every one lets it be changed. It is given the four letters that mean the same.
+void SetPickerFormat(HWND picker, const wchar_t* format);
 
 // CB_FINDSTRING: the first entry after `start`, and round again up to `start` itself, that begins with the
 // text, without regard to case; CB_ERR for none. Every entry begins with an empty text. The desktop finds

@@ -80,13 +80,13 @@ TEST_F(DatePageTest, the_template_is_chosen_by_the_language) {
     EXPECT_EQ(TextOf(RADIO_PAST), L"過去(&D)");
 }
 
-TEST_F(DatePageTest, both_pickers_are_given_the_format_with_three_letters_for_the_year) {
+TEST_F(DatePageTest, both_pickers_show_the_year_in_four_digits_by_a_format_that_lets_it_be_changed) {
     const MessageLog log({DTM_SETFORMATW});
     OpenPage();
     for (const int picker : {PICKER_FROM, PICKER_TO}) {
         const auto sent = log.To(picker, DTM_SETFORMATW);
         ASSERT_EQ(sent.size(), 1U);
-        EXPECT_EQ(sent[0].text, L"yyy/MM/dd");
+        EXPECT_EQ(sent[0].text, L"yyyy/MM/dd");
     }
 }
 

@@ -35,6 +35,10 @@ class PagesInHands : public HandsTest {
     [[nodiscard]] bool HasFocus(int page, int id) {
         return HoldsWithin(StepDeadline, [&] { return Program().HasFocus(page, id); });
     }
+    [[nodiscard]] int PickedDate(int picker) {
+        const SYSTEMTIME date = Program().Picker(DatePage, picker).time;
+        return date.wYear * 10000 + date.wMonth * 100 + date.wDay;
+    }
     // An open list of a combo box: its window.
     [[nodiscard]] static HWND OpenList() {
         for (HWND list = FindWindowExW(nullptr, nullptr, L"ComboLBox", nullptr); list != nullptr;
@@ -184,6 +188,48 @@ TEST_F(PagesInHands, the_days_are_set_by_spin_arrows_and_digits) {
     TypeText(L"14");
     EXPECT_TRUE(TextIs(DatePage, EDIT_DAYS, L"14"));
     EXPECT_EQ(14, Program().Spin(DatePage, SPIN_DAYS).position);
+}
+
+TEST_F(PagesInHands, a_date_is_changed_by_arrow_keys) {
+    TurnTo(DatePage);
+    ClickAt(PlaceOf(DatePage, RADIO_BETWEEN));
+    for (const int picker : {PICKER_FROM, PICKER_TO}) {
+        Program().SetDate(DatePage, picker, 20020115);
+        const RECT box = Rectangle(DatePage, picker);
+        // The year is the first field.
+        ClickAt({box.left + 8, (box.top + box.bottom) / 2});
+        EXPECT_TRUE(HasFocus(DatePage, picker));
+        PressKey(VK_UP);
+        EXPECT_TRUE(
+            HoldsWithin(StepDeadline, [&] { return Program().Picker(DatePage, picker).time.wYear == 2003; }))
+            << "picker " << picker;
+        PressKey(VK_RIGHT);
+        PressKey(VK_RIGHT);
+        PressKey(VK_DOWN);
+        EXPECT_TRUE(
+            HoldsWithin(StepDeadline, [&] { return Program().Picker(DatePage, picker).time.wDay == 14; }))
+            << "picker " << picker;
+    }
+}
+
+TEST_F(PagesInHands, a_date_is_typed) {
+    TurnTo(DatePage);
+    ClickAt(PlaceOf(DatePage, RADIO_BETWEEN));
+    for (const int picker : {PICKER_FROM, PICKER_TO}) {
+        Program().SetDate(DatePage, picker, 20020115);
+        const RECT box = Rectangle(DatePage, picker);
+        ClickAt({box.left + 8, (box.top + box.bottom) / 2});
+        EXPECT_TRUE(HasFocus(DatePage, picker));
+        TypeText(L"1998");
+        PressKey(VK_RIGHT);
+        TypeText(L"11");
+        PressKey(VK_RIGHT);
+        TypeText(L"23");
+        // The last field is taken over when it is left.
+        PressKey(VK_TAB);
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return PickedDate(picker) == 19981123; }))
+            << "picker " << picker << " has " << PickedDate(picker);
+    }
 }
 
 TEST_F(PagesInHands, a_type_is_chosen_by_pointer_and_by_keys) {

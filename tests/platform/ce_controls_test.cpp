@@ -55,6 +55,27 @@ class FindComboEntry : public Controls {
     HWND combo;
 };
 
+// What a window is given as its format.
+class PickerFormat : public Controls {
+  protected:
+    std::wstring Given(const wchar_t* format) {
+        const HWND picker = Child(L"STATIC", 0);
+        SetWindowLongPtrW(picker, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(TakeFormat));
+        given.clear();
+        ce::SetPickerFormat(picker, format);
+        DestroyWindow(picker);
+        return given;
+    }
+
+  private:
+    static LRESULT CALLBACK TakeFormat(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == DTM_SETFORMATW) given = reinterpret_cast<const wchar_t*>(lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+
+    static inline std::wstring given;
+};
+
 }  // namespace
 
 TEST_F(SpinPosition, what_the_spin_itself_has_set_is_its_position) {
@@ -139,4 +160,20 @@ TEST_F(FindComboEntry, a_bracket_counts_as_any_other_unit) {
     EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abc"), CB_ERR);
     EXPECT_EQ(ce::FindComboEntry(combo, 0, L"d"), CB_ERR);
     EXPECT_EQ(ce::FindComboEntry(combo, 0, L"[a"), 1);
+}
+
+TEST_F(PickerFormat, a_year_of_three_letters_is_given_as_four) {
+    EXPECT_EQ(Given(L"yyy/MM/dd"), L"yyyy/MM/dd");
+    EXPECT_EQ(Given(L"dd.MM.yyy"), L"dd.MM.yyyy");
+}
+
+TEST_F(PickerFormat, any_other_format_is_given_as_it_is) {
+    for (const wchar_t* format : {L"yyyy/MM/dd", L"yy/MM/dd", L"HH:mm", L""})
+        EXPECT_EQ(Given(format), format);
+}
+
+TEST_F(PickerFormat, a_format_too_long_for_another_letter_is_given_within_its_room) {
+    const std::wstring longest = L"yyy" + std::wstring(28, L'/');
+    EXPECT_EQ(Given(longest.c_str()), longest);
+    EXPECT_EQ(Given((longest + L"dd").c_str()), longest);
 }
