@@ -34,6 +34,7 @@ LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
     SetWindowTextW(Handle(), caption);
     KeepTitleLineFree(Handle());
     folderTree = DialogItem(*this, TREE_FOLDERS);
+    WatchTreeKeys();
     LoadImages();
     BuildTree();
     const LRESULT result = Dialog::OnInitDialog(record);
@@ -55,6 +56,19 @@ void FolderBrowseDialog::CentreOnMainWindow() {
         CentredPosition(width, height, hasOwner ? &main : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
                         ce::GetSystemMetrics(SM_CYSCREEN));
     MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
+}
+
+void FolderBrowseDialog::WatchTreeKeys() {
+    treeKeys.reset(new (std::nothrow) Control(this, folderTree, WC_TREEVIEWW));
+    if (treeKeys == nullptr) return;
+    treeKeys->Subclass();
+    treeKeys->OnMessage(WM_SYSKEYDOWN, this, &FolderBrowseDialog::OnTreeSystemKey);
+}
+
+// Not every system's tree lets through the key that closes a window.
+LRESULT FolderBrowseDialog::OnTreeSystemKey(MessageRecord& record) {
+    if (record.wParam != VK_F4) return treeKeys->DefaultProcessing(record);
+    return DefWindowProcW(folderTree, record.message, record.wParam, record.lParam);
 }
 
 // Down to the menu bar, with the margin that the template leaves beside it.

@@ -21,7 +21,9 @@ class FolderBrowseDialog : public Dialog {
 
   private:
     LRESULT OnOk(EventArguments& arguments);
+    LRESULT OnTreeSystemKey(MessageRecord& record);
 
+    void WatchTreeKeys();
     void StretchTree();
     void CentreOnMainWindow();
     void LoadImages();
@@ -30,5 +32,6 @@ class FolderBrowseDialog : public Dialog {
     const wchar_t* caption;
     std::unique_ptr<wchar_t[]> chosenPath;
     HWND folderTree = nullptr;
+    std::unique_ptr<WindowObject> treeKeys;
     HIMAGELIST folderImages = nullptr;
 };

@@ -88,8 +88,7 @@ TEST_F(DialogKeys, close_the_about_box_and_never_uninstall) {
 }
 
 TEST_F(DialogKeys, leave_the_folder_browser_without_a_folder_but_for_enter) {
-    // Alt+F4 is left out: not every system's tree lets it through.
-    for (const DialogKey& key : {Esc, CtrlBreak}) {
+    for (const DialogKey& key : {Esc, CtrlBreak, AltF4}) {
         Program().FocusControl(NamePage, BUTTON_BROWSE);
         PressKey(VK_SPACE);
         const ProgramDialog browser = InFront();
