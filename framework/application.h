@@ -4,6 +4,7 @@
 // loop. It lives on the stack of the run routine (or of a test) for as long as there are window objects.
 
 #include "framework/window_map.h"
+#include "platform/held_keys.h"
 #include "platform/system_types.h"
 
 class Application;
@@ -52,4 +53,5 @@ class Application {
     const wchar_t* const* words;
     MainView* mainView = nullptr;
     WindowMap windows;
+    ce::HeldKeys heldKeys;
 };

@@ -21,3 +21,4 @@
 #include "platform/ce_system.h"
 #include "platform/ce_windows.h"
 #include "platform/dropped_calendar.h"
+#include "platform/held_keys.h"

@@ -1,6 +1,8 @@
 // The keys that leave or answer a dialog, pressed in each of them: they do one expected thing or nothing, and
 // the main window has the keyboard afterwards.
 
+#include <functional>
+
 #include "tests/hands/hands_test.h"
 
 namespace {
@@ -20,6 +22,9 @@ const DialogKey F1 = {"F1", VK_F1, {}};
 
 // Long enough for a key that would close a dialog.
 constexpr DWORD TimeToClose = 400;
+
+// Of a key that is held down.
+constexpr int Repeats = 10;
 
 }  // namespace
 
@@ -64,6 +69,14 @@ class DialogKeys : public HandsTest {
         Press(key);
         EXPECT_FALSE(HoldsWithin(TimeToClose, [&] { return !IsOpen(dialog); }));
         EXPECT_EQ(dialog.Window(), GetForegroundWindow());
+    }
+
+    // The key has been down since before the dialog opened.
+    static void ExpectLeftOpenByRepeats(WORD key, const ProgramDialog& dialog) {
+        for (int repeat = 0; repeat < Repeats; ++repeat)
+            HoldKey(key);
+        ReleaseKey(key);
+        EXPECT_FALSE(HoldsWithin(TimeToClose, [&] { return !IsOpen(dialog); }));
     }
 
     void OpenForRow(UINT command) {
@@ -190,6 +203,60 @@ TEST_F(DialogKeys, abort_a_search_or_leave_it_alone) {
         ExpectClosedBy(key, finding);
         Program().Release();
         Program().WaitForEndOfSearch();
+        ExpectMainWindowInUse();
+    }
+}
+
+TEST_F(DialogKeys, held_enter_on_the_menu_item_leaves_the_question_open) {
+    Find(L"*.qs?");
+    SelectRow(L"a.qsa");
+    OpenMenuByKeys(FileMenu);
+    MarkMenuItemByKeys(COMMAND_DELETE);
+    HoldKey(VK_RETURN);
+    const ProgramDialog question = InFront();
+    ExpectLeftOpenByRepeats(VK_RETURN, question);
+    EXPECT_TRUE(Stands(L"a.qsa"));
+    // Pressed anew it answers.
+    ExpectClosedBy(Enter, question);
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !Stands(L"a.qsa"); }));
+}
+
+TEST_F(DialogKeys, held_space_leaves_a_question_open_that_has_opened_meanwhile) {
+    Find(L"*.qs?");
+    SelectRow(L"a.qsa");
+    Program().FocusControl(NamePage, BUTTON_BROWSE);
+    HoldKey(VK_SPACE);
+    WaitUntil("the button to be held",
+              [] { return (SendMessageW(FocusWindow(), BM_GETSTATE, 0, 0) & BST_PUSHED) != 0; });
+    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_DELETE, 0);
+    const ProgramDialog question = InFront();
+    ExpectLeftOpenByRepeats(VK_SPACE, question);
+    EXPECT_TRUE(Stands(L"a.qsa"));
+    ExpectClosedBy(Esc, question);
+}
+
+TEST_F(DialogKeys, held_alt_f4_closes_one_dialog_and_not_the_window_behind_it) {
+    struct Opening {
+        const char* name;
+        std::function<void()> act;
+    };
+    const Opening openings[] = {{"about box", [] { PressKey(VK_F1); }},
+                                {"folder browser", [&] { ClickAt(PlaceOf(NamePage, BUTTON_BROWSE)); }}};
+    for (const Opening& opening : openings) {
+        SCOPED_TRACE(opening.name);
+        opening.act();
+        const ProgramDialog dialog = InFront();
+        HoldKey(VK_MENU);
+        HoldKey(VK_F4);
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsOpen(dialog); }));
+        WaitUntil("the main window", [] { return GetForegroundWindow() == Program().Window(); });
+        for (int repeat = 0; repeat < Repeats; ++repeat)
+            HoldKey(VK_F4);
+        ReleaseKey(VK_F4);
+        ReleaseKey(VK_MENU);
+        EXPECT_FALSE(HoldsWithin(TimeToClose, [] { return !IsWindow(Program().Window()); }));
+        ASSERT_TRUE(Program().IsRunning());
+        CloseMenus();
         ExpectMainWindowInUse();
     }
 }

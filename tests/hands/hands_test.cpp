@@ -46,8 +46,15 @@ void HandsTest::ClickMenuItem(UINT command) {
     WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
 }
 
-// The keys go over separators, and over no grey item.
 void HandsTest::TakeMenuItemByKeys(UINT command) {
+    MarkMenuItemByKeys(command);
+    PressKey(VK_RETURN);
+    WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
+}
+
+// The keys go over separators, and over no grey item. The mark in an item's state is no help, for it stays there
+// from the last time.
+void HandsTest::MarkMenuItemByKeys(UINT command) {
     int steps = 0;
     for (const MenuItemState& item : Program().Menu()) {
         if (item.depth == 0) steps = 0;
@@ -57,8 +64,6 @@ void HandsTest::TakeMenuItemByKeys(UINT command) {
     }
     for (int step = 0; step < steps; ++step)
         PressKey(VK_DOWN);
-    PressKey(VK_RETURN);
-    WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
 }
 
 void HandsTest::CloseMenus() {

@@ -23,7 +23,9 @@ class HandsTest : public ResultsTest {
     void OpenMenuByKeys(MenuIndex menu);
     // The item of the open menu: a click on it.
     void ClickMenuItem(UINT command);
-    // Down to the item, and Enter.
+    // Down to the item.
+    void MarkMenuItemByKeys(UINT command);
+    // The same, and Enter.
     void TakeMenuItemByKeys(UINT command);
     [[nodiscard]] static bool IsMenuOpen() { return FindWindowW(L"#32768", nullptr) != nullptr; }
     // Esc until no menu is open.
