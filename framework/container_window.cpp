@@ -107,7 +107,7 @@ void ContainerWindow::KeepFocus(const MessageRecord& record) {
         const HWND focus = GetFocus();
         if (HoldsWindow(focus)) rememberedFocus = focus;
     } else if (HoldsWindow(rememberedFocus)) {
-        SetFocus(rememberedFocus);
+        SetFocus(NearestThatTakesFocus(rememberedFocus));
     } else if (!HoldsWindow(GetFocus())) {
         SetFocus(Handle());
     }
@@ -115,6 +115,23 @@ void ContainerWindow::KeepFocus(const MessageRecord& record) {
 
 bool ContainerWindow::HoldsWindow(HWND window) const {
     return window != nullptr && (window == Handle() || IsChild(Handle(), window));
+}
+
+bool ContainerWindow::CanTakeFocus(HWND control) const {
+    for (; control != nullptr && control != Handle(); control = GetParent(control)) {
+        const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
+        if ((style & WS_VISIBLE) == 0 || (style & WS_DISABLED) != 0) return false;
+    }
+    return control == Handle();
+}
+
+HWND ContainerWindow::NearestThatTakesFocus(HWND control) const {
+    for (; control != Handle(); control = GetParent(control)) {
+        if (CanTakeFocus(control)) return control;
+        const HWND next = GetNextDlgTabItem(GetParent(control), control, FALSE);
+        if (HoldsWindow(next) && CanTakeFocus(next)) return next;
+    }
+    return Handle();
 }
 
 LRESULT ContainerWindow::OnWmDestroy(MessageRecord&) {

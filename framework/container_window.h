@@ -34,7 +34,8 @@ class ContainerWindow : public WindowObject {
     // but nothing was clicked: it raises nothing.
     void RaiseNotification(NativeCodeTable controlCodes, EventSource source, MessageRecord& record);
 
-    // Remembers the focus when the window is deactivated and gives it back on activation.
+    // Remembers the focus when the window is deactivated and gives it back on activation; a control that has
+    // been hidden or disabled meanwhile is replaced by the next one that can take it.
     void KeepFocus(const MessageRecord& record);
     // For a window that is made anew: the handle remembered may belong to another control by now.
     void ForgetFocus() { rememberedFocus = nullptr; }
@@ -42,6 +43,11 @@ class ContainerWindow : public WindowObject {
   private:
     // Whether it is this window or one inside it.
     [[nodiscard]] bool HoldsWindow(HWND window) const;
+    // Whether neither the control nor what it lies in is hidden or disabled.
+    [[nodiscard]] bool CanTakeFocus(HWND control) const;
+    // The control or the next tab stop, of the window around it if there is none beside it; the window itself
+    // at the end.
+    [[nodiscard]] HWND NearestThatTakesFocus(HWND control) const;
 
     HWND rememberedFocus = nullptr;
 };

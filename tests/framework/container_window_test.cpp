@@ -312,4 +312,43 @@ TEST_F(ContainerFocus, outside_the_window_is_not_remembered) {
     EXPECT_EQ(GetFocus(), button->Handle());
 }
 
+class ContainerFocusOfStops : public ContainerFocus {
+  protected:
+    ContainerFocusOfStops() {
+        for (const HWND stop : {button->Handle(), other})
+            SetWindowLongPtrW(stop, GWL_STYLE, GetWindowLongPtrW(stop, GWL_STYLE) | WS_TABSTOP);
+        SetFocus(other);
+        Activate(WA_INACTIVE);
+        SetFocus(nullptr);
+    }
+    static void Hide(HWND control) { ShowWindow(control, SW_HIDE); }
+};
+
+TEST_F(ContainerFocusOfStops, goes_to_the_next_stop_when_its_control_was_disabled_meanwhile) {
+    EnableWindow(other, FALSE);
+    Activate(WA_ACTIVE);
+    EXPECT_EQ(GetFocus(), button->Handle());
+}
+
+TEST_F(ContainerFocusOfStops, goes_to_the_next_stop_when_its_control_was_hidden_meanwhile) {
+    Hide(other);
+    Activate(WA_ACTIVE);
+    EXPECT_EQ(GetFocus(), button->Handle());
+}
+
+TEST_F(ContainerFocusOfStops, goes_to_the_window_when_no_control_can_take_it) {
+    Hide(other);
+    EnableWindow(button->Handle(), FALSE);
+    Activate(WA_ACTIVE);
+    EXPECT_EQ(GetFocus(), window.Handle());
+}
+
+TEST_F(ContainerFocusOfStops, goes_beside_a_hidden_part_that_its_control_lies_in) {
+    const HWND part = ForeignControl(L"Static", 12);
+    SetParent(other, part);
+    Hide(part);
+    Activate(WA_ACTIVE);
+    EXPECT_EQ(GetFocus(), button->Handle());
+}
+
 }  // namespace
