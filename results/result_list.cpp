@@ -36,10 +36,6 @@ constexpr int ScrollStep = 40;
 // Of a key's lParam: it was down already, and repeats itself.
 constexpr LPARAM KeyWasDown = 1L << 30;
 
-// A redraw is due no sooner than this, and no sooner than ten times what the last one cost.
-constexpr ULONGLONG RefreshInterval = 250;
-constexpr ULONGLONG RefreshCostFactor = 10;
-
 // The image lists are the cache's, not the control's to destroy.
 PropertySet& WithListStyle(PropertySet& properties) {
     properties.Add(property::Style, LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE | LVS_EDITLABELS |
@@ -106,7 +102,7 @@ void ResultList::BeginFilling() {
     if (filling || Handle() == nullptr) return;
     filling = true;
     rowsPending = false;
-    nextRefresh = GetTickCount64() + RefreshInterval;
+    pace.Begin(GetTickCount64());
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
 }
 
@@ -122,7 +118,9 @@ void ResultList::EndFilling() {
 void ResultList::Clear() {
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, 0, FALSE);
     SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+    hasRows = false;
     rowsPending = true;
+    pace.Begin(GetTickCount64());
 }
 
 void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) {
@@ -154,11 +152,12 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
     wchar_t modified[2 * RowTextCapacity];
     FormatResultTime(local, modified);
     SetCell(row, ResultColumn::Modified, modified);
+    hasRows = true;
     rowsPending = true;
 }
 
 void ResultList::Refresh() {
-    if (filling && rowsPending && GetTickCount64() >= nextRefresh) ShowPending();
+    if (filling && rowsPending && pace.IsDue(GetTickCount64(), hasRows)) ShowPending();
 }
 
 void ResultList::ShowPending() {
@@ -167,9 +166,7 @@ void ResultList::ShowPending() {
     RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
     rowsPending = false;
-    const ULONGLONG end = GetTickCount64();
-    const ULONGLONG pause = (end - start) * RefreshCostFactor;
-    nextRefresh = end + (pause > RefreshInterval ? pause : RefreshInterval);
+    pace.Drawn(start, GetTickCount64(), hasRows);
 }
 
 int ResultList::RowCount() const {
@@ -263,7 +260,8 @@ int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
     return editedNumber ? RowWithNumber(*editedNumber) : edited.item.iItem;
 }
 
-// A click on the selected row's name begins an editing half a second later, whatever has been opened meanwhile.
+// A click on the selected row's name begins an editing half a second later, whatever has been opened
+// meanwhile.
 LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
     if (filling || !IsWindowEnabled(ParentHandle())) return TRUE;
     editedNumber = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;

@@ -8,6 +8,7 @@
 #include "framework/control.h"
 #include "results/file_icon_cache.h"
 #include "results/name_edit.h"
+#include "results/refresh_pace.h"
 #include "results/result_column.h"
 #include "results/result_heading.h"
 #include "results/type_names.h"
@@ -89,5 +90,6 @@ class ResultList : public ListView, public MatchSink {
     HFONT font = nullptr;
     bool filling = false;
     bool rowsPending = false;
-    ULONGLONG nextRefresh = 0;  // in milliseconds of GetTickCount64
+    bool hasRows = false;  // added since the last clear
+    RefreshPace pace;
 };

@@ -1,0 +1,28 @@
+#include "results/refresh_pace.h"
+
+namespace {
+
+// Long enough for the first rows to fill the list, too short to be noticed.
+constexpr ULONGLONG FirstRowDelay = 50;
+
+// A redraw is due no sooner than this, and no sooner than ten times what the last one cost.
+constexpr ULONGLONG RefreshInterval = 250;
+constexpr ULONGLONG RefreshCostFactor = 10;
+
+}  // namespace
+
+void RefreshPace::Begin(ULONGLONG now) {
+    rowsShown = false;
+    firstRowDue = now + FirstRowDelay;
+    nextDue = now + RefreshInterval;
+}
+
+bool RefreshPace::IsDue(ULONGLONG now, bool hasRows) const {
+    return now >= (hasRows && !rowsShown ? firstRowDue : nextDue);
+}
+
+void RefreshPace::Drawn(ULONGLONG start, ULONGLONG end, bool hasRows) {
+    if (hasRows) rowsShown = true;
+    const ULONGLONG pause = (end - start) * RefreshCostFactor;
+    nextDue = end + (pause > RefreshInterval ? pause : RefreshInterval);
+}
