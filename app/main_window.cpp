@@ -47,7 +47,9 @@ MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Applicatio
     namePage->LoadSettings(ProductRegistryKey);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    LeaveScreen();
+}
 
 void MainWindow::AddBarButtons() {
     if (CommandBar() == nullptr) return;
@@ -189,8 +191,20 @@ bool MainWindow::PreTranslate(MSG& message) {
     return NavigateByKey(message, {tabControl->Handle(), Page(currentPage)->Handle(), results->Handle()});
 }
 
+// What is saved is there for a copy that is started as soon as this window is gone.
 LRESULT MainWindow::OnWmClose(MessageRecord& record) {
-    return EndWorkUnderWay() ? 0 : DefaultProcessing(record);
+    const bool closesLater = EndWorkUnderWay();
+    if (fileOperation->IsRunning()) return 0;
+    SaveSettingsOnce();
+    LeaveScreen();
+    return closesLater ? 0 : DefaultProcessing(record);
+}
+
+// Taking a long list apart takes its time, and nobody is to watch it.
+void MainWindow::LeaveScreen() {
+    if (Handle() == nullptr) return;
+    EnableWindow(Handle(), FALSE);
+    ShowWindow(Handle(), SW_HIDE);
 }
 
 // A search or a file operation stands on this window: it is ended first, and the window closes when it has

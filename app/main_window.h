@@ -67,6 +67,8 @@ class MainWindow : public ApplicationView {
     // False when there is none.
     bool EndWorkUnderWay();
     void SaveSettingsOnce();
+    // Hidden and disabled, by which another copy knows that this one is going.
+    void LeaveScreen();
     [[nodiscard]] bool IsBusy() const;
     void RunCommand(UINT command);
     void RunResultCommand(UINT command);

@@ -1,5 +1,7 @@
 #include "app/start_up.h"
 
+#include <cwchar>
+
 #include "app/product.h"
 #include "platform/registry_key.h"
 #include "platform/windows_ce.h"
@@ -42,6 +44,25 @@ bool IsLanguageSwapped() {
            change != 0;
 }
 
+bool IsMainWindow(HWND window) {
+    constexpr int Capacity = 32;
+    wchar_t name[Capacity];
+    return ce::GetClassNameW(window, name, Capacity) > 0 && std::wcscmp(name, MainWindowClass) == 0;
+}
+
+// A copy that has been closed may take some time to end: nothing brings its window back.
+bool IsGoing(HWND window) {
+    return !IsWindowVisible(window) && !IsWindowEnabled(window);
+}
+
+// The system names the front one of all windows of the class; the others stand behind it.
+HWND FindRunningCopy() {
+    HWND window = FindWindowW(MainWindowClass, nullptr);
+    while (window != nullptr && (!IsMainWindow(window) || IsGoing(window)))
+        window = GetWindow(window, GW_HWNDNEXT);
+    return window;
+}
+
 }  // namespace
 
 void ProbePlatform(AppGlobals& globals) {
@@ -74,7 +95,7 @@ void ReleaseConversionLibrary(AppGlobals& globals) {
 }
 
 bool BringRunningCopyForward() {
-    const HWND window = FindWindowW(MainWindowClass, nullptr);
+    const HWND window = FindRunningCopy();
     if (window == nullptr) return false;
     ce::SetForegroundWindow(window);
     return true;

@@ -14,5 +14,6 @@ void DecideLanguage(AppGlobals& globals);
 // Frees the conversion library, if it was loaded.
 void ReleaseConversionLibrary(AppGlobals& globals);
 
-// Whether another copy runs; its window is then brought to the front.
+// Whether another copy runs; its window is then brought to the front. One whose window is hidden and disabled
+// is on its way out and counts for nothing.
 [[nodiscard]] bool BringRunningCopyForward();

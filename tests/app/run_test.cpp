@@ -24,6 +24,11 @@ class RunningCopy {
                                nullptr, nullptr);
     }
     ~RunningCopy() { DestroyWindow(window); }
+    // As one that has been closed and is being taken apart.
+    void Go() const {
+        EnableWindow(window, FALSE);
+        ShowWindow(window, SW_HIDE);
+    }
     [[nodiscard]] HWND Window() const { return window; }
 
   private:
@@ -111,6 +116,34 @@ TEST_F(Run, while_a_copy_runs_another_ends_with_1_and_brings_the_first_forward) 
         << "it built a window";
     EXPECT_EQ(Globals().conversionLibrary, nullptr);
     DestroyWindow(other);
+}
+
+TEST_F(Run, a_copy_that_is_being_taken_apart_keeps_no_other_from_running) {
+    const RunningCopy going;
+    going.Go();
+    EXPECT_EQ(RunAndLook(L""), 5);
+    EXPECT_TRUE(seen.visible);
+    EXPECT_EQ(seen.windows, 2);
+}
+
+TEST_F(Run, beside_copies_that_are_being_taken_apart_the_running_one_is_found) {
+    const RunningCopy first;
+    first.Go();
+    const RunningCopy running;
+    const RunningCopy last;
+    last.Go();
+    SetWindowPos(last.Window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_EQ(RunQuorinSearch(GetModuleHandleW(nullptr), L"", SW_SHOWNORMAL), 1);
+    EXPECT_EQ(GetForegroundWindow(), running.Window());
+}
+
+TEST_F(Run, a_copy_that_was_started_hidden_or_is_disabled_by_a_dialog_runs) {
+    const RunningCopy copy;
+    EnableWindow(copy.Window(), FALSE);
+    EXPECT_TRUE(BringRunningCopyForward());
+    EnableWindow(copy.Window(), TRUE);
+    ShowWindow(copy.Window(), SW_HIDE);
+    EXPECT_TRUE(BringRunningCopyForward());
 }
 
 TEST_F(Run, without_a_running_copy_there_is_none_to_bring_forward) {

@@ -134,3 +134,23 @@ TEST_F(Ends, by_the_uninstall_writes_nothing_even_at_a_log_off) {
     EXPECT_EQ(0u, Program().WaitForEnd());
     EXPECT_FALSE(KeyExists(ProductKey));
 }
+
+TEST_F(Ends, a_start_while_the_last_copy_is_being_taken_apart_opens_the_program_again) {
+    CloseProgram();
+    WNDCLASSW windowClass = {};
+    windowClass.lpfnWndProc = DefWindowProcW;
+    windowClass.lpszClassName = L"QuorinSearch";
+    RegisterClassW(&windowClass);
+    const HWND going = CreateWindowW(L"QuorinSearch", L"QuorinSearch", WS_POPUP | WS_DISABLED, 0, 0, 50, 50,
+                                     nullptr, nullptr, nullptr, nullptr);
+    RunningProgram again;
+    ProgramStart start;
+    start.path = ProgramPath();
+    start.workingFolder = Drive().Root();
+    again.Start(start);
+    EXPECT_TRUE(HoldsWithin(
+        StepDeadline, [&] { return again.MainWindow() != nullptr && IsWindowVisible(again.MainWindow()); }));
+    PostMessageW(again.MainWindow(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, again.ExitCode(StepDeadline).value_or(999));
+    DestroyWindow(going);
+}
