@@ -36,6 +36,12 @@ constexpr int ScrollStep = 40;
 // Of a key's lParam: it was down already, and repeats itself.
 constexpr LPARAM KeyWasDown = 1L << 30;
 
+// A list of so many rows is emptied in a few milliseconds.
+constexpr int RowsClearedAtOnce = 2000;
+
+// How long a longer one may be at it before messages are looked at, in milliseconds.
+constexpr ULONGLONG ClearingStep = 10;
+
 // The image lists are the cache's, not the control's to destroy.
 PropertySet& WithListStyle(PropertySet& properties) {
     properties.Add(property::Style, LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE | LVS_EDITLABELS |
@@ -113,14 +119,37 @@ void ResultList::EndFilling() {
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
-// Scrolled up first: while drawing is suspended the list would keep the place where it was, and the first
-// rows of the next search be out of sight.
 void ResultList::Clear() {
-    SendMessageW(Handle(), LVM_ENSUREVISIBLE, 0, FALSE);
-    SendMessageW(Handle(), LVM_DELETEALLITEMS, 0, 0);
+    while (ClearSome()) {
+    }
+}
+
+// Deleting all rows of a long list in one message takes seconds. Where that is so, the time grows with the
+// square of the rows for each order of deleting them, and the last one first is as fast as any.
+bool ResultList::ClearSome() {
+    // While drawing is suspended the list would keep its place, and the first rows of the next search be out
+    // of sight.
+    CallControl(LVM_ENSUREVISIBLE, 0, FALSE);
+    const int rows = RowCount();
+    if (rows > RowsClearedAtOnce) {
+        EnableWindow(Handle(), FALSE);
+        DeleteLastRows(rows - RowsClearedAtOnce);
+        return true;
+    }
+    CallControl(LVM_DELETEALLITEMS, 0, 0);
+    if (Handle() != nullptr) EnableWindow(Handle(), TRUE);
     hasRows = false;
     rowsPending = true;
     pace.Begin(GetTickCount64());
+    return false;
+}
+
+// So many at most, and as many as the time of one step allows.
+void ResultList::DeleteLastRows(int rows) {
+    const ULONGLONG start = GetTickCount64();
+    auto last = static_cast<WPARAM>(RowCount());
+    for (; rows > 0 && GetTickCount64() - start < ClearingStep; --rows)
+        CallControl(LVM_DELETEITEM, --last, 0);
 }
 
 void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) {

@@ -29,6 +29,8 @@ class ResultList : public ListView, public MatchSink {
 
     // MatchSink. A row's parameter is the number of rows before it, which it keeps for good.
     void Clear() override;
+    // A list with rows left takes no input meanwhile: they are results of no search any more.
+    [[nodiscard]] bool ClearSome() override;
     void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override;
     void Refresh() override;
 
@@ -78,6 +80,7 @@ class ResultList : public ListView, public MatchSink {
     LRESULT OnSystemKeyDown(MessageRecord& record);
     LRESULT OnSystemCharacter(MessageRecord& record);
     void ShowPending();
+    void DeleteLastRows(int rows);
 
     // The column of the last sort, by its number; a negative one would mean the order of finding.
     int sortColumn = 0;

@@ -11,6 +11,13 @@ class MatchSink {
     // Before the walk: what an earlier search found goes.
     virtual void Clear() = 0;
 
+    // The same in steps of a few milliseconds: false once nothing is left. A receiver that is cleared at once
+    // needs none.
+    [[nodiscard]] virtual bool ClearSome() {
+        Clear();
+        return false;
+    }
+
     // One match. The full path and the directory record, as the enumeration filled it, live for this call
     // only.
     virtual void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) = 0;

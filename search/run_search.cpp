@@ -2,17 +2,39 @@
 
 #include "search/fill_conditions.h"
 #include "search/name_patterns.h"
+#include "search/pump_one_message.h"
 #include "search/walk_folder.h"
+
+namespace {
+
+// Between two steps of the clearing: a window that always has something to do must not hold it up.
+constexpr int MessagesPerStep = 16;
+
+// The clearing is ended even when the user wants no more: what is left of an earlier search is no result of
+// this one. False when this one is over with it.
+bool ClearSink(MatchSink& sink, SearchProgress& progress) {
+    bool stop = false;
+    while (sink.ClearSome()) {
+        PumpOutcome outcome = PumpOutcome::Dispatched;
+        for (int taken = 0; taken < MessagesPerStep && outcome == PumpOutcome::Dispatched; ++taken)
+            outcome = PumpOneMessage();
+        if (outcome == PumpOutcome::Quit) return false;
+        stop = stop || progress.StopRequested();
+    }
+    return !stop;
+}
+
+}  // namespace
 
 void RunSearch(SearchConditions& conditions, const ConditionSource& source, MatchSink& sink,
                SearchProgress& progress) {
     SearchTexts texts;
     FillConditions(source, conditions, texts);
-    sink.Clear();
+    ExpectMessages();
+    if (!ClearSink(sink, progress)) return;
     ObjectList patterns;
     const wchar_t* const nameSubstring =
         BuildNamePatterns(conditions, texts.name, texts.extensions, patterns);
-    ExpectMessages();
     SearchWalk walk{conditions, patterns, nameSubstring, sink, progress};
     WalkFolder(walk, texts.location);
 }

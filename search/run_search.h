@@ -8,7 +8,7 @@
 #include "search/search_progress.h"
 
 // Fills the conditions from the source, clears the sink and walks the location; returns when the walk has
-// ended or was stopped. Dispatches messages on the way, so the caller sees to it that no second search starts
-// meanwhile.
+// ended or was stopped; a stop in the middle of the clearing still empties the sink. Dispatches messages on
+// the way, so the caller sees to it that no second search starts meanwhile.
 void RunSearch(SearchConditions& conditions, const ConditionSource& source, MatchSink& sink,
                SearchProgress& progress);

@@ -37,6 +37,17 @@ HANDLE FirstFile(const wchar_t*, WIN32_FIND_DATAW* data) {
     return NextFile(Listing, data) ? Listing : INVALID_HANDLE_VALUE;
 }
 
+// What happens once the list begins to be cleared.
+std::function<void()> inTheClearing;
+
+LRESULT CALLBACK WatchClearing(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+    if (message == WM_ENABLE && wParam == FALSE && inTheClearing) {
+        inTheClearing();
+        inTheClearing = nullptr;
+    }
+    return DefSubclassProc(list, message, wParam, lParam);
+}
+
 }  // namespace
 
 class DuringSearch : public MainWindowTest {
@@ -205,4 +216,69 @@ TEST_F(DuringSearch, abort_and_close_at_once_end_the_program) {
               0);
     ExpectStoppedEarly();
     EXPECT_FALSE(IsWindow(main));
+}
+
+class DuringClearing : public DuringSearch {
+  protected:
+    // A list that is too long to be cleared at once.
+    void SetUp() override {
+        DuringSearch::SetUp();
+        LVITEMW item = {};
+        for (int row = 0; row < 6000; ++row)
+            SendMessageW(List(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        SelectRow(0);
+        ASSERT_FALSE(IsGray(COMMAND_OPEN));
+        SetWindowSubclass(List(), &WatchClearing, 1, 0);
+    }
+    void TearDown() override {
+        inTheClearing = nullptr;
+        DuringSearch::TearDown();
+    }
+    // The list is empty and nothing was searched.
+    void ExpectEmpty() const {
+        EXPECT_EQ(listings, 0);
+        EXPECT_EQ(RowCount(), 0);
+        EXPECT_TRUE(IsGray(COMMAND_OPEN) && IsGray(COMMAND_DELETE));
+        EXPECT_TRUE(IsWindowEnabled(List()));
+        EXPECT_EQ(GetFocus(), List());
+        EXPECT_EQ(Dialog(), nullptr);
+    }
+};
+
+TEST_F(DuringClearing, undisturbed_a_search_follows_it) {
+    FindWith(nullptr);
+    EXPECT_EQ(listings, 1);
+    EXPECT_EQ(RowCount(), LastFile);
+    EXPECT_TRUE(IsRowSelected(List(), 0));
+}
+
+TEST_F(DuringClearing, abort_closes_the_dialog_and_leaves_an_empty_list) {
+    bool seen = false;
+    inTheClearing = [&] {
+        seen = Dialog() != nullptr;
+        PostMessageW(Dialog(), WM_COMMAND, IDCANCEL, 0);
+    };
+    FindWith(nullptr);
+    EXPECT_TRUE(seen);
+    ExpectEmpty();
+}
+
+TEST_F(DuringClearing, after_an_abort_nothing_acts_on_the_rows_that_are_left) {
+    inTheClearing = [this] {
+        PostMessageW(Dialog(), WM_COMMAND, IDCANCEL, 0);
+        for (const int command : {COMMAND_FIND, COMMAND_OPEN, COMMAND_DELETE, COMMAND_LARGE_ICON})
+            PostCommand(command);
+    };
+    FindWith(nullptr);
+    ExpectEmpty();
+    EXPECT_EQ(GetWindowLongW(List(), GWL_STYLE) & LVS_TYPEMASK, LVS_REPORT);
+    FindWith(nullptr);
+    EXPECT_EQ(RowCount(), LastFile);
+}
+
+TEST_F(DuringClearing, a_close_ends_the_program_without_a_search) {
+    inTheClearing = [this] { PostMessageW(Handle(), WM_CLOSE, 0, 0); };
+    EXPECT_EQ(EndIn(nullptr), 0);
+    EXPECT_FALSE(IsWindow(Handle()));
+    EXPECT_EQ(listings, 0);
 }
