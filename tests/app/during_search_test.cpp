@@ -224,7 +224,7 @@ class DuringClearing : public DuringSearch {
     void SetUp() override {
         DuringSearch::SetUp();
         LVITEMW item = {};
-        for (int row = 0; row < 6000; ++row)
+        for (int row = 0; row < 12'000; ++row)
             SendMessageW(List(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
         SelectRow(0);
         ASSERT_FALSE(IsGray(COMMAND_OPEN));

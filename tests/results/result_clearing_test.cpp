@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int LongList = 5000;
+constexpr int LongList = 12'000;
 constexpr int FarDown = 100'000;
 
 }  // namespace
