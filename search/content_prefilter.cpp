@@ -1,46 +1,18 @@
 #include "search/content_prefilter.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
+#include "search/content_scan.h"
 #include "search/double_byte_text.h"
 
 namespace {
 
 using Byte = unsigned char;
-// Sixteen bytes at a time: a compiler that has no such registers takes them apart by itself.
-using Bytes16 = Byte __attribute__((vector_size(16)));
-
-constexpr std::size_t Width = sizeof(Bytes16);
 constexpr Byte CarriageReturn = 13;
 constexpr Byte LineFeed = 10;
-
-constexpr Bytes16 AllOf(Byte byte) {
-    return Bytes16{} + byte;
-}
-
-Bytes16 Load(const Byte* bytes) {
-    Bytes16 loaded;
-    std::memcpy(&loaded, bytes, Width);
-    return loaded;
-}
-
-bool AnySet(Bytes16 bytes) {
-    std::uint64_t halves[2];
-    std::memcpy(halves, &bytes, Width);
-    return (halves[0] | halves[1]) != 0;
-}
-
-// One byte of the pattern, sixteen times, and the bit that makes its case not matter.
-struct SoughtByte {
-    Bytes16 folded;
-    Bytes16 caseBit;
-    template <bool folding>
-    Bytes16 EqualTo(Bytes16 bytes) const {
-        if constexpr (folding) bytes |= caseBit;
-        return reinterpret_cast<Bytes16>(bytes == folded);
-    }
-};
 
 enum class Place { Nothing, Occurrence, EndOfScan };
 
@@ -49,17 +21,15 @@ class Window {
   public:
     explicit Window(const ContentPattern& sought)
         : pattern(sought),
-          lastIndex(sought.length - 1),
-          first(Sought(0)),
-          second(Sought(1)),
-          last(Sought(lastIndex)) {}
+          scanned{Repeated(0), Repeated(1), Repeated(sought.length - 1), sought.length - 1},
+          scan(ContentScanFor(sought.folding)) {}
 
     // The first place between begin and end that counts. One that needs bytes behind the end does not, yet.
     [[nodiscard]] Place Examine(const Byte* begin, const Byte* end) {
         start = begin;
         stop = end;
         const Byte* at = begin;
-        const Place passed = pattern.folding ? PassOver<true>(at) : PassOver<false>(at);
+        const Place passed = PassOver(at);
         if (passed != Place::Nothing) return passed;
         // A place is looked at together with the byte behind it.
         for (; end - at > 1; ++at) {
@@ -89,43 +59,27 @@ class Window {
     Byte Folded(std::size_t index) const {
         return static_cast<Byte>(static_cast<Byte>(pattern.bytes[index]) | CaseBit(index));
     }
-    SoughtByte Sought(std::size_t index) const { return {AllOf(Folded(index)), AllOf(CaseBit(index))}; }
+    ScannedPattern::Repeated Repeated(std::size_t index) const {
+        ScannedPattern::Repeated repeated;
+        std::fill_n(repeated.folded, ScannedPattern::WidestRegister, Folded(index));
+        std::fill_n(repeated.caseBit, ScannedPattern::WidestRegister, CaseBit(index));
+        return repeated;
+    }
     bool Matches(Byte byte, std::size_t index) const { return (byte | CaseBit(index)) == Folded(index); }
 
-    // Passes over what certainly does not count, up to where the window is too near its end. Sixty-four bytes
-    // together: asking whether anything counts takes as long as the comparisons of sixteen.
-    template <bool folding>
+    // Passes over what certainly does not count, up to where the window is too near its end. What the scan
+    // finds is examined place by place, and nothing else is.
     Place PassOver(const Byte*& at) const {
-        constexpr std::size_t Together = 4 * Width;
-        const std::size_t reach = Together + lastIndex;
-        for (; static_cast<std::size_t>(stop - at) >= reach; at += Together) {
-            Bytes16 worth = Worth<folding>(at);
-            for (std::size_t i = Width; i < Together; i += Width)
-                worth |= Worth<folding>(at + i);
-            if (!AnySet(worth)) continue;
-            for (std::size_t i = 0; i < Together; ++i) {
-                const Place place = ExamineOne(at + i);
+        for (;;) {
+            const ScannedPlaces places = scan(scanned, at, stop);
+            at = places.at;
+            if (places.candidates == 0) return Place::Nothing;
+            for (std::uint64_t left = places.candidates; left != 0; left &= left - 1) {
+                const Place place = ExamineOne(at + std::countr_zero(left));
                 if (place != Place::Nothing) return place;
             }
+            at += ScannedPlaces::Count;
         }
-        return Place::Nothing;
-    }
-
-    // What counts has the pattern's first two bytes and its last; or is a carriage return inside a line; or,
-    // when folding, may be an empty line.
-    template <bool folding>
-    Bytes16 Worth(const Byte* at) const {
-        const Bytes16 here = Load(at);
-        const Bytes16 next = Load(at + 1);
-        Bytes16 worth = first.EqualTo<folding>(here) & second.EqualTo<folding>(next) &
-                        last.EqualTo<folding>(Load(at + lastIndex));
-        // A byte that is no line feed differs from one in some bit.
-        worth |= reinterpret_cast<Bytes16>(here == CarriageReturn) & (next ^ LineFeed);
-        if constexpr (folding) {
-            worth |= reinterpret_cast<Bytes16>((here == LineFeed) &
-                                               ((next == LineFeed) | (next == CarriageReturn)));
-        }
-        return worth;
     }
 
     Place ExamineOne(const Byte* at) const {
@@ -189,10 +143,8 @@ class Window {
     }
 
     const ContentPattern& pattern;
-    const std::size_t lastIndex;
-    const SoughtByte first;
-    const SoughtByte second;
-    const SoughtByte last;
+    const ScannedPattern scanned;
+    const ContentScan scan;
     const Byte* start = nullptr;
     const Byte* stop = nullptr;
 };

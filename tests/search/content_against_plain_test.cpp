@@ -11,6 +11,7 @@
 #include "search/shift_table.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/plain_content.h"
+#include "tests/search/scan_widths.h"
 
 namespace {
 
@@ -84,9 +85,12 @@ TEST_F(ContentAgainstPlain, finds_the_same_and_leaves_the_same_table) {
         std::snprintf(conditions.contentPattern, sizeof(conditions.contentPattern), "%s", pattern.c_str());
         const PlainContentAnswer plain =
             PlainContentSearch(find, content, {pattern.data(), pattern.size(), folding, doubleByteAware});
-        ASSERT_EQ(ContentMatches(conditions, L"\\file", WIN32_FIND_DATAW{}), plain.found)
-            << "round " << round;
-        ExpectSameTable(round);
+        for (const ScanWidth width : ScanWidthsHere()) {
+            const ScanWidthInUse inUse(width);
+            ASSERT_EQ(ContentMatches(conditions, L"\\file", WIN32_FIND_DATAW{}), plain.found)
+                << "round " << round;
+            ExpectSameTable(round);
+        }
         if (plain.found) ++found;
     }
     EXPECT_GT(found, 20);

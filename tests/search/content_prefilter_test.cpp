@@ -7,6 +7,7 @@
 
 #include "tests/search/memory_byte_reader.h"
 #include "tests/search/plain_content.h"
+#include "tests/search/scan_widths.h"
 
 namespace {
 
@@ -20,6 +21,17 @@ ContentVerdict Judge(const std::string& content, const std::string& pattern, Rea
                      std::size_t blockSize = ByteSource::BlockSize) {
     MemoryByteSource source(content);
     return JudgeContent(source, PatternOf(pattern, reading), blockSize);
+}
+
+// The verdict of the scans of all widths, which has to be one.
+ContentVerdict JudgeAtEveryWidth(const std::string& content, const std::string& pattern, Reading reading,
+                                 std::size_t blockSize) {
+    const ContentVerdict verdict = Judge(content, pattern, reading, blockSize);
+    for (const ScanWidth width : ScanWidthsHere()) {
+        const ScanWidthInUse inUse(width);
+        EXPECT_EQ(Judge(content, pattern, reading, blockSize), verdict);
+    }
+    return verdict;
 }
 
 constexpr ContentVerdict NoLine = ContentVerdict::NoLine;
@@ -123,7 +135,8 @@ TEST(ContentPrefilter, never_rules_out_what_the_lines_contain) {
         const std::size_t blockSize = upTo(1) == 0
                                           ? ByteSource::BlockSize
                                           : static_cast<std::size_t>(2 + upTo(upTo(1) == 0 ? 200 : 30));
-        const ContentVerdict verdict = Judge(content, pattern, reading, blockSize);
+        const ContentVerdict verdict = JudgeAtEveryWidth(content, pattern, reading, blockSize);
+        ASSERT_FALSE(testing::Test::HasNonfatalFailure()) << "round " << round;
         if (plain.found) {
             ASSERT_EQ(verdict, MayOccur) << "round " << round;
             ++found;

@@ -1,0 +1,18 @@
+// The scan with the registers of AVX2, which not every processor has: nothing in this file runs where CanScan
+// says no.
+
+#include <cstring>
+
+#include "search/content_scan.h"
+
+#ifdef __x86_64__
+#include <immintrin.h>
+// For the functions from here to the end of the file, and for no function that other files share.
+#pragma GCC target("avx2")
+#endif
+
+#include "search/content_scan_loop.h"
+
+ContentScan ContentScan32(bool folding) {
+    return folding ? &RegisterScan<32, true>::Next : &RegisterScan<32, false>::Next;
+}
