@@ -23,7 +23,7 @@ add_library(program_rules INTERFACE)
 target_link_libraries(program_rules INTERFACE house_rules)
 # Small rather than fast: what is fast here is what asks the system little.
 target_compile_options(program_rules INTERFACE
-    -fno-exceptions -fno-rtti $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>)
+    -fno-exceptions -fno-rtti -fno-threadsafe-statics $<$<CONFIG:Release>:-Os> $<$<CONFIG:Release>:-ffunction-sections>)
 
 # program_library(NAME SOURCES... LIBRARIES...): a part of the program. Those who use it, tests among them, are
 # not held to the program's own compile options.
