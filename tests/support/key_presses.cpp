@@ -34,6 +34,8 @@ MSG KeyDownMessage(HWND window, int key) {
 void PressKeyOn(HWND window, int key, std::initializer_list<int> modifiers) {
     const HeldKeys held(modifiers);
     PostMessageW(window, WM_KEYDOWN, static_cast<WPARAM>(key), WithScanCode(key, OnceDown));
-    PostMessageW(window, WM_KEYUP, static_cast<WPARAM>(key), WithScanCode(key, OnceUp));
+    PumpQueue();
+    const HWND upTo = IsWindow(window) ? window : GetActiveWindow();
+    PostMessageW(upTo, WM_KEYUP, static_cast<WPARAM>(key), WithScanCode(key, OnceUp));
     PumpQueue();
 }

@@ -22,5 +22,5 @@ class HeldKeys {
 // The message of a key going down.
 [[nodiscard]] MSG KeyDownMessage(HWND window, int key);
 
-// Posts the key's way down and up and dispatches the queue.
+// Posts the key's way down, and its way up to what is there then, and dispatches the queue after each.
 void PressKeyOn(HWND window, int key, std::initializer_list<int> modifiers = {});
