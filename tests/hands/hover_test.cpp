@@ -9,7 +9,7 @@
 namespace {
 
 // A tooltip comes after half a second.
-constexpr DWORD RestTime = 900;
+constexpr DWORD RestTime = 2000;
 
 struct Place {
     const char* name;
