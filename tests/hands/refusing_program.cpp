@@ -81,7 +81,7 @@ void RefusingProgram::Start(const std::wstring& workingFolder) {
     ProgramStart start;
     start.path = ProgramPath();
     start.workingFolder = workingFolder;
-    start.library = ProbePath();
+    start.probePath = ProbePath();
     process = std::make_unique<RunningProgram>();
     process->Start(start);
     Settle();

@@ -26,7 +26,7 @@ void RunningProgram::Start(const ProgramStart& start) {
     process = started.hProcess;
     processId = started.dwProcessId;
     AssignProcessToJobObject(job, process);
-    if (!start.library.empty()) BringLibrary(start.library);
+    if (!start.probePath.empty()) BringLibrary(start.probePath);
     ResumeThread(started.hThread);
     CloseHandle(started.hThread);
 }

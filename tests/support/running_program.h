@@ -14,7 +14,7 @@ struct ProgramStart {
     std::wstring arguments;
     int showCommand = SW_SHOWNORMAL;
     // Loaded into the process before the program's first instruction; empty for none.
-    std::wstring library;
+    std::wstring probePath;
 };
 
 class RunningProgram {
