@@ -100,6 +100,8 @@ class States : public HandsTest {
             return false;
         });
         Program().WaitForQueue();
+        // A click may have started a search.
+        WaitUntil("both rows", [] { return !Program().Searching() && Program().List().count == 2; });
     }
 
     void ExpectAtRest(const std::string& what) {

@@ -126,10 +126,11 @@ void RepeatKey(WORD key, int times) {
 
 namespace {
 
+// With the place in the same piece of news: the display's late word of an earlier place may come between.
 void Click(POINT point) {
-    SendOne(Mouse(MOUSEEVENTF_LEFTDOWN, point));
+    SendOne(Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN, point));
     Sleep(MousePause);
-    SendOne(Mouse(MOUSEEVENTF_LEFTUP, point));
+    SendOne(Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTUP, point));
 }
 
 void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {

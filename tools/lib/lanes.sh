@@ -47,7 +47,7 @@ run_tests() {
     local place=$1 program=$2 log=$logDir/$1/$2.log began=$SECONDS
     shift 2
     try_tests "$log" "$testFilter" "$@"
-    if ((failed > 0)) && uses_hands "$program"; then
+    if ((failed > 0)) && takes_real_input "$program"; then
         report_try "$place" "$program" "$((SECONDS - began))"
         try_again "$log" "$@"
     fi
@@ -59,7 +59,7 @@ run_tests() {
     [[ -z $tallyNote ]]
 }
 
-# try_again LOG COMMAND WORD...: what failed by hand is tried once more, and alone: Wine loses a pointer's movement
+# try_again LOG COMMAND WORD...: what failed is tried once more, and alone: Wine loses a movement of the pointer
 # or a key now and then where much else is going on. A program that failed as a whole is tried as a whole. What
 # the first try said stays in its log, and is shown.
 try_again() {
@@ -121,6 +121,12 @@ run_in_world() {
 # uses_hands PROGRAM: whether it moves the pointer and presses keys, and so wants a screen for itself.
 uses_hands() {
     [[ $1 == hands_* ]]
+}
+
+# takes_real_input PROGRAM: whether pointer and keys of the system reach it; so do they in some tests of the whole
+# program.
+takes_real_input() {
+    uses_hands "$1" || [[ $1 == program_* ]]
 }
 
 # has_no_window PROGRAM: such programs do not care for the screen and run in a language's first world only.
