@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "framework/control.h"
 #include "framework/dialog_template.h"
 

@@ -2,10 +2,10 @@
 
 #include <cwchar>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "app/memory_lines.h"
 #include "app/uninstall.h"
-#include "fileops/message_boxes.h"
+#include "framework/message_boxes.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"

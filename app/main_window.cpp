@@ -1,10 +1,10 @@
 #include "app/main_window.h"
 
-#include "app/language.h"
+#include "base/language.h"
 #include "app/page_navigation.h"
-#include "app/product.h"
+#include "base/product.h"
 #include "app/uninstall.h"
-#include "fileops/message_boxes.h"
+#include "framework/message_boxes.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"
 

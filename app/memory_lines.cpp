@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/language.h"
-#include "platform/format_text.h"
+#include "base/language.h"
+#include "base/format_text.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "app/command_line_words.h"
 #include "app/main_window.h"
-#include "app/product.h"
+#include "base/product.h"
 #include "app/start_up.h"
 #include "framework/application.h"
 #include "framework/property_keys.h"

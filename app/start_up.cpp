@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-#include "app/product.h"
-#include "platform/registry_key.h"
+#include "base/product.h"
+#include "base/registry_key.h"
 #include "platform/windows_ce.h"
 #include "search/system_text_conversion.h"
 #include "search/text_conversion.h"

@@ -2,7 +2,7 @@
 
 // The first steps of a run: what platform and what language this is. They fill the start-up record.
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 
 // Screen size, and whether this is a Pocket PC: its shell exports SHSipInfo, or its screen is 240 x 320.
 void ProbePlatform(AppGlobals& globals);

@@ -1,6 +1,6 @@
 #include "bench/bench_list.h"
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/property_keys.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <string>
 
-#include "app/product.h"
+#include "base/product.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
 #include "platform/system_types.h"

@@ -14,7 +14,7 @@ endif()
 
 # What nearly every test includes is compiled once: a test then builds in a third of the time.
 add_library(test_headers OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/test_headers.cpp)
-target_link_libraries(test_headers PRIVATE quorin_gtest house_rules)
+target_link_libraries(test_headers PRIVATE quorin_gtest project_options)
 target_compile_options(test_headers PRIVATE ${QUORIN_TEST_OPTIONS})
 target_precompile_headers(test_headers PRIVATE
     <gtest/gtest.h> $<$<BOOL:${WIN32}>:${CMAKE_SOURCE_DIR}/platform/windows_ce.h>)
@@ -23,7 +23,7 @@ target_precompile_headers(test_headers PRIVATE
 function(quorin_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} test_support quorin_gtest house_rules)
+    target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} test_support quorin_gtest project_options)
     target_compile_options(${name} PRIVATE ${QUORIN_TEST_OPTIONS})
     target_precompile_headers(${name} REUSE_FROM test_headers)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)

@@ -1,6 +1,6 @@
 #include "conditions/date_page.h"
 
-#include "app/language.h"
+#include "base/language.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -2,14 +2,14 @@
 
 #include <new>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "conditions/folder_tree.h"
 #include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
 #include "framework/wait_cursor.h"
-#include "platform/root_name.h"
+#include "base/root_name.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-#include "search/join_path.h"
-#include "search/skipped_names.h"
+#include "base/join_path.h"
+#include "base/skipped_names.h"
 
 namespace {
 

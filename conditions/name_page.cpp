@@ -3,12 +3,12 @@
 #include <cwchar>
 #include <iterator>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "conditions/folder_browse_dialog.h"
 #include "conditions/search_history.h"
 #include "framework/property_keys.h"
-#include "platform/format_text.h"
-#include "platform/registry_key.h"
+#include "base/format_text.h"
+#include "base/registry_key.h"
 #include "resources/resource_ids.h"
 
 namespace {

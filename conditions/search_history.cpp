@@ -3,8 +3,8 @@
 #include <cwchar>
 #include <iterator>
 
-#include "platform/format_text.h"
-#include "platform/registry_key.h"
+#include "base/format_text.h"
+#include "base/registry_key.h"
 
 namespace {
 

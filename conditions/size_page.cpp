@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "resources/resource_ids.h"
 
 namespace {

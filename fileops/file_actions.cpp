@@ -2,8 +2,8 @@
 
 #include <span>
 
-#include "app/language.h"
-#include "fileops/message_boxes.h"
+#include "base/language.h"
+#include "framework/message_boxes.h"
 #include "platform/windows_ce.h"
 
 namespace {

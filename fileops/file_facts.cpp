@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <iterator>
 
-#include "platform/format_text.h"
+#include "base/format_text.h"
 #include "platform/windows_ce.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <iterator>
 #include <new>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "fileops/inside_source.h"
-#include "fileops/message_boxes.h"
+#include "framework/message_boxes.h"
 #include "framework/control.h"
 #include "framework/dialog_template.h"
 #include "resources/resource_ids.h"

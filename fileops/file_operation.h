@@ -13,7 +13,7 @@
 
 #include "fileops/confirmation_dialog.h"
 #include "fileops/path_extension.h"
-#include "search/object_list.h"
+#include "base/object_list.h"
 
 enum class FileOperationKind : std::uint32_t { Copy, Update, Exclude, Move, Delete };
 

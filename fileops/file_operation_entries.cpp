@@ -5,8 +5,8 @@
 #include "fileops/folder_path.h"
 #include "fileops/path_kind.h"
 #include "fileops/question_texts.h"
-#include "search/folder_entries.h"
-#include "search/skipped_names.h"
+#include "base/folder_entries.h"
+#include "base/skipped_names.h"
 
 // Everything that an entered folder lists.
 constexpr const wchar_t* EveryEntry = L"*.*";

@@ -9,7 +9,7 @@
 #include "platform/same_file.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
-#include "search/pump_one_message.h"
+#include "base/pump_one_message.h"
 
 namespace {
 

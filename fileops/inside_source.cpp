@@ -3,7 +3,7 @@
 #include <cwchar>
 
 #include "platform/name_wildcard.h"
-#include "search/split_path.h"
+#include "base/split_path.h"
 
 bool IsInsideSource(const wchar_t* source, const wchar_t* destination) {
     const PathParts parts = SplitPath(source);

@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-#include "search/join_path.h"
-#include "search/split_path.h"
+#include "base/join_path.h"
+#include "base/split_path.h"
 
 PathExtension::PathExtension(PathBuffer& path) : extended(path), length(std::wcslen(path)) {}
 

@@ -2,13 +2,13 @@
 
 #include <iterator>
 
-#include "app/app_globals.h"
-#include "app/language.h"
+#include "base/app_globals.h"
+#include "base/language.h"
 #include "fileops/file_facts.h"
-#include "platform/format_text.h"
+#include "base/format_text.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
-#include "search/split_path.h"
+#include "base/split_path.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/property_keys.h"
 
 namespace {

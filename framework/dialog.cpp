@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/application.h"
 #include "framework/centring.h"
 #include "framework/control.h"

@@ -1,6 +1,6 @@
 #include "framework/window_class.h"
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/property_keys.h"
 #include "framework/window_object.h"
 #include "platform/windows_ce.h"

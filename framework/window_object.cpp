@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <new>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/application.h"
 #include "framework/fatal_message.h"
 #include "framework/property_keys.h"

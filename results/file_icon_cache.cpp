@@ -5,7 +5,7 @@
 #include <new>
 #include <string>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "resources/resource_ids.h"
 #include "results/file_type_table.h"
 

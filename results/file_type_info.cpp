@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <new>
 
 #include "framework/wait_cursor.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 
 struct FileTypeTable::Shared {
     std::vector<std::unique_ptr<FileTypeInfo>> records;

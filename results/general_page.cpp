@@ -4,10 +4,10 @@
 #include <iterator>
 #include <string>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
-#include "platform/root_name.h"
+#include "base/root_name.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -2,16 +2,16 @@
 
 #include <string>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "fileops/confirmation_dialog.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
-#include "fileops/message_boxes.h"
+#include "framework/message_boxes.h"
 #include "fileops/question_texts.h"
 #include "results/file_properties_sheet.h"
 #include "results/shortcut_maker.h"
 #include "results/shortcut_target.h"
-#include "search/join_path.h"
+#include "base/join_path.h"
 
 namespace {
 

@@ -5,13 +5,13 @@
 #include <iterator>
 #include <new>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "framework/property_keys.h"
 #include "framework/wait_cursor.h"
 #include "results/file_type_table.h"
 #include "results/result_sorting.h"
 #include "results/row_texts.h"
-#include "search/join_path.h"
+#include "base/join_path.h"
 
 namespace {
 

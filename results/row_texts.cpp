@@ -4,8 +4,8 @@
 #include <cwchar>
 #include <iterator>
 
-#include "platform/format_text.h"
-#include "search/split_path.h"
+#include "base/format_text.h"
+#include "base/split_path.h"
 
 namespace {
 

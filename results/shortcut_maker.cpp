@@ -3,11 +3,11 @@
 #include <cwchar>
 #include <iterator>
 
-#include "app/language.h"
-#include "platform/format_text.h"
+#include "base/language.h"
+#include "base/format_text.h"
 #include "platform/windows_ce.h"
 #include "results/shortcut_target.h"
-#include "search/join_path.h"
+#include "base/join_path.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <iterator>
 
-#include "app/language.h"
+#include "base/language.h"
 #include "fileops/file_facts.h"
-#include "platform/format_text.h"
+#include "base/format_text.h"
 #include "resources/resource_ids.h"
 #include "results/shortcut_target.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "platform/windows_ce.h"
 #include "search/byte_reader.h"
 #include "search/content_prefilter.h"

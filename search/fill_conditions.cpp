@@ -1,6 +1,6 @@
 #include "search/fill_conditions.h"
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "platform/windows_ce.h"
 #include "search/double_byte_text.h"
 #include "search/text_conversion.h"

@@ -3,7 +3,7 @@
 // A directory record kept for later, without the unused room behind its name.
 
 #include "platform/system_types.h"
-#include "search/object_list.h"
+#include "base/object_list.h"
 
 class HeldEntry final : public ListObject {
   public:

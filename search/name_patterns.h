@@ -2,7 +2,7 @@
 
 // From the name and the type that the user gave to what the walk enumerates and which names it lets pass.
 
-#include "search/object_list.h"
+#include "base/object_list.h"
 #include "search/search_conditions.h"
 
 // Appends the enumeration patterns, as StringObjects, in the order in which they are tried, and returns the

@@ -2,7 +2,7 @@
 
 #include "search/fill_conditions.h"
 #include "search/name_patterns.h"
-#include "search/pump_one_message.h"
+#include "base/pump_one_message.h"
 #include "search/walk_folder.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include "platform/system_types.h"
 #include "search/match_sink.h"
-#include "search/object_list.h"
-#include "search/pump_one_message.h"
+#include "base/object_list.h"
+#include "base/pump_one_message.h"
 #include "search/search_conditions.h"
 #include "search/search_progress.h"
 

@@ -5,7 +5,7 @@
 #include "search/content_matches.h"
 #include "search/date_and_size_filter.h"
 #include "search/find_wide.h"
-#include "search/join_path.h"
+#include "base/join_path.h"
 
 namespace {
 

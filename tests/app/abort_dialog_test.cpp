@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "search/pump_one_message.h"
+#include "base/pump_one_message.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/test_world.h"
 

@@ -1,9 +1,9 @@
 // What others see of the main window while it is being taken apart: the list's end is where it takes its
 // time.
 
-#include "app/product.h"
+#include "base/product.h"
 #include "app/start_up.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 #include "tests/app/main_window_test.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The main window as it stands at the start.
 
-#include "app/product.h"
+#include "base/product.h"
 #include "app/run.h"
 #include "framework/property_keys.h"
 #include "tests/app/main_window_test.h"

@@ -1,6 +1,6 @@
 #include "tests/app/main_window_test.h"
 
-#include "app/product.h"
+#include "base/product.h"
 #include "app/run.h"
 
 MainWindowTest::MainWindowTest() {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "app/start_up.h"
 #include "platform/windows_ce.h"
 #include "tests/support/message_pump.h"

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 #include "platform/windows_ce.h"
 #include "search/system_text_conversion.h"
 #include "search/text_conversion.h"

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "conditions/search_history.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 #include "tests/conditions/history_combo_fixture.h"
 
 namespace {

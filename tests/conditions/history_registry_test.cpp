@@ -1,5 +1,5 @@
 #include "conditions/search_history.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 #include "tests/conditions/history_combo_fixture.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // What the name page remembers between runs.
 
 #include "conditions/name_page.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 #include "tests/conditions/page_test.h"
 
 using Texts = std::vector<std::wstring>;

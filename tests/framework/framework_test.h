@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/application.h"
 #include "framework/container_window.h"
 #include "framework/property_keys.h"

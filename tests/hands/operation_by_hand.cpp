@@ -2,8 +2,8 @@
 
 #include <thread>
 
-#include "app/product.h"
-#include "platform/registry_key.h"
+#include "base/product.h"
+#include "base/registry_key.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/literal_path.h"
+#include "platform/desktop/literal_path.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/menu_bar_layout.h"
+#include "platform/desktop/menu_bar_layout.h"
 
 namespace {
 

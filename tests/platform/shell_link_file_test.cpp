@@ -1,6 +1,6 @@
 // Reading the desktop's shortcut files, here put together byte by byte.
 
-#include "platform/shell_link_file.h"
+#include "platform/desktop/shell_link_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/window_placement.h"
+#include "platform/desktop/window_placement.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "platform/ce_system.h"
 #include "tests/support/replaced_calls.h"
 

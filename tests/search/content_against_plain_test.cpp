@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "search/content_matches.h"
 #include "search/shift_table.h"
 #include "tests/search/fake_folders.h"

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "search/double_byte_text.h"
 #include "search/shift_table.h"
 #include "tests/support/temp_tree.h"

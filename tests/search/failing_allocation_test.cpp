@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "search/name_patterns.h"
-#include "search/object_list.h"
+#include "base/object_list.h"
 #include "tests/support/refused_memory.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <string>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "platform/windows_ce.h"
 #include "search/date_and_size_filter.h"
 #include "search/double_byte_text.h"

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "platform/windows_ce.h"
-#include "search/join_path.h"
+#include "base/join_path.h"
 #include "search/test_entry.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <type_traits>
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "tkconv/tkconv.h"
 
 namespace {

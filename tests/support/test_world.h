@@ -3,7 +3,7 @@
 // What start-up leaves behind for the windows: the start-up record and the application object. And a plain
 // window for a control or a page to stand in.
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "framework/application.h"
 #include "framework/container_window.h"
 

@@ -1,8 +1,0 @@
-#pragma once
-
-#include "app/app_globals.h"
-
-// The one of two texts that the user's language asks for. Both stand side by side where they are used.
-inline const wchar_t* InLanguage(const wchar_t* english, const wchar_t* japanese) {
-    return Globals().uiLanguage == UiLanguage::Japanese ? japanese : english;
-}

@@ -1,0 +1,13 @@
+#include "base/app_globals.h"
+
+namespace {
+AppGlobals startUpRecord;
+}
+
+const AppGlobals& Globals() {
+    return startUpRecord;
+}
+
+AppGlobals& GlobalsForStartUp() {
+    return startUpRecord;
+}

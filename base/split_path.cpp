@@ -1,0 +1,34 @@
+#include "base/split_path.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <string_view>
+
+namespace {
+
+void CopyPart(std::wstring_view part, wchar_t (&destination)[MAX_PATH]) {
+    const std::size_t length = std::min<std::size_t>(part.size(), MAX_PATH - 1);
+    std::copy_n(part.data(), length, destination);
+    destination[length] = L'\0';
+}
+
+std::wstring_view WithoutQuotes(std::wstring_view path) {
+    const bool quoted = path.size() >= 2 && path.front() == L'"' && path.back() == L'"';
+    return quoted ? path.substr(1, path.size() - 2) : path;
+}
+
+}  // namespace
+
+PathParts SplitPath(const wchar_t* path) {
+    const std::wstring_view text = WithoutQuotes(path);
+    const std::size_t separator = text.find_last_of(L"\\/");
+    PathParts parts;
+    if (separator == std::wstring_view::npos) {
+        CopyPart({}, parts.folder);
+        CopyPart(text, parts.name);
+        return parts;
+    }
+    CopyPart(text.substr(0, std::max<std::size_t>(separator, 1)), parts.folder);
+    CopyPart(text.substr(separator + 1), parts.name);
+    return parts;
+}

@@ -1,0 +1,119 @@
+#include "platform/desktop/links.h"
+
+#include <cwchar>
+
+#include "platform/desktop/folder_entry.h"
+#include "platform/name_wildcard.h"
+#include "platform/same_file.h"
+#include "platform/desktop/system_path.h"
+
+namespace {
+
+// What becomes of a link that a path ends in.
+enum class LastLink : DWORD { Followed = 0, Itself = FILE_FLAG_OPEN_REPARSE_POINT };
+
+// Where the folder or file really stands, links on the way followed. False when it cannot be opened or does
+// not fit.
+bool WhereItStands(const wchar_t* path, LastLink lastLink, wchar_t (&place)[LiteralPathSize]) {
+    // No access at all is needed for this, and the flag is how a folder is opened.
+    const HANDLE opened =
+        CreateFileW(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                    FILE_FLAG_BACKUP_SEMANTICS | static_cast<DWORD>(lastLink), nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return false;
+    const DWORD units = GetFinalPathNameByHandleW(opened, place, LiteralPathSize, FILE_NAME_NORMALIZED);
+    CloseHandle(opened);
+    return units > 0 && units < LiteralPathSize;
+}
+
+bool IsMountedVolume(const wchar_t* path) {
+    wchar_t folder[LiteralPathSize + 1];
+    const std::size_t units = std::wcslen(path);
+    std::wmemcpy(folder, path, units);
+    folder[units] = L'\\';
+    folder[units + 1] = L'\0';
+    wchar_t volume[MAX_PATH];
+    return GetVolumeNameForVolumeMountPointW(folder, volume, MAX_PATH) != FALSE;
+}
+
+std::size_t UnitsWithoutEnd(const wchar_t* name) {
+    std::size_t units = std::wcslen(name);
+    while (units > 0 && (name[units - 1] == L'.' || name[units - 1] == L' '))
+        --units;
+    return units;
+}
+
+// Whether the path and the place, both in one folder, are one entry of it. Either may be its long or its
+// short name, in any letter case. Where the system says what it has opened, it leaves out dots and blanks at
+// the end: the place is then another file's, or nobody's.
+bool IsNameOfPlace(const wchar_t* path, const wchar_t* place) {
+    const wchar_t* const name = std::wcsrchr(path, L'\\');
+    const wchar_t* const placeName = std::wcsrchr(place, L'\\');
+    // So it is nearly always, and a listing costs more than all the rest.
+    if (std::wcscmp(name, placeName) == 0) return true;
+    wchar_t listed[MAX_PATH], listedPlace[MAX_PATH];
+    if (ListedName(path, listed) && ListedName(place, listedPlace))
+        return std::wcscmp(listed, listedPlace) == 0 || !OpensSameFile(path, place);
+    const std::size_t units = UnitsWithoutEnd(name);
+    return UnitsWithoutEnd(placeName) == units && NamesTheSame(name, placeName, units);
+}
+
+enum class Standing { Unknown, InItsPlace, Elsewhere };
+
+// How what the system finds at the path stands to the parent and the name that the path gives.
+Standing StandingOf(const SystemPath& literal, LastLink lastLink) {
+    const wchar_t* const name = std::wcsrchr(literal.Text(), L'\\');
+    wchar_t place[LiteralPathSize];
+    if (name == nullptr || !WhereItStands(literal.Text(), lastLink, place)) return Standing::Unknown;
+
+    wchar_t parent[LiteralPathSize];
+    const auto parentUnits = static_cast<std::size_t>(name - literal.Text());
+    std::wmemcpy(parent, literal.Text(), parentUnits + 1);
+    // The closing separator stays: without it a drive's root would be the drive itself.
+    parent[parentUnits + 1] = L'\0';
+    wchar_t parentPlace[LiteralPathSize];
+    if (!WhereItStands(parent, LastLink::Followed, parentPlace)) return Standing::Unknown;
+
+    std::size_t units = std::wcslen(parentPlace);
+    if (units > 0 && parentPlace[units - 1] == L'\\') --units;
+    if (std::wcslen(place) < units || !NamesTheSame(place, parentPlace, units)) return Standing::Elsewhere;
+    if (std::wcsrchr(place, L'\\') != place + units) return Standing::Elsewhere;
+    return IsNameOfPlace(literal.Text(), place) ? Standing::InItsPlace : Standing::Elsewhere;
+}
+
+bool StandsInItsPlace(const SystemPath& literal, LastLink lastLink) {
+    return StandingOf(literal, lastLink) == Standing::InItsPlace;
+}
+
+// A link to a file bears no mark where the system follows it. It is known by the file that it opens: that one
+// stands in another folder, or has another name. A file that says nothing of itself is none.
+bool OpensAnotherFile(const SystemPath& literal, LastLink lastLink) {
+    return StandingOf(literal, lastLink) == Standing::Elsewhere;
+}
+
+}  // namespace
+
+// What stands where its name says is no link. So a volume mounted in a folder, or a folder that is kept on a
+// server, is entered although it is marked like a link.
+bool LeadsElsewhere(const wchar_t* path) {
+    const SystemPath literal(path);
+    if (!literal.Fits()) return true;
+    return !StandsInItsPlace(literal, LastLink::Followed) && !IsMountedVolume(literal.Text());
+}
+
+bool IsOutOfReach(const wchar_t* path) {
+    const SystemPath literal(path);
+    if (!literal.Fits()) return false;
+    const DWORD attributes = GetFileAttributesW(literal.Text());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return false;
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return OpensAnotherFile(literal, LastLink::Itself);
+    if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
+    return LeadsElsewhere(path) && !StandsInItsPlace(literal, LastLink::Itself);
+}
+
+bool LeadsToAnotherFile(const wchar_t* path) {
+    const SystemPath literal(path);
+    if (!literal.Fits()) return false;
+    const DWORD attributes = GetFileAttributesW(literal.Text());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return false;
+    return OpensAnotherFile(literal, LastLink::Followed);
+}
