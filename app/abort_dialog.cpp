@@ -32,21 +32,21 @@ PropertySet TemplateAndFlags() {
 AbortDialog::AbortDialog(WindowObject* parentObject) : Dialog(parentObject, TemplateAndFlags()) {}
 
 INT_PTR AbortDialog::RunModal() {
-    running = true;
-    jobStarted = false;
-    lastShown = 0;
-    folderPending = false;
+    running_ = true;
+    jobStarted_ = false;
+    lastShown_ = 0;
+    folderPending_ = false;
     const INT_PTR result = Dialog::RunModal();
-    running = false;
-    button.reset();
+    running_ = false;
+    button_.reset();
     return result;
 }
 
 LRESULT AbortDialog::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
-    button = std::make_unique<Control>(this, DialogItem(*this, IDCANCEL), L"Button");
-    button->Subclass();
-    button->OnMessage(WM_KEYDOWN, this, &AbortDialog::OnButtonKey);
+    button_ = std::make_unique<Control>(this, DialogItem(*this, IDCANCEL), L"Button");
+    button_->Subclass();
+    button_->OnMessage(WM_KEYDOWN, this, &AbortDialog::OnButtonKey);
     SetUpShell(FullScreenFlags(), DialogBar::Cancel);
     Centre();
     ShowWindow(Handle(), SW_SHOW);
@@ -62,7 +62,7 @@ LRESULT AbortDialog::OnWmCommand(MessageRecord& record) {
         return 0;
     }
     // Once only: a second command that arrives in the middle of the job starts nothing.
-    if (command == COMMAND_RUN && record.lParam == 0 && !jobStarted) {
+    if (command == COMMAND_RUN && record.lParam == 0 && !jobStarted_) {
         RunJob(record);
         return 0;
     }
@@ -70,44 +70,44 @@ LRESULT AbortDialog::OnWmCommand(MessageRecord& record) {
 }
 
 void AbortDialog::RunJob(MessageRecord& record) {
-    jobStarted = true;
-    abortRequested = false;
+    jobStarted_ = true;
+    abortRequested_ = false;
     RaiseEvent(event::DialogRun, COMMAND_RUN, 0, record);
     DropKeys();
-    if (!abortRequested) End(ResultOk);
+    if (!abortRequested_) End(ResultOk);
 }
 
 void AbortDialog::Abort() {
-    abortRequested = true;
+    abortRequested_ = true;
     End(ResultCancel);
 }
 
 // The search pumps messages without the dialog's keyboard rules, so the button itself knows the key that
 // presses it. Not Enter: it starts searches, and pressed once too often it would end one.
 LRESULT AbortDialog::OnButtonKey(MessageRecord& record) {
-    if (record.wParam != VK_ESCAPE) return button->DefaultProcessing(record);
+    if (record.wParam != VK_ESCAPE) return button_->DefaultProcessing(record);
     Abort();
     return 0;
 }
 
 void AbortDialog::EnterFolder(const wchar_t* folder) {
-    std::wcsncpy(folderText, folder, MAX_PATH - 1);
-    folderPending = true;
-    if (GetTickCount64() - lastShown >= ShowInterval) ShowFolder();
+    std::wcsncpy(folderText_, folder, MAX_PATH - 1);
+    folderPending_ = true;
+    if (GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
 }
 
 void AbortDialog::BeforeLongFile() {
-    if (folderPending) ShowFolder();
+    if (folderPending_) ShowFolder();
 }
 
 bool AbortDialog::StopRequested() {
-    if (folderPending && GetTickCount64() - lastShown >= ShowInterval) ShowFolder();
-    return abortRequested;
+    if (folderPending_ && GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
+    return abortRequested_;
 }
 
 void AbortDialog::ShowFolder() {
-    folderPending = false;
-    SetDlgItemTextW(Handle(), STATIC_FOLDER, folderText);
+    folderPending_ = false;
+    SetDlgItemTextW(Handle(), STATIC_FOLDER, folderText_);
     UpdateWindow(Handle());
-    lastShown = GetTickCount64();
+    lastShown_ = GetTickCount64();
 }

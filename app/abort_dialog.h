@@ -18,7 +18,7 @@ class AbortDialog : public Dialog, public SearchProgress {
     }
 
     // Whether the dialog is on the screen or still on its way out of its job.
-    [[nodiscard]] bool IsRunning() const { return running; }
+    [[nodiscard]] bool IsRunning() const { return running_; }
 
     INT_PTR RunModal() override;
 
@@ -39,11 +39,11 @@ class AbortDialog : public Dialog, public SearchProgress {
     void RunJob(MessageRecord& record);
     void ShowFolder();
 
-    std::unique_ptr<WindowObject> button;
-    bool abortRequested = false;
-    bool running = false;
-    bool jobStarted = false;
-    bool folderPending = false;
-    ULONGLONG lastShown = 0;  // in milliseconds of GetTickCount64
-    wchar_t folderText[MAX_PATH] = L"";
+    std::unique_ptr<WindowObject> button_;
+    bool abortRequested_ = false;
+    bool running_ = false;
+    bool jobStarted_ = false;
+    bool folderPending_ = false;
+    ULONGLONG lastShown_ = 0;  // in milliseconds of GetTickCount64
+    wchar_t folderText_[MAX_PATH] = L"";
 };

@@ -2,13 +2,13 @@
 
 #include <cwchar>
 
-#include "base/language.h"
 #include "app/memory_lines.h"
 #include "app/uninstall.h"
-#include "framework/message_boxes.h"
+#include "base/language.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
+#include "framework/message_boxes.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -58,26 +58,27 @@ bool ShowsWholeMemoryLines(HWND about) {
 
 AboutBox::AboutBox(WindowObject* parentObject)
     : Dialog(parentObject, TemplateProperties(InLanguage(L"EAboutDialog_E", L"EAboutDialog_J"))),
-      titleFont(CreateTitleFont()) {
+      titleFont_(CreateTitleFont()) {
     OnMessage(WM_SETFOCUS, this, &AboutBox::OnWmSetFocus);
     OnCommand(IDOK, this, &AboutBox::OnOk);
     OnCommand(BUTTON_UNINSTALL, this, &AboutBox::OnUninstall);
 }
 
 AboutBox::~AboutBox() {
-    DeleteObject(titleFont);
-    if (smallFont != nullptr) DeleteObject(smallFont);
+    DeleteObject(titleFont_);
+    if (smallFont_ != nullptr) DeleteObject(smallFont_);
 }
 
 void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
-    makerKey = maker;
-    productKey = product;
+    makerKey_ = maker;
+    productKey_ = product;
 }
 
 LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     ShowStrings();
-    if (productKey.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
-    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont), TRUE);
+    if (productKey_.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
+    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_),
+                        TRUE);
     ShowMemory();
     KeepTitleLineFree(Handle());
     FitToScreen(Handle(), STATIC_CONTACT_2);
@@ -122,8 +123,8 @@ void AboutBox::ShrinkMemoryLines() {
         if (smaller == nullptr) return;
         for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
             SendDlgItemMessageW(Handle(), id, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), TRUE);
-        if (smallFont != nullptr) DeleteObject(smallFont);
-        smallFont = smaller;
+        if (smallFont_ != nullptr) DeleteObject(smallFont_);
+        smallFont_ = smaller;
     }
 }
 
@@ -135,12 +136,12 @@ LRESULT AboutBox::OnOk(EventArguments&) {
 // The box's own way, for an owner that binds none of its own: it asks first, and closes the owner whether the
 // keys could be removed or not.
 LRESULT AboutBox::OnUninstall(EventArguments&) {
-    if (productKey.empty()) return 0;
+    if (productKey_.empty()) return 0;
     if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK)
         return 0;
-    if (DeleteRegistryKey(HKEY_CURRENT_USER, productKey.c_str()) == ERROR_SUCCESS && !makerKey.empty() &&
-        !HasSubKey(HKEY_CURRENT_USER, makerKey.c_str())) {
-        DeleteRegistryKey(HKEY_CURRENT_USER, makerKey.c_str());
+    if (DeleteRegistryKey(HKEY_CURRENT_USER, productKey_.c_str()) == ERROR_SUCCESS && !makerKey_.empty() &&
+        !HasSubKey(HKEY_CURRENT_USER, makerKey_.c_str())) {
+        DeleteRegistryKey(HKEY_CURRENT_USER, makerKey_.c_str());
     }
     PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
     return 0;

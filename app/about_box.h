@@ -26,9 +26,9 @@ class AboutBox : public Dialog {
     void ShowMemory();
     void ShrinkMemoryLines();
 
-    std::wstring makerKey;
-    std::wstring productKey;
-    HFONT titleFont;
+    std::wstring makerKey_;
+    std::wstring productKey_;
+    HFONT titleFont_;
     // Of the memory lines, where the template's is too large for them.
-    HFONT smallFont = nullptr;
+    HFONT smallFont_ = nullptr;
 };

@@ -26,22 +26,22 @@ wchar_t* EndOfWord(wchar_t* word, bool quoted) {
 
 CommandLineWords::CommandLineWords(const wchar_t* commandLine) {
     const std::size_t units = std::wcslen(commandLine) + 1;
-    text = new (std::nothrow) wchar_t[units];
-    if (text == nullptr) return;
-    std::wmemcpy(text, commandLine, units);
+    text_ = new (std::nothrow) wchar_t[units];
+    if (text_ == nullptr) return;
+    std::wmemcpy(text_, commandLine, units);
     Split();
 }
 
 CommandLineWords::~CommandLineWords() {
-    delete[] text;
+    delete[] text_;
 }
 
 void CommandLineWords::Split() {
-    wchar_t* at = SkipBlanks(text);
-    while (*at != L'\0' && count < MostWords) {
+    wchar_t* at = SkipBlanks(text_);
+    while (*at != L'\0' && count_ < MostWords) {
         const bool quoted = *at == L'"';
         if (quoted) ++at;
-        words[count++] = at;
+        words_[count_++] = at;
         at = EndOfWord(at, quoted);
         if (*at == L'\0') return;
         *at = L'\0';

@@ -14,14 +14,14 @@ class CommandLineWords {
     CommandLineWords& operator=(const CommandLineWords&) = delete;
     ~CommandLineWords();
 
-    int Count() const { return count; }
+    int Count() const { return count_; }
     // Count() terminated texts, which live as long as this object.
-    const wchar_t* const* List() const { return words; }
+    const wchar_t* const* List() const { return words_; }
 
   private:
     void Split();
 
-    wchar_t* text = nullptr;
-    int count = 0;
-    const wchar_t* words[MostWords] = {};
+    wchar_t* text_ = nullptr;
+    int count_ = 0;
+    const wchar_t* words_[MostWords] = {};
 };

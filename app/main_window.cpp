@@ -1,9 +1,9 @@
 #include "app/main_window.h"
 
-#include "base/language.h"
 #include "app/page_navigation.h"
-#include "base/product.h"
 #include "app/uninstall.h"
+#include "base/language.h"
+#include "base/product.h"
 #include "framework/message_boxes.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"
@@ -39,12 +39,12 @@ MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Applicatio
     SetInitialMenuState();
     const RECT area = LayoutRectangle();
     CreateTabControl(area);
-    namePage = std::make_unique<NamePage>(tabControl.get(), Handle());
-    CreatePage(*namePage);
+    namePage_ = std::make_unique<NamePage>(tabControl_.get(), Handle());
+    CreatePage(*namePage_);
     CreateResultList(area);
     RouteCommands();
     ShowPage(0);
-    namePage->LoadSettings(ProductRegistryKey);
+    namePage_->LoadSettings(ProductRegistryKey);
 }
 
 MainWindow::~MainWindow() {
@@ -64,13 +64,13 @@ void MainWindow::AddBarButtons() {
 }
 
 void MainWindow::CreateDialogs() {
-    aboutBox = std::make_unique<AboutBox>(this);
-    aboutBox->SetRegistryKeys(MakerRegistryKey, ProductRegistryKey);
+    aboutBox_ = std::make_unique<AboutBox>(this);
+    aboutBox_->SetRegistryKeys(MakerRegistryKey, ProductRegistryKey);
     // Bound later than the box's own routine, so this one is found first.
-    aboutBox->OnCommand(BUTTON_UNINSTALL, this, &MainWindow::OnUninstall);
-    fileOperation = std::make_unique<FileOperation>(this);
-    abortDialog = std::make_unique<AbortDialog>(this);
-    abortDialog->OnRun(this, &MainWindow::OnSearchRun);
+    aboutBox_->OnCommand(BUTTON_UNINSTALL, this, &MainWindow::OnUninstall);
+    fileOperation_ = std::make_unique<FileOperation>(this);
+    abortDialog_ = std::make_unique<AbortDialog>(this);
+    abortDialog_->OnRun(this, &MainWindow::OnSearchRun);
 }
 
 void MainWindow::SetInitialMenuState() {
@@ -88,20 +88,20 @@ void MainWindow::CreateTabControl(const RECT& area) {
     PropertySet properties;
     PlaceProperties(properties, area.left, area.top, area.right - area.left, TabControlHeight);
     properties.Set(property::Style, WS_TABSTOP | WS_CLIPSIBLINGS);
-    tabControl = std::make_unique<TabControl>(this, properties);
-    SendMessageW(tabControl->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
-                 FALSE);
-    tabControl->Subclass();
-    tabControl->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
-    tabControl->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);
-    tabControl->OnNotification(event::SelectionChanged, this, &MainWindow::OnPageChanged);
-    tabControl->AppendItem(InLanguage(L"Name", L"名前と場所"));
-    tabControl->AppendItem(InLanguage(L"Date", L"日付"));
-    tabControl->AppendItem(InLanguage(L"Etc", L"その他"));
+    tabControl_ = std::make_unique<TabControl>(this, properties);
+    SendMessageW(tabControl_->Handle(), WM_SETFONT,
+                 reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    tabControl_->Subclass();
+    tabControl_->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
+    tabControl_->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);
+    tabControl_->OnNotification(event::SelectionChanged, this, &MainWindow::OnPageChanged);
+    tabControl_->AppendItem(InLanguage(L"Name", L"名前と場所"));
+    tabControl_->AppendItem(InLanguage(L"Date", L"日付"));
+    tabControl_->AppendItem(InLanguage(L"Etc", L"その他"));
 }
 
 void MainWindow::CreatePage(ConditionPage& page) {
-    const RECT area = tabControl->DisplayArea();
+    const RECT area = tabControl_->DisplayArea();
     page.MarkAsPage();
     page.CreateModeless();
     page.Move(area.left, area.top, area.right - area.left, area.bottom - area.top);
@@ -112,12 +112,12 @@ void MainWindow::CreateResultList(const RECT& area) {
     PlaceProperties(properties, area.left, area.top + TabControlHeight, area.right - area.left,
                     area.bottom - area.top - TabControlHeight);
     properties.Set(property::Style, WS_TABSTOP);
-    results = std::make_unique<ResultList>(this, properties);
-    resultCommands = std::make_unique<ResultCommands>(*this, *results);
-    results->OnNotification(event::DoubleClick, this, &MainWindow::OnResultDoubleClick);
-    results->OnNotification(event::KeyDown, this, &MainWindow::OnResultKeyDown);
-    results->OnNotification(event::ItemChanged, this, &MainWindow::OnResultChanged);
-    results->OnNotification(event::EndLabelEdit, this, &MainWindow::OnResultRenamed);
+    results_ = std::make_unique<ResultList>(this, properties);
+    resultCommands_ = std::make_unique<ResultCommands>(*this, *results_);
+    results_->OnNotification(event::DoubleClick, this, &MainWindow::OnResultDoubleClick);
+    results_->OnNotification(event::KeyDown, this, &MainWindow::OnResultKeyDown);
+    results_->OnNotification(event::ItemChanged, this, &MainWindow::OnResultChanged);
+    results_->OnNotification(event::EndLabelEdit, this, &MainWindow::OnResultRenamed);
 }
 
 void MainWindow::RouteCommands() {
@@ -133,13 +133,13 @@ void MainWindow::Show() {
 // The two other pages, the registered types and the icons are more than half of all that a start has to make.
 void MainWindow::CompleteParts() {
     KillTimer(Handle(), CompletionTimer);
-    if (sizePage != nullptr) return;
-    datePage = std::make_unique<DatePage>(tabControl.get());
-    CreatePage(*datePage);
-    fileTypes = std::make_unique<RegisteredFileTypes>();
-    sizePage = std::make_unique<SizePage>(tabControl.get(), fileTypes.get());
-    CreatePage(*sizePage);
-    results->LoadIcons();
+    if (sizePage_ != nullptr) return;
+    datePage_ = std::make_unique<DatePage>(tabControl_.get());
+    CreatePage(*datePage_);
+    fileTypes_ = std::make_unique<RegisteredFileTypes>();
+    sizePage_ = std::make_unique<SizePage>(tabControl_.get(), fileTypes_.get());
+    CreatePage(*sizePage_);
+    results_->LoadIcons();
 }
 
 LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
@@ -149,16 +149,16 @@ LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
 }
 
 ConditionPage* MainWindow::Page(int index) const {
-    ConditionPage* const pages[PageCount] = {namePage.get(), datePage.get(), sizePage.get()};
+    ConditionPage* const pages[PageCount] = {namePage_.get(), datePage_.get(), sizePage_.get()};
     return pages[index];
 }
 
 void MainWindow::ShowPage(int index) {
-    Page(currentPage)->Hide();
-    tabControl->Select(index);
+    Page(currentPage_)->Hide();
+    tabControl_->Select(index);
     Page(index)->Show();
-    currentPage = index;
-    FocusOn(*tabControl);
+    currentPage_ = index;
+    FocusOn(*tabControl_);
 }
 
 // One that could not be made leaves the focus where it is: without any the keys would reach nobody.
@@ -168,33 +168,33 @@ void MainWindow::FocusOn(const WindowObject& object) {
 
 LRESULT MainWindow::OnPageChanged(EventArguments&) {
     CompleteParts();
-    const int selected = tabControl->Selected();
+    const int selected = tabControl_->Selected();
     if (selected >= 0 && selected < PageCount) ShowPage(selected);
     return 0;
 }
 
 LRESULT MainWindow::OnTabControlKeyDown(MessageRecord& record) {
-    if (record.wParam != VK_TAB) return tabControl->DefaultProcessing(record);
+    if (record.wParam != VK_TAB) return tabControl_->DefaultProcessing(record);
     const bool backwards = GetKeyState(VK_SHIFT) < 0;
-    const HWND page = Page(currentPage)->Handle();
+    const HWND page = Page(currentPage_)->Handle();
     const HWND next = backwards ? LastTabStop(page) : FirstTabStop(page);
     if (next != nullptr) SetFocus(next);
     return 0;
 }
 
 LRESULT MainWindow::OnTabControlChar(MessageRecord& record) {
-    return record.wParam == L'\t' ? 0 : tabControl->DefaultProcessing(record);
+    return record.wParam == L'\t' ? 0 : tabControl_->DefaultProcessing(record);
 }
 
 bool MainWindow::PreTranslate(MSG& message) {
     if (ApplicationView::PreTranslate(message)) return true;
-    return NavigateByKey(message, {tabControl->Handle(), Page(currentPage)->Handle(), results->Handle()});
+    return NavigateByKey(message, {tabControl_->Handle(), Page(currentPage_)->Handle(), results_->Handle()});
 }
 
 // What is saved is there for a copy that is started as soon as this window is gone.
 LRESULT MainWindow::OnWmClose(MessageRecord& record) {
     const bool closesLater = EndWorkUnderWay();
-    if (fileOperation->IsRunning()) return 0;
+    if (fileOperation_->IsRunning()) return 0;
     SaveSettingsOnce();
     LeaveScreen();
     return closesLater ? 0 : DefaultProcessing(record);
@@ -210,16 +210,16 @@ void MainWindow::LeaveScreen() {
 // A search or a file operation stands on this window: it is ended first, and the window closes when it has
 // unwound. A name that is being edited is taken.
 bool MainWindow::EndWorkUnderWay() {
-    if (fileOperation->IsRunning()) {
-        fileOperation->StopAndCloseParent();
+    if (fileOperation_->IsRunning()) {
+        fileOperation_->StopAndCloseParent();
         return true;
     }
-    if (!abortDialog->IsRunning()) {
-        results->EndEditing();
+    if (!abortDialog_->IsRunning()) {
+        results_->EndEditing();
         return false;
     }
-    closeAfterSearch = true;
-    abortDialog->Abort();
+    closeAfterSearch_ = true;
+    abortDialog_->Abort();
     return true;
 }
 
@@ -244,25 +244,25 @@ LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
 }
 
 void MainWindow::SaveSettingsOnce() {
-    if (skipSaving || namePage == nullptr) return;
-    namePage->SaveSettings(ProductRegistryKey);
-    skipSaving = true;
+    if (skipSaving_ || namePage_ == nullptr) return;
+    namePage_->SaveSettings(ProductRegistryKey);
+    skipSaving_ = true;
 }
 
 // F1 in a dialog comes here as well, from dialog to owner: the box does not open over another one.
 void MainWindow::ShowAbout() {
     if (!IsWindowEnabled(Handle())) return;
-    aboutBox->RunModal();
+    aboutBox_->RunModal();
 }
 
 LRESULT MainWindow::OnUninstall(EventArguments&) {
-    aboutBox->End(Dialog::ResultCancel);
+    aboutBox_->End(Dialog::ResultCancel);
     UpdateWindow(Handle());
     if (!RemoveRegistryKeys(HKEY_CURRENT_USER, MakerRegistryKey, ProductRegistryKey)) {
         ShowError(Handle(), InLanguage(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!"));
         return 0;
     }
-    skipSaving = true;
+    skipSaving_ = true;
     PostMessageW(Handle(), WM_CLOSE, 0, 0);
     return 0;
 }

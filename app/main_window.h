@@ -29,7 +29,7 @@ class MainWindow : public ApplicationView {
     void CompleteParts();
 
     // No command starts it: it stands ready for whoever wants one of its operations.
-    [[nodiscard]] FileOperation& Operation() { return *fileOperation; }
+    [[nodiscard]] FileOperation& Operation() { return *fileOperation_; }
 
   protected:
     LRESULT OnWmActivate(MessageRecord& record) override;
@@ -83,24 +83,24 @@ class MainWindow : public ApplicationView {
     static void FocusOn(const WindowObject& object);
     [[nodiscard]] ConditionPage* Page(int index) const;
 
-    SearchConditions conditions;
-    int currentPage = 0;
-    bool closeAfterSearch = false;
+    SearchConditions conditions_;
+    int currentPage_ = 0;
+    bool closeAfterSearch_ = false;
     // Until when an Enter in the list still belongs to a search; in milliseconds of GetTickCount64.
-    ULONGLONG searchKeysEnd = 0;
+    ULONGLONG searchKeysEnd_ = 0;
     // Set once they are saved, and by an uninstall: the keys just removed are not written again.
-    bool skipSaving = false;
+    bool skipSaving_ = false;
 
-    std::unique_ptr<RegisteredFileTypes> fileTypes;
+    std::unique_ptr<RegisteredFileTypes> fileTypes_;
 
     // Deleted from the last to the first: the pages in tab order, the list, the tab control, the dialogs.
-    std::unique_ptr<AboutBox> aboutBox;
-    std::unique_ptr<FileOperation> fileOperation;
-    std::unique_ptr<AbortDialog> abortDialog;
-    std::unique_ptr<TabControl> tabControl;
-    std::unique_ptr<ResultList> results;
-    std::unique_ptr<ResultCommands> resultCommands;
-    std::unique_ptr<SizePage> sizePage;
-    std::unique_ptr<DatePage> datePage;
-    std::unique_ptr<NamePage> namePage;
+    std::unique_ptr<AboutBox> aboutBox_;
+    std::unique_ptr<FileOperation> fileOperation_;
+    std::unique_ptr<AbortDialog> abortDialog_;
+    std::unique_ptr<TabControl> tabControl_;
+    std::unique_ptr<ResultList> results_;
+    std::unique_ptr<ResultCommands> resultCommands_;
+    std::unique_ptr<SizePage> sizePage_;
+    std::unique_ptr<DatePage> datePage_;
+    std::unique_ptr<NamePage> namePage_;
 };

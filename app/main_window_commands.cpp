@@ -19,14 +19,14 @@ LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
     // dropped; leaving is not.
     const auto command = static_cast<UINT>(arguments.extra);
     // A command acts on what is there when the name that is being edited has been taken.
-    if (!IsBusy()) results->EndEditing();
+    if (!IsBusy()) results_->EndEditing();
     if (!IsBusy() || command == COMMAND_EXIT) RunCommand(command);
     UpdateWindow(Handle());
     return 0;
 }
 
 bool MainWindow::IsBusy() const {
-    return abortDialog->IsRunning() || fileOperation->IsRunning();
+    return abortDialog_->IsRunning() || fileOperation_->IsRunning();
 }
 
 void MainWindow::RunCommand(UINT command) {
@@ -66,25 +66,25 @@ void MainWindow::RunCommand(UINT command) {
 void MainWindow::RunResultCommand(UINT command) {
     switch (command) {
         case COMMAND_OPEN:
-            resultCommands->Open();
+            resultCommands_->Open();
             break;
         case COMMAND_ADD_TO_START_MENU:
-            resultCommands->AddToStartMenu();
+            resultCommands_->AddToStartMenu();
             break;
         case COMMAND_DELETE:
-            resultCommands->Delete();
+            resultCommands_->Delete();
             break;
         case COMMAND_RENAME:
-            resultCommands->BeginRename();
+            resultCommands_->BeginRename();
             break;
         case COMMAND_PROPERTIES:
-            resultCommands->ShowProperties();
+            resultCommands_->ShowProperties();
             break;
         default:
             return;
     }
     // A row that was deleted tells nobody that it was selected.
-    if (results->SelectedCount() == 0) EnableResultCommands(false);
+    if (results_->SelectedCount() == 0) EnableResultCommands(false);
 }
 
 // Enter or a double click in the list.
@@ -108,39 +108,39 @@ LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
 // Whoever presses Enter several times to start a search does not mean the file that has just been found: each
 // press that follows the last one so fast belongs to them.
 bool MainWindow::BelongsToSearch(ULONGLONG now) {
-    if (now >= searchKeysEnd) return false;
-    searchKeysEnd = now + GetDoubleClickTime();
+    if (now >= searchKeysEnd_) return false;
+    searchKeysEnd_ = now + GetDoubleClickTime();
     return true;
 }
 
 // The control is told to forget the text: the cell follows the file, not the editing.
 LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
-    resultCommands->EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
+    resultCommands_->EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
     UpdateWindow(Handle());
     return FALSE;
 }
 
 void MainWindow::Find() {
     const bool startedByEnter = GetKeyState(VK_RETURN) < 0;
-    abortDialog->RunModal();
-    searchKeysEnd = startedByEnter ? GetTickCount64() + GetDoubleClickTime() : 0;
+    abortDialog_->RunModal();
+    searchKeysEnd_ = startedByEnter ? GetTickCount64() + GetDoubleClickTime() : 0;
     UpdateWindow(Handle());
-    results->SelectRow(0);
-    if (results->SelectedCount() == 0) EnableResultCommands(false);
-    FocusOn(*results);
-    if (closeAfterSearch) PostMessageW(Handle(), WM_CLOSE, 0, 0);
+    results_->SelectRow(0);
+    if (results_->SelectedCount() == 0) EnableResultCommands(false);
+    FocusOn(*results_);
+    if (closeAfterSearch_) PostMessageW(Handle(), WM_CLOSE, 0, 0);
 }
 
 LRESULT MainWindow::OnSearchRun(EventArguments&) {
-    const PageConditions source(*namePage, *datePage, *sizePage, Menu());
-    results->BeginFilling();
-    RunSearch(conditions, source, *results, *abortDialog);
-    results->EndFilling();
+    const PageConditions source(*namePage_, *datePage_, *sizePage_, Menu());
+    results_->BeginFilling();
+    RunSearch(conditions_, source, *results_, *abortDialog_);
+    results_->EndFilling();
     return 0;
 }
 
 void MainWindow::SetResultView(UINT command, DWORD view) {
-    results->SetView(view);
+    results_->SetView(view);
     CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, command, MF_BYCOMMAND);
 }
 
@@ -162,7 +162,7 @@ LRESULT MainWindow::OnResultChanged(EventArguments& arguments) {
     const bool isSelected = (change.uNewState & LVIS_SELECTED) != 0;
     if (!wasSelected && isSelected) {
         EnableResultCommands(true);
-    } else if (wasSelected && !isSelected && results->SelectedCount() == 0) {
+    } else if (wasSelected && !isSelected && results_->SelectedCount() == 0) {
         EnableResultCommands(false);
     }
     return 0;

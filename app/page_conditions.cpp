@@ -3,5 +3,5 @@
 #include "app/case_option.h"
 
 std::uint32_t PageConditions::CaseOptionState() const {
-    return ::CaseOptionState(menu);
+    return ::CaseOptionState(menu_);
 }

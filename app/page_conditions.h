@@ -11,25 +11,25 @@ class PageConditions final : public ConditionSource {
   public:
     // The pages stay the caller's; the menu may be null.
     PageConditions(const NamePage& name, const DatePage& date, const SizePage& size, HMENU optionMenu)
-        : namePage(name), datePage(date), sizePage(size), menu(optionMenu) {}
+        : namePage_(name), datePage_(date), sizePage_(size), menu_(optionMenu) {}
 
-    void LocationText(wchar_t (&text)[MAX_PATH]) const override { namePage.LocationText(text); }
-    void NameText(wchar_t (&text)[MAX_PATH]) const override { namePage.NameText(text); }
-    void ContentText(wchar_t (&text)[ContentTextSize]) const override { namePage.ContentText(text); }
-    [[nodiscard]] bool SubFoldersChecked() const override { return namePage.SubFoldersChecked(); }
+    void LocationText(wchar_t (&text)[MAX_PATH]) const override { namePage_.LocationText(text); }
+    void NameText(wchar_t (&text)[MAX_PATH]) const override { namePage_.NameText(text); }
+    void ContentText(wchar_t (&text)[ContentTextSize]) const override { namePage_.ContentText(text); }
+    [[nodiscard]] bool SubFoldersChecked() const override { return namePage_.SubFoldersChecked(); }
     [[nodiscard]] bool DateRangeChosen(DateRange& range) const override {
-        return datePage.DateRangeChosen(range);
+        return datePage_.DateRangeChosen(range);
     }
-    [[nodiscard]] int TypeIndex() const override { return sizePage.TypeIndex(); }
-    void TypeExtensions(wchar_t (&text)[MAX_PATH]) const override { sizePage.TypeExtensions(text); }
+    [[nodiscard]] int TypeIndex() const override { return sizePage_.TypeIndex(); }
+    void TypeExtensions(wchar_t (&text)[MAX_PATH]) const override { sizePage_.TypeExtensions(text); }
     [[nodiscard]] SizeAnswer SizeBound(std::uint32_t& bound) const override {
-        return sizePage.SizeBound(bound);
+        return sizePage_.SizeBound(bound);
     }
     [[nodiscard]] std::uint32_t CaseOptionState() const override;
 
   private:
-    const NamePage& namePage;
-    const DatePage& datePage;
-    const SizePage& sizePage;
-    HMENU menu;
+    const NamePage& namePage_;
+    const DatePage& datePage_;
+    const SizePage& sizePage_;
+    HMENU menu_;
 };

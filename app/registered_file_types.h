@@ -7,14 +7,14 @@
 
 class RegisteredFileTypes final : public FileTypeList {
   public:
-    [[nodiscard]] int Count() const override { return table.Count(); }
+    [[nodiscard]] int Count() const override { return table_.Count(); }
     [[nodiscard]] const wchar_t* Description(int index) const override {
-        return table.At(index).description.c_str();
+        return table_.At(index).description.c_str();
     }
     [[nodiscard]] const wchar_t* Extensions(int index) const override {
-        return table.At(index).extensions.c_str();
+        return table_.At(index).extensions.c_str();
     }
 
   private:
-    FileTypeTable table;
+    FileTypeTable table_;
 };

@@ -6,20 +6,20 @@
 
 StringObject::StringObject(const wchar_t* source) {
     const std::size_t units = std::wcslen(source);
-    text = new (std::nothrow) wchar_t[units + 1];
-    if (text != nullptr) {
-        std::wmemcpy(text, source, units + 1);
-        length = static_cast<std::uint32_t>(units);
+    text_ = new (std::nothrow) wchar_t[units + 1];
+    if (text_ != nullptr) {
+        std::wmemcpy(text_, source, units + 1);
+        length_ = static_cast<std::uint32_t>(units);
     }
 }
 
 StringObject::~StringObject() {
-    delete[] text;
+    delete[] text_;
 }
 
 StringObject* StringObject::Create(const wchar_t* source) {
     auto* const object = new (std::nothrow) StringObject(source);
-    if (object != nullptr && object->text == nullptr) {
+    if (object != nullptr && object->text_ == nullptr) {
         delete object;
         return nullptr;
     }
@@ -36,9 +36,9 @@ class ObjectList::Node final : public ListObject {
 };
 
 ObjectList::~ObjectList() {
-    while (head != nullptr) {
-        Node* const first = head;
-        head = first->next;
+    while (head_ != nullptr) {
+        Node* const first = head_;
+        head_ = first->next;
         delete first;
     }
 }
@@ -46,31 +46,31 @@ ObjectList::~ObjectList() {
 bool ObjectList::Append(ListObject* item) {
     auto* const node = new (std::nothrow) Node(item);
     if (node == nullptr) return false;
-    if (tail != nullptr) {
-        tail->next = node;
+    if (tail_ != nullptr) {
+        tail_->next = node;
     } else {
-        head = node;
+        head_ = node;
     }
-    tail = node;
-    cursor = node;
-    ++count;
+    tail_ = node;
+    cursor_ = node;
+    ++count_;
     return true;
 }
 
 ListObject* ObjectList::First() {
-    cursor = head;
-    return cursor != nullptr ? cursor->item : nullptr;
+    cursor_ = head_;
+    return cursor_ != nullptr ? cursor_->item : nullptr;
 }
 
 ListObject* ObjectList::Next() {
-    if (cursor == nullptr || cursor->next == nullptr) return nullptr;
-    cursor = cursor->next;
-    return cursor->item;
+    if (cursor_ == nullptr || cursor_->next == nullptr) return nullptr;
+    cursor_ = cursor_->next;
+    return cursor_->item;
 }
 
 ListObject* ObjectList::ItemAt(std::uint32_t n) {
-    cursor = head;
-    for (std::uint32_t step = 0; step < n && cursor != nullptr; ++step)
-        cursor = cursor->next;
-    return cursor != nullptr ? cursor->item : nullptr;
+    cursor_ = head_;
+    for (std::uint32_t step = 0; step < n && cursor_ != nullptr; ++step)
+        cursor_ = cursor_->next;
+    return cursor_ != nullptr ? cursor_->item : nullptr;
 }

@@ -25,12 +25,12 @@ class StringObject final : public ListObject {
     [[nodiscard]] static StringObject* Create(const wchar_t* source);
 
     // Units without the terminator.
-    std::uint32_t Length() const { return length; }
-    const wchar_t* Text() const { return text != nullptr ? text : L""; }
+    std::uint32_t Length() const { return length_; }
+    const wchar_t* Text() const { return text_ != nullptr ? text_ : L""; }
 
   private:
-    std::uint32_t length = 0;
-    wchar_t* text = nullptr;
+    std::uint32_t length_ = 0;
+    wchar_t* text_ = nullptr;
 };
 
 class ObjectList {
@@ -54,13 +54,13 @@ class ObjectList {
     // Puts the cursor on the n-th item, counted from 0, and returns it; null when the list ends before.
     ListObject* ItemAt(std::uint32_t n);
 
-    std::uint32_t Count() const { return count; }
+    std::uint32_t Count() const { return count_; }
 
   private:
     class Node;
 
-    std::uint32_t count = 0;
-    Node* head = nullptr;
-    Node* tail = nullptr;
-    Node* cursor = nullptr;
+    std::uint32_t count_ = 0;
+    Node* head_ = nullptr;
+    Node* tail_ = nullptr;
+    Node* cursor_ = nullptr;
 };

@@ -2,28 +2,29 @@
 
 bool RegistryKey::Open(const wchar_t* path) {
     Close();
-    if (ce::RegOpenKeyExW(root, path, 0, KEY_ALL_ACCESS, &key) == ERROR_SUCCESS) return true;
-    key = nullptr;
+    if (ce::RegOpenKeyExW(root_, path, 0, KEY_ALL_ACCESS, &key_) == ERROR_SUCCESS) return true;
+    key_ = nullptr;
     return false;
 }
 
 bool RegistryKey::Create(const wchar_t* path) {
     Close();
-    const LONG error = ce::RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    const LONG error =
+        ce::RegCreateKeyExW(root_, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
     if (error == ERROR_SUCCESS) return true;
-    key = nullptr;
+    key_ = nullptr;
     return false;
 }
 
 void RegistryKey::Close() {
-    if (key != nullptr) RegCloseKey(key);
-    key = nullptr;
+    if (key_ != nullptr) RegCloseKey(key_);
+    key_ = nullptr;
 }
 
 bool RegistryKey::QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const {
     DWORD type = REG_NONE;
     DWORD size = sizeInBytes;
-    if (ce::RegQueryValueExW(key, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) !=
+    if (ce::RegQueryValueExW(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) !=
         ERROR_SUCCESS) {
         buffer[0] = L'\0';
         return false;

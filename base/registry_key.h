@@ -6,7 +6,7 @@
 
 class RegistryKey {
   public:
-    explicit RegistryKey(HKEY rootKey) : root(rootKey) {}
+    explicit RegistryKey(HKEY rootKey) : root_(rootKey) {}
     ~RegistryKey() { Close(); }
     RegistryKey(const RegistryKey&) = delete;
     RegistryKey& operator=(const RegistryKey&) = delete;
@@ -21,11 +21,11 @@ class RegistryKey {
     // it; others are left as read.
     bool QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const;
 
-    [[nodiscard]] HKEY Handle() const { return key; }
+    [[nodiscard]] HKEY Handle() const { return key_; }
 
   private:
-    HKEY root;
-    HKEY key = nullptr;
+    HKEY root_;
+    HKEY key_ = nullptr;
 };
 
 // Both return the registry's error code, 0 for success. A value of another type or size is read as far as it

@@ -17,12 +17,12 @@ HWND MakeScreen() {
 
 BenchList::BenchList() {
     GlobalsForStartUp().instance = GetModuleHandleW(nullptr);
-    application = std::make_unique<Application>(L"QuorinSearch", 0, nullptr);
+    application_ = std::make_unique<Application>(L"QuorinSearch", 0, nullptr);
     const INITCOMMONCONTROLSEX listView = {sizeof(listView), ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&listView);
-    screen = std::make_unique<WindowObject>(nullptr, MakeScreen(), Ownership::Owned);
+    screen_ = std::make_unique<WindowObject>(nullptr, MakeScreen(), Ownership::Owned);
     PropertySet properties;
     properties.Add(property::Width, ScreenWidth);
     properties.Add(property::Height, ScreenHeight);
-    list = std::make_unique<ResultList>(screen.get(), properties);
+    list_ = std::make_unique<ResultList>(screen_.get(), properties);
 }

@@ -9,12 +9,12 @@ class BenchList {
   public:
     BenchList();
 
-    [[nodiscard]] ResultList& List() { return *list; }
-    [[nodiscard]] HWND Handle() const { return list->Handle(); }
-    [[nodiscard]] WindowObject& Screen() { return *screen; }
+    [[nodiscard]] ResultList& List() { return *list_; }
+    [[nodiscard]] HWND Handle() const { return list_->Handle(); }
+    [[nodiscard]] WindowObject& Screen() { return *screen_; }
 
   private:
-    std::unique_ptr<Application> application;
-    std::unique_ptr<WindowObject> screen;
-    std::unique_ptr<ResultList> list;
+    std::unique_ptr<Application> application_;
+    std::unique_ptr<WindowObject> screen_;
+    std::unique_ptr<ResultList> list_;
 };

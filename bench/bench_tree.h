@@ -8,22 +8,22 @@
 
 class BenchTree {
   public:
-    explicit BenchTree(std::wstring folder) : root(std::move(folder)) {}
+    explicit BenchTree(std::wstring folder) : root_(std::move(folder)) {}
 
     // 20,000 files in 500 folders, for the walk and the rows.
-    [[nodiscard]] std::wstring Files() const { return root + L"\\files"; }
+    [[nodiscard]] std::wstring Files() const { return root_ + L"\\files"; }
     // As many folders, for the folder browser.
-    [[nodiscard]] std::wstring Folders() const { return root + L"\\folders"; }
+    [[nodiscard]] std::wstring Folders() const { return root_ + L"\\folders"; }
     // 100 MB of text each, in 4 files and in 10,000.
-    [[nodiscard]] std::wstring LargeTexts() const { return root + L"\\texts\\large"; }
-    [[nodiscard]] std::wstring SmallTexts() const { return root + L"\\texts\\small"; }
+    [[nodiscard]] std::wstring LargeTexts() const { return root_ + L"\\texts\\large"; }
+    [[nodiscard]] std::wstring SmallTexts() const { return root_ + L"\\texts\\small"; }
     // A few files of many kinds.
-    [[nodiscard]] std::wstring Kinds() const { return root + L"\\kinds"; }
+    [[nodiscard]] std::wstring Kinds() const { return root_ + L"\\kinds"; }
     // The names of a real machine's files.
-    [[nodiscard]] std::wstring Real() const { return root + L"\\real"; }
+    [[nodiscard]] std::wstring Real() const { return root_ + L"\\real"; }
 
   private:
-    std::wstring root;
+    std::wstring root_;
 };
 
 // How many entries stand below the folder, by one pass of the system's own enumeration.

@@ -80,50 +80,50 @@ class DialogJob : public WindowObject {
 // Adds up the time that passes between its making and its end.
 class Stopwatch {
   public:
-    explicit Stopwatch(double& milliseconds) : sum(milliseconds), begin(MillisecondsNow()) {}
+    explicit Stopwatch(double& milliseconds) : sum_(milliseconds), begin_(MillisecondsNow()) {}
     Stopwatch(const Stopwatch&) = delete;
     Stopwatch& operator=(const Stopwatch&) = delete;
-    ~Stopwatch() { sum += MillisecondsNow() - begin; }
+    ~Stopwatch() { sum_ += MillisecondsNow() - begin_; }
 
   private:
-    double& sum;
-    double begin;
+    double& sum_;
+    double begin_;
 };
 
 // The list and the dialog, with what drawing in them takes. Reading the clock for it counts as drawing.
 class TimedDrawing final : public MatchSink, public SearchProgress {
   public:
-    TimedDrawing(ResultList& realList, AbortDialog& realDialog) : list(realList), dialog(realDialog) {}
+    TimedDrawing(ResultList& realList, AbortDialog& realDialog) : list_(realList), dialog_(realDialog) {}
 
-    void Clear() override { list.Clear(); }
+    void Clear() override { list_.Clear(); }
     void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override {
-        list.AddMatch(fullPath, entry);
+        list_.AddMatch(fullPath, entry);
     }
     void Refresh() override {
         const Stopwatch watch(drawing);
         ++looks;
-        list.Refresh();
+        list_.Refresh();
     }
     void EnterFolder(const wchar_t* folder) override {
         const Stopwatch watch(drawing);
-        dialog.EnterFolder(folder);
+        dialog_.EnterFolder(folder);
     }
     bool StopRequested() override {
         const Stopwatch watch(drawing);
-        return dialog.StopRequested();
+        return dialog_.StopRequested();
     }
     void Finish() {
         const Stopwatch watch(drawing);
-        list.EndFilling();
-        UpdateWindow(list.Handle());
+        list_.EndFilling();
+        UpdateWindow(list_.Handle());
     }
 
     double drawing = 0;
     int looks = 0;
 
   private:
-    ResultList& list;
-    AbortDialog& dialog;
+    ResultList& list_;
+    AbortDialog& dialog_;
 };
 
 double MillisecondsOfALook() {

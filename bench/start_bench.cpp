@@ -24,7 +24,7 @@ std::wstring FolderOfThisProgram() {
 class StartedProgram {
   public:
     StartedProgram(std::wstring executable, const wchar_t* mainWindowClass)
-        : path(std::move(executable)), windowClass(mainWindowClass) {}
+        : path_(std::move(executable)), windowClass_(mainWindowClass) {}
 
     // From the making of the process until it waits for input, having painted everything that was to be
     // painted.
@@ -32,38 +32,38 @@ class StartedProgram {
         STARTUPINFOW startup = {};
         startup.cb = sizeof(startup);
         PROCESS_INFORMATION started = {};
-        if (!CreateProcessW(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+        if (!CreateProcessW(path_.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                             &started)) {
-            failed = true;
+            failed_ = true;
             return;
         }
         CloseHandle(started.hThread);
-        process = started.hProcess;
-        if (WaitForInputIdle(process, Patience) != 0) failed = true;
+        process_ = started.hProcess;
+        if (WaitForInputIdle(process_, Patience) != 0) failed_ = true;
     }
 
     void End() {
-        if (process == nullptr) return;
-        const HWND window = FindWindowW(windowClass, nullptr);
+        if (process_ == nullptr) return;
+        const HWND window = FindWindowW(windowClass_, nullptr);
         if (window == nullptr || !IsWindowVisible(window) || GetUpdateRect(window, nullptr, FALSE))
-            failed = true;
+            failed_ = true;
         PostMessageW(window, WM_CLOSE, 0, 0);
-        if (window == nullptr || WaitForSingleObject(process, Patience) != WAIT_OBJECT_0) {
-            failed = true;
-            TerminateProcess(process, 1);
+        if (window == nullptr || WaitForSingleObject(process_, Patience) != WAIT_OBJECT_0) {
+            failed_ = true;
+            TerminateProcess(process_, 1);
         }
-        CloseHandle(process);
-        process = nullptr;
+        CloseHandle(process_);
+        process_ = nullptr;
         Sleep(SettlingTime);
     }
 
-    [[nodiscard]] bool Failed() const { return failed; }
+    [[nodiscard]] bool Failed() const { return failed_; }
 
   private:
-    std::wstring path;
-    const wchar_t* windowClass;
-    HANDLE process = nullptr;
-    bool failed = false;
+    std::wstring path_;
+    const wchar_t* windowClass_;
+    HANDLE process_ = nullptr;
+    bool failed_ = false;
 };
 
 bool PrintSize(const std::wstring& path) {

@@ -84,7 +84,7 @@ LRESULT DatePage::OnPast(EventArguments&) {
 }
 
 LRESULT DatePage::OnCalendarOpened(EventArguments& arguments) {
-    calendar.Fit(Item(static_cast<int>(arguments.extra)));
+    calendar_.Fit(Item(static_cast<int>(arguments.extra)));
     return 0;
 }
 

@@ -28,7 +28,7 @@ class DatePage : public ConditionPage {
     void EnableDays(bool enable);
     [[nodiscard]] SYSTEMTIME PickedDate(int picker) const;
 
-    ce::DroppedCalendar calendar;
+    ce::DroppedCalendar calendar_;
 };
 
 // The same day three months earlier, whether that month has the day or not.

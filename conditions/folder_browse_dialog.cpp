@@ -3,13 +3,13 @@
 #include <new>
 
 #include "base/language.h"
+#include "base/root_name.h"
 #include "conditions/folder_tree.h"
 #include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
 #include "framework/wait_cursor.h"
-#include "base/root_name.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -21,19 +21,19 @@ constexpr int TreeIcons[] = {ICON_DEVICE, ICON_FOLDER, ICON_OPEN_FOLDER};
 
 FolderBrowseDialog::FolderBrowseDialog(WindowObject* parentObject, const wchar_t* captionText)
     : Dialog(parentObject, TemplateProperties(InLanguage(L"EBrowseDialog_E", L"EBrowseDialog_J"))),
-      caption(captionText) {
+      caption_(captionText) {
     OnCommand(IDOK, this, &FolderBrowseDialog::OnOk);
 }
 
 FolderBrowseDialog::~FolderBrowseDialog() {
-    if (folderImages != nullptr) ImageList_Destroy(folderImages);
+    if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
 }
 
 LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
-    chosenPath.reset();
-    SetWindowTextW(Handle(), caption);
+    chosenPath_.reset();
+    SetWindowTextW(Handle(), caption_);
     KeepTitleLineFree(Handle());
-    folderTree = DialogItem(*this, TREE_FOLDERS);
+    folderTree_ = DialogItem(*this, TREE_FOLDERS);
     WatchTreeKeys();
     LoadImages();
     BuildTree();
@@ -59,16 +59,16 @@ void FolderBrowseDialog::CentreOnMainWindow() {
 }
 
 void FolderBrowseDialog::WatchTreeKeys() {
-    treeKeys.reset(new (std::nothrow) Control(this, folderTree, WC_TREEVIEWW));
-    if (treeKeys == nullptr) return;
-    treeKeys->Subclass();
-    treeKeys->OnMessage(WM_SYSKEYDOWN, this, &FolderBrowseDialog::OnTreeSystemKey);
+    treeKeys_.reset(new (std::nothrow) Control(this, folderTree_, WC_TREEVIEWW));
+    if (treeKeys_ == nullptr) return;
+    treeKeys_->Subclass();
+    treeKeys_->OnMessage(WM_SYSKEYDOWN, this, &FolderBrowseDialog::OnTreeSystemKey);
 }
 
 // Not every system's tree lets through the key that closes a window.
 LRESULT FolderBrowseDialog::OnTreeSystemKey(MessageRecord& record) {
-    if (record.wParam != VK_F4) return treeKeys->DefaultProcessing(record);
-    return DefWindowProcW(folderTree, record.message, record.wParam, record.lParam);
+    if (record.wParam != VK_F4) return treeKeys_->DefaultProcessing(record);
+    return DefWindowProcW(folderTree_, record.message, record.wParam, record.lParam);
 }
 
 // Down to the menu bar, with the margin that the template leaves beside it.
@@ -76,23 +76,23 @@ void FolderBrowseDialog::StretchTree() {
     RECT client{};
     RECT tree{};
     GetClientRect(Handle(), &client);
-    GetWindowRect(folderTree, &tree);
+    GetWindowRect(folderTree_, &tree);
     MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&tree), 2);
     const LONG bottom = client.bottom - ce::MenuBarHeight - tree.left;
     const LONG right = client.right - tree.left;
-    MoveWindow(folderTree, tree.left, tree.top, right - tree.left, bottom - tree.top, TRUE);
+    MoveWindow(folderTree_, tree.left, tree.top, right - tree.left, bottom - tree.top, TRUE);
 }
 
 void FolderBrowseDialog::LoadImages() {
-    if (folderImages != nullptr) ImageList_Destroy(folderImages);
-    folderImages = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
+    if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
+    folderImages_ = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
     for (const int id : TreeIcons) {
         const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
                                                         ImageSize, ImageSize, LR_DEFAULTCOLOR));
-        ImageList_ReplaceIcon(folderImages, -1, icon);
+        ImageList_ReplaceIcon(folderImages_, -1, icon);
         if (icon != nullptr) DestroyIcon(icon);
     }
-    SendMessageW(folderTree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages));
+    SendMessageW(folderTree_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages_));
 }
 
 // The whole tree at once, so that it can then be browsed without the file system.
@@ -100,26 +100,26 @@ void FolderBrowseDialog::BuildTree() {
     wchar_t rootName[MAX_PATH];
     RootDisplayName(rootName);
     HTREEITEM root = nullptr;
-    SendMessageW(folderTree, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(folderTree_, WM_SETREDRAW, FALSE, 0);
     {
         const WaitCursor waiting;
-        root = FillFolderTree(folderTree, rootName);
+        root = FillFolderTree(folderTree_, rootName);
     }
-    SendMessageW(folderTree, WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(folderTree, nullptr, TRUE);
-    SendMessageW(folderTree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
+    SendMessageW(folderTree_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(folderTree_, nullptr, TRUE);
+    SendMessageW(folderTree_, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
 }
 
 // With nothing selected the dialog stays open.
 LRESULT FolderBrowseDialog::OnOk(EventArguments&) {
     const auto selected =
-        reinterpret_cast<HTREEITEM>(SendMessageW(folderTree, TVM_GETNEXTITEM, TVGN_CARET, 0));
+        reinterpret_cast<HTREEITEM>(SendMessageW(folderTree_, TVM_GETNEXTITEM, TVGN_CARET, 0));
     if (selected == nullptr) return 0;
     wchar_t path[MAX_PATH];
-    if (!PathOfItem(folderTree, selected, path)) return 0;
-    chosenPath.reset(new (std::nothrow) wchar_t[MAX_PATH]);
-    if (chosenPath == nullptr) return 0;
-    std::copy(std::begin(path), std::end(path), chosenPath.get());
+    if (!PathOfItem(folderTree_, selected, path)) return 0;
+    chosenPath_.reset(new (std::nothrow) wchar_t[MAX_PATH]);
+    if (chosenPath_ == nullptr) return 0;
+    std::copy(std::begin(path), std::end(path), chosenPath_.get());
     End(ResultOk);
     return 0;
 }

@@ -14,7 +14,7 @@ class FolderBrowseDialog : public Dialog {
 
     // The result of the last run: null unless it ended with OK and a folder selected. A terminated path of at
     // most 259 units that begins with "\" and does not end in one, unless it is the root itself.
-    [[nodiscard]] const wchar_t* ChosenPath() const { return chosenPath.get(); }
+    [[nodiscard]] const wchar_t* ChosenPath() const { return chosenPath_.get(); }
 
   protected:
     LRESULT OnInitDialog(MessageRecord& record) override;
@@ -29,9 +29,9 @@ class FolderBrowseDialog : public Dialog {
     void LoadImages();
     void BuildTree();
 
-    const wchar_t* caption;
-    std::unique_ptr<wchar_t[]> chosenPath;
-    HWND folderTree = nullptr;
-    std::unique_ptr<WindowObject> treeKeys;
-    HIMAGELIST folderImages = nullptr;
+    const wchar_t* caption_;
+    std::unique_ptr<wchar_t[]> chosenPath_;
+    HWND folderTree_ = nullptr;
+    std::unique_ptr<WindowObject> treeKeys_;
+    HIMAGELIST folderImages_ = nullptr;
 };

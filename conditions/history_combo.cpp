@@ -15,20 +15,20 @@ int MaximumOf(const PropertySet& properties) {
 
 HistoryCombo::HistoryCombo(WindowObject* parentObject, HWND existing, const PropertySet& properties)
     : ComboBox(parentObject, existing),
-      maximum(MaximumOf(properties)),
-      refuseEmpty(properties.Has(property::RefuseEmpty)) {
+      maximum_(MaximumOf(properties)),
+      refuseEmpty_(properties.Has(property::RefuseEmpty)) {
     if (properties.Has(property::TabNotification)) TurnOnTabNotification();
 }
 
 bool HistoryCombo::AddToHistory(const wchar_t* text) {
-    if (refuseEmpty && text[0] == L'\0') return false;
+    if (refuseEmpty_ && text[0] == L'\0') return false;
     const auto textParameter = reinterpret_cast<LPARAM>(text);
     // Deliberately an entry that only begins with the text: adding \Data removes \Data\Old. The search starts
     // after entry 0, which is looked at last.
     const int older = ce::FindComboEntry(Handle(), 0, text);
     if (older != CB_ERR) SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(older), 0);
-    if (SendMessageW(Handle(), CB_GETCOUNT, 0, 0) + 1 >= maximum) {
-        SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(maximum), 0);
+    if (SendMessageW(Handle(), CB_GETCOUNT, 0, 0) + 1 >= maximum_) {
+        SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(maximum_), 0);
     }
     SendMessageW(Handle(), CB_INSERTSTRING, 0, textParameter);
     SendMessageW(Handle(), CB_SETCURSEL, 0, 0);

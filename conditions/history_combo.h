@@ -14,6 +14,6 @@ class HistoryCombo : public ComboBox {
     bool AddToHistory(const wchar_t* text);
 
   private:
-    int maximum;
-    bool refuseEmpty;
+    int maximum_;
+    bool refuseEmpty_;
 };

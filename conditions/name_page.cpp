@@ -3,12 +3,12 @@
 #include <cwchar>
 #include <iterator>
 
+#include "base/format_text.h"
 #include "base/language.h"
+#include "base/registry_key.h"
 #include "conditions/folder_browse_dialog.h"
 #include "conditions/search_history.h"
 #include "framework/property_keys.h"
-#include "base/format_text.h"
-#include "base/registry_key.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -29,26 +29,26 @@ struct SubKeyPath {
 
 NamePage::NamePage(WindowObject* parentObject, HWND findTarget)
     : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Name_E", L"Name_J"))),
-      searchWindow(findTarget) {}
+      searchWindow_(findTarget) {}
 
 void NamePage::SetUpControls() {
     PropertySet comboProperties;
     comboProperties.Set(property::TabNotification, 1);
 
-    name = std::make_unique<HistoryCombo>(this, Item(COMBO_NAME), comboProperties);
-    name->OnNotification(event::TabKey, this, &NamePage::OnTabInName);
-    name->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_NAME);
-    name->AddToHistory(L"*.txt");
-    name->AddToHistory(L"*.log");
+    name_ = std::make_unique<HistoryCombo>(this, Item(COMBO_NAME), comboProperties);
+    name_->OnNotification(event::TabKey, this, &NamePage::OnTabInName);
+    name_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_NAME);
+    name_->AddToHistory(L"*.txt");
+    name_->AddToHistory(L"*.log");
 
     SendToItem(EDIT_CONTENT, EM_LIMITTEXT, ContentLimit);
 
-    location = std::make_unique<HistoryCombo>(this, Item(COMBO_LOCATION), comboProperties);
-    location->OnNotification(event::TabKey, this, &NamePage::OnTabInLocation);
-    location->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_LOCATION);
+    location_ = std::make_unique<HistoryCombo>(this, Item(COMBO_LOCATION), comboProperties);
+    location_->OnNotification(event::TabKey, this, &NamePage::OnTabInLocation);
+    location_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_LOCATION);
 
-    content = std::make_unique<TextField>(this, Item(EDIT_CONTENT));
-    content->OnNotification(event::EnterKey, this, &NamePage::OnEnterInContent);
+    content_ = std::make_unique<TextField>(this, Item(EDIT_CONTENT));
+    content_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInContent);
 
     OnCommand(BUTTON_BROWSE, this, &NamePage::OnBrowse);
 }
@@ -60,8 +60,8 @@ void NamePage::Reset() {
 
 void NamePage::LoadSettings(const wchar_t* registryPath) {
     if (Handle() == nullptr) return;
-    LoadHistory(*name, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
-    LoadHistory(*location, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
+    LoadHistory(*name_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
+    LoadHistory(*location_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
     DWORD subFolders = 0;
     if (ReadRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, subFolders) != ERROR_SUCCESS)
         subFolders = 0;
@@ -70,8 +70,8 @@ void NamePage::LoadSettings(const wchar_t* registryPath) {
 
 void NamePage::SaveSettings(const wchar_t* registryPath) const {
     if (Handle() == nullptr) return;
-    SaveHistory(*name, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
-    SaveHistory(*location, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
+    SaveHistory(*name_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
+    SaveHistory(*location_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
     WriteRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, SubFoldersChecked() ? 1 : 0);
 }
 
@@ -92,7 +92,7 @@ bool NamePage::SubFoldersChecked() const {
 }
 
 LRESULT NamePage::OnEnterInCombo(EventArguments& arguments) {
-    HistoryCombo& combo = arguments.extra == COMBO_NAME ? *name : *location;
+    HistoryCombo& combo = arguments.extra == COMBO_NAME ? *name_ : *location_;
     wchar_t text[MAX_PATH] = L"";
     GetWindowTextW(combo.Handle(), text, MAX_PATH);
     combo.AddToHistory(text);
@@ -123,11 +123,11 @@ LRESULT NamePage::OnTabInLocation(EventArguments& arguments) {
 LRESULT NamePage::OnBrowse(EventArguments&) {
     FolderBrowseDialog browser(this, InLanguage(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"));
     if (browser.RunModal() != ResultOk || browser.ChosenPath() == nullptr) return 0;
-    location->AddToHistory(browser.ChosenPath());
-    SetWindowTextW(location->Handle(), browser.ChosenPath());
+    location_->AddToHistory(browser.ChosenPath());
+    SetWindowTextW(location_->Handle(), browser.ChosenPath());
     return 0;
 }
 
 void NamePage::StartSearch() {
-    PostMessageW(searchWindow, WM_COMMAND, COMMAND_FIND, 0);
+    PostMessageW(searchWindow_, WM_COMMAND, COMMAND_FIND, 0);
 }

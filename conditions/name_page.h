@@ -37,8 +37,8 @@ class NamePage : public ConditionPage {
 
     void StartSearch();
 
-    HWND searchWindow;
-    std::unique_ptr<HistoryCombo> name;
-    std::unique_ptr<HistoryCombo> location;
-    std::unique_ptr<TextField> content;
+    HWND searchWindow_;
+    std::unique_ptr<HistoryCombo> name_;
+    std::unique_ptr<HistoryCombo> location_;
+    std::unique_ptr<TextField> content_;
 };

@@ -12,7 +12,7 @@ constexpr WORD LargestKilobytes = 32767;
 }  // namespace
 
 SizePage::SizePage(WindowObject* parentObject, const FileTypeList* types)
-    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Size_E", L"Size_J"))), fileTypes(types) {}
+    : ConditionPage(parentObject, TemplateProperties(InLanguage(L"Size_E", L"Size_J"))), fileTypes_(types) {}
 
 void SizePage::SetUpControls() {
     for (const wchar_t* entry : {L"", InLanguage(L"Min", L"最低"), InLanguage(L"Max", L"最高")}) {
@@ -31,9 +31,9 @@ void SizePage::FillFileTypes() {
                    reinterpret_cast<LPARAM>(extensions));
     };
     insert(0, InLanguage(L"All files and folders", L"すべてのﾌｧｲﾙとﾌｫﾙﾀﾞ"), L".*");
-    const int count = fileTypes != nullptr ? fileTypes->Count() : 0;
+    const int count = fileTypes_ != nullptr ? fileTypes_->Count() : 0;
     for (int i = 0; i < count; ++i)
-        insert(i + 1, fileTypes->Description(i), fileTypes->Extensions(i));
+        insert(i + 1, fileTypes_->Description(i), fileTypes_->Extensions(i));
     SendToItem(COMBO_FILE_TYPE, CB_SETCURSEL, 0);
 }
 

@@ -25,5 +25,5 @@ class SizePage : public ConditionPage {
   private:
     void FillFileTypes();
 
-    const FileTypeList* fileTypes;
+    const FileTypeList* fileTypes_;
 };

@@ -35,7 +35,7 @@ const wchar_t* MultipleFileReplaceTemplate() {
 
 ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const wchar_t* name, QuestionRoutine fillRoutine,
                                        const void* fillArgument)
-    : Dialog(owner, TemplateProperties(name)), fill(fillRoutine), argument(fillArgument) {
+    : Dialog(owner, TemplateProperties(name)), fill_(fillRoutine), argument_(fillArgument) {
     OnInitialise(this, &ConfirmationDialog::OnFill);
     for (const UINT answer : Answers)
         OnCommand(answer, this, &ConfirmationDialog::OnAnswer, answer);
@@ -48,10 +48,10 @@ ConfirmationDialog::~ConfirmationDialog() {
 }
 
 ConfirmResult ConfirmationDialog::Ask() {
-    answered = false;
+    answered_ = false;
     const INT_PTR result = RunModal();
     // The program's end closes the dialog as if by its default button, which is Yes.
-    return answered ? static_cast<ConfirmResult>(result) : ConfirmResult::Cancel;
+    return answered_ ? static_cast<ConfirmResult>(result) : ConfirmResult::Cancel;
 }
 
 LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
@@ -65,10 +65,10 @@ LRESULT ConfirmationDialog::OnFill(EventArguments&) {
     HICON before[FileIcons];
     for (int i = 0; i < FileIcons; ++i)
         before[i] = IconIn(Handle(), FileIconStatics[i]);
-    fill(Handle(), argument);
+    fill_(Handle(), argument_);
     for (int i = 0; i < FileIcons; ++i) {
         const HICON now = IconIn(Handle(), FileIconStatics[i]);
-        fileIcons[i] = now != before[i] ? now : nullptr;
+        fileIcons_[i] = now != before[i] ? now : nullptr;
     }
     KeepTitleLineFree(Handle());
     GrowToText(Handle(), STATIC_QUESTION);
@@ -78,19 +78,19 @@ LRESULT ConfirmationDialog::OnFill(EventArguments&) {
 
 // A static frees no icon that it was given, and the shell hands out copies.
 void ConfirmationDialog::FreeFileIcons() {
-    for (HICON& icon : fileIcons) {
+    for (HICON& icon : fileIcons_) {
         if (icon != nullptr) DestroyIcon(icon);
         icon = nullptr;
     }
 }
 
 void ConfirmationDialog::End(INT_PTR result) {
-    if (successor != nullptr) ce::LeaveInputTo(successor, Handle());
+    if (successor_ != nullptr) ce::LeaveInputTo(successor_, Handle());
     Dialog::End(result);
 }
 
 LRESULT ConfirmationDialog::OnAnswer(EventArguments& arguments) {
-    answered = true;
+    answered_ = true;
     End(static_cast<INT_PTR>(arguments.extra));
     return 0;
 }

@@ -27,7 +27,7 @@ class ConfirmationDialog : public Dialog {
     ~ConfirmationDialog() override;
 
     // The window that takes the input when the question has been answered, instead of its owner.
-    void LeaveInputTo(HWND window) { successor = window; }
+    void LeaveInputTo(HWND window) { successor_ = window; }
 
     // Asks; a dialog that cannot be made or that nobody answers counts as Cancel.
     [[nodiscard]] ConfirmResult Ask();
@@ -44,12 +44,12 @@ class ConfirmationDialog : public Dialog {
     LRESULT OnAnswer(EventArguments& arguments);
     void FreeFileIcons();
 
-    QuestionRoutine fill;
-    const void* argument;
-    bool answered = false;
-    HWND successor = nullptr;
+    QuestionRoutine fill_;
+    const void* argument_;
+    bool answered_ = false;
+    HWND successor_ = nullptr;
     // Of the existing and the new file, from the shell; null where the template's own is shown.
-    HICON fileIcons[FileIcons] = {};
+    HICON fileIcons_[FileIcons] = {};
 };
 
 // Builds the question, asks it and destroys it.

@@ -6,9 +6,9 @@
 
 #include "base/language.h"
 #include "fileops/inside_source.h"
-#include "framework/message_boxes.h"
 #include "framework/control.h"
 #include "framework/dialog_template.h"
+#include "framework/message_boxes.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -83,38 +83,38 @@ FileOperation::~FileOperation() = default;
 bool FileOperation::AddSource(const wchar_t* path) {
     PathBuffer copy;
     if (path[0] == L'\0' || !CopyPath(copy, path)) return false;
-    if (sources == nullptr) sources.reset(new (std::nothrow) ObjectList);
-    if (sources == nullptr) return false;
+    if (sources_ == nullptr) sources_.reset(new (std::nothrow) ObjectList);
+    if (sources_ == nullptr) return false;
     StringObject* const item = StringObject::Create(copy);
     if (item == nullptr) return false;
-    if (sources->Append(item)) return true;
+    if (sources_->Append(item)) return true;
     delete item;
     return false;
 }
 
 void FileOperation::ClearSources() {
-    sources.reset();
+    sources_.reset();
 }
 
 bool FileOperation::SetDestination(const wchar_t* path) {
-    return CopyPath(destination, path);
+    return CopyPath(destination_, path);
 }
 
 INT_PTR FileOperation::RunModal() {
-    if (running) return -1;
-    running = true;
-    runBegun = false;
-    closeParentAfterwards = false;
+    if (running_) return -1;
+    running_ = true;
+    runBegun_ = false;
+    closeParentAfterwards_ = false;
     const INT_PTR result = Dialog::RunModal();
-    stopButton.reset();
-    running = false;
-    if (closeParentAfterwards) PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
+    stopButton_.reset();
+    running_ = false;
+    if (closeParentAfterwards_) PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
     // Also when the window went under with its owner, or with the program's end before the run began.
-    return runBegun || result != -1 ? ResultOk : -1;
+    return runBegun_ || result != -1 ? ResultOk : -1;
 }
 
 void FileOperation::StopAndCloseParent() {
-    closeParentAfterwards = true;
+    closeParentAfterwards_ = true;
     StopOrLeave();
     const HWND front = ce::InputWindowOf(Handle());
     if (front != Handle()) PostMessageW(front, WM_CLOSE, 0, 0);
@@ -122,9 +122,9 @@ void FileOperation::StopAndCloseParent() {
 
 LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
     const LRESULT result = Dialog::OnInitDialog(record);
-    stopButton = std::make_unique<Control>(this, DialogItem(*this, BUTTON_STOP), L"Button");
-    stopButton->Subclass();
-    stopButton->OnMessage(WM_KEYDOWN, this, &FileOperation::OnButtonKey);
+    stopButton_ = std::make_unique<Control>(this, DialogItem(*this, BUTTON_STOP), L"Button");
+    stopButton_->Subclass();
+    stopButton_->OnMessage(WM_KEYDOWN, this, &FileOperation::OnButtonKey);
     ShowWindow(Handle(), SW_SHOWNORMAL);
     UpdateWindow(Handle());
     PostMessageW(Handle(), WM_COMMAND, COMMAND_RUN, 0);
@@ -147,7 +147,7 @@ LRESULT FileOperation::OnWmClose(MessageRecord&) {
 // run that has not begun would forget the stop, so the dialog goes at once.
 void FileOperation::StopOrLeave() {
     Stop();
-    if (!runBegun) End(ResultOk);
+    if (!runBegun_) End(ResultOk);
 }
 
 LRESULT FileOperation::OnStop(EventArguments&) {
@@ -159,7 +159,7 @@ LRESULT FileOperation::OnStop(EventArguments&) {
 // it. One that is still down from the answer to a question only repeats itself and stops nothing.
 LRESULT FileOperation::OnButtonKey(MessageRecord& record) {
     if (record.wParam != VK_RETURN && record.wParam != VK_ESCAPE)
-        return stopButton->DefaultProcessing(record);
+        return stopButton_->DefaultProcessing(record);
     if ((HIWORD(record.lParam) & KF_REPEAT) == 0) Stop();
     return 0;
 }
@@ -172,23 +172,23 @@ LRESULT FileOperation::OnWmActivate(MessageRecord& record) {
 
 LRESULT FileOperation::OnRun(EventArguments&) {
     // Once only: a second command that arrives in the middle of the run starts nothing.
-    if (runBegun) return 0;
-    runBegun = true;
+    if (runBegun_) return 0;
+    runBegun_ = true;
     RunFileOperation();
     End(ResultOk);
     return 0;
 }
 
 void FileOperation::RunFileOperation() {
-    abortRequested = false;
+    abortRequested_ = false;
     const OperationTexts* const texts = TextsOf(operation);
     if (texts == nullptr) return;
     SetWindowTextW(Handle(), texts->title.Text());
-    depth = 0;
-    const std::uint32_t count = sources != nullptr ? sources->Count() : 0;
+    depth_ = 0;
+    const std::uint32_t count = sources_ != nullptr ? sources_->Count() : 0;
     for (std::uint32_t i = 0; i < count; ++i) {
-        const wchar_t* const source = static_cast<const StringObject*>(sources->ItemAt(i))->Text();
-        if (operation != FileOperationKind::Delete && IsInsideSource(source, destination)) {
+        const wchar_t* const source = static_cast<const StringObject*>(sources_->ItemAt(i))->Text();
+        if (operation != FileOperationKind::Delete && IsInsideSource(source, destination_)) {
             ShowError(Handle(), SourceIsInside.Text());
             return;
         }
@@ -203,7 +203,7 @@ bool FileOperation::ProcessSource(const wchar_t* path) {
     PathBuffer source;
     PathBuffer target;
     std::wcscpy(source, path);
-    std::wcscpy(target, destination);
+    std::wcscpy(target, destination_);
     switch (operation) {
         case FileOperationKind::Copy:
             return CopyEntry(source, target);

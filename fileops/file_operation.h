@@ -11,9 +11,9 @@
 
 #include <cstdint>
 
+#include "base/object_list.h"
 #include "fileops/confirmation_dialog.h"
 #include "fileops/path_extension.h"
-#include "base/object_list.h"
 
 enum class FileOperationKind : std::uint32_t { Copy, Update, Exclude, Move, Delete };
 
@@ -42,10 +42,10 @@ class FileOperation : public Dialog {
     // fields and the list may not be changed meanwhile.
     INT_PTR RunModal() override;
     // From the dialog's creation until RunModal is about to return.
-    [[nodiscard]] bool IsRunning() const { return running; }
+    [[nodiscard]] bool IsRunning() const { return running_; }
 
     // What the Stop button does: the run ends before the next file. What was done stays done.
-    void Stop() { abortRequested = true; }
+    void Stop() { abortRequested_ = true; }
     // Stops, and closes the parent's window when the run is over. A question that is open is given up, an
     // error box closed.
     void StopAndCloseParent();
@@ -94,14 +94,14 @@ class FileOperation : public Dialog {
     [[nodiscard]] ConfirmResult AskFileReplace(const wchar_t* source, const wchar_t* target);
     [[nodiscard]] ConfirmResult AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument);
 
-    std::unique_ptr<ObjectList> sources;
-    PathBuffer destination = L"";
-    bool abortRequested = false;
+    std::unique_ptr<ObjectList> sources_;
+    PathBuffer destination_ = L"";
+    bool abortRequested_ = false;
     // Of folders below the item of the list that is copied or moved.
-    std::int32_t depth = 0;
+    std::int32_t depth_ = 0;
 
-    bool running = false;
-    bool runBegun = false;
-    bool closeParentAfterwards = false;
-    std::unique_ptr<WindowObject> stopButton;
+    bool running_ = false;
+    bool runBegun_ = false;
+    bool closeParentAfterwards_ = false;
+    std::unique_ptr<WindowObject> stopButton_;
 };

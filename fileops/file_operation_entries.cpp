@@ -1,12 +1,12 @@
 // How the operations walk over files and folders.
 
+#include "base/folder_entries.h"
+#include "base/skipped_names.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_operation.h"
 #include "fileops/folder_path.h"
 #include "fileops/path_kind.h"
 #include "fileops/question_texts.h"
-#include "base/folder_entries.h"
-#include "base/skipped_names.h"
 
 // Everything that an entered folder lists.
 constexpr const wchar_t* EveryEntry = L"*.*";
@@ -20,7 +20,7 @@ bool FileOperation::CopyEntry(PathBuffer& source, PathBuffer& target) {
     if (kind != PathKind::Folder) return FileInto(source, target, &FileOperation::CopyOneFile);
     // Below the item of the list, the name is in the target already.
     const PathExtension named =
-        depth == 0 ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);
+        depth_ == 0 ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);
     if (!named.Fits()) return true;
     const FolderStep step = PrepareFolder(target);
     if (step != FolderStep::Enter) return step == FolderStep::Skip;
@@ -52,7 +52,7 @@ bool FileOperation::ExcludeEntry(PathBuffer& source, PathBuffer& target) {
 bool FileOperation::MoveEntry(PathBuffer& source, PathBuffer& target) {
     if (KindOf(source) != PathKind::Folder) return FileInto(source, target, &FileOperation::MoveOneFile);
     const PathExtension named =
-        depth == 0 ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);
+        depth_ == 0 ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);
     if (!named.Fits()) return true;
     const FolderStep step = PrepareFolder(target);
     if (step != FolderStep::Enter) return step == FolderStep::Skip;
@@ -92,9 +92,9 @@ bool FileOperation::EachEntry(const wchar_t* walked, PathBuffer& source, PathBuf
         const PathExtension inSource(source, name);
         const PathExtension inTarget(target, name);
         if (!inSource.Fits() || !inTarget.Fits()) continue;
-        ++depth;
+        ++depth_;
         const bool goOn = (this->*worker)(source, target);
-        --depth;
+        --depth_;
         if (!goOn) return false;
     }
     return true;

@@ -1,5 +1,6 @@
 // What the operations do with one file.
 
+#include "base/pump_one_message.h"
 #include "fileops/dos_time.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
@@ -9,7 +10,6 @@
 #include "platform/same_file.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
-#include "base/pump_one_message.h"
 
 namespace {
 
@@ -80,7 +80,7 @@ bool FileOperation::BeginFile(const wchar_t* source, const wchar_t* target) {
     ExpectMessages();
     // With the program's end, or with the owner's and the dialog's, the run ends as well.
     if (PumpOneMessage() == PumpOutcome::Quit || Handle() == nullptr) Stop();
-    if (abortRequested) return false;
+    if (abortRequested_) return false;
     SetDlgItemTextW(Handle(), STATIC_SOURCE, source);
     SetDlgItemTextW(Handle(), STATIC_DESTINATION, target);
     UpdateWindow(Handle());

@@ -19,7 +19,7 @@ class PathExtension {
 
     // False when there is no room for the name, or the name is none of a file (as "b:x"); the path is then as
     // it was.
-    [[nodiscard]] bool Fits() const { return fits; }
+    [[nodiscard]] bool Fits() const { return fits_; }
 
     // Longer by the last name of another path.
     [[nodiscard]] static PathExtension ByNameOf(const wchar_t* other, PathBuffer& path);
@@ -29,7 +29,7 @@ class PathExtension {
   private:
     explicit PathExtension(PathBuffer& path);
 
-    PathBuffer& extended;
-    std::size_t length;
-    bool fits = true;
+    PathBuffer& extended_;
+    std::size_t length_;
+    bool fits_ = true;
 };

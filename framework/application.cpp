@@ -3,7 +3,7 @@
 Application* Application::current = nullptr;
 
 Application::Application(const wchar_t* productName, int count, const wchar_t* const* splitWords)
-    : name(productName), wordCount(count), words(splitWords) {
+    : name_(productName), wordCount_(count), words_(splitWords) {
     current = this;
 }
 
@@ -13,26 +13,26 @@ Application::~Application() {
 }
 
 MainView::~MainView() {
-    if (servedBy != nullptr) servedBy->SetMainView(nullptr);
+    if (servedBy_ != nullptr) servedBy_->SetMainView(nullptr);
 }
 
 void Application::SetMainView(MainView* view) {
-    if (mainView != nullptr) mainView->servedBy = nullptr;
-    mainView = view;
+    if (mainView_ != nullptr) mainView_->servedBy_ = nullptr;
+    mainView_ = view;
     if (view == nullptr) return;
-    if (view->servedBy != nullptr) view->servedBy->mainView = nullptr;
-    view->servedBy = this;
+    if (view->servedBy_ != nullptr) view->servedBy_->mainView_ = nullptr;
+    view->servedBy_ = this;
 }
 
 WindowMap* Application::Windows() {
-    return current != nullptr ? &current->windows : nullptr;
+    return current != nullptr ? &current->windows_ : nullptr;
 }
 
 int Application::Run() {
     MSG message{};
     // A failed GetMessageW answers -1, which is no reason to go on either.
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (mainView != nullptr && mainView->PreTranslate(message)) continue;
+        if (mainView_ != nullptr && mainView_->PreTranslate(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

@@ -22,7 +22,7 @@ class MainView {
 
   private:
     friend class Application;
-    Application* servedBy = nullptr;
+    Application* servedBy_ = nullptr;
 };
 
 class Application {
@@ -38,9 +38,9 @@ class Application {
 
     // In the place of the one before; null for none.
     void SetMainView(MainView* view);
-    [[nodiscard]] const wchar_t* Name() const { return name; }
-    [[nodiscard]] int WordCount() const { return wordCount; }
-    [[nodiscard]] const wchar_t* const* Words() const { return words; }
+    [[nodiscard]] const wchar_t* Name() const { return name_; }
+    [[nodiscard]] int WordCount() const { return wordCount_; }
+    [[nodiscard]] const wchar_t* const* Words() const { return words_; }
 
     // The map of the one application, or null before it exists.
     [[nodiscard]] static WindowMap* Windows();
@@ -48,10 +48,10 @@ class Application {
   private:
     static Application* current;
 
-    const wchar_t* name;
-    int wordCount;
-    const wchar_t* const* words;
-    MainView* mainView = nullptr;
-    WindowMap windows;
-    ce::HeldKeys heldKeys;
+    const wchar_t* name_;
+    int wordCount_;
+    const wchar_t* const* words_;
+    MainView* mainView_ = nullptr;
+    WindowMap windows_;
+    ce::HeldKeys heldKeys_;
 };

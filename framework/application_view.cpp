@@ -38,18 +38,18 @@ const wchar_t* ResourceName(const PropertySet& properties, PropertyKey key) {
 
 ApplicationView::ApplicationView(WindowObject* parentObject, const wchar_t* title, PropertySet& properties,
                                  Application* application)
-    : ScrollingView(parentObject, title, WithViewDefaults(properties)), isMainView(application != nullptr) {
+    : ScrollingView(parentObject, title, WithViewDefaults(properties)), isMainView_(application != nullptr) {
     if (application != nullptr) application->SetMainView(this);
     SetSmallIcon(properties);
     InitialiseControls(properties);
     CreateMenuBar(properties);
     if (properties.Has(property::HasRebar)) CreateCommandBar();
     if (properties.Has(property::Accelerators)) {
-        accelerators =
+        accelerators_ =
             LoadAcceleratorsW(Globals().instance, ResourceName(properties, property::Accelerators));
     }
     if (properties.Has(property::HasStatusBar)) {
-        statusBar = std::make_unique<StatusBar>(*this, rebar != nullptr);
+        statusBar_ = std::make_unique<StatusBar>(*this, rebar_ != nullptr);
     }
     OnMessage(WM_SIZE, this, &ApplicationView::OnWmSize);
     OnMessage(WM_HELP, this, &ApplicationView::OnWmHelp);
@@ -72,34 +72,34 @@ void ApplicationView::CreateMenuBar(const PropertySet& properties) {
     info.nToolBarId = static_cast<UINT>(properties.Get(property::MenuBar));
     info.hInstRes = Globals().instance;
     if (!ce::SHCreateMenuBar(&info)) return;
-    menuBar = std::make_unique<WindowObject>(this, info.hwndMB);
-    menu = reinterpret_cast<HMENU>(SendMessageW(info.hwndMB, ce::MenuBarGetMenu, 0, 0));
-    menuBarToolBar = std::make_unique<WindowObject>(this, GetWindow(info.hwndMB, GW_CHILD));
+    menuBar_ = std::make_unique<WindowObject>(this, info.hwndMB);
+    menu_ = reinterpret_cast<HMENU>(SendMessageW(info.hwndMB, ce::MenuBarGetMenu, 0, 0));
+    menuBarToolBar_ = std::make_unique<WindowObject>(this, GetWindow(info.hwndMB, GW_CHILD));
 }
 
 void ApplicationView::CreateCommandBar() {
-    commandBar = std::make_unique<CommandBarInRebar>(*this);
-    AddBand(commandBar->AsBand());
+    commandBar_ = std::make_unique<CommandBarInRebar>(*this);
+    AddBand(commandBar_->AsBand());
 }
 
 int ApplicationView::AddBand(const REBARBANDINFOW& band) {
-    if (rebar == nullptr) rebar = std::make_unique<Rebar>(*this);
-    const int index = rebar->AddBand(band);
-    rebar->Place(rebar->IsAtTop());
+    if (rebar_ == nullptr) rebar_ = std::make_unique<Rebar>(*this);
+    const int index = rebar_->AddBand(band);
+    rebar_->Place(rebar_->IsAtTop());
     return index;
 }
 
 WindowObject* ApplicationView::CommandBar() const {
-    if (commandBar != nullptr) return commandBar.get();
-    return menuBar.get();
+    if (commandBar_ != nullptr) return commandBar_.get();
+    return menuBar_.get();
 }
 
 RECT ApplicationView::LayoutRectangle() const {
     RECT area = ScrollingView::LayoutRectangle();
-    if (statusBar != nullptr && statusBar->TakesPlace()) area.bottom -= statusBar->BarHeight();
-    if (rebar != nullptr && rebar->TakesPlace()) {
-        LONG& edge = rebar->IsAtTop() ? area.top : area.bottom;
-        edge += rebar->IsAtTop() ? rebar->BarHeight() : -rebar->BarHeight();
+    if (statusBar_ != nullptr && statusBar_->TakesPlace()) area.bottom -= statusBar_->BarHeight();
+    if (rebar_ != nullptr && rebar_->TakesPlace()) {
+        LONG& edge = rebar_->IsAtTop() ? area.top : area.bottom;
+        edge += rebar_->IsAtTop() ? rebar_->BarHeight() : -rebar_->BarHeight();
     }
     area.bottom -= ce::MenuBarHeight;
     // Nothing is left of one that is smaller than its bars, as when it is minimised.
@@ -108,12 +108,12 @@ RECT ApplicationView::LayoutRectangle() const {
 }
 
 void ApplicationView::Show() {
-    ShowWindow(Handle(), isMainView ? Globals().showCommand : SW_SHOWNORMAL);
+    ShowWindow(Handle(), isMainView_ ? Globals().showCommand : SW_SHOWNORMAL);
     UpdateWindow(Handle());
 }
 
 bool ApplicationView::PreTranslate(MSG& message) {
-    return TranslateAcceleratorW(Handle(), accelerators, &message) != 0;
+    return TranslateAcceleratorW(Handle(), accelerators_, &message) != 0;
 }
 
 LRESULT ApplicationView::OnWmDestroy(MessageRecord&) {
@@ -129,7 +129,7 @@ LRESULT ApplicationView::OnWmHelp(MessageRecord&) {
 
 // The children stay where they are: a view is laid out once, when it is made.
 LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
-    for (const WindowObject* bar : {menuBar.get(), static_cast<WindowObject*>(statusBar.get())}) {
+    for (const WindowObject* bar : {menuBar_.get(), static_cast<WindowObject*>(statusBar_.get())}) {
         if (bar != nullptr) SendMessageW(bar->Handle(), record.message, record.wParam, record.lParam);
     }
     Reclamp();
@@ -138,7 +138,7 @@ LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
 
 // The bars are children here, and a scrolled window takes all of them along: they are put back.
 void ApplicationView::ScrollContent(int x, int y) {
-    const WindowObject* const bars[] = {menuBar.get(), rebar.get(), statusBar.get()};
+    const WindowObject* const bars[] = {menuBar_.get(), rebar_.get(), statusBar_.get()};
     RECT places[std::size(bars)]{};
     for (std::size_t i = 0; i < std::size(bars); ++i) {
         if (bars[i] == nullptr) continue;

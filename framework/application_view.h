@@ -23,16 +23,16 @@ class ApplicationView : public ScrollingView, public MainView {
     bool PreTranslate(MSG& message) override;
 
     // The menu bar's menu; null without a bar.
-    [[nodiscard]] HMENU Menu() const { return menu; }
-    [[nodiscard]] WindowObject* MenuBar() const { return menuBar.get(); }
+    [[nodiscard]] HMENU Menu() const { return menu_; }
+    [[nodiscard]] WindowObject* MenuBar() const { return menuBar_.get(); }
     // Where buttons are added: the menu bar itself, in a view without a rebar.
     [[nodiscard]] WindowObject* CommandBar() const;
 
     // Appends a band to the rebar, which is made for the first one; returns its index, or -1.
     int AddBand(const REBARBANDINFOW& band);
     // Null without one.
-    [[nodiscard]] Rebar* ViewRebar() const { return rebar.get(); }
-    [[nodiscard]] StatusBar* ViewStatusBar() const { return statusBar.get(); }
+    [[nodiscard]] Rebar* ViewRebar() const { return rebar_.get(); }
+    [[nodiscard]] StatusBar* ViewStatusBar() const { return statusBar_.get(); }
 
   protected:
     LRESULT OnWmDestroy(MessageRecord& record) override;
@@ -47,12 +47,12 @@ class ApplicationView : public ScrollingView, public MainView {
     void CreateMenuBar(const PropertySet& properties);
     void CreateCommandBar();
 
-    std::unique_ptr<WindowObject> menuBar;
-    std::unique_ptr<WindowObject> menuBarToolBar;
-    std::unique_ptr<Rebar> rebar;
-    std::unique_ptr<CommandBarInRebar> commandBar;
-    std::unique_ptr<StatusBar> statusBar;
-    HMENU menu = nullptr;
-    HACCEL accelerators = nullptr;
-    bool isMainView;
+    std::unique_ptr<WindowObject> menuBar_;
+    std::unique_ptr<WindowObject> menuBarToolBar_;
+    std::unique_ptr<Rebar> rebar_;
+    std::unique_ptr<CommandBarInRebar> commandBar_;
+    std::unique_ptr<StatusBar> statusBar_;
+    HMENU menu_ = nullptr;
+    HACCEL accelerators_ = nullptr;
+    bool isMainView_;
 };

@@ -82,14 +82,14 @@ Rebar::Rebar(WindowObject& owner)
           BarProperties(RebarId, RebarStyle, RebarY, WindowSize(owner.Handle()).cx, RebarHeight)) {}
 
 int Rebar::AddBand(REBARBANDINFOW band) {
-    band.wID = static_cast<UINT>(bandCount);
+    band.wID = static_cast<UINT>(bandCount_);
     if (SendMessageW(Handle(), RB_INSERTBANDW, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&band)) == 0)
         return -1;
-    return bandCount++;
+    return bandCount_++;
 }
 
 void Rebar::Place(bool atTop) {
-    isAtTop = atTop;
+    isAtTop_ = atTop;
     RECT client{};
     GetClientRect(ParentHandle(), &client);
     const SIZE size = WindowSize(Handle());

@@ -34,12 +34,12 @@ class Rebar : public Bar {
     int AddBand(REBARBANDINFOW band);
     // At the bottom of the owner's client area, above the menu bar, or at its top; as large as it is.
     void Place(bool atTop);
-    [[nodiscard]] bool IsAtTop() const { return isAtTop; }
+    [[nodiscard]] bool IsAtTop() const { return isAtTop_; }
     [[nodiscard]] int BarHeight() const;
 
   private:
-    int bandCount = 0;
-    bool isAtTop = false;
+    int bandCount_ = 0;
+    bool isAtTop_ = false;
 };
 
 class StatusBar : public Bar {

@@ -105,9 +105,9 @@ LRESULT ContainerWindow::OnWmActivate(MessageRecord& record) {
 void ContainerWindow::KeepFocus(const MessageRecord& record) {
     if (LOWORD(record.wParam) == WA_INACTIVE) {
         const HWND focus = GetFocus();
-        if (HoldsWindow(focus)) rememberedFocus = focus;
-    } else if (HoldsWindow(rememberedFocus)) {
-        SetFocus(NearestThatTakesFocus(rememberedFocus));
+        if (HoldsWindow(focus)) rememberedFocus_ = focus;
+    } else if (HoldsWindow(rememberedFocus_)) {
+        SetFocus(NearestThatTakesFocus(rememberedFocus_));
     } else if (!HoldsWindow(GetFocus())) {
         SetFocus(Handle());
     }

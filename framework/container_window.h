@@ -38,7 +38,7 @@ class ContainerWindow : public WindowObject {
     // been hidden or disabled meanwhile is replaced by the next one that can take it.
     void KeepFocus(const MessageRecord& record);
     // For a window that is made anew: the handle remembered may belong to another control by now.
-    void ForgetFocus() { rememberedFocus = nullptr; }
+    void ForgetFocus() { rememberedFocus_ = nullptr; }
 
   private:
     // Whether it is this window or one inside it.
@@ -49,5 +49,5 @@ class ContainerWindow : public WindowObject {
     // at the end.
     [[nodiscard]] HWND NearestThatTakesFocus(HWND control) const;
 
-    HWND rememberedFocus = nullptr;
+    HWND rememberedFocus_ = nullptr;
 };

@@ -26,10 +26,10 @@ HWND DialogItem(const WindowObject& dialog, int id) {
 
 Control::Control(WindowObject* parentObject, const wchar_t* className, PropertySet& properties)
     : WindowObject(parentObject, L"", WithControlDefaults(properties, className)),
-      nativeCodes(NativeCodesOfClass(className)) {}
+      nativeCodes_(NativeCodesOfClass(className)) {}
 
 Control::Control(WindowObject* parentObject, HWND existing, const wchar_t* className, Ownership ownership)
-    : WindowObject(parentObject, existing, ownership), nativeCodes(NativeCodesOfClass(className)) {}
+    : WindowObject(parentObject, existing, ownership), nativeCodes_(NativeCodesOfClass(className)) {}
 
 int TabControl::AppendItem(const wchar_t* text) {
     TCITEMW item{};
@@ -70,14 +70,14 @@ std::span<const EventCode> TextField::OwnEvents() const {
 }
 
 bool TextField::Takes(WPARAM key) const {
-    return key == VK_RETURN || (key == VK_TAB && tabNotification);
+    return key == VK_RETURN || (key == VK_TAB && tabNotification_);
 }
 
 // While an input method composes, the keys are its own. Most arrive as VK_PROCESSKEY; some methods leave
 // Enter and Tab as they are.
 LRESULT TextField::OnKeyDown(MessageRecord& record) {
     if (!Takes(record.wParam)) return DefaultProcessing(record);
-    if (composing) return 0;
+    if (composing_) return 0;
     const auto source = reinterpret_cast<EventSource>(Handle());
     if (record.wParam == VK_RETURN) {
         RaiseEvent(event::EnterKey, source, 0, record);
@@ -103,15 +103,15 @@ LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
 }
 
 LRESULT TextField::OnComposition(MessageRecord& record) {
-    composing = record.extra != FALSE;
+    composing_ = record.extra != FALSE;
     return DefaultProcessing(record);
 }
 
 ComboBox::ComboBox(WindowObject* parentObject, HWND existing)
     : Control(parentObject, existing, L"combobox"),
-      edit(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
-    edit.OnNotification(event::EnterKey, this, &ComboBox::OnEditKey, event::EnterKey);
-    edit.OnNotification(event::TabKey, this, &ComboBox::OnEditKey, event::TabKey);
+      edit_(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
+    edit_.OnNotification(event::EnterKey, this, &ComboBox::OnEditKey, event::EnterKey);
+    edit_.OnNotification(event::TabKey, this, &ComboBox::OnEditKey, event::TabKey);
 }
 
 std::span<const EventCode> ComboBox::OwnEvents() const {

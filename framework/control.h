@@ -16,10 +16,10 @@ class Control : public WindowObject {
     Control(WindowObject* parent, HWND handle, const wchar_t* className,
             Ownership ownership = Ownership::FollowsParent);
 
-    [[nodiscard]] NativeCodeTable NativeCodes() const override { return nativeCodes; }
+    [[nodiscard]] NativeCodeTable NativeCodes() const override { return nativeCodes_; }
 
   private:
-    NativeCodeTable nativeCodes;
+    NativeCodeTable nativeCodes_;
 };
 
 // A list view. The system's macros serve for its messages; here is only what has rules of the house.
@@ -52,7 +52,7 @@ class TextField : public Control {
     // The edit may be a dialog's own or, wrapped, the one inside a combo box.
     TextField(WindowObject* parent, HWND edit, Ownership ownership = Ownership::FollowsParent);
 
-    void TurnOnTabNotification() { tabNotification = true; }
+    void TurnOnTabNotification() { tabNotification_ = true; }
     [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
 
   private:
@@ -63,8 +63,8 @@ class TextField : public Control {
 
     [[nodiscard]] bool Takes(WPARAM key) const;
 
-    bool tabNotification = false;
-    bool composing = false;
+    bool tabNotification_ = false;
+    bool composing_ = false;
 };
 
 // A combo box with an edit, which raises the edit's Enter and Tab on itself.
@@ -72,14 +72,14 @@ class ComboBox : public Control {
   public:
     ComboBox(WindowObject* parent, HWND handle);
 
-    void TurnOnTabNotification() { edit.TurnOnTabNotification(); }
+    void TurnOnTabNotification() { edit_.TurnOnTabNotification(); }
     [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
-    [[nodiscard]] TextField& Edit() { return edit; }
+    [[nodiscard]] TextField& Edit() { return edit_; }
 
   private:
     LRESULT OnEditKey(EventArguments& arguments);
     [[nodiscard]] bool IsListOpen() const;
     [[nodiscard]] bool IsObjectOf(HWND window) const;
 
-    TextField edit;
+    TextField edit_;
 };

@@ -51,15 +51,15 @@ Dialog* Dialog::pendingModeless = nullptr;
 
 Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
     : ContainerWindow(parentObject, nullptr, Ownership::Wrapped),
-      templateName(properties.GetText(property::DialogTemplate)),
-      initArgument(properties.Get(property::InitArgument)),
-      fullScreenFlags(FullScreenFlagsOf(properties)),
-      font(CreateDialogFont()) {}
+      templateName_(properties.GetText(property::DialogTemplate)),
+      initArgument_(properties.Get(property::InitArgument)),
+      fullScreenFlags_(FullScreenFlagsOf(properties)),
+      font_(CreateDialogFont()) {}
 
 Dialog::~Dialog() {
     Dialog::End(ResultCancel);
     DestroyMenuBar();
-    DeleteObject(font);
+    DeleteObject(font_);
     const HWND window = Handle();
     Detach();
     if (window != nullptr && IsWindow(window)) DestroyWindow(window);
@@ -67,7 +67,7 @@ Dialog::~Dialog() {
 
 const DLGTEMPLATE* Dialog::FindTemplate() const {
     const HINSTANCE instance = Globals().instance;
-    const HRSRC resource = FindResourceW(instance, templateName, RT_DIALOG);
+    const HRSRC resource = FindResourceW(instance, templateName_, RT_DIALOG);
     return resource != nullptr
                ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
                : nullptr;
@@ -103,8 +103,8 @@ INT_PTR Dialog::RunModal() {
 }
 
 void Dialog::End(INT_PTR result) {
-    if (!canEnd) return;
-    canEnd = false;
+    if (!canEnd_) return;
+    canEnd_ = false;
     DestroyMenuBar();
     EndDialog(Handle(), result);
 }
@@ -116,7 +116,7 @@ INT_PTR CALLBACK Dialog::ModalProcedure(HWND window, UINT message, WPARAM wParam
             EndDialog(window, -1);
             return 0;
         }
-        created->canEnd = true;
+        created->canEnd_ = true;
     }
     if (message == WM_DESTROY || message == WM_NCDESTROY) {
         WindowIsGone(window);
@@ -159,7 +159,7 @@ void Dialog::LoseWindow() {
 
 void Dialog::Forget(const WindowObject* gone) {
     ContainerWindow::Forget(gone);
-    if (initialisation.target == gone) initialisation = {};
+    if (initialisation_.target == gone) initialisation_ = {};
 }
 
 LRESULT Dialog::DispatchToClass(MessageRecord& record) {
@@ -233,14 +233,14 @@ LRESULT Dialog::OnWmActivate(MessageRecord& record) {
 
 LRESULT Dialog::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
-    SetUpShell(fullScreenFlags, DialogBar::CancelAndOk);
+    SetUpShell(fullScreenFlags_, DialogBar::CancelAndOk);
     return 1;
 }
 
 void Dialog::CallInitialisation(MessageRecord& record) {
-    if (initialisation.target == nullptr) return;
-    EventArguments arguments{initialisation.extra, static_cast<std::intptr_t>(initArgument), record};
-    (initialisation.target->*initialisation.method)(arguments);
+    if (initialisation_.target == nullptr) return;
+    EventArguments arguments{initialisation_.extra, static_cast<std::intptr_t>(initArgument_), record};
+    (initialisation_.target->*initialisation_.method)(arguments);
 }
 
 void Dialog::SetUpShell(DWORD flags, DialogBar bar) {
@@ -266,18 +266,18 @@ void Dialog::CreateMenuBar(DialogBar bar) {
     info.nBmpId = BITMAP_DIALOG_BAR;
     info.cBmpImages = 5;
     if (bar == DialogBar::None || !ce::SHCreateMenuBar(&info)) return;
-    menuBar = info.hwndMB;
+    menuBar_ = info.hwndMB;
 
     static const wchar_t* const labels[] = {L"Cancel", L"OK"};
-    SendMessageW(menuBar, ce::ToolBarSetToolTips, std::size(labels), reinterpret_cast<LPARAM>(labels));
+    SendMessageW(menuBar_, ce::ToolBarSetToolTips, std::size(labels), reinterpret_cast<LPARAM>(labels));
     TBBUTTON buttons[] = {{0, IDCANCEL, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1},
                           {1, IDOK, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1}};
-    SendMessageW(menuBar, TB_ADDBUTTONSW, static_cast<WPARAM>(bar), reinterpret_cast<LPARAM>(buttons));
+    SendMessageW(menuBar_, TB_ADDBUTTONSW, static_cast<WPARAM>(bar), reinterpret_cast<LPARAM>(buttons));
 }
 
 void Dialog::DestroyMenuBar() {
-    if (menuBar != nullptr && IsWindow(menuBar)) DestroyWindow(menuBar);
-    menuBar = nullptr;
+    if (menuBar_ != nullptr && IsWindow(menuBar_)) DestroyWindow(menuBar_);
+    menuBar_ = nullptr;
 }
 
 void Dialog::Centre() {

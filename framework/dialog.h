@@ -33,12 +33,12 @@ class Dialog : public ContainerWindow {
     // Called on initialisation with the init argument, before the dialog wraps its controls.
     template <class Target>
     void OnInitialise(Target* target, LRESULT (Target::*method)(EventArguments&), std::uintptr_t extra = 0) {
-        initialisation = {target, static_cast<EventMethod>(method), extra};
+        initialisation_ = {target, static_cast<EventMethod>(method), extra};
     }
 
-    [[nodiscard]] HWND MenuBar() const { return menuBar; }
+    [[nodiscard]] HWND MenuBar() const { return menuBar_; }
     // For what a dialog draws or creates itself; a template brings its own.
-    [[nodiscard]] HFONT Font() const { return font; }
+    [[nodiscard]] HFONT Font() const { return font_; }
 
     // A dialog procedure's answer for what nobody handles.
     LRESULT DefaultProcessing(MessageRecord& record) override;
@@ -69,8 +69,8 @@ class Dialog : public ContainerWindow {
     // The event code of a control's notification, by the control's window class.
     [[nodiscard]] static EventCode TranslateByClassName(HWND control, std::uint32_t native);
 
-    [[nodiscard]] DWORD FullScreenFlags() const { return fullScreenFlags; }
-    [[nodiscard]] const wchar_t* TemplateName() const { return templateName; }
+    [[nodiscard]] DWORD FullScreenFlags() const { return fullScreenFlags_; }
+    [[nodiscard]] const wchar_t* TemplateName() const { return templateName_; }
 
   private:
     struct Initialisation {
@@ -97,11 +97,11 @@ class Dialog : public ContainerWindow {
     static Dialog* pendingModal;
     static Dialog* pendingModeless;
 
-    const wchar_t* templateName;
-    std::uintptr_t initArgument;
-    DWORD fullScreenFlags;
-    HWND menuBar = nullptr;
-    HFONT font;
-    Initialisation initialisation;
-    bool canEnd = false;
+    const wchar_t* templateName_;
+    std::uintptr_t initArgument_;
+    DWORD fullScreenFlags_;
+    HWND menuBar_ = nullptr;
+    HFONT font_;
+    Initialisation initialisation_;
+    bool canEnd_ = false;
 };

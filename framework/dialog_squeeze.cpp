@@ -80,7 +80,7 @@ LONG LettersOf(HWND control) {
 class SmallLetters {
   public:
     ~SmallLetters() {
-        for (const HFONT font : fonts) {
+        for (const HFONT font : fonts_) {
             if (font != nullptr) DeleteObject(font);
         }
     }
@@ -88,7 +88,7 @@ class SmallLetters {
         LOGFONTW font{};
         if (GetObjectW(model, sizeof font, &font) == 0) return nullptr;
         font.lfHeight = -height;
-        HFONT& shared = fonts[2 * (height - SmallestLetters) + (font.lfWeight >= FW_BOLD ? 1 : 0)];
+        HFONT& shared = fonts_[2 * (height - SmallestLetters) + (font.lfWeight >= FW_BOLD ? 1 : 0)];
         if (shared == nullptr) shared = CreateFontIndirectW(&font);
         return shared;
     }
@@ -96,7 +96,7 @@ class SmallLetters {
     static constexpr LONG Largest = 16;
 
   private:
-    HFONT fonts[2 * (Largest - SmallestLetters + 1)] = {};
+    HFONT fonts_[2 * (Largest - SmallestLetters + 1)] = {};
 };
 
 void MakeLettersSmaller(const std::vector<Row>& rows, LONG height) {

@@ -29,42 +29,42 @@ void DeleteEntriesOf(const WindowObject* target, Entry** link) {
 }  // namespace
 
 MessageTable::~MessageTable() {
-    DeleteAll(head);
+    DeleteAll(head_);
 }
 
 void MessageTable::Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra) {
-    auto* entry = new (std::nothrow) MessageEntry{message, target, method, extra, head};
-    if (entry != nullptr) head = entry;
+    auto* entry = new (std::nothrow) MessageEntry{message, target, method, extra, head_};
+    if (entry != nullptr) head_ = entry;
 }
 
 const MessageEntry* MessageTable::Find(UINT message) const {
-    const MessageEntry* entry = head;
+    const MessageEntry* entry = head_;
     while (entry != nullptr && entry->message != message)
         entry = entry->next;
     return entry;
 }
 
 void MessageTable::RemoveTarget(const WindowObject* target) {
-    DeleteEntriesOf(target, &head);
+    DeleteEntriesOf(target, &head_);
 }
 
 EventTable::~EventTable() {
-    DeleteAll(head);
+    DeleteAll(head_);
 }
 
 void EventTable::Add(EventCode code, EventSource source, WindowObject* target, EventMethod method,
                      std::uintptr_t extra) {
-    auto* entry = new (std::nothrow) EventEntry{code, source, target, method, extra, head};
-    if (entry != nullptr) head = entry;
+    auto* entry = new (std::nothrow) EventEntry{code, source, target, method, extra, head_};
+    if (entry != nullptr) head_ = entry;
 }
 
 const EventEntry* EventTable::Find(EventCode code, EventSource source) const {
-    const EventEntry* entry = head;
+    const EventEntry* entry = head_;
     while (entry != nullptr && (entry->code != code || entry->source != source))
         entry = entry->next;
     return entry;
 }
 
 void EventTable::RemoveTarget(const WindowObject* target) {
-    DeleteEntriesOf(target, &head);
+    DeleteEntriesOf(target, &head_);
 }

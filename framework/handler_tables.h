@@ -55,7 +55,7 @@ class MessageTable {
     void RemoveTarget(const WindowObject* target);
 
   private:
-    MessageEntry* head = nullptr;
+    MessageEntry* head_ = nullptr;
 };
 
 struct EventEntry {
@@ -83,5 +83,5 @@ class EventTable {
     void RemoveTarget(const WindowObject* target);
 
   private:
-    EventEntry* head = nullptr;
+    EventEntry* head_ = nullptr;
 };

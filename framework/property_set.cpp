@@ -15,9 +15,9 @@ void PropertySet::Set(PropertyKey key, PropertyValue value) {
     if (index < 0) {
         Append(key, value);
     } else if (IsStyleKey(key)) {
-        pairs[static_cast<std::size_t>(index)].value |= value;
+        pairs_[static_cast<std::size_t>(index)].value |= value;
     } else {
-        pairs[static_cast<std::size_t>(index)].value = value;
+        pairs_[static_cast<std::size_t>(index)].value = value;
     }
 }
 
@@ -37,7 +37,7 @@ PropertyValue PropertySet::Get(PropertyKey key) const {
 
 bool PropertySet::Lookup(PropertyKey key, PropertyValue& value) const {
     const int index = IndexOf(key);
-    value = index < 0 ? 0 : pairs[static_cast<std::size_t>(index)].value;
+    value = index < 0 ? 0 : pairs_[static_cast<std::size_t>(index)].value;
     return index >= 0;
 }
 
@@ -46,13 +46,13 @@ bool PropertySet::Has(PropertyKey key) const {
 }
 
 int PropertySet::IndexOf(PropertyKey key) const {
-    for (int i = 0; i < count; ++i) {
-        if (pairs[static_cast<std::size_t>(i)].key == key) return i;
+    for (int i = 0; i < count_; ++i) {
+        if (pairs_[static_cast<std::size_t>(i)].key == key) return i;
     }
     return -1;
 }
 
 void PropertySet::Append(PropertyKey key, PropertyValue value) {
-    if (count == Capacity) return;
-    pairs[static_cast<std::size_t>(count++)] = {key, value};
+    if (count_ == Capacity) return;
+    pairs_[static_cast<std::size_t>(count_++)] = {key, value};
 }

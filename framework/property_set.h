@@ -29,8 +29,8 @@ class PropertySet {
     bool Lookup(PropertyKey key, PropertyValue& value) const;
 
     [[nodiscard]] bool Has(PropertyKey key) const;
-    [[nodiscard]] int Count() const { return count; }
-    void Clear() { count = 0; }
+    [[nodiscard]] int Count() const { return count_; }
+    void Clear() { count_ = 0; }
 
     // The same for what is stored as an address.
     void SetText(PropertyKey key, const wchar_t* text) { Set(key, reinterpret_cast<PropertyValue>(text)); }
@@ -48,6 +48,6 @@ class PropertySet {
     [[nodiscard]] int IndexOf(PropertyKey key) const;
     void Append(PropertyKey key, PropertyValue value);
 
-    int count = 0;
-    std::array<Pair, Capacity> pairs{};
+    int count_ = 0;
+    std::array<Pair, Capacity> pairs_{};
 };

@@ -31,7 +31,7 @@ int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
 
 PropertySheetPage::PropertySheetPage(WindowObject* parentObject, const wchar_t* title,
                                      const PropertySet& properties)
-    : Dialog(parentObject, properties), titleText(title, title + std::wcslen(title) + 1) {}
+    : Dialog(parentObject, properties), titleText_(title, title + std::wcslen(title) + 1) {}
 
 HPROPSHEETPAGE PropertySheetPage::CreatePage() {
     if (FindTemplate() == nullptr) return nullptr;
@@ -40,7 +40,7 @@ HPROPSHEETPAGE PropertySheetPage::CreatePage() {
     page.dwFlags = PSP_USECALLBACK | PSP_USETITLE;
     page.hInstance = Globals().instance;
     page.pszTemplate = TemplateName();
-    page.pszTitle = titleText.data();
+    page.pszTitle = titleText_.data();
     page.pfnDlgProc = &PageProcedure;
     page.pfnCallback = &PageCallback;
     page.lParam = reinterpret_cast<LPARAM>(this);
@@ -84,7 +84,7 @@ LRESULT PropertySheetPage::OnWmNotify(MessageRecord& record) {
 
 void PropertySheetDialog::Run() {
     std::vector<HPROPSHEETPAGE> handles;
-    for (PropertySheetPage* page : pages) {
+    for (PropertySheetPage* page : pages_) {
         if (const HPROPSHEETPAGE handle = page->CreatePage()) handles.push_back(handle);
     }
     if (handles.empty()) return;
@@ -92,9 +92,9 @@ void PropertySheetDialog::Run() {
     header.dwSize = sizeof header;
     // Three buttons do not fit a small screen.
     header.dwFlags = PSH_USECALLBACK | PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
-    header.hwndParent = owner != nullptr ? owner->Handle() : nullptr;
+    header.hwndParent = owner_ != nullptr ? owner_->Handle() : nullptr;
     header.hInstance = Globals().instance;
-    header.pszCaption = caption;
+    header.pszCaption = caption_;
     header.nPages = static_cast<UINT>(handles.size());
     header.phpage = handles.data();
     header.pfnCallback = &PlaceSheet;

@@ -32,27 +32,27 @@ class PropertySheetPage : public Dialog {
     static UINT CALLBACK PageCallback(HWND window, UINT message, PROPSHEETPAGEW* page);
     static INT_PTR CALLBACK PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    std::vector<wchar_t> titleText;
+    std::vector<wchar_t> titleText_;
 };
 
 class PropertySheetDialog {
   public:
     // The caption is kept, not copied.
     PropertySheetDialog(WindowObject* ownerObject, const wchar_t* captionText)
-        : owner(ownerObject), caption(captionText) {}
+        : owner_(ownerObject), caption_(captionText) {}
     virtual ~PropertySheetDialog() = default;
     PropertySheetDialog(const PropertySheetDialog&) = delete;
     PropertySheetDialog& operator=(const PropertySheetDialog&) = delete;
 
     // The page stays the caller's and outlives the run.
-    void AddPage(PropertySheetPage& page) { pages.push_back(&page); }
-    void RemovePage(std::size_t index) { pages.erase(pages.begin() + static_cast<std::ptrdiff_t>(index)); }
+    void AddPage(PropertySheetPage& page) { pages_.push_back(&page); }
+    void RemovePage(std::size_t index) { pages_.erase(pages_.begin() + static_cast<std::ptrdiff_t>(index)); }
 
     // Shows the sheet until the user closes it.
     void Run();
 
   private:
-    WindowObject* owner;
-    const wchar_t* caption;
-    std::vector<PropertySheetPage*> pages;
+    WindowObject* owner_;
+    const wchar_t* caption_;
+    std::vector<PropertySheetPage*> pages_;
 };

@@ -13,13 +13,13 @@ SCROLLINFO ScrollBar::Read(UINT mask) const {
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = mask;
-    GetScrollInfo(window, bar, &info);
+    GetScrollInfo(window_, bar_, &info);
     return info;
 }
 
 void ScrollBar::Write(SCROLLINFO& info, bool redraw) const {
     info.cbSize = sizeof info;
-    SetScrollInfo(window, bar, &info, redraw);
+    SetScrollInfo(window_, bar_, &info, redraw);
 }
 
 int ScrollBar::Position() const {
@@ -80,6 +80,6 @@ void ScrollBarControl::TakeScrollMessages() {
 
 LRESULT ScrollBarControl::OnScroll(MessageRecord& record) {
     const ScrollState before = Bar().State();
-    Bar().SetPosition(ScrolledControlPosition(before, RequestOf(record), steps));
+    Bar().SetPosition(ScrolledControlPosition(before, RequestOf(record), steps_));
     return before.position - Bar().Position();
 }

@@ -9,7 +9,7 @@
 // SB_CTL of a scroll-bar control.
 class ScrollBar {
   public:
-    ScrollBar(HWND windowOfBar, int barOfWindow) : window(windowOfBar), bar(barOfWindow) {}
+    ScrollBar(HWND windowOfBar, int barOfWindow) : window_(windowOfBar), bar_(barOfWindow) {}
 
     [[nodiscard]] int Position() const;
     [[nodiscard]] ScrollRange Range() const;
@@ -24,8 +24,8 @@ class ScrollBar {
     [[nodiscard]] SCROLLINFO Read(UINT mask) const;
     void Write(SCROLLINFO& info, bool redraw) const;
 
-    HWND window;
-    int bar;
+    HWND window_;
+    int bar_;
 };
 
 // What the scroll message asks for, and the position of the box that it brings.
@@ -40,12 +40,12 @@ class ScrollBarControl : public Control {
     ScrollBarControl(WindowObject* parent, PropertySet& properties);
     ScrollBarControl(WindowObject* parent, HWND handle);
 
-    void SetSteps(ScrollSteps newSteps) { steps = newSteps; }
+    void SetSteps(ScrollSteps newSteps) { steps_ = newSteps; }
     [[nodiscard]] ScrollBar Bar() const { return {Handle(), SB_CTL}; }
 
   private:
     void TakeScrollMessages();
     LRESULT OnScroll(MessageRecord& record);
 
-    ScrollSteps steps;
+    ScrollSteps steps_;
 };

@@ -28,9 +28,9 @@ constexpr BarKeys KeysOfBars[] = {
 
 ScrollingView::ScrollingView(WindowObject* parentObject, const wchar_t* title, PropertySet& properties)
     : ContainerWindow(parentObject, title, properties),
-      lineStep(NumberOr(properties, property::LineStep, DefaultLineStep)),
-      secondStep(NumberOr(properties, property::SecondStep, DefaultSecondStep)),
-      thumbTracking(properties.Get(property::ThumbTracking) != 0) {
+      lineStep_(NumberOr(properties, property::LineStep, DefaultLineStep)),
+      secondStep_(NumberOr(properties, property::SecondStep, DefaultSecondStep)),
+      thumbTracking_(properties.Get(property::ThumbTracking) != 0) {
     SetUpBars(properties);
     if (properties.Has(property::ViewIcon)) {
         SetClassLongPtrW(Handle(), GCLP_HICON, static_cast<LONG_PTR>(properties.Get(property::ViewIcon)));
@@ -55,27 +55,27 @@ void ScrollingView::SetUpBars(const PropertySet& properties) {
 }
 
 void ScrollingView::SetContentSize(int width, int height) {
-    contentWidth = width;
-    contentHeight = height;
+    contentWidth_ = width;
+    contentHeight_ = height;
 }
 
 // Twice, since a bar that appears or goes changes the area.
 void ScrollingView::Reclamp() {
     for (int pass = 0; pass < 2; ++pass) {
         RECT area = LayoutRectangle();
-        Bar(SB_HORZ).SetRange(HorizontalScrollRange(contentWidth, area.right - area.left));
+        Bar(SB_HORZ).SetRange(HorizontalScrollRange(contentWidth_, area.right - area.left));
         area = LayoutRectangle();
-        Bar(SB_VERT).SetRange(VerticalScrollRange(contentHeight, area.bottom - area.top));
+        Bar(SB_VERT).SetRange(VerticalScrollRange(contentHeight_, area.bottom - area.top));
     }
 }
 
 int ScrollingView::Scroll(int bar, const MessageRecord& record) {
     const ScrollRequest request = RequestOf(record);
     // A box that is being dragged is not put back.
-    if (request == ScrollRequest::ThumbTrack && !thumbTracking) return 0;
+    if (request == ScrollRequest::ThumbTrack && !thumbTracking_) return 0;
     const ScrollBar own = Bar(bar);
     const ScrollState before = own.State();
-    own.SetPosition(ScrolledViewPosition(before, request, ThumbOf(record), thumbTracking));
+    own.SetPosition(ScrolledViewPosition(before, request, ThumbOf(record), thumbTracking_));
     // The content goes as far as the bar went, which ends where its range does.
     return before.position - own.Position();
 }

@@ -17,7 +17,7 @@ class ScrollingView : public ContainerWindow {
     void Reclamp();
 
     // Whether the content follows the box of a bar while it is dragged.
-    void SetThumbTracking(bool on) { thumbTracking = on; }
+    void SetThumbTracking(bool on) { thumbTracking_ = on; }
 
     // One of the view's own bars, SB_HORZ or SB_VERT.
     [[nodiscard]] ScrollBar Bar(int bar) const { return {Handle(), bar}; }
@@ -32,8 +32,8 @@ class ScrollingView : public ContainerWindow {
     virtual void ScrollContent(int x, int y);
 
     // For derived views; nothing here counts by them.
-    [[nodiscard]] int LineStep() const { return lineStep; }
-    [[nodiscard]] int SecondStep() const { return secondStep; }
+    [[nodiscard]] int LineStep() const { return lineStep_; }
+    [[nodiscard]] int SecondStep() const { return secondStep_; }
 
   private:
     void SetUpBars(const PropertySet& properties);
@@ -41,9 +41,9 @@ class ScrollingView : public ContainerWindow {
     LRESULT OnHorizontalScroll(EventArguments& arguments);
     LRESULT OnVerticalScroll(EventArguments& arguments);
 
-    int contentWidth = 0;
-    int contentHeight = 0;
-    int lineStep;
-    int secondStep;
-    bool thumbTracking;
+    int contentWidth_ = 0;
+    int contentHeight_ = 0;
+    int lineStep_;
+    int secondStep_;
+    bool thumbTracking_;
 };

@@ -4,7 +4,7 @@
 #include <new>
 
 WindowMap::~WindowMap() {
-    for (Entry* entry : buckets) {
+    for (Entry* entry : buckets_) {
         while (entry != nullptr) {
             Entry* next = entry->next;
             delete entry;
@@ -14,14 +14,14 @@ WindowMap::~WindowMap() {
 }
 
 bool WindowMap::Insert(HWND window, WindowObject* object) {
-    Entry*& head = buckets[BucketOf(window)];
+    Entry*& head = buckets_[BucketOf(window)];
     auto* entry = new (std::nothrow) Entry{window, object, head};
     if (entry != nullptr) head = entry;
     return entry != nullptr;
 }
 
 WindowObject* WindowMap::Find(HWND window) const {
-    for (const Entry* entry = buckets[BucketOf(window)]; entry != nullptr; entry = entry->next) {
+    for (const Entry* entry = buckets_[BucketOf(window)]; entry != nullptr; entry = entry->next) {
         if (entry->window == window) return entry->object;
     }
     return nullptr;
@@ -33,7 +33,7 @@ bool WindowMap::Remove(HWND window) {
 }
 
 bool WindowMap::Remove(HWND window, const WindowObject* object) {
-    for (Entry** link = &buckets[BucketOf(window)]; *link != nullptr; link = &(*link)->next) {
+    for (Entry** link = &buckets_[BucketOf(window)]; *link != nullptr; link = &(*link)->next) {
         if ((*link)->window != window || (*link)->object != object) continue;
         Entry* entry = *link;
         *link = entry->next;

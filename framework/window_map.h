@@ -34,5 +34,5 @@ class WindowMap {
         WindowObject* object;
         Entry* next;
     };
-    std::array<Entry*, BucketCount> buckets{};
+    std::array<Entry*, BucketCount> buckets_{};
 };

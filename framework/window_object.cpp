@@ -35,27 +35,27 @@ bool IsDialogWindow(HWND window) {
 WindowObject* WindowObject::firstObject = nullptr;
 
 WindowObject::WindowObject(WindowObject* parentObject, const wchar_t* title, PropertySet& properties)
-    : parent(parentObject) {
+    : parent_(parentObject) {
     JoinObjects();
     Create(title, properties);
 }
 
 WindowObject::WindowObject(WindowObject* parentObject, HWND existing, Ownership ownership)
-    : parent(parentObject) {
+    : parent_(parentObject) {
     JoinObjects();
     if (existing == nullptr) return;
     Attach(existing);
-    ownsHandle = ownership == Ownership::Owned ||
-                 (ownership == Ownership::FollowsParent && !IsDialogWindow(ParentHandle()));
+    ownsHandle_ = ownership == Ownership::Owned ||
+                  (ownership == Ownership::FollowsParent && !IsDialogWindow(ParentHandle()));
 }
 
 WindowObject::~WindowObject() {
-    events.reset();
-    messages.reset();
-    const HWND window = handle;
+    events_.reset();
+    messages_.reset();
+    const HWND window = handle_;
     Detach();
     LeaveObjects();
-    if (window != nullptr && ownsHandle && IsWindow(window)) DestroyWindow(window);
+    if (window != nullptr && ownsHandle_ && IsWindow(window)) DestroyWindow(window);
 }
 
 void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
@@ -73,38 +73,38 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
         return;
     }
     Attach(window);
-    ownsHandle = true;
+    ownsHandle_ = true;
 }
 
 void WindowObject::JoinObjects() {
-    nextObject = firstObject;
+    nextObject_ = firstObject;
     firstObject = this;
 }
 
 void WindowObject::LeaveObjects() {
     WindowObject** link = &firstObject;
     while (*link != this)
-        link = &(*link)->nextObject;
-    *link = nextObject;
-    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject)
+        link = &(*link)->nextObject_;
+    *link = nextObject_;
+    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject_)
         object->Forget(this);
 }
 
 bool WindowObject::Attach(HWND window) {
-    handle = window;
+    handle_ = window;
     WindowMap* map = Application::Windows();
     return map != nullptr && map->Insert(window, this);
 }
 
 void WindowObject::Detach() {
-    if (WindowMap* map = Application::Windows(); map != nullptr && handle != nullptr)
-        map->Remove(handle, this);
-    handle = nullptr;
+    if (WindowMap* map = Application::Windows(); map != nullptr && handle_ != nullptr)
+        map->Remove(handle_, this);
+    handle_ = nullptr;
 }
 
 void WindowObject::WindowIsGone(HWND window) {
-    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject) {
-        const HWND own = object->handle;
+    for (WindowObject* object = firstObject; object != nullptr; object = object->nextObject_) {
+        const HWND own = object->handle_;
         if (own != nullptr && (own == window || !IsWindow(own))) object->LoseWindow();
     }
     ForgetProcedure(window);
@@ -112,24 +112,24 @@ void WindowObject::WindowIsGone(HWND window) {
 
 void WindowObject::LoseWindow() {
     Detach();
-    ownsHandle = false;
-    savedProcedure = nullptr;
+    ownsHandle_ = false;
+    savedProcedure_ = nullptr;
 }
 
 void WindowObject::Forget(const WindowObject* gone) {
-    if (parent == gone) parent = nullptr;
-    if (events != nullptr) events->RemoveTarget(gone);
-    if (messages != nullptr) messages->RemoveTarget(gone);
+    if (parent_ == gone) parent_ = nullptr;
+    if (events_ != nullptr) events_->RemoveTarget(gone);
+    if (messages_ != nullptr) messages_->RemoveTarget(gone);
 }
 
 void WindowObject::Subclass() {
-    if (savedProcedure != nullptr || handle == nullptr) return;
-    savedProcedure = ReplaceProcedure(handle, &FrameworkWindowProcedure);
+    if (savedProcedure_ != nullptr || handle_ == nullptr) return;
+    savedProcedure_ = ReplaceProcedure(handle_, &FrameworkWindowProcedure);
 }
 
 bool WindowObject::RaiseEvent(EventCode code, EventSource source, std::intptr_t argument,
                               MessageRecord& record) {
-    const EventEntry* entry = events != nullptr ? events->Find(code, source) : nullptr;
+    const EventEntry* entry = events_ != nullptr ? events_->Find(code, source) : nullptr;
     if (entry == nullptr) return false;
     EventArguments arguments{entry->extra, argument, record};
     record.result = (entry->target->*entry->method)(arguments);
@@ -138,12 +138,12 @@ bool WindowObject::RaiseEvent(EventCode code, EventSource source, std::intptr_t 
 
 RECT WindowObject::LayoutRectangle() const {
     RECT client{};
-    GetClientRect(handle, &client);
+    GetClientRect(handle_, &client);
     return client;
 }
 
 void WindowObject::Move(int x, int y, int width, int height) {
-    MoveWindow(handle, x, y, width, height, TRUE);
+    MoveWindow(handle_, x, y, width, height, TRUE);
 }
 
 NativeCodeTable WindowObject::NativeCodes() const {
@@ -155,14 +155,14 @@ std::span<const EventCode> WindowObject::OwnEvents() const {
 }
 
 LRESULT WindowObject::DefaultProcessing(MessageRecord& record) {
-    if (savedProcedure != nullptr) {
-        return CallWindowProcW(savedProcedure, handle, record.message, record.wParam, record.lParam);
+    if (savedProcedure_ != nullptr) {
+        return CallWindowProcW(savedProcedure_, handle_, record.message, record.wParam, record.lParam);
     }
-    return DefWindowProcW(handle, record.message, record.wParam, record.lParam);
+    return DefWindowProcW(handle_, record.message, record.wParam, record.lParam);
 }
 
 LRESULT WindowObject::Dispatch(MessageRecord& record) {
-    const MessageEntry* entry = messages != nullptr ? messages->Find(record.message) : nullptr;
+    const MessageEntry* entry = messages_ != nullptr ? messages_->Find(record.message) : nullptr;
     if (entry == nullptr) return DispatchToClass(record);
     record.extra = entry->extra;
     return (entry->target->*entry->method)(record);
@@ -174,42 +174,43 @@ LRESULT WindowObject::DispatchToClass(MessageRecord& record) {
 
 void WindowObject::AddEventHandler(EventCode code, EventSource source, WindowObject* target,
                                    EventMethod method, std::uintptr_t extra) {
-    if (events == nullptr) events.reset(new (std::nothrow) EventTable);
-    if (events != nullptr) events->Add(code, source, target, method, extra);
+    if (events_ == nullptr) events_.reset(new (std::nothrow) EventTable);
+    if (events_ != nullptr) events_->Add(code, source, target, method, extra);
 }
 
 void WindowObject::AddNotificationHandler(EventCode code, WindowObject* target, EventMethod method,
                                           std::uintptr_t extra) {
-    if (handle == nullptr) return;
+    if (handle_ == nullptr) return;
     for (const EventCode own : OwnEvents()) {
         if (own == code) {
-            AddEventHandler(code, reinterpret_cast<EventSource>(handle), target, method, extra);
+            AddEventHandler(code, reinterpret_cast<EventSource>(handle_), target, method, extra);
             return;
         }
     }
-    if (parent == nullptr) return;
-    const EventSource source = IsDialogWindow(parent->handle) ? static_cast<EventSource>(GetDlgCtrlID(handle))
-                                                              : reinterpret_cast<EventSource>(handle);
-    parent->AddEventHandler(code, source, target, method, extra);
+    if (parent_ == nullptr) return;
+    const EventSource source = IsDialogWindow(parent_->handle_)
+                                   ? static_cast<EventSource>(GetDlgCtrlID(handle_))
+                                   : reinterpret_cast<EventSource>(handle_);
+    parent_->AddEventHandler(code, source, target, method, extra);
 }
 
 void WindowObject::AddMessageHandler(UINT message, WindowObject* target, MessageMethod method,
                                      std::uintptr_t extra) {
-    if (messages == nullptr) messages.reset(new (std::nothrow) MessageTable);
-    if (messages != nullptr) messages->Add(message, target, method, extra);
+    if (messages_ == nullptr) messages_.reset(new (std::nothrow) MessageTable);
+    if (messages_ != nullptr) messages_->Add(message, target, method, extra);
 }
 
 void WindowObject::Enable() {
-    ShowWindow(handle, SW_SHOW);
-    EnableWindow(handle, TRUE);
-    ShowWindow(handle, SW_SHOW);
+    ShowWindow(handle_, SW_SHOW);
+    EnableWindow(handle_, TRUE);
+    ShowWindow(handle_, SW_SHOW);
 }
 
 // Hidden and shown again so that it repaints disabled.
 void WindowObject::Disable() {
-    ShowWindow(handle, SW_HIDE);
-    EnableWindow(handle, FALSE);
-    ShowWindow(handle, SW_SHOW);
+    ShowWindow(handle_, SW_HIDE);
+    EnableWindow(handle_, FALSE);
+    ShowWindow(handle_, SW_SHOW);
 }
 
 namespace {

@@ -28,15 +28,15 @@ class WindowObject {
     WindowObject(const WindowObject&) = delete;
     WindowObject& operator=(const WindowObject&) = delete;
 
-    [[nodiscard]] HWND Handle() const { return handle; }
-    [[nodiscard]] WindowObject* Parent() const { return parent; }
+    [[nodiscard]] HWND Handle() const { return handle_; }
+    [[nodiscard]] WindowObject* Parent() const { return parent_; }
     // The parent's window, or null.
-    [[nodiscard]] HWND ParentHandle() const { return parent != nullptr ? parent->handle : nullptr; }
-    [[nodiscard]] bool OwnsHandle() const { return ownsHandle; }
+    [[nodiscard]] HWND ParentHandle() const { return parent_ != nullptr ? parent_->handle_ : nullptr; }
+    [[nodiscard]] bool OwnsHandle() const { return ownsHandle_; }
 
     // Set by the main window on its condition pages.
-    void MarkAsPage() { isPage = true; }
-    [[nodiscard]] bool IsPage() const { return isPage; }
+    void MarkAsPage() { isPage_ = true; }
+    [[nodiscard]] bool IsPage() const { return isPage_; }
 
     // Makes an existing control's messages pass through this object, once.
     void Subclass();
@@ -116,17 +116,17 @@ class WindowObject {
 
     // All objects that there are, with a window or without.
     static WindowObject* firstObject;
-    WindowObject* nextObject = nullptr;
+    WindowObject* nextObject_ = nullptr;
     void JoinObjects();
     void LeaveObjects();
 
-    HWND handle = nullptr;
-    std::unique_ptr<EventTable> events;
-    std::unique_ptr<MessageTable> messages;
-    WindowObject* parent = nullptr;
-    bool ownsHandle = false;
-    bool isPage = false;
-    WNDPROC savedProcedure = nullptr;
+    HWND handle_ = nullptr;
+    std::unique_ptr<EventTable> events_;
+    std::unique_ptr<MessageTable> messages_;
+    WindowObject* parent_ = nullptr;
+    bool ownsHandle_ = false;
+    bool isPage_ = false;
+    WNDPROC savedProcedure_ = nullptr;
 };
 
 // The window procedure of every registered class and every subclassed control.

@@ -22,7 +22,7 @@ class DroppedCalendar {
   private:
     void ShrinkLetters(HWND picker, HWND calendar);
 
-    HFONT font = nullptr;
+    HFONT font_ = nullptr;
 };
 
 }  // namespace ce

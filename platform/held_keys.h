@@ -18,7 +18,7 @@ class HeldKeys {
     HeldKeys& operator=(const HeldKeys&) = delete;
 
   private:
-    HHOOK hook;
+    HHOOK hook_;
 };
 
 }  // namespace ce

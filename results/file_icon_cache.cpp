@@ -20,38 +20,38 @@ constexpr int ShortcutOverlay = 1;
 class ImageList {
   public:
     explicit ImageList(int imageSize)
-        : size(imageSize), handle(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
-    ~ImageList() { ImageList_Destroy(handle); }
+        : size_(imageSize), handle_(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
+    ~ImageList() { ImageList_Destroy(handle_); }
     ImageList(const ImageList&) = delete;
     ImageList& operator=(const ImageList&) = delete;
 
-    [[nodiscard]] HIMAGELIST Handle() const { return handle; }
+    [[nodiscard]] HIMAGELIST Handle() const { return handle_; }
 
     void LoadFixedIcons() {
-        ImageList_Remove(handle, -1);
+        ImageList_Remove(handle_, -1);
         int count = 0;
         for (const int id : FixedIcons) {
             const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id),
-                                                            IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+                                                            IMAGE_ICON, size_, size_, LR_DEFAULTCOLOR));
             Take(icon);
             // One that cannot be loaded leaves an empty place: the others are known by their indexes.
             GrowTo(++count);
         }
-        ImageList_SetOverlayImage(handle, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
+        ImageList_SetOverlayImage(handle_, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
     }
 
     // Appends the icon, frees it and returns its index.
     int Take(HICON icon) {
-        const int index = ImageList_ReplaceIcon(handle, -1, icon);
+        const int index = ImageList_ReplaceIcon(handle_, -1, icon);
         if (icon != nullptr) DestroyIcon(icon);
         return index;
     }
 
-    [[nodiscard]] int Count() const { return ImageList_GetImageCount(handle); }
+    [[nodiscard]] int Count() const { return ImageList_GetImageCount(handle_); }
 
     // Appends empty images up to this many.
     void GrowTo(int count) {
-        if (Count() < count) ImageList_SetImageCount(handle, static_cast<UINT>(count));
+        if (Count() < count) ImageList_SetImageCount(handle_, static_cast<UINT>(count));
     }
 
     // Appends the shell's icon of a file.
@@ -62,8 +62,8 @@ class ImageList {
     }
 
   private:
-    int size;
-    HIMAGELIST handle;
+    int size_;
+    HIMAGELIST handle_;
 };
 
 bool EndsIn(const std::wstring& path, const wchar_t* suffix) {

@@ -43,7 +43,7 @@ FilePage::FilePage(WindowObject* parentObject, const wchar_t* title, const wchar
 
 SHFILEINFOW FilePage::ShowFile(UINT alsoAsked) {
     SHFILEINFOW info{};
-    ce::SHGetFileInfo(path, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME | alsoAsked);
+    ce::SHGetFileInfo(path_, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME | alsoAsked);
     SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON,
                         reinterpret_cast<LPARAM>(info.hIcon));
     SetDlgItemTextW(Handle(), STATIC_DISPLAY_NAME, info.szDisplayName);

@@ -9,15 +9,15 @@
 class FilePage : public PropertySheetPage {
   public:
     // The text stays the caller's and outlives the sheet.
-    void SetPath(const wchar_t* filePath) { path = filePath; }
+    void SetPath(const wchar_t* filePath) { path_ = filePath; }
 
     // Whether an apply of this page has set out to change something.
-    [[nodiscard]] bool HasChanged() const { return changed; }
+    [[nodiscard]] bool HasChanged() const { return changed_; }
 
   protected:
     FilePage(WindowObject* parent, const wchar_t* title, const wchar_t* templateName);
 
-    [[nodiscard]] const wchar_t* Path() const { return path; }
+    [[nodiscard]] const wchar_t* Path() const { return path_; }
 
     // Shows the file's icon and display name; the answer holds what else was asked for.
     SHFILEINFOW ShowFile(UINT alsoAsked = 0);
@@ -27,9 +27,9 @@ class FilePage : public PropertySheetPage {
 
     LRESULT OnWmDestroy(MessageRecord& record) override;
 
-    void MarkChanged() { changed = true; }
+    void MarkChanged() { changed_ = true; }
 
   private:
-    bool changed = false;
-    const wchar_t* path = L"";
+    bool changed_ = false;
+    const wchar_t* path_ = L"";
 };

@@ -4,23 +4,23 @@
 
 FilePropertiesSheet::FilePropertiesSheet(WindowObject* ownerObject, const wchar_t* captionText)
     : PropertySheetDialog(ownerObject, captionText),
-      owner(ownerObject),
-      generalPage(std::make_unique<GeneralPage>(ownerObject)) {
-    AddPage(*generalPage);
+      owner_(ownerObject),
+      generalPage_(std::make_unique<GeneralPage>(ownerObject)) {
+    AddPage(*generalPage_);
 }
 
 void FilePropertiesSheet::SetPath(const wchar_t* path) {
-    generalPage->SetPath(path);
-    if (shortcutPage != nullptr) {
+    generalPage_->SetPath(path);
+    if (shortcutPage_ != nullptr) {
         RemovePage(ShortcutPageIndex);
-        shortcutPage.reset();
+        shortcutPage_.reset();
     }
     if (!IsShortcut(path)) return;
-    shortcutPage = std::make_unique<ShortcutPage>(owner);
-    shortcutPage->SetPath(path);
-    AddPage(*shortcutPage);
+    shortcutPage_ = std::make_unique<ShortcutPage>(owner_);
+    shortcutPage_->SetPath(path);
+    AddPage(*shortcutPage_);
 }
 
 bool FilePropertiesSheet::HasChanged() const {
-    return generalPage->HasChanged() || (shortcutPage != nullptr && shortcutPage->HasChanged());
+    return generalPage_->HasChanged() || (shortcutPage_ != nullptr && shortcutPage_->HasChanged());
 }

@@ -12,14 +12,14 @@ class FilePropertiesSheet : public PropertySheetDialog {
     // The path stays the caller's and outlives the sheet.
     void SetPath(const wchar_t* path);
 
-    [[nodiscard]] bool HasShortcutPage() const { return shortcutPage != nullptr; }
+    [[nodiscard]] bool HasShortcutPage() const { return shortcutPage_ != nullptr; }
     // Whether any page has set out to change something.
     [[nodiscard]] bool HasChanged() const;
 
   private:
     static constexpr std::size_t ShortcutPageIndex = 1;
 
-    WindowObject* owner;
-    std::unique_ptr<GeneralPage> generalPage;
-    std::unique_ptr<ShortcutPage> shortcutPage;
+    WindowObject* owner_;
+    std::unique_ptr<GeneralPage> generalPage_;
+    std::unique_ptr<ShortcutPage> shortcutPage_;
 };

@@ -23,17 +23,17 @@ std::wstring NameEdit::Text() const {
 // Most input methods turn the keys that they take into VK_PROCESSKEY; some leave Enter and Esc as they are.
 LRESULT NameEdit::OnKeyDown(MessageRecord& record) {
     const bool ends = record.wParam == VK_RETURN || record.wParam == VK_ESCAPE;
-    if (ends && composing) return 0;
+    if (ends && composing_) return 0;
     if (ends) {
-        taken = record.wParam == VK_RETURN;
-        givenUp = !taken;
+        taken_ = record.wParam == VK_RETURN;
+        givenUp_ = !taken_;
     }
     return DefaultProcessing(record);
 }
 
 // The list takes what stands in an edit that is left.
 LRESULT NameEdit::OnFocusLost(MessageRecord& record) {
-    if (!givenUp) taken = true;
+    if (!givenUp_) taken_ = true;
     return DefaultProcessing(record);
 }
 
@@ -53,7 +53,7 @@ LRESULT NameEdit::OnMoving(MessageRecord& record) {
 }
 
 LRESULT NameEdit::OnComposition(MessageRecord& record) {
-    composing = record.extra != FALSE;
+    composing_ = record.extra != FALSE;
     return DefaultProcessing(record);
 }
 

@@ -11,7 +11,7 @@ class NameEdit : public Control {
     NameEdit(WindowObject* parent, HWND edit);
 
     // Whether the editing ended by Enter or by leaving the edit, and not by Esc.
-    [[nodiscard]] bool IsTaken() const { return taken; }
+    [[nodiscard]] bool IsTaken() const { return taken_; }
     // What stands in it; empty once the list has destroyed it.
     [[nodiscard]] std::wstring Text() const;
 
@@ -22,7 +22,7 @@ class NameEdit : public Control {
     LRESULT OnMoving(MessageRecord& record);
     LRESULT OnDestroyed(MessageRecord& record);
 
-    bool composing = false;
-    bool taken = false;
-    bool givenUp = false;
+    bool composing_ = false;
+    bool taken_ = false;
+    bool givenUp_ = false;
 };

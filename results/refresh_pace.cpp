@@ -12,17 +12,17 @@ constexpr ULONGLONG RefreshCostFactor = 10;
 }  // namespace
 
 void RefreshPace::Begin(ULONGLONG now) {
-    rowsShown = false;
-    firstRowDue = now + FirstRowDelay;
-    nextDue = now + RefreshInterval;
+    rowsShown_ = false;
+    firstRowDue_ = now + FirstRowDelay;
+    nextDue_ = now + RefreshInterval;
 }
 
 bool RefreshPace::IsDue(ULONGLONG now, bool hasRows) const {
-    return now >= (hasRows && !rowsShown ? firstRowDue : nextDue);
+    return now >= (hasRows && !rowsShown_ ? firstRowDue_ : nextDue_);
 }
 
 void RefreshPace::Drawn(ULONGLONG start, ULONGLONG end, bool hasRows) {
-    if (hasRows) rowsShown = true;
+    if (hasRows) rowsShown_ = true;
     const ULONGLONG pause = (end - start) * RefreshCostFactor;
-    nextDue = end + (pause > RefreshInterval ? pause : RefreshInterval);
+    nextDue_ = end + (pause > RefreshInterval ? pause : RefreshInterval);
 }

@@ -18,7 +18,7 @@ class RefreshPace {
     void Drawn(ULONGLONG start, ULONGLONG end, bool hasRows);
 
   private:
-    bool rowsShown = false;
-    ULONGLONG firstRowDue = 0;
-    ULONGLONG nextDue = 0;
+    bool rowsShown_ = false;
+    ULONGLONG firstRowDue_ = 0;
+    ULONGLONG nextDue_ = 0;
 };

@@ -2,16 +2,16 @@
 
 #include <string>
 
+#include "base/join_path.h"
 #include "base/language.h"
 #include "fileops/confirmation_dialog.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
-#include "framework/message_boxes.h"
 #include "fileops/question_texts.h"
+#include "framework/message_boxes.h"
 #include "results/file_properties_sheet.h"
 #include "results/shortcut_maker.h"
 #include "results/shortcut_target.h"
-#include "base/join_path.h"
 
 namespace {
 
@@ -45,57 +45,57 @@ std::wstring NewPath(const wchar_t* folder, const wchar_t* name) {
 
 void ResultCommands::Open() {
     wchar_t path[MAX_PATH];
-    if (list.SelectedPath(path) < 0) return;
+    if (list_.SelectedPath(path) < 0) return;
     if (IsShortcut(path)) {
         OpenShortcut(path);
     } else if (!HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY)) {
-        Execute(owner.Handle(), path, nullptr);
+        Execute(owner_.Handle(), path, nullptr);
     }
 }
 
 void ResultCommands::AddToStartMenu() {
     wchar_t path[MAX_PATH];
-    if (list.SelectedPath(path) < 0) return;
+    if (list_.SelectedPath(path) < 0) return;
     MakeShortcut(path, InLanguage(L"\\Windows\\Start Menu\\Programs", L"\\Windows\\ｽﾀｰﾄ ﾒﾆｭｰ\\ﾌﾟﾛｸﾞﾗﾑ"),
                  ShortcutForm::Plain);
 }
 
 void ResultCommands::Delete() {
     wchar_t path[MAX_PATH];
-    const int row = list.SelectedPath(path);
+    const int row = list_.SelectedPath(path);
     if (row < 0) return;
-    if (AskQuestion(&owner, YesNoTemplate(), &FillFileDeleteText, path) != ConfirmResult::Yes) return;
-    if (DeleteFileOrReport(owner.Handle(), path)) list.DeleteRow(row);
+    if (AskQuestion(&owner_, YesNoTemplate(), &FillFileDeleteText, path) != ConfirmResult::Yes) return;
+    if (DeleteFileOrReport(owner_.Handle(), path)) list_.DeleteRow(row);
 }
 
 void ResultCommands::BeginRename() {
-    const int row = list.SelectedRow();
-    if (row >= 0) list.EditName(row);
+    const int row = list_.SelectedRow();
+    if (row >= 0) list_.EditName(row);
 }
 
 void ResultCommands::EndRename(const NMLVDISPINFOW& edited) {
     // The control's buffer does not outlive the message boxes.
     std::wstring newName;
-    if (!list.EditedName(edited, newName)) return;
-    const int row = list.EditedRow(edited);
+    if (!list_.EditedName(edited, newName)) return;
+    const int row = list_.EditedRow(edited);
     if (row < 0) return;
     wchar_t folder[MAX_PATH];
     wchar_t oldName[MAX_PATH];
     wchar_t oldPath[MAX_PATH];
-    list.ReadCell(row, ResultColumn::Folder, folder);
-    list.ReadCell(row, ResultColumn::Name, oldName);
+    list_.ReadCell(row, ResultColumn::Folder, folder);
+    list_.ReadCell(row, ResultColumn::Name, oldName);
     if (!JoinPath(oldPath, folder, oldName)) return;
-    if (MoveFileOrReport(owner.Handle(), oldPath, NewPath(folder, newName.c_str()).c_str())) {
-        list.SetCell(row, ResultColumn::Name, newName.c_str());
+    if (MoveFileOrReport(owner_.Handle(), oldPath, NewPath(folder, newName.c_str()).c_str())) {
+        list_.SetCell(row, ResultColumn::Name, newName.c_str());
     } else {
-        ShowError(owner.Handle(), InLanguage(L"Can't rename the file", L"名前の変更に失敗しました"));
+        ShowError(owner_.Handle(), InLanguage(L"Can't rename the file", L"名前の変更に失敗しました"));
     }
 }
 
 void ResultCommands::ShowProperties() {
     wchar_t path[MAX_PATH];
-    if (list.SelectedPath(path) < 0) return;
-    FilePropertiesSheet sheet(&owner, L"");
+    if (list_.SelectedPath(path) < 0) return;
+    FilePropertiesSheet sheet(&owner_, L"");
     sheet.SetPath(path);
     sheet.Run();
 }

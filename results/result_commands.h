@@ -8,7 +8,7 @@ class ResultCommands {
   public:
     // Both outlive this object; the owner's window owns the questions and messages.
     ResultCommands(WindowObject& ownerObject, ResultList& resultList)
-        : owner(ownerObject), list(resultList) {}
+        : owner_(ownerObject), list_(resultList) {}
 
     // Starts the file or what a shortcut points to. A folder, and a shortcut to one, is not opened.
     void Open();
@@ -22,6 +22,6 @@ class ResultCommands {
     void ShowProperties();
 
   private:
-    WindowObject& owner;
-    ResultList& list;
+    WindowObject& owner_;
+    ResultList& list_;
 };

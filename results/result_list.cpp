@@ -5,13 +5,13 @@
 #include <iterator>
 #include <new>
 
+#include "base/join_path.h"
 #include "base/language.h"
 #include "framework/property_keys.h"
 #include "framework/wait_cursor.h"
 #include "results/file_type_table.h"
 #include "results/result_sorting.h"
 #include "results/row_texts.h"
-#include "base/join_path.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
     UseDialogFont();
     InsertColumns();
     const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
-    if (header != nullptr) heading.reset(new (std::nothrow) ResultHeading(this, header));
+    if (header != nullptr) heading_.reset(new (std::nothrow) ResultHeading(this, header));
     OnNotification(event::ColumnClick, this, &ResultList::OnColumnClick);
     OnNotification(event::BeginLabelEdit, this, &ResultList::OnBeginNameEdit);
     Subclass();
@@ -69,7 +69,7 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
 }
 
 ResultList::~ResultList() {
-    if (font != nullptr) DeleteObject(font);
+    if (font_ != nullptr) DeleteObject(font_);
 }
 
 // The list's own font is that of the desktop's icons, which on a Japanese system may have letters of one
@@ -79,17 +79,18 @@ void ResultList::UseDialogFont() {
     if (!SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof description, &description, 0)) return;
     std::wcscpy(description.lfFaceName, L"Tahoma");
     description.lfCharSet = DEFAULT_CHARSET;
-    font = CreateFontIndirectW(&description);
-    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    font_ = CreateFontIndirectW(&description);
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE);
 }
 
 void ResultList::LoadIcons() {
-    if (iconCache != nullptr) return;
-    iconCache.reset(new (std::nothrow) FileIconCache);
-    if (iconCache == nullptr) return;
-    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(iconCache->SmallImages()));
+    if (iconCache_ != nullptr) return;
+    iconCache_.reset(new (std::nothrow) FileIconCache);
+    if (iconCache_ == nullptr) return;
+    SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_SMALL,
+                 reinterpret_cast<LPARAM>(iconCache_->SmallImages()));
     SendMessageW(Handle(), LVM_SETIMAGELIST, LVSIL_NORMAL,
-                 reinterpret_cast<LPARAM>(iconCache->LargeImages()));
+                 reinterpret_cast<LPARAM>(iconCache_->LargeImages()));
 }
 
 void ResultList::InsertColumns() {
@@ -106,16 +107,16 @@ void ResultList::InsertColumns() {
 
 // Where the list could not be made, the system would take a drawing of no window for one of the whole screen.
 void ResultList::BeginFilling() {
-    if (filling || Handle() == nullptr) return;
-    filling = true;
-    rowsPending = false;
-    pace.Begin(GetTickCount64());
+    if (filling_ || Handle() == nullptr) return;
+    filling_ = true;
+    rowsPending_ = false;
+    pace_.Begin(GetTickCount64());
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
 }
 
 void ResultList::EndFilling() {
-    if (!filling) return;
-    filling = false;
+    if (!filling_) return;
+    filling_ = false;
     SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
     InvalidateRect(Handle(), nullptr, TRUE);
 }
@@ -139,9 +140,9 @@ bool ResultList::ClearSome() {
     }
     CallControl(LVM_DELETEALLITEMS, 0, 0);
     if (Handle() != nullptr) EnableWindow(Handle(), TRUE);
-    hasRows = false;
-    rowsPending = true;
-    pace.Begin(GetTickCount64());
+    hasRows_ = false;
+    rowsPending_ = true;
+    pace_.Begin(GetTickCount64());
     return false;
 }
 
@@ -159,14 +160,14 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
     item.mask = LVIF_IMAGE | LVIF_PARAM;
     item.iItem = static_cast<int>(CallControl(LVM_GETITEMCOUNT, 0, 0));
     item.lParam = item.iItem;
-    item.iImage = iconCache != nullptr
-                      ? iconCache->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
+    item.iImage = iconCache_ != nullptr
+                      ? iconCache_->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
                       : FileIconCache::DocumentImage;
     const auto row = static_cast<int>(CallControl(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 
     wchar_t folder[MAX_PATH];
     FolderOfResult(fullPath, folder);
-    SetCell(row, ResultColumn::Type, typeNames.Of(fullPath, entry.dwFileAttributes));
+    SetCell(row, ResultColumn::Type, typeNames_.Of(fullPath, entry.dwFileAttributes));
     SetCell(row, ResultColumn::Name, entry.cFileName);
     SetCell(row, ResultColumn::Folder, folder);
     // A folder's size cell stays empty.
@@ -182,12 +183,12 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
     wchar_t modified[2 * RowTextCapacity];
     FormatResultTime(local, modified);
     SetCell(row, ResultColumn::Modified, modified);
-    hasRows = true;
-    rowsPending = true;
+    hasRows_ = true;
+    rowsPending_ = true;
 }
 
 void ResultList::Refresh() {
-    if (filling && rowsPending && pace.IsDue(GetTickCount64(), hasRows)) ShowPending();
+    if (filling_ && rowsPending_ && pace_.IsDue(GetTickCount64(), hasRows_)) ShowPending();
 }
 
 void ResultList::ShowPending() {
@@ -195,8 +196,8 @@ void ResultList::ShowPending() {
     SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
     RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
-    rowsPending = false;
-    pace.Drawn(start, GetTickCount64(), hasRows);
+    rowsPending_ = false;
+    pace_.Drawn(start, GetTickCount64(), hasRows_);
 }
 
 int ResultList::RowCount() const {
@@ -287,16 +288,16 @@ void ResultList::EndEditing() {
 }
 
 int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
-    return editedNumber ? RowWithNumber(*editedNumber) : edited.item.iItem;
+    return editedNumber_ ? RowWithNumber(*editedNumber_) : edited.item.iItem;
 }
 
 // A click on the selected row's name begins an editing half a second later, whatever has been opened
 // meanwhile.
 LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
-    if (filling || !IsWindowEnabled(ParentHandle())) return TRUE;
-    editedNumber = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
+    if (filling_ || !IsWindowEnabled(ParentHandle())) return TRUE;
+    editedNumber_ = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
     const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
-    if (edit != nullptr) nameEdit.reset(new (std::nothrow) NameEdit(this, edit));
+    if (edit != nullptr) nameEdit_.reset(new (std::nothrow) NameEdit(this, edit));
     return FALSE;
 }
 
@@ -307,8 +308,8 @@ bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) con
         return true;
     }
     // So the desktop reports an editing that was given up, but also an empty and an unchanged text.
-    if (nameEdit == nullptr || nameEdit->Handle() == nullptr || !nameEdit->IsTaken()) return false;
-    name = nameEdit->Text();
+    if (nameEdit_ == nullptr || nameEdit_->Handle() == nullptr || !nameEdit_->IsTaken()) return false;
+    name = nameEdit_->Text();
     return true;
 }
 
@@ -321,13 +322,13 @@ void ResultList::SetView(DWORD view) {
 }
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
-    if (sortColumn < 0) return 0;
+    if (sortColumn_ < 0) return 0;
     EndEditing();
     const WaitCursor waiting;
     const int clicked = reinterpret_cast<const NMLISTVIEW*>(arguments.argument)->iSubItem;
-    sortAscending = clicked != sortColumn || !sortAscending;
-    sortColumn = clicked;
-    SortRows(Handle(), sortColumn, sortAscending);
+    sortAscending_ = clicked != sortColumn_ || !sortAscending_;
+    sortColumn_ = clicked;
+    SortRows(Handle(), sortColumn_, sortAscending_);
     return 0;
 }
 

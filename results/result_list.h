@@ -83,16 +83,16 @@ class ResultList : public ListView, public MatchSink {
     void DeleteLastRows(int rows);
 
     // The column of the last sort, by its number; a negative one would mean the order of finding.
-    int sortColumn = 0;
-    bool sortAscending = true;
-    std::unique_ptr<FileIconCache> iconCache;  // null before LoadIcons, or without memory for it
-    TypeNames typeNames;
-    std::unique_ptr<ResultHeading> heading;
-    std::unique_ptr<NameEdit> nameEdit;  // of the last editing; null before the first
-    std::optional<LPARAM> editedNumber;  // of the row whose name is being edited
-    HFONT font = nullptr;
-    bool filling = false;
-    bool rowsPending = false;
-    bool hasRows = false;  // added since the last clear
-    RefreshPace pace;
+    int sortColumn_ = 0;
+    bool sortAscending_ = true;
+    std::unique_ptr<FileIconCache> iconCache_;  // null before LoadIcons, or without memory for it
+    TypeNames typeNames_;
+    std::unique_ptr<ResultHeading> heading_;
+    std::unique_ptr<NameEdit> nameEdit_;  // of the last editing; null before the first
+    std::optional<LPARAM> editedNumber_;  // of the row whose name is being edited
+    HFONT font_ = nullptr;
+    bool filling_ = false;
+    bool rowsPending_ = false;
+    bool hasRows_ = false;  // added since the last clear
+    RefreshPace pace_;
 };

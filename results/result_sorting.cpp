@@ -21,16 +21,16 @@ struct SortKey {
 // comparison it would be done thirty times for each.
 class SortKeys {
   public:
-    SortKeys(HWND listView, ResultColumn sortColumn) : list(listView), column(sortColumn) {
-        const auto count = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-        keys.reserve(static_cast<std::size_t>(count));
+    SortKeys(HWND listView, ResultColumn sortColumn) : list_(listView), column_(sortColumn) {
+        const auto count = static_cast<int>(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0));
+        keys_.reserve(static_cast<std::size_t>(count));
         for (int index = 0; index < count; ++index)
-            keys.push_back(ReadKey(index));
+            keys_.push_back(ReadKey(index));
     }
 
     // Equal rows stay in the order in which they are.
     void Sort(bool ascending) {
-        std::stable_sort(keys.begin(), keys.end(), [&](const SortKey& first, const SortKey& second) {
+        std::stable_sort(keys_.begin(), keys_.end(), [&](const SortKey& first, const SortKey& second) {
             const int result = Compare(first, second);
             return ascending ? result < 0 : result > 0;
         });
@@ -39,11 +39,11 @@ class SortKeys {
     // The place of each row, by its number. A row that was deleted has none.
     [[nodiscard]] std::vector<std::size_t> Places() const {
         std::size_t rows = 0;
-        for (const SortKey& key : keys)
+        for (const SortKey& key : keys_)
             rows = std::max(rows, key.row + 1);
         std::vector<std::size_t> places(rows);
-        for (std::size_t place = 0; place < keys.size(); ++place)
-            places[keys[place].row] = place;
+        for (std::size_t place = 0; place < keys_.size(); ++place)
+            places[keys_[place].row] = place;
         return places;
     }
 
@@ -52,37 +52,37 @@ class SortKeys {
         LVITEMW item{};
         item.mask = LVIF_PARAM;
         item.iItem = index;
-        SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        SendMessageW(list_, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         return static_cast<std::size_t>(item.lParam);
     }
 
     SortKey ReadKey(int index) {
         wchar_t text[SortTextCapacity] = L"";
         LVITEMW item{};
-        item.iSubItem = static_cast<int>(column);
+        item.iSubItem = static_cast<int>(column_);
         item.pszText = text;
         item.cchTextMax = SortTextCapacity;
-        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+        SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
         SortKey key{RowNumber(index), {}};
-        if (column == ResultColumn::Size) {
+        if (column_ == ResultColumn::Size) {
             key.size = ParseShownSize(text);
         } else {
             FoldForComparison(text);
-            key.text = texts.size();
-            texts.insert(texts.end(), text, text + std::wcslen(text) + 1);
+            key.text = texts_.size();
+            texts_.insert(texts_.end(), text, text + std::wcslen(text) + 1);
         }
         return key;
     }
 
     [[nodiscard]] int Compare(const SortKey& first, const SortKey& second) const {
-        if (column == ResultColumn::Size) return CompareSizes(first.size, second.size);
-        return CompareFoldedTexts(&texts[first.text], &texts[second.text]);
+        if (column_ == ResultColumn::Size) return CompareSizes(first.size, second.size);
+        return CompareFoldedTexts(&texts_[first.text], &texts_[second.text]);
     }
 
-    HWND list;
-    ResultColumn column;
-    std::vector<SortKey> keys;
-    std::vector<wchar_t> texts;  // one after the other, each terminated
+    HWND list_;
+    ResultColumn column_;
+    std::vector<SortKey> keys_;
+    std::vector<wchar_t> texts_;  // one after the other, each terminated
 };
 
 int CompareNumbers(std::size_t first, std::size_t second) {

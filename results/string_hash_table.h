@@ -29,6 +29,6 @@ class StringHashTable {
   private:
     struct Entry;
 
-    std::size_t count;
-    std::unique_ptr<Entry*[]> buckets;
+    std::size_t count_;
+    std::unique_ptr<Entry*[]> buckets_;
 };

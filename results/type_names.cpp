@@ -20,11 +20,11 @@ std::wstring KeyOf(const wchar_t* fullPath, DWORD attributes) {
 
 const wchar_t* TypeNames::Of(const wchar_t* fullPath, DWORD attributes) {
     std::wstring key = KeyOf(fullPath, attributes);
-    auto known = names.find(key);
-    if (known == names.end()) {
+    auto known = names_.find(key);
+    if (known == names_.end()) {
         SHFILEINFOW info{};
         if (ce::SHGetFileInfo(fullPath, 0, &info, sizeof info, SHGFI_TYPENAME) == 0) return L"";
-        known = names.emplace(std::move(key), info.szTypeName).first;
+        known = names_.emplace(std::move(key), info.szTypeName).first;
     }
     return known->second.c_str();
 }

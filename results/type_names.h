@@ -16,5 +16,5 @@ class TypeNames {
     [[nodiscard]] const wchar_t* Of(const wchar_t* fullPath, DWORD attributes);
 
   private:
-    std::unordered_map<std::wstring, std::wstring> names;  // by what KeyOf makes of a path
+    std::unordered_map<std::wstring, std::wstring> names_;  // by what KeyOf makes of a path
 };

@@ -2,20 +2,20 @@
 
 // The room behind the page's start stays uninitialised on purpose.
 ByteReader::ByteReader(ByteSource& byteSource)  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    : source(byteSource),
-      blockStart(room +
-                 (ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize)),
-      position(blockStart),
-      end(blockStart) {}
+    : source_(byteSource),
+      blockStart_(room_ +
+                  (ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room_) % ByteSource::PageSize)),
+      position_(blockStart_),
+      end_(blockStart_) {}
 
 int ByteReader::NextAfterBlock() {
-    if (ended) return -1;
-    const std::size_t filled = source.Fill(blockStart, ByteSource::BlockSize);
-    position = blockStart;
-    end = blockStart + filled;
+    if (ended_) return -1;
+    const std::size_t filled = source_.Fill(blockStart_, ByteSource::BlockSize);
+    position_ = blockStart_;
+    end_ = blockStart_ + filled;
     if (filled == 0) {
-        ended = true;
+        ended_ = true;
         return -1;
     }
-    return *position++;
+    return *position_++;
 }

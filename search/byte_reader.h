@@ -14,16 +14,16 @@ class ByteReader {
     ByteReader& operator=(const ByteReader&) = delete;
 
     // The next byte, 0 to 255, or -1 at the end. Once the end was seen it stays the end.
-    int Next() { return position != end ? *position++ : NextAfterBlock(); }
+    int Next() { return position_ != end_ ? *position_++ : NextAfterBlock(); }
 
   private:
     int NextAfterBlock();
 
-    ByteSource& source;
-    bool ended = false;
-    unsigned char* blockStart;
-    const unsigned char* position;
-    const unsigned char* end;
+    ByteSource& source_;
+    bool ended_ = false;
+    unsigned char* blockStart_;
+    const unsigned char* position_;
+    const unsigned char* end_;
     // Not initialised: every search of a file would pay for it.
-    unsigned char room[ByteSource::BlockSize + ByteSource::PageSize];
+    unsigned char room_[ByteSource::BlockSize + ByteSource::PageSize];
 };

@@ -27,30 +27,30 @@ class ByteSource {
 // comes short is the last: the C library would ask again, and so would the reader, which small files feel.
 class FileByteSource final : public ByteSource {
   public:
-    explicit FileByteSource(std::FILE* openFile) : file(openFile) {}
+    explicit FileByteSource(std::FILE* openFile) : file_(openFile) {}
 
     std::size_t Fill(unsigned char* block, std::size_t size) override {
-        if (ended) return 0;
+        if (ended_) return 0;
         const long long count = Read(block, size);
-        ended = count < static_cast<long long>(size);
+        ended_ = count < static_cast<long long>(size);
         return count > 0 ? static_cast<std::size_t>(count) : 0;
     }
 
     // Begins again at the file's beginning.
     void Rewind() {
-        std::rewind(file);
-        ended = false;
+        std::rewind(file_);
+        ended_ = false;
     }
 
   private:
     long long Read(unsigned char* block, std::size_t size) {
 #ifdef _WIN32
-        return _read(_fileno(file), block, static_cast<unsigned>(size));
+        return _read(_fileno(file_), block, static_cast<unsigned>(size));
 #else
         return read(fileno(file), block, size);
 #endif
     }
 
-    std::FILE* file;
-    bool ended = false;
+    std::FILE* file_;
+    bool ended_ = false;
 };

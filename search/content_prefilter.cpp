@@ -20,14 +20,14 @@ enum class Place { Nothing, Occurrence, EndOfScan };
 class Window {
   public:
     explicit Window(const ContentPattern& sought)
-        : pattern(sought),
-          scanned{Repeated(0), Repeated(1), Repeated(sought.length - 1), sought.length - 1},
-          scan(ContentScanFor(sought.folding)) {}
+        : pattern_(sought),
+          scanned_{Repeated(0), Repeated(1), Repeated(sought.length - 1), sought.length - 1},
+          scan_(ContentScanFor(sought.folding)) {}
 
     // The first place between begin and end that counts. One that needs bytes behind the end does not, yet.
     [[nodiscard]] Place Examine(const Byte* begin, const Byte* end) {
-        start = begin;
-        stop = end;
+        start_ = begin;
+        stop_ = end;
         const Byte* at = begin;
         const Place passed = PassOver(at);
         if (passed != Place::Nothing) return passed;
@@ -42,7 +42,7 @@ class Window {
     // Where the bytes begin that have to stay for the next window: an occurrence, or a line feed with what
     // stands before it, may reach over the border.
     [[nodiscard]] const Byte* KeepFrom(const Byte* begin, const Byte* end) const {
-        std::size_t missing = pattern.length + 1;
+        std::size_t missing = pattern_.length + 1;
         while (end > begin && missing > 0) {
             if (*--end != CarriageReturn) --missing;
         }
@@ -53,11 +53,11 @@ class Window {
     // Case is ignored by setting the bit that tells small letters from capital ones, for letters only.
     Byte CaseBit(std::size_t index) const {
         constexpr Byte SmallLetterBit = 0x20;
-        const auto small = static_cast<Byte>(static_cast<Byte>(pattern.bytes[index]) | SmallLetterBit);
-        return pattern.folding && small >= 'a' && small <= 'z' ? SmallLetterBit : Byte{0};
+        const auto small = static_cast<Byte>(static_cast<Byte>(pattern_.bytes[index]) | SmallLetterBit);
+        return pattern_.folding && small >= 'a' && small <= 'z' ? SmallLetterBit : Byte{0};
     }
     Byte Folded(std::size_t index) const {
-        return static_cast<Byte>(static_cast<Byte>(pattern.bytes[index]) | CaseBit(index));
+        return static_cast<Byte>(static_cast<Byte>(pattern_.bytes[index]) | CaseBit(index));
     }
     ScannedPattern::Repeated Repeated(std::size_t index) const {
         ScannedPattern::Repeated repeated;
@@ -71,7 +71,7 @@ class Window {
     // finds is examined place by place, and nothing else is.
     Place PassOver(const Byte*& at) const {
         for (;;) {
-            const ScannedPlaces places = scan(scanned, at, stop);
+            const ScannedPlaces places = scan_(scanned_, at, stop_);
             at = places.at;
             if (places.candidates == 0) return Place::Nothing;
             for (std::uint64_t left = places.candidates; left != 0; left &= left - 1) {
@@ -87,7 +87,7 @@ class Window {
         if (*at == CarriageReturn) {
             const bool insideLine = next != LineFeed && next != CarriageReturn;
             if (insideLine && OccursAcross(at + 1)) return Place::Occurrence;
-        } else if (*at == LineFeed && pattern.folding) {
+        } else if (*at == LineFeed && pattern_.folding) {
             if ((next == LineFeed || next == CarriageReturn) && IsEmptyLine(at)) return Place::EndOfScan;
         } else if (Matches(*at, 0) && Matches(next, 1) && OccursAt(at)) {
             return Place::Occurrence;
@@ -96,8 +96,8 @@ class Window {
     }
 
     bool OccursAt(const Byte* at) const {
-        if (static_cast<std::size_t>(stop - at) < pattern.length) return false;
-        for (std::size_t i = 2; i < pattern.length; ++i) {
+        if (static_cast<std::size_t>(stop_ - at) < pattern_.length) return false;
+        for (std::size_t i = 2; i < pattern_.length; ++i) {
             if (!Matches(at[i], i)) return false;
         }
         return true;
@@ -105,7 +105,7 @@ class Window {
 
     // With some of its bytes before the carriage returns that end at `behind` and the others from there on.
     bool OccursAcross(const Byte* behind) const {
-        for (std::size_t before = 1; before < pattern.length; ++before) {
+        for (std::size_t before = 1; before < pattern_.length; ++before) {
             if (Matches(*behind, before) && EndsBefore(behind, before) && GoesOnAt(behind, before))
                 return true;
         }
@@ -115,7 +115,7 @@ class Window {
     bool EndsBefore(const Byte* at, std::size_t count) const {
         while (count > 0) {
             do {
-                if (at == start) return false;
+                if (at == start_) return false;
                 --at;
             } while (*at == CarriageReturn);
             if (!Matches(*at, --count)) return false;
@@ -124,8 +124,8 @@ class Window {
     }
 
     bool GoesOnAt(const Byte* at, std::size_t index) const {
-        for (; index < pattern.length; ++at) {
-            if (at == stop) return false;
+        for (; index < pattern_.length; ++at) {
+            if (at == stop_) return false;
             if (*at == CarriageReturn) continue;
             if (!Matches(*at, index++)) return false;
         }
@@ -135,18 +135,18 @@ class Window {
     // Whether the line that the line feed at `at` begins certainly stores nothing. Behind a lead byte the
     // line feed may be half of a character.
     bool IsEmptyLine(const Byte* at) const {
-        if (pattern.doubleByteAware && (at == start || IsLeadByte(at[-1]))) return false;
+        if (pattern_.doubleByteAware && (at == start_ || IsLeadByte(at[-1]))) return false;
         do {
-            if (++at == stop) return false;
+            if (++at == stop_) return false;
         } while (*at == CarriageReturn);
         return *at == LineFeed;
     }
 
-    const ContentPattern& pattern;
-    const ScannedPattern scanned;
-    const ContentScan scan;
-    const Byte* start = nullptr;
-    const Byte* stop = nullptr;
+    const ContentPattern& pattern_;
+    const ScannedPattern scanned_;
+    const ContentScan scan_;
+    const Byte* start_ = nullptr;
+    const Byte* stop_ = nullptr;
 };
 
 // A pattern of one byte is nearly everywhere, and one with the marks of lines in it follows rules of its own.

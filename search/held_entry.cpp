@@ -26,13 +26,13 @@ HeldEntry* HeldEntry::Create(const WIN32_FIND_DATAW& entry) {
 }
 
 HeldEntry::~HeldEntry() {
-    delete[] used;
+    delete[] used_;
 }
 
 const wchar_t* HeldEntry::Name() const {
-    return reinterpret_cast<const wchar_t*>(used + NameOffset);
+    return reinterpret_cast<const wchar_t*>(used_ + NameOffset);
 }
 
 void HeldEntry::CopyTo(WIN32_FIND_DATAW& entry) const {
-    std::memcpy(&entry, used, UsedBytes(Name()));
+    std::memcpy(&entry, used_, UsedBytes(Name()));
 }

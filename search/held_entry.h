@@ -2,8 +2,8 @@
 
 // A directory record kept for later, without the unused room behind its name.
 
-#include "platform/system_types.h"
 #include "base/object_list.h"
+#include "platform/system_types.h"
 
 class HeldEntry final : public ListObject {
   public:
@@ -16,8 +16,8 @@ class HeldEntry final : public ListObject {
     void CopyTo(WIN32_FIND_DATAW& entry) const;
 
   private:
-    explicit HeldEntry(unsigned char* usedBytes) : used(usedBytes) {}
+    explicit HeldEntry(unsigned char* usedBytes) : used_(usedBytes) {}
 
     // The record up to the end of its name.
-    unsigned char* used;
+    unsigned char* used_;
 };

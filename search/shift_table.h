@@ -20,30 +20,30 @@ class ShiftTable {
     // Sets all 65,536 entries of units to the shift.
     void FillUnits(std::int32_t shift);
     void SetUnit(wchar_t unit, std::int32_t shift);
-    std::int32_t ForUnit(wchar_t unit) const { return entries[static_cast<std::uint16_t>(unit)]; }
+    std::int32_t ForUnit(wchar_t unit) const { return entries_[static_cast<std::uint16_t>(unit)]; }
 
     // Sets the 256 entries behind those of units to the shift. The bytes 0x80 to 0xFF, whose entries lie
     // before, keep theirs.
     void FillBytes(std::int32_t shift);
-    void SetByte(char byte, std::int32_t shift) { entries[ByteIndex(byte)] = shift; }
-    std::int32_t ForByte(char byte) const { return entries[ByteIndex(byte)]; }
+    void SetByte(char byte, std::int32_t shift) { entries_[ByteIndex(byte)] = shift; }
+    std::int32_t ForByte(char byte) const { return entries_[ByteIndex(byte)]; }
 
     // For tests: the table as it is when the program starts (all 0), and one entry by its place in the array,
     // 0 to Entries - 1.
     void Clear();
-    std::int32_t EntryAt(int index) const { return entries[index]; }
+    std::int32_t EntryAt(int index) const { return entries_[index]; }
 
   private:
     static constexpr int ByteIndex(char byte) { return UnitEntries + static_cast<signed char>(byte); }
     static constexpr int FirstSharedUnit = UnitEntries - 128;
     static constexpr int MostNotedUnits = 260;
 
-    std::int32_t entries[Entries] = {};
+    std::int32_t entries_[Entries] = {};
     // What FillUnits last wrote, and the units set since: with the same shift asked for again, only those and
     // the entries shared with bytes have to be written.
-    std::int32_t unitFill = 0;
-    int notedCount = 0;
-    std::uint16_t notedUnits[MostNotedUnits] = {};
+    std::int32_t unitFill_ = 0;
+    int notedCount_ = 0;
+    std::uint16_t notedUnits_[MostNotedUnits] = {};
 };
 
 // The one table of the process.

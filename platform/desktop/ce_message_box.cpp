@@ -33,13 +33,13 @@ void Place(HWND window, LONG left, LONG top, SIZE size) {
 class BoxFit {
   public:
     BoxFit()
-        : outer(current), hook(SetWindowsHookExW(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId())) {
+        : outer_(current), hook_(SetWindowsHookExW(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId())) {
         current = this;
     }
     ~BoxFit() {
-        if (hook != nullptr) UnhookWindowsHookEx(hook);
-        if (font != nullptr) DeleteObject(font);
-        current = outer;
+        if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
+        if (font_ != nullptr) DeleteObject(font_);
+        current = outer_;
     }
     BoxFit(const BoxFit&) = delete;
     BoxFit& operator=(const BoxFit&) = delete;
@@ -56,13 +56,13 @@ class BoxFit {
 
     static BoxFit* current;
 
-    BoxFit* outer;
-    HHOOK hook;
-    HFONT font = nullptr;
-    HWND box = nullptr;
-    HWND icon = nullptr;
-    HWND text = nullptr;
-    std::vector<HWND> buttons;
+    BoxFit* outer_;
+    HHOOK hook_;
+    HFONT font_ = nullptr;
+    HWND box_ = nullptr;
+    HWND icon_ = nullptr;
+    HWND text_ = nullptr;
+    std::vector<HWND> buttons_;
 };
 
 BoxFit* BoxFit::current = nullptr;
@@ -77,49 +77,49 @@ LRESULT CALLBACK BoxFit::Watch(int code, WPARAM wParam, LPARAM lParam) {
     const auto* message = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
     const bool initialised =
         code == HC_ACTION && message->message == WM_INITDIALOG && IsDialog(message->hwnd);
-    if (initialised && current != nullptr && current->box == nullptr) current->Fit(message->hwnd);
+    if (initialised && current != nullptr && current->box_ == nullptr) current->Fit(message->hwnd);
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 void BoxFit::FindControls() {
-    for (HWND control = GetWindow(box, GW_CHILD); control != nullptr;
+    for (HWND control = GetWindow(box_, GW_CHILD); control != nullptr;
          control = GetWindow(control, GW_HWNDNEXT)) {
         const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
         wchar_t name[16] = L"";
         ce::GetClassNameW(control, name, static_cast<int>(std::size(name)));
         if ((style & WS_VISIBLE) == 0) continue;
-        if (lstrcmpiW(name, L"Button") == 0) buttons.push_back(control);
+        if (lstrcmpiW(name, L"Button") == 0) buttons_.push_back(control);
         if (lstrcmpiW(name, L"Static") != 0) continue;
-        ((style & SS_TYPEMASK) == SS_ICON ? icon : text) = control;
+        ((style & SS_TYPEMASK) == SS_ICON ? icon_ : text_) = control;
     }
 }
 
 SIZE BoxFit::TextSize(LONG width) const {
     wchar_t words[LongestText] = L"";
-    const int length = GetWindowTextW(text, words, LongestText);
-    const HDC context = GetDC(text);
-    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(text, WM_GETFONT, 0, 0));
+    const int length = GetWindowTextW(text_, words, LongestText);
+    const HDC context = GetDC(text_);
+    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(text_, WM_GETFONT, 0, 0));
     const HGDIOBJ before = letters != nullptr ? SelectObject(context, letters) : nullptr;
     RECT area{0, 0, width, 0};
     DrawTextW(context, words, length, &area,
               DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL | DT_EXPANDTABS);
     if (before != nullptr) SelectObject(context, before);
-    ReleaseDC(text, context);
+    ReleaseDC(text_, context);
     return {area.right, area.bottom};
 }
 
 bool BoxFit::MakeLettersSmaller() {
     LOGFONTW letters{};
-    if (GetObjectW(reinterpret_cast<HFONT>(SendMessageW(text, WM_GETFONT, 0, 0)), sizeof letters, &letters) ==
-        0)
+    if (GetObjectW(reinterpret_cast<HFONT>(SendMessageW(text_, WM_GETFONT, 0, 0)), sizeof letters,
+                   &letters) == 0)
         return false;
     if (letters.lfHeight >= 0) letters.lfHeight = -letters.lfHeight;
     if (++letters.lfHeight > -SmallestLetters) return false;
     const HFONT smaller = CreateFontIndirectW(&letters);
     if (smaller == nullptr) return false;
-    SendMessageW(text, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
-    if (font != nullptr) DeleteObject(font);
-    font = smaller;
+    SendMessageW(text_, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
+    if (font_ != nullptr) DeleteObject(font_);
+    font_ = smaller;
     return true;
 }
 
@@ -131,42 +131,42 @@ SIZE BoxFit::FitText(SIZE room) {
 }
 
 void BoxFit::PlaceButtons(LONG width, LONG top) const {
-    LONG all = Margin * (static_cast<LONG>(buttons.size()) - 1);
-    for (const HWND button : buttons)
+    LONG all = Margin * (static_cast<LONG>(buttons_.size()) - 1);
+    for (const HWND button : buttons_)
         all += SizeOf(button).cx;
     LONG left = (width - all) / 2;
-    for (const HWND button : buttons) {
+    for (const HWND button : buttons_) {
         Place(button, left, top, SizeOf(button));
         left += SizeOf(button).cx + Margin;
     }
 }
 
 void BoxFit::Fit(HWND window) {
-    box = window;
+    box_ = window;
     FindControls();
     RECT place{};
     RECT client{};
     RECT inside{};
     const RECT area = ScreenArea();
-    GetWindowRect(box, &place);
-    GetClientRect(box, &client);
+    GetWindowRect(box_, &place);
+    GetClientRect(box_, &client);
     IntersectRect(&inside, &place, &area);
-    if (EqualRect(&inside, &place) || text == nullptr || buttons.empty()) return;
+    if (EqualRect(&inside, &place) || text_ == nullptr || buttons_.empty()) return;
 
     const SIZE frame = {SizeOf(place).cx - client.right, SizeOf(place).cy - client.bottom};
     const SIZE room = {SizeOf(area).cx - frame.cx, SizeOf(area).cy - frame.cy};
-    const SIZE iconSize = icon != nullptr ? SizeOf(icon) : SIZE{0, 0};
-    const LONG textLeft = icon != nullptr ? iconSize.cx + 2 * Margin : Margin;
-    const LONG buttonHeight = SizeOf(buttons.front()).cy;
-    SetWindowLongPtrW(text, GWL_STYLE, GetWindowLongPtrW(text, GWL_STYLE) | SS_EDITCONTROL);
+    const SIZE iconSize = icon_ != nullptr ? SizeOf(icon_) : SIZE{0, 0};
+    const LONG textLeft = icon_ != nullptr ? iconSize.cx + 2 * Margin : Margin;
+    const LONG buttonHeight = SizeOf(buttons_.front()).cy;
+    SetWindowLongPtrW(text_, GWL_STYLE, GetWindowLongPtrW(text_, GWL_STYLE) | SS_EDITCONTROL);
     const SIZE textSize = FitText({room.cx - textLeft - Margin, room.cy - buttonHeight - 3 * Margin});
 
     const LONG rowHeight = std::max(textSize.cy, iconSize.cy);
-    if (icon != nullptr) Place(icon, Margin, Margin, iconSize);
-    Place(text, textLeft, Margin, {room.cx - textLeft - Margin, textSize.cy});
+    if (icon_ != nullptr) Place(icon_, Margin, Margin, iconSize);
+    Place(text_, textLeft, Margin, {room.cx - textLeft - Margin, textSize.cy});
     PlaceButtons(room.cx, rowHeight + 2 * Margin);
     const SIZE size = {SizeOf(area).cx, rowHeight + buttonHeight + 3 * Margin + frame.cy};
-    Place(box, area.left, area.top + (SizeOf(area).cy - size.cy) / 2, size);
+    Place(box_, area.left, area.top + (SizeOf(area).cy - size.cy) / 2, size);
 }
 
 }  // namespace

@@ -19,15 +19,15 @@ namespace {
 // The library of objects for as long as one is used.
 class ObjectLibrary {
   public:
-    ObjectLibrary() : ready(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ObjectLibrary() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
     ~ObjectLibrary() {
-        if (ready) CoUninitialize();
+        if (ready_) CoUninitialize();
     }
     ObjectLibrary(const ObjectLibrary&) = delete;
     ObjectLibrary& operator=(const ObjectLibrary&) = delete;
 
   private:
-    bool ready;
+    bool ready_;
 };
 
 struct Releaser {

@@ -2,8 +2,8 @@
 
 #include <commctrl.h>
 
-#include "platform/screen_area.h"
 #include "platform/desktop/window_placement.h"
+#include "platform/screen_area.h"
 
 namespace ce {
 
@@ -49,7 +49,7 @@ HFONT FontOfHeight(LONG height) {
 }  // namespace
 
 DroppedCalendar::~DroppedCalendar() {
-    if (font != nullptr) DeleteObject(font);
+    if (font_ != nullptr) DeleteObject(font_);
 }
 
 void DroppedCalendar::ShrinkLetters(HWND picker, HWND calendar) {
@@ -57,8 +57,8 @@ void DroppedCalendar::ShrinkLetters(HWND picker, HWND calendar) {
         const HFONT smaller = FontOfHeight(height);
         if (smaller == nullptr) return;
         SendMessageW(picker, DTM_SETMCFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
-        if (font != nullptr) DeleteObject(font);
-        font = smaller;
+        if (font_ != nullptr) DeleteObject(font_);
+        font_ = smaller;
     }
 }
 

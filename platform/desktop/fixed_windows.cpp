@@ -28,15 +28,15 @@ LRESULT CALLBACK RefuseMoves(int code, WPARAM wParam, LPARAM lParam) {
 
 class MoveHook {
   public:
-    MoveHook() : hook(SetWindowsHookExW(WH_CBT, RefuseMoves, nullptr, GetCurrentThreadId())) {}
+    MoveHook() : hook_(SetWindowsHookExW(WH_CBT, RefuseMoves, nullptr, GetCurrentThreadId())) {}
     ~MoveHook() {
-        if (hook != nullptr) UnhookWindowsHookEx(hook);
+        if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
     }
     MoveHook(const MoveHook&) = delete;
     MoveHook& operator=(const MoveHook&) = delete;
 
   private:
-    HHOOK hook;
+    HHOOK hook_;
 };
 
 }  // namespace

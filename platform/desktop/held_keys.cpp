@@ -75,10 +75,10 @@ LRESULT CALLBACK WatchKeys(int code, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-HeldKeys::HeldKeys() : hook(SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId())) {}
+HeldKeys::HeldKeys() : hook_(SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId())) {}
 
 HeldKeys::~HeldKeys() {
-    if (hook != nullptr) UnhookWindowsHookEx(hook);
+    if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
 }
 
 }  // namespace ce

@@ -28,10 +28,10 @@ bool IsTooLong(const wchar_t* path) {
 // Puts one path together, component by component, behind the mark and the drive.
 class PathWriter {
   public:
-    PathWriter(wchar_t (&destination)[LiteralPathSize], const wchar_t* drive) : text(destination) {
-        std::wmemcpy(text, Mark, MarkLength);
-        std::wmemcpy(text + MarkLength, drive, DriveLength);
-        text[RootLength] = L'\0';
+    PathWriter(wchar_t (&destination)[LiteralPathSize], const wchar_t* drive) : text_(destination) {
+        std::wmemcpy(text_, Mark, MarkLength);
+        std::wmemcpy(text_ + MarkLength, drive, DriveLength);
+        text_[RootLength] = L'\0';
     }
 
     void AddComponents(const wchar_t* path) {
@@ -47,8 +47,8 @@ class PathWriter {
 
     // A drive's root ends in a separator, everything else does not.
     void Finish() {
-        if (length == RootLength) text[length++] = L'\\';
-        text[length] = L'\0';
+        if (length_ == RootLength) text_[length_++] = L'\\';
+        text_[length_] = L'\0';
     }
 
   private:
@@ -57,17 +57,17 @@ class PathWriter {
     void AddComponent(const wchar_t* name, std::size_t units) {
         if (units == 0 || (units == 1 && name[0] == L'.')) return;
         if (units == 2 && name[0] == L'.' && name[1] == L'.') {
-            while (length > RootLength && text[--length] != L'\\') {
+            while (length_ > RootLength && text_[--length_] != L'\\') {
             }
             return;
         }
-        text[length++] = L'\\';
-        std::wmemcpy(text + length, name, units);
-        length += units;
+        text_[length_++] = L'\\';
+        std::wmemcpy(text_ + length_, name, units);
+        length_ += units;
     }
 
-    wchar_t* text;
-    std::size_t length = RootLength;
+    wchar_t* text_;
+    std::size_t length_ = RootLength;
 };
 
 void CopyAsItIs(wchar_t (&destination)[LiteralPathSize], const wchar_t* path) {

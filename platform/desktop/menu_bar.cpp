@@ -78,7 +78,7 @@ LRESULT MenuBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Place();
             return 0;
         case WM_DESTROY:
-            dropDowns.Detach();
+            dropDowns_.Detach();
             return 0;
         case WM_PAINT:
             Paint();
@@ -88,17 +88,17 @@ LRESULT MenuBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_COMMAND:
             // Posted: the handler may destroy this bar, or open a dialog that lives for minutes, and the tool
             // bar has not finished with the click.
-            PostMessageW(parent, WM_COMMAND, MAKEWPARAM(LOWORD(wParam), 0), 0);
+            PostMessageW(parent_, WM_COMMAND, MAKEWPARAM(LOWORD(wParam), 0), 0);
             return 0;
         case WM_NOTIFY:
             return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
         case MenuBarOpenDropDown:
-            dropDowns.Run(static_cast<int>(wParam), lParam != 0);
+            dropDowns_.Run(static_cast<int>(wParam), lParam != 0);
             return 0;
         case MenuBarGetMenu:
-            return reinterpret_cast<LRESULT>(dropDowns.WholeMenu());
+            return reinterpret_cast<LRESULT>(dropDowns_.WholeMenu());
         case MenuBarGetSubMenu:
-            return reinterpret_cast<LRESULT>(dropDowns.MenuOfCommand(static_cast<WORD>(lParam)));
+            return reinterpret_cast<LRESULT>(dropDowns_.MenuOfCommand(static_cast<WORD>(lParam)));
         case ToolBarSetToolTips:
             KeepToolTips(wParam, lParam);
             return TRUE;
@@ -106,26 +106,26 @@ LRESULT MenuBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             if (message >= FirstToolBarMessage && message <= LastToolBarMessage) {
                 return ForwardToToolBar(message, wParam, lParam);
             }
-            return DefWindowProcW(bar, message, wParam, lParam);
+            return DefWindowProcW(bar_, message, wParam, lParam);
     }
 }
 
 bool MenuBar::Build(const MenuBarInfo& info, const MenuBarLayout& layout) {
-    toolBar = ::CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr, ToolBarStyle, 0, 0, 0, 0, bar, nullptr,
-                                OwnInstance(), nullptr);
-    if (toolBar == nullptr) return false;
-    SendMessageW(toolBar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
-    SendMessageW(toolBar, TB_SETBITMAPSIZE, 0, MAKELPARAM(ImageSize, ImageSize));
+    toolBar_ = ::CreateWindowExW(0, TOOLBARCLASSNAMEW, nullptr, ToolBarStyle, 0, 0, 0, 0, bar_, nullptr,
+                                 OwnInstance(), nullptr);
+    if (toolBar_ == nullptr) return false;
+    SendMessageW(toolBar_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    SendMessageW(toolBar_, TB_SETBITMAPSIZE, 0, MAKELPARAM(ImageSize, ImageSize));
     if (info.nBmpId != 0 && info.cBmpImages > 0) {
         const TBADDBITMAP images{info.hInstRes, static_cast<UINT_PTR>(info.nBmpId)};
-        SendMessageW(toolBar, TB_ADDBITMAP, static_cast<WPARAM>(info.cBmpImages),
+        SendMessageW(toolBar_, TB_ADDBITMAP, static_cast<WPARAM>(info.cBmpImages),
                      reinterpret_cast<LPARAM>(&images));
     }
-    if (layout.menuId != 0) dropDowns.TakeMenu(LoadMenuW(info.hInstRes, MAKEINTRESOURCEW(layout.menuId)));
+    if (layout.menuId != 0) dropDowns_.TakeMenu(LoadMenuW(info.hInstRes, MAKEINTRESOURCEW(layout.menuId)));
     for (int index = 0; index < layout.buttonCount; ++index)
         AddButton(info.hInstRes, layout.buttons[index]);
-    dropDowns.Attach(bar, toolBar, parent);
-    FitMenuBarButtons(toolBar);
+    dropDowns_.Attach(bar_, toolBar_, parent_);
+    FitMenuBarButtons(toolBar_);
     Place();
     return true;
 }
@@ -141,14 +141,14 @@ void MenuBar::AddButton(HINSTANCE instance, const MenuBarResourceButton& descrip
     button.fsState = static_cast<BYTE>(description.state);
     button.fsStyle = static_cast<BYTE>(description.style);
     if (length > 0) button.iString = reinterpret_cast<INT_PTR>(caption);
-    SendMessageW(toolBar, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
-    if (description.subMenu != MenuBarNoMenu) dropDowns.Add(description.command, description.subMenu);
+    SendMessageW(toolBar_, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
+    if (description.subMenu != MenuBarNoMenu) dropDowns_.Add(description.command, description.subMenu);
 }
 
 LRESULT MenuBar::ForwardToToolBar(UINT message, WPARAM wParam, LPARAM lParam) {
-    const LRESULT result = SendMessageW(toolBar, message, wParam, lParam);
+    const LRESULT result = SendMessageW(toolBar_, message, wParam, lParam);
     if (message == TB_ADDBITMAP || message == TB_LOADIMAGES || message == TB_ADDBUTTONSW) {
-        FitMenuBarButtons(toolBar);
+        FitMenuBarButtons(toolBar_);
         Place();
     }
     return result;
@@ -157,46 +157,46 @@ LRESULT MenuBar::ForwardToToolBar(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT MenuBar::OnNotify(NMHDR& header) {
     if (header.code == TBN_DROPDOWN) {
         const auto& dropDown = reinterpret_cast<const NMTOOLBARW&>(header);
-        const int index = dropDowns.IndexOfCommand(static_cast<WORD>(dropDown.iItem));
-        if (index >= 0) dropDowns.Request(index, false);
+        const int index = dropDowns_.IndexOfCommand(static_cast<WORD>(dropDown.iItem));
+        if (index >= 0) dropDowns_.Request(index, false);
         return TBDDRET_DEFAULT;
     }
     if (header.code == NM_CUSTOMDRAW)
-        return DrawMenuBarCaption(toolBar, reinterpret_cast<const NMTBCUSTOMDRAW&>(header));
+        return DrawMenuBarCaption(toolBar_, reinterpret_cast<const NMTBCUSTOMDRAW&>(header));
     if (header.code == TTN_GETDISPINFOW) {
         auto& question = reinterpret_cast<NMTTDISPINFOW&>(header);
-        const LRESULT index = SendMessageW(toolBar, TB_COMMANDTOINDEX, header.idFrom, 0);
-        if (index >= 0 && index < toolTipCount && toolTips[index] != nullptr) {
-            question.lpszText = const_cast<wchar_t*>(toolTips[index]);
+        const LRESULT index = SendMessageW(toolBar_, TB_COMMANDTOINDEX, header.idFrom, 0);
+        if (index >= 0 && index < toolTipCount_ && toolTips_[index] != nullptr) {
+            question.lpszText = const_cast<wchar_t*>(toolTips_[index]);
         }
     }
     return 0;
 }
 
 void MenuBar::KeepToolTips(WPARAM count, LPARAM texts) {
-    toolTipCount = texts == 0 ? 0 : static_cast<int>(std::min<WPARAM>(count, MaxMenuBarButtons));
-    std::copy_n(reinterpret_cast<const wchar_t* const*>(texts), toolTipCount, toolTips);
+    toolTipCount_ = texts == 0 ? 0 : static_cast<int>(std::min<WPARAM>(count, MaxMenuBarButtons));
+    std::copy_n(reinterpret_cast<const wchar_t* const*>(texts), toolTipCount_, toolTips_);
 }
 
 void MenuBar::Paint() {
     PAINTSTRUCT paint;
-    const HDC device = BeginPaint(bar, &paint);
+    const HDC device = BeginPaint(bar_, &paint);
     RECT area{};
-    GetClientRect(bar, &area);
+    GetClientRect(bar_, &area);
     area.bottom = EdgeHeight;
     FillRect(device, &area, ::GetSysColorBrush(COLOR_BTNSHADOW));
-    EndPaint(bar, &paint);
+    EndPaint(bar_, &paint);
 }
 
 void MenuBar::Place() {
     RECT area{};
-    GetClientRect(parent, &area);
-    ::SetWindowPos(bar, nullptr, 0, area.bottom - MenuBarHeight, area.right, MenuBarHeight,
+    GetClientRect(parent_, &area);
+    ::SetWindowPos(bar_, nullptr, 0, area.bottom - MenuBarHeight, area.right, MenuBarHeight,
                    SWP_NOZORDER | SWP_NOACTIVATE);
-    const int buttonHeight = HIWORD(SendMessageW(toolBar, TB_GETBUTTONSIZE, 0, 0));
+    const int buttonHeight = HIWORD(SendMessageW(toolBar_, TB_GETBUTTONSIZE, 0, 0));
     const int height = std::min(buttonHeight, MenuBarHeight - EdgeHeight);
     const int top = EdgeHeight + (MenuBarHeight - EdgeHeight - height) / 2;
-    ::SetWindowPos(toolBar, nullptr, 0, top, area.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(toolBar_, nullptr, 0, top, area.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace ce

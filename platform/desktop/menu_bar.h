@@ -19,7 +19,7 @@ class MenuBar {
     MenuBar& operator=(const MenuBar&) = delete;
 
   private:
-    MenuBar(HWND window, HWND parentWindow) : bar(window), parent(parentWindow) {}
+    MenuBar(HWND window, HWND parentWindow) : bar_(window), parent_(parentWindow) {}
 
     // Null before WM_NCCREATE and after WM_NCDESTROY.
     static MenuBar* Of(HWND window);
@@ -34,12 +34,12 @@ class MenuBar {
     void Paint();
     void Place();
 
-    HWND bar;
-    HWND parent;
-    HWND toolBar = nullptr;
-    MenuDropDowns dropDowns;
-    const wchar_t* toolTips[MaxMenuBarButtons]{};
-    int toolTipCount = 0;
+    HWND bar_;
+    HWND parent_;
+    HWND toolBar_ = nullptr;
+    MenuDropDowns dropDowns_;
+    const wchar_t* toolTips_[MaxMenuBarButtons]{};
+    int toolTipCount_ = 0;
 };
 
 }  // namespace ce

@@ -31,16 +31,16 @@ Button ReadButton(HWND toolBar, WPARAM number, DWORD flags) {
 // The tool bar's font in a device context, for as long as this lives.
 class ToolBarFont {
   public:
-    ToolBarFont(HWND toolBar, HDC context) : device(context) {
-        before = SelectObject(device, reinterpret_cast<HGDIOBJ>(SendMessageW(toolBar, WM_GETFONT, 0, 0)));
+    ToolBarFont(HWND toolBar, HDC context) : device_(context) {
+        before_ = SelectObject(device_, reinterpret_cast<HGDIOBJ>(SendMessageW(toolBar, WM_GETFONT, 0, 0)));
     }
-    ~ToolBarFont() { SelectObject(device, before); }
+    ~ToolBarFont() { SelectObject(device_, before_); }
     ToolBarFont(const ToolBarFont&) = delete;
     ToolBarFont& operator=(const ToolBarFont&) = delete;
 
   private:
-    HDC device;
-    HGDIOBJ before;
+    HDC device_;
+    HGDIOBJ before_;
 };
 
 int WidthOf(HDC device, const Button& button) {

@@ -48,26 +48,26 @@ bool HasNestedMenu(HMENU menu) {
 }  // namespace
 
 MenuDropDowns::~MenuDropDowns() {
-    if (menu != nullptr) DestroyMenu(menu);
+    if (menu_ != nullptr) DestroyMenu(menu_);
 }
 
 void MenuDropDowns::Add(WORD command, int position) {
-    HMENU subMenu = menu != nullptr ? GetSubMenu(menu, position) : nullptr;
-    if (subMenu == nullptr || count == MaxMenuBarButtons) return;
-    dropDowns[count++] = DropDown{command, position, subMenu};
+    HMENU subMenu = menu_ != nullptr ? GetSubMenu(menu_, position) : nullptr;
+    if (subMenu == nullptr || count_ == MaxMenuBarButtons) return;
+    dropDowns_[count_++] = DropDown{command, position, subMenu};
 }
 
 // The parent's window procedure is replaced for good, and by the plain means: the system's own chain of
 // subclasses would look the chain up anew for every message of the parent, a list's thousands among them.
 void MenuDropDowns::Attach(HWND barWindow, HWND toolBarWindow, HWND parentWindow) {
-    bar = barWindow;
-    toolBar = toolBarWindow;
-    parent = parentWindow;
-    if (count == 0 || GetAncestor(parent, GA_ROOT) != parent || WatcherOf(parent) != nullptr) return;
-    parentProcedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WatchParent)));
-    if (parentProcedure == nullptr) return;
-    nextWatcher = firstWatcher;
+    bar_ = barWindow;
+    toolBar_ = toolBarWindow;
+    parent_ = parentWindow;
+    if (count_ == 0 || GetAncestor(parent_, GA_ROOT) != parent_ || WatcherOf(parent_) != nullptr) return;
+    parentProcedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(parent_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WatchParent)));
+    if (parentProcedure_ == nullptr) return;
+    nextWatcher_ = firstWatcher;
     firstWatcher = this;
     if (keyHook == nullptr) {
         keyHook = SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId());
@@ -79,15 +79,15 @@ void MenuDropDowns::Detach() {
         EndMenu();
         openMenus = nullptr;
     }
-    if (parentProcedure == nullptr) return;
+    if (parentProcedure_ == nullptr) return;
     // Whoever has replaced the procedure since goes on calling this one, which then has no watcher to ask.
-    if (GetWindowLongPtrW(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&WatchParent))
-        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(parentProcedure));
-    parentProcedure = nullptr;
+    if (GetWindowLongPtrW(parent_, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&WatchParent))
+        SetWindowLongPtrW(parent_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(parentProcedure_));
+    parentProcedure_ = nullptr;
     MenuDropDowns** link = &firstWatcher;
     while (*link != nullptr && *link != this)
-        link = &(*link)->nextWatcher;
-    if (*link != nullptr) *link = nextWatcher;
+        link = &(*link)->nextWatcher_;
+    if (*link != nullptr) *link = nextWatcher_;
     if (firstWatcher == nullptr && keyHook != nullptr) {
         UnhookWindowsHookEx(keyHook);
         keyHook = nullptr;
@@ -96,36 +96,36 @@ void MenuDropDowns::Detach() {
 
 MenuDropDowns* MenuDropDowns::WatcherOf(HWND window) {
     MenuDropDowns* watcher = firstWatcher;
-    while (watcher != nullptr && watcher->parent != window)
-        watcher = watcher->nextWatcher;
+    while (watcher != nullptr && watcher->parent_ != window)
+        watcher = watcher->nextWatcher_;
     return watcher;
 }
 
 HMENU MenuDropDowns::MenuOfCommand(WORD command) const {
     const int index = IndexOfCommand(command);
-    return index >= 0 ? dropDowns[index].menu : nullptr;
+    return index >= 0 ? dropDowns_[index].menu : nullptr;
 }
 
 int MenuDropDowns::IndexOfCommand(WORD command) const {
-    for (int index = 0; index < count; ++index) {
-        if (dropDowns[index].command == command) return index;
+    for (int index = 0; index < count_; ++index) {
+        if (dropDowns_[index].command == command) return index;
     }
     return -1;
 }
 
 bool MenuDropDowns::RequestByKey(wchar_t key) {
-    if (openMenus != nullptr || count == 0 || !IsWindowEnabled(parent)) return false;
+    if (openMenus != nullptr || count_ == 0 || !IsWindowEnabled(parent_)) return false;
     int index = 0;
     if (key != L'\0') {
         wchar_t texts[MaxMenuBarButtons][MenuBarCaptionCapacity];
         const wchar_t* captions[MaxMenuBarButtons];
-        for (int each = 0; each < count; ++each) {
+        for (int each = 0; each < count_; ++each) {
             texts[each][0] = L'\0';
-            GetMenuStringW(menu, static_cast<UINT>(dropDowns[each].position), texts[each],
+            GetMenuStringW(menu_, static_cast<UINT>(dropDowns_[each].position), texts[each],
                            MenuBarCaptionCapacity, MF_BYPOSITION);
             captions[each] = texts[each];
         }
-        index = CaptionForKey(captions, count, key);
+        index = CaptionForKey(captions, count_, key);
     }
     if (index < 0) return false;
     Request(index, true);
@@ -134,26 +134,26 @@ bool MenuDropDowns::RequestByKey(wchar_t key) {
 
 void MenuDropDowns::Request(int index, bool byKeyboard) const {
     // Posted, so that the menu's own loop does not run inside the tool bar's or the message queue's code.
-    PostMessageW(bar, MenuBarOpenDropDown, static_cast<WPARAM>(index), byKeyboard ? 1 : 0);
+    PostMessageW(bar_, MenuBarOpenDropDown, static_cast<WPARAM>(index), byKeyboard ? 1 : 0);
 }
 
 void MenuDropDowns::Run(int first, bool byKeyboard) {
-    if (openMenus != nullptr || first < 0 || first >= count || !IsWindowEnabled(parent)) return;
-    const HWND window = bar;
+    if (openMenus != nullptr || first < 0 || first >= count_ || !IsWindowEnabled(parent_)) return;
+    const HWND window = bar_;
     HHOOK menuHook = SetWindowsHookExW(WH_MSGFILTER, WatchOpenMenu, nullptr, GetCurrentThreadId());
     openMenus = this;
-    GetCursorPos(&pointer);
+    GetCursorPos(&pointer_);
     GoOnTo(first, byKeyboard);
-    while (openMenus == this && next >= 0) {
+    while (openMenus == this && next_ >= 0) {
         FollowPointer();
-        open = next;
-        next = -1;
+        open_ = next_;
+        next_ = -1;
         TrackOpenOne();
         // The bar may have been destroyed while its menu was open: nothing of this object is read then.
         if (!IsWindow(window)) break;
     }
     if (openMenus == this) {
-        open = -1;
+        open_ = -1;
         openMenus = nullptr;
     }
     if (menuHook != nullptr) UnhookWindowsHookEx(menuHook);
@@ -161,52 +161,52 @@ void MenuDropDowns::Run(int first, bool byKeyboard) {
 
 // The news of a pointer that moves on while one menu closes and the next opens may be lost.
 void MenuDropDowns::FollowPointer() {
-    const POINT before = pointer;
-    GetCursorPos(&pointer);
-    if (pointer.x == before.x && pointer.y == before.y) return;
-    const int hit = DropDownAt(pointer);
+    const POINT before = pointer_;
+    GetCursorPos(&pointer_);
+    if (pointer_.x == before.x && pointer_.y == before.y) return;
+    const int hit = DropDownAt(pointer_);
     if (hit < 0) return;
-    next = hit;
-    openedByKeyboard = false;
+    next_ = hit;
+    openedByKeyboard_ = false;
 }
 
 void MenuDropDowns::TrackOpenOne() {
-    const HWND window = bar;
-    const int index = open;
+    const HWND window = bar_;
+    const int index = open_;
     TPMPARAMS around{};
     around.cbSize = sizeof(around);
     around.rcExclude = ButtonOnScreen(index);
     // A menu opens with nothing marked; the keyboard starts at its first item.
-    if (openedByKeyboard) PostMessageW(parent, WM_KEYDOWN, VK_DOWN, 0);
+    if (openedByKeyboard_) PostMessageW(parent_, WM_KEYDOWN, VK_DOWN, 0);
     Press(index, true);
-    TrackPopupMenuEx(dropDowns[index].menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_VERTICAL,
-                     around.rcExclude.left, around.rcExclude.top, parent, &around);
+    TrackPopupMenuEx(dropDowns_[index].menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_VERTICAL,
+                     around.rcExclude.left, around.rcExclude.top, parent_, &around);
     if (IsWindow(window)) Press(index, false);
 }
 
 bool MenuDropDowns::TakeMenuMessage(const MSG& message) {
     switch (message.message) {
         case WM_KEYDOWN:
-            if (HasNestedMenu(dropDowns[open].menu)) return false;  // left and right move inside it
+            if (HasNestedMenu(dropDowns_[open_].menu)) return false;  // left and right move inside it
             if (message.wParam == VK_RIGHT)
-                GoOnTo((open + 1) % count, true);
+                GoOnTo((open_ + 1) % count_, true);
             else if (message.wParam == VK_LEFT)
-                GoOnTo((open + count - 1) % count, true);
+                GoOnTo((open_ + count_ - 1) % count_, true);
             else
                 return false;
             return true;
         case WM_LBUTTONDOWN:
             // A click on the button whose menu is open closes it; the tool bar would open it again.
-            if (DropDownAt(message.pt) != open) return false;
+            if (DropDownAt(message.pt) != open_) return false;
             GoOnTo(-1, false);
             return true;
         case WM_MOUSEMOVE: {
             // The system tells of a pointer that has not moved whenever a window opens or closes under it.
             // That marks no item and changes no menu.
-            if (message.pt.x == pointer.x && message.pt.y == pointer.y) return true;
-            pointer = message.pt;
+            if (message.pt.x == pointer_.x && message.pt.y == pointer_.y) return true;
+            pointer_ = message.pt;
             const int hit = DropDownAt(message.pt);
-            if (hit < 0 || hit == open) return false;
+            if (hit < 0 || hit == open_) return false;
             GoOnTo(hit, false);
             return true;
         }
@@ -216,24 +216,24 @@ bool MenuDropDowns::TakeMenuMessage(const MSG& message) {
 }
 
 void MenuDropDowns::GoOnTo(int index, bool byKeyboard) {
-    next = index;
-    openedByKeyboard = byKeyboard;
-    if (open >= 0) EndMenu();
+    next_ = index;
+    openedByKeyboard_ = byKeyboard;
+    if (open_ >= 0) EndMenu();
 }
 
 void MenuDropDowns::Press(int index, bool pressed) const {
-    SendMessageW(toolBar, TB_PRESSBUTTON, dropDowns[index].command, MAKELPARAM(pressed ? TRUE : FALSE, 0));
+    SendMessageW(toolBar_, TB_PRESSBUTTON, dropDowns_[index].command, MAKELPARAM(pressed ? TRUE : FALSE, 0));
 }
 
 RECT MenuDropDowns::ButtonOnScreen(int index) const {
     RECT button{};
-    SendMessageW(toolBar, TB_GETRECT, dropDowns[index].command, reinterpret_cast<LPARAM>(&button));
-    MapWindowPoints(toolBar, HWND_DESKTOP, reinterpret_cast<POINT*>(&button), 2);
+    SendMessageW(toolBar_, TB_GETRECT, dropDowns_[index].command, reinterpret_cast<LPARAM>(&button));
+    MapWindowPoints(toolBar_, HWND_DESKTOP, reinterpret_cast<POINT*>(&button), 2);
     return button;
 }
 
 int MenuDropDowns::DropDownAt(POINT onScreen) const {
-    for (int index = 0; index < count; ++index) {
+    for (int index = 0; index < count_; ++index) {
         const RECT button = ButtonOnScreen(index);
         if (PtInRect(&button, onScreen)) return index;
     }
@@ -247,7 +247,7 @@ LRESULT CALLBACK MenuDropDowns::WatchParent(HWND window, UINT message, WPARAM wP
         if (lParam == 0 && altWasUsed) return 0;
         if (watcher->RequestByKey(static_cast<wchar_t>(lParam))) return 0;
     }
-    return CallWindowProcW(watcher->parentProcedure, window, message, wParam, lParam);
+    return CallWindowProcW(watcher->parentProcedure_, window, message, wParam, lParam);
 }
 
 // Alt with a letter goes to the window that has the focus, and a control keeps it to itself instead of

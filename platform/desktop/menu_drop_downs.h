@@ -15,7 +15,7 @@ class MenuDropDowns {
     MenuDropDowns& operator=(const MenuDropDowns&) = delete;
 
     // Takes over the menu (which may be null).
-    void TakeMenu(HMENU wholeMenu) { menu = wholeMenu; }
+    void TakeMenu(HMENU wholeMenu) { menu_ = wholeMenu; }
     // A button that opens the sub-menu at this position; one that does not exist is left out.
     void Add(WORD command, int position);
     // From here on the keys of the parent, when it is a top-level window, open the drop-downs: F10 or Alt the
@@ -24,7 +24,7 @@ class MenuDropDowns {
     // To be called before the bar's window is gone.
     void Detach();
 
-    [[nodiscard]] HMENU WholeMenu() const { return menu; }
+    [[nodiscard]] HMENU WholeMenu() const { return menu_; }
     // The menu behind the button with this command, or null.
     [[nodiscard]] HMENU MenuOfCommand(WORD command) const;
     [[nodiscard]] int IndexOfCommand(WORD command) const;
@@ -59,20 +59,20 @@ class MenuDropDowns {
     [[nodiscard]] RECT ButtonOnScreen(int index) const;
     [[nodiscard]] int DropDownAt(POINT onScreen) const;
 
-    HWND bar = nullptr;
-    HWND toolBar = nullptr;
-    HWND parent = nullptr;
-    HMENU menu = nullptr;
-    DropDown dropDowns[MaxMenuBarButtons]{};
-    int count = 0;
+    HWND bar_ = nullptr;
+    HWND toolBar_ = nullptr;
+    HWND parent_ = nullptr;
+    HMENU menu_ = nullptr;
+    DropDown dropDowns_[MaxMenuBarButtons]{};
+    int count_ = 0;
     // The parent's own, while it is watched; null otherwise.
-    WNDPROC parentProcedure = nullptr;
-    MenuDropDowns* nextWatcher = nullptr;
+    WNDPROC parentProcedure_ = nullptr;
+    MenuDropDowns* nextWatcher_ = nullptr;
     // While one is open: which, which comes after it (-1: none), and whether its first item is to be marked.
-    int open = -1;
-    int next = -1;
-    bool openedByKeyboard = false;
-    POINT pointer{};  // on the screen, where it was last seen
+    int open_ = -1;
+    int next_ = -1;
+    bool openedByKeyboard_ = false;
+    POINT pointer_{};  // on the screen, where it was last seen
 };
 
 // To a bar: open drop-down number wParam; lParam is 1 when the keyboard asked.

@@ -8,20 +8,20 @@ class IdentifiedFile {
   public:
     // No access at all is needed to be told which file it is.
     explicit IdentifiedFile(const wchar_t* literal)
-        : handle(CreateFileW(literal, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                             OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {}
+        : handle_(CreateFileW(literal, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)) {}
     IdentifiedFile(const IdentifiedFile&) = delete;
     IdentifiedFile& operator=(const IdentifiedFile&) = delete;
     ~IdentifiedFile() {
-        if (handle != INVALID_HANDLE_VALUE) CloseHandle(handle);
+        if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
     }
 
     [[nodiscard]] bool Identify(BY_HANDLE_FILE_INFORMATION& identity) const {
-        return handle != INVALID_HANDLE_VALUE && GetFileInformationByHandle(handle, &identity);
+        return handle_ != INVALID_HANDLE_VALUE && GetFileInformationByHandle(handle_, &identity);
     }
 
   private:
-    HANDLE handle;
+    HANDLE handle_;
 };
 
 }  // namespace

@@ -22,30 +22,30 @@ enum LinkFlag : std::uint32_t {
 // A part of the file. What lies beyond its end reads as nothing.
 class Part {
   public:
-    explicit Part(std::string_view content) : bytes(content) {}
+    explicit Part(std::string_view content) : bytes_(content) {}
 
-    [[nodiscard]] std::size_t Size() const { return bytes.size(); }
+    [[nodiscard]] std::size_t Size() const { return bytes_.size(); }
     [[nodiscard]] std::uint32_t Byte(std::size_t at) const {
-        return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0u;
+        return at < bytes_.size() ? static_cast<unsigned char>(bytes_[at]) : 0u;
     }
     [[nodiscard]] std::uint32_t Word(std::size_t at) const { return Byte(at) | Byte(at + 1) << 8; }
     [[nodiscard]] std::uint32_t DoubleWord(std::size_t at) const { return Word(at) | Word(at + 2) << 16; }
     [[nodiscard]] Part From(std::size_t at) const {
-        return Part(at < bytes.size() ? bytes.substr(at) : std::string_view());
+        return Part(at < bytes_.size() ? bytes_.substr(at) : std::string_view());
     }
-    [[nodiscard]] Part First(std::size_t size) const { return Part(bytes.substr(0, size)); }
+    [[nodiscard]] Part First(std::size_t size) const { return Part(bytes_.substr(0, size)); }
 
     // Up to the first zero or the end.
-    [[nodiscard]] std::string_view Text() const { return bytes.substr(0, bytes.find('\0')); }
+    [[nodiscard]] std::string_view Text() const { return bytes_.substr(0, bytes_.find('\0')); }
     [[nodiscard]] std::wstring WideText() const {
         std::wstring text;
-        for (std::size_t at = 0; Word(at) != 0 && at + 1 < bytes.size(); at += 2)
+        for (std::size_t at = 0; Word(at) != 0 && at + 1 < bytes_.size(); at += 2)
             text += static_cast<wchar_t>(Word(at));
         return text;
     }
 
   private:
-    std::string_view bytes;
+    std::string_view bytes_;
 };
 
 // Two separators never meet, and none is left out.
@@ -107,46 +107,46 @@ std::wstring ItemPath(const Part& items, CodePageReader read) {
 class Reader {
   public:
     Reader(const Part& linkFile, CodePageReader reader)
-        : rest(linkFile.From(HeaderSize)), flags(linkFile.DoubleWord(FlagsAt)), read(reader) {}
+        : rest_(linkFile.From(HeaderSize)), flags_(linkFile.DoubleWord(FlagsAt)), read_(reader) {}
 
     std::wstring Program() {
         const Part items = TakeItems();
         const Part info = TakeInfo();
-        std::wstring path = LocalPath(info, read);
-        if (path.empty()) path = NetworkPath(info, read);
+        std::wstring path = LocalPath(info, read_);
+        if (path.empty()) path = NetworkPath(info, read_);
         const bool lostLetters = path.empty() || path.find(L'?') != std::wstring::npos;
-        return lostLetters ? ItemPath(items, read) : path;
+        return lostLetters ? ItemPath(items, read_) : path;
     }
     std::wstring Arguments() {
         for (const std::uint32_t before : {HasName, HasRelativePath, HasWorkingFolder}) {
-            if ((flags & before) != 0) TakeString();
+            if ((flags_ & before) != 0) TakeString();
         }
-        return (flags & HasArguments) != 0 ? TakeString() : std::wstring();
+        return (flags_ & HasArguments) != 0 ? TakeString() : std::wstring();
     }
 
   private:
     Part Take(std::size_t size) {
-        const Part taken = rest.First(size);
-        rest = rest.From(size);
+        const Part taken = rest_.First(size);
+        rest_ = rest_.From(size);
         return taken;
     }
     Part TakeItems() {
-        if ((flags & HasItemList) == 0) return Part({});
-        const std::size_t size = rest.Word(0);
+        if ((flags_ & HasItemList) == 0) return Part({});
+        const std::size_t size = rest_.Word(0);
         Take(2);
         return Take(size);
     }
-    Part TakeInfo() { return (flags & HasLinkInfo) != 0 ? Take(rest.DoubleWord(0)) : Part({}); }
+    Part TakeInfo() { return (flags_ & HasLinkInfo) != 0 ? Take(rest_.DoubleWord(0)) : Part({}); }
     std::wstring TakeString() {
-        const std::size_t units = rest.Word(0);
+        const std::size_t units = rest_.Word(0);
         Take(2);
-        if ((flags & IsUnicode) == 0) return read(Take(units).Text());
+        if ((flags_ & IsUnicode) == 0) return read_(Take(units).Text());
         return Take(2 * units).WideText();
     }
 
-    Part rest;
-    std::uint32_t flags;
-    CodePageReader read;
+    Part rest_;
+    std::uint32_t flags_;
+    CodePageReader read_;
 };
 
 }  // namespace

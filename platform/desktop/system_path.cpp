@@ -19,6 +19,6 @@ void StartOf(const wchar_t* path, wchar_t (&base)[MAX_PATH]) {
 SystemPath::SystemPath(const wchar_t* path) {
     wchar_t base[MAX_PATH] = L"";
     if (!IsAbsolutePath(path)) StartOf(path, base);
-    fits = LiteralPath(text, path, base);
-    if (!fits) SetLastError(ERROR_FILENAME_EXCED_RANGE);
+    fits_ = LiteralPath(text_, path, base);
+    if (!fits_) SetLastError(ERROR_FILENAME_EXCED_RANGE);
 }

@@ -10,10 +10,10 @@ class SystemPath {
     explicit SystemPath(const wchar_t* path);
 
     // False, with the thread's last error set, for a path that is too long or has nowhere to start.
-    [[nodiscard]] bool Fits() const { return fits; }
-    [[nodiscard]] const wchar_t* Text() const { return text; }
+    [[nodiscard]] bool Fits() const { return fits_; }
+    [[nodiscard]] const wchar_t* Text() const { return text_; }
 
   private:
-    bool fits;
-    wchar_t text[LiteralPathSize];
+    bool fits_;
+    wchar_t text_[LiteralPathSize];
 };

@@ -33,17 +33,17 @@ class AbortDialogTest : public testing::Test {
   protected:
     void Make(UiLanguage language = UiLanguage::English) {
         GlobalsForStartUp().uiLanguage = language;
-        dialog = std::make_unique<AbortDialog>(&host.Object());
-        dialog->OnRun(&job, &Job::Run);
+        dialog_ = std::make_unique<AbortDialog>(&host_.Object());
+        dialog_->OnRun(&job_, &Job::Run);
     }
     INT_PTR RunWith(const std::function<void()>& work) {
-        job.work = work;
-        return dialog->RunModal();
+        job_.work = work;
+        return dialog_->RunModal();
     }
-    [[nodiscard]] HWND Button() const { return GetDlgItem(dialog->Handle(), IDCANCEL); }
+    [[nodiscard]] HWND Button() const { return GetDlgItem(dialog_->Handle(), IDCANCEL); }
     [[nodiscard]] std::wstring FolderText() const {
         wchar_t text[512] = L"";
-        GetDlgItemTextW(dialog->Handle(), STATIC_FOLDER, text, 512);
+        GetDlgItemTextW(dialog_->Handle(), STATIC_FOLDER, text, 512);
         return text;
     }
     // Lets what was posted arrive, as a search does.
@@ -54,21 +54,21 @@ class AbortDialogTest : public testing::Test {
     }
 
   private:
-    TestWorld world;
+    TestWorld world_;
 
   protected:
-    HostWindow host;
-    Job job;
-    std::unique_ptr<AbortDialog> dialog;
+    HostWindow host_;
+    Job job_;
+    std::unique_ptr<AbortDialog> dialog_;
 };
 
 TEST_F(AbortDialogTest, the_job_runs_once_the_dialog_is_shown_and_the_result_is_1) {
     Make();
     bool visible = false;
-    EXPECT_EQ(RunWith([&] { visible = IsWindowVisible(dialog->Handle()) != FALSE; }), 1);
+    EXPECT_EQ(RunWith([&] { visible = IsWindowVisible(dialog_->Handle()) != FALSE; }), 1);
     EXPECT_TRUE(visible);
-    EXPECT_EQ(job.runs, 1);
-    EXPECT_EQ(dialog->Handle(), nullptr);
+    EXPECT_EQ(job_.runs, 1);
+    EXPECT_EQ(dialog_->Handle(), nullptr);
 }
 
 TEST_F(AbortDialogTest, its_texts_are_english) {
@@ -76,7 +76,7 @@ TEST_F(AbortDialogTest, its_texts_are_english) {
     wchar_t caption[64] = L"";
     wchar_t button[64] = L"";
     RunWith([&] {
-        GetWindowTextW(dialog->Handle(), caption, 64);
+        GetWindowTextW(dialog_->Handle(), caption, 64);
         GetWindowTextW(Button(), button, 64);
     });
     EXPECT_EQ(std::wstring(caption), L"Finding...");
@@ -88,7 +88,7 @@ TEST_F(AbortDialogTest, its_texts_are_japanese) {
     wchar_t caption[64] = L"";
     wchar_t button[64] = L"";
     RunWith([&] {
-        GetWindowTextW(dialog->Handle(), caption, 64);
+        GetWindowTextW(dialog_->Handle(), caption, 64);
         GetWindowTextW(Button(), button, 64);
     });
     EXPECT_EQ(std::wstring(caption), L"検索中...");
@@ -100,8 +100,8 @@ TEST_F(AbortDialogTest, its_bar_has_cancel_alone) {
     LRESULT buttons = 0;
     TBBUTTON first = {};
     RunWith([&] {
-        buttons = SendMessageW(dialog->MenuBar(), TB_BUTTONCOUNT, 0, 0);
-        SendMessageW(dialog->MenuBar(), TB_GETBUTTON, 0, reinterpret_cast<LPARAM>(&first));
+        buttons = SendMessageW(dialog_->MenuBar(), TB_BUTTONCOUNT, 0, 0);
+        SendMessageW(dialog_->MenuBar(), TB_GETBUTTON, 0, reinterpret_cast<LPARAM>(&first));
     });
     EXPECT_EQ(buttons, 1);
     EXPECT_EQ(first.idCommand, IDCANCEL);
@@ -110,9 +110,9 @@ TEST_F(AbortDialogTest, its_bar_has_cancel_alone) {
 TEST_F(AbortDialogTest, its_parent_takes_no_input_meanwhile_and_does_afterwards) {
     Make();
     bool enabled = true;
-    RunWith([&] { enabled = IsWindowEnabled(host.Handle()) != FALSE; });
+    RunWith([&] { enabled = IsWindowEnabled(host_.Handle()) != FALSE; });
     EXPECT_FALSE(enabled);
-    EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+    EXPECT_TRUE(IsWindowEnabled(host_.Handle()));
 }
 
 TEST_F(AbortDialogTest, the_abort_button_sets_the_flag_and_the_result_is_2) {
@@ -120,10 +120,10 @@ TEST_F(AbortDialogTest, the_abort_button_sets_the_flag_and_the_result_is_2) {
     bool before = true;
     bool after = false;
     EXPECT_EQ(RunWith([&] {
-                  before = dialog->StopRequested();
+                  before = dialog_->StopRequested();
                   PostMessageW(Button(), BM_CLICK, 0, 0);
                   PumpAsASearchDoes();
-                  after = dialog->StopRequested();
+                  after = dialog_->StopRequested();
               }),
               2);
     EXPECT_FALSE(before);
@@ -135,9 +135,9 @@ TEST_F(AbortDialogTest, the_bars_cancel_and_closing_the_dialog_abort_as_well) {
     for (const UINT message : {UINT{WM_COMMAND}, UINT{WM_CLOSE}}) {
         bool stopped = false;
         EXPECT_EQ(RunWith([&] {
-                      PostMessageW(dialog->Handle(), message, message == WM_COMMAND ? IDCANCEL : 0, 0);
+                      PostMessageW(dialog_->Handle(), message, message == WM_COMMAND ? IDCANCEL : 0, 0);
                       PumpAsASearchDoes();
-                      stopped = dialog->StopRequested();
+                      stopped = dialog_->StopRequested();
                   }),
                   2);
         EXPECT_TRUE(stopped) << message;
@@ -153,7 +153,7 @@ TEST_F(AbortDialogTest, escape_on_the_button_aborts_and_enter_does_not) {
                       EXPECT_EQ(GetFocus(), Button());
                       PostMessageW(Button(), WM_KEYDOWN, key, 1);
                       PumpAsASearchDoes();
-                      stopped = dialog->StopRequested();
+                      stopped = dialog_->StopRequested();
                   }),
                   aborts ? 2 : 1);
         EXPECT_EQ(stopped, aborts) << key;
@@ -189,7 +189,7 @@ TEST_F(AbortDialogTest, another_key_on_the_button_aborts_nothing) {
                   PostMessageW(Button(), WM_KEYDOWN, 'A', 1);
                   PostMessageW(Button(), WM_KEYDOWN, VK_TAB, 1);
                   PumpAsASearchDoes();
-                  stopped = dialog->StopRequested();
+                  stopped = dialog_->StopRequested();
               }),
               1);
     EXPECT_FALSE(stopped);
@@ -197,43 +197,43 @@ TEST_F(AbortDialogTest, another_key_on_the_button_aborts_nothing) {
 
 TEST_F(AbortDialogTest, the_flag_is_clear_again_in_the_next_run) {
     Make();
-    EXPECT_EQ(RunWith([&] { dialog->Abort(); }), 2);
+    EXPECT_EQ(RunWith([&] { dialog_->Abort(); }), 2);
     bool stopped = true;
-    EXPECT_EQ(RunWith([&] { stopped = dialog->StopRequested(); }), 1);
+    EXPECT_EQ(RunWith([&] { stopped = dialog_->StopRequested(); }), 1);
     EXPECT_FALSE(stopped);
-    EXPECT_EQ(job.runs, 2);
+    EXPECT_EQ(job_.runs, 2);
 }
 
 TEST_F(AbortDialogTest, a_second_run_command_in_the_middle_starts_nothing) {
     Make();
     EXPECT_EQ(RunWith([&] {
-                  PostMessageW(dialog->Handle(), WM_COMMAND, COMMAND_RUN, 0);
+                  PostMessageW(dialog_->Handle(), WM_COMMAND, COMMAND_RUN, 0);
                   PumpAsASearchDoes();
               }),
               1);
-    EXPECT_EQ(job.runs, 1);
+    EXPECT_EQ(job_.runs, 1);
 }
 
 TEST_F(AbortDialogTest, it_says_that_it_is_running_until_it_has_returned) {
     Make();
-    EXPECT_FALSE(dialog->IsRunning());
+    EXPECT_FALSE(dialog_->IsRunning());
     bool during = false;
     bool afterAbort = false;
     RunWith([&] {
-        during = dialog->IsRunning();
-        dialog->Abort();
-        afterAbort = dialog->IsRunning();
+        during = dialog_->IsRunning();
+        dialog_->Abort();
+        afterAbort = dialog_->IsRunning();
     });
     EXPECT_TRUE(during);
     EXPECT_TRUE(afterAbort);
-    EXPECT_FALSE(dialog->IsRunning());
+    EXPECT_FALSE(dialog_->IsRunning());
 }
 
 TEST_F(AbortDialogTest, the_first_folder_is_shown_at_once) {
     Make();
     std::wstring shown;
     RunWith([&] {
-        dialog->EnterFolder(L"\\Program Files & more");
+        dialog_->EnterFolder(L"\\Program Files & more");
         shown = FolderText();
     });
     EXPECT_EQ(shown, L"\\Program Files & more");
@@ -243,12 +243,12 @@ TEST_F(AbortDialogTest, a_folder_that_follows_at_once_waits_and_the_latest_one_i
     Make();
     std::wstring atOnce, later;
     RunWith([&] {
-        dialog->EnterFolder(L"\\first");
-        dialog->EnterFolder(L"\\second");
-        dialog->EnterFolder(L"\\third");
+        dialog_->EnterFolder(L"\\first");
+        dialog_->EnterFolder(L"\\second");
+        dialog_->EnterFolder(L"\\third");
         atOnce = FolderText();
         Sleep(150);
-        EXPECT_FALSE(dialog->StopRequested());
+        EXPECT_FALSE(dialog_->StopRequested());
         later = FolderText();
     });
     EXPECT_EQ(atOnce, L"\\first");
@@ -259,9 +259,9 @@ TEST_F(AbortDialogTest, a_folder_after_a_pause_is_shown_at_once) {
     Make();
     std::wstring shown;
     RunWith([&] {
-        dialog->EnterFolder(L"\\first");
+        dialog_->EnterFolder(L"\\first");
         Sleep(150);
-        dialog->EnterFolder(L"\\second");
+        dialog_->EnterFolder(L"\\second");
         shown = FolderText();
     });
     EXPECT_EQ(shown, L"\\second");
@@ -271,10 +271,10 @@ TEST_F(AbortDialogTest, a_folder_that_waits_is_shown_before_a_long_file) {
     Make();
     std::wstring before, then;
     RunWith([&] {
-        dialog->EnterFolder(L"\\first");
-        dialog->EnterFolder(L"\\second");
+        dialog_->EnterFolder(L"\\first");
+        dialog_->EnterFolder(L"\\second");
         before = FolderText();
-        dialog->BeforeLongFile();
+        dialog_->BeforeLongFile();
         then = FolderText();
     });
     EXPECT_EQ(before, L"\\first");
@@ -286,7 +286,7 @@ TEST_F(AbortDialogTest, a_folder_name_of_any_length_is_cut_at_259_units) {
     std::wstring shown;
     const std::wstring longName(400, L'f');
     RunWith([&] {
-        dialog->EnterFolder(longName.c_str());
+        dialog_->EnterFolder(longName.c_str());
         shown = FolderText();
     });
     EXPECT_EQ(shown, std::wstring(259, L'f'));
@@ -295,13 +295,13 @@ TEST_F(AbortDialogTest, a_folder_name_of_any_length_is_cut_at_259_units) {
 TEST_F(AbortDialogTest, a_new_run_starts_without_the_last_runs_folder) {
     Make();
     RunWith([&] {
-        dialog->EnterFolder(L"\\old");
-        dialog->EnterFolder(L"\\older");
+        dialog_->EnterFolder(L"\\old");
+        dialog_->EnterFolder(L"\\older");
     });
     std::wstring shown = L"?";
     RunWith([&] {
         Sleep(150);
-        EXPECT_FALSE(dialog->StopRequested());
+        EXPECT_FALSE(dialog_->StopRequested());
         shown = FolderText();
     });
     EXPECT_EQ(shown, L"");

@@ -84,16 +84,16 @@ class AboutBoxFit : public testing::TestWithParam<UiLanguage> {
         }
     }
 
-    TestWorld world;
-    ReplacedStorage storage;
-    HostWindow host;
+    TestWorld world_;
+    ReplacedStorage storage_;
+    HostWindow host_;
 };
 
 TEST_P(AboutBoxFit, shows_the_largest_figures_whole) {
-    storage.program = {Most, Most};
-    storage.store = {Terabyte, Most};
-    storage.cards = {{L"E:\\", {Most, Most}, true}};
-    AboutBox about(&host.Object());
+    storage_.program = {Most, Most};
+    storage_.store = {Terabyte, Most};
+    storage_.cards = {{L"E:\\", {Most, Most}, true}};
+    AboutBox about(&host_.Object());
     about.CreateModeless();
     EXPECT_NE(
         TextOf(GetDlgItem(about.Handle(), STATIC_PROGRAM_MEMORY)).find(L"2147483647/2147483647KB (100%)"),
@@ -102,10 +102,10 @@ TEST_P(AboutBoxFit, shows_the_largest_figures_whole) {
 }
 
 TEST_P(AboutBoxFit, goes_back_to_its_own_letters_when_they_fit_again) {
-    AboutBox about(&host.Object());
-    storage.program = {Most, Most};
+    AboutBox about(&host_.Object());
+    storage_.program = {Most, Most};
     EXPECT_FALSE(LookAt(about).hasOwnLetters);
-    storage.program = {4096 * Kilobyte, 16384 * Kilobyte};
+    storage_.program = {4096 * Kilobyte, 16384 * Kilobyte};
     const Look seen = LookAt(about);
     EXPECT_NE(seen.programMemory.find(L"4096/16384KB (25%)"), std::wstring::npos);
     EXPECT_TRUE(seen.hasOwnLetters);

@@ -42,8 +42,8 @@ class AboutBoxTest : public testing::Test {
     ~AboutBoxTest() override { RegDeleteTreeW(HKEY_CURRENT_USER, MakerKey); }
 
     AboutBox& Box() {
-        if (!box.has_value()) box.emplace(&host.Object());
-        return *box;
+        if (!box_.has_value()) box_.emplace(&host_.Object());
+        return *box_;
     }
     void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
     [[nodiscard]] HWND Item(int id) { return GetDlgItem(Box().Handle(), id); }
@@ -58,12 +58,12 @@ class AboutBoxTest : public testing::Test {
         return text;
     }
 
-    TestWorld world;
-    ReplacedStorage storage;
-    HostWindow host;
+    TestWorld world_;
+    ReplacedStorage storage_;
+    HostWindow host_;
 
   private:
-    std::optional<AboutBox> box;
+    std::optional<AboutBox> box_;
 };
 
 TEST_F(AboutBoxTest, shows_the_products_strings) {
@@ -108,24 +108,24 @@ TEST_F(AboutBoxTest, lists_memory_and_store_without_cards) {
 }
 
 TEST_F(AboutBoxTest, lists_the_one_card_there_is) {
-    storage.cards = {{L"Storage Card", {1024, 4096}, true}};
+    storage_.cards = {{L"Storage Card", {1024, 4096}, true}};
     Box().CreateModeless();
     EXPECT_EQ(TextOf(STATIC_STORAGE_CARD), L"Storage Card: 1/4KB (25%)");
     EXPECT_EQ(TextOf(STATIC_SECOND_STORAGE_CARD), L"");
 }
 
 TEST_F(AboutBoxTest, lists_the_first_two_of_three_cards) {
-    storage.cards = {
+    storage_.cards = {
         {L"One", {1024, 4096}, true}, {L"Two", {2048, 4096}, true}, {L"Three", {3072, 4096}, true}};
     Box().CreateModeless();
     EXPECT_EQ(TextOf(STATIC_STORAGE_CARD), L"One: 1/4KB (25%)");
     EXPECT_EQ(TextOf(STATIC_SECOND_STORAGE_CARD), L"Two: 2/4KB (50%)");
-    EXPECT_EQ(storage.askedNames, (std::vector<std::wstring>{L"One", L"Two"}));
+    EXPECT_EQ(storage_.askedNames, (std::vector<std::wstring>{L"One", L"Two"}));
 }
 
 TEST_F(AboutBoxTest, leaves_the_lines_empty_whose_query_fails) {
-    storage.answersMemory = false;
-    storage.cards = {{L"One", {}, false}, {L"Two", {2048, 4096}, true}};
+    storage_.answersMemory = false;
+    storage_.cards = {{L"One", {}, false}, {L"Two", {2048, 4096}, true}};
     Box().CreateModeless();
     EXPECT_EQ(TextOf(STATIC_PROGRAM_MEMORY), L"");
     EXPECT_EQ(TextOf(STATIC_DATA_STORE), L"");
@@ -140,7 +140,7 @@ TEST_F(AboutBoxTest, reads_the_memory_anew_each_time) {
         ASSERT_EQ(boxes.Seen().size(), 1u);
         EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"Program: 4096/16384KB (25%)"));
     }
-    storage.program.free = 8192 * 1024;
+    storage_.program.free = 8192 * 1024;
     const AnsweredBoxes boxes{IDOK};
     Box().RunModal();
     ASSERT_EQ(boxes.Seen().size(), 1u);
@@ -183,24 +183,24 @@ class AboutBoxUninstall : public AboutBoxTest {
   protected:
     class Closing : public WindowObject {
       public:
-        explicit Closing(AboutBox& aboutBox) : WindowObject(nullptr, nullptr), about(aboutBox) {}
+        explicit Closing(AboutBox& aboutBox) : WindowObject(nullptr, nullptr), about_(aboutBox) {}
         LRESULT OnClose(MessageRecord&) {
             ++asked;
-            about.End(Dialog::ResultCancel);
+            about_.End(Dialog::ResultCancel);
             return 0;
         }
         int asked = 0;
 
       private:
-        AboutBox& about;
+        AboutBox& about_;
     };
 
     AboutBoxUninstall() {
         Box().SetRegistryKeys(MakerKey, ProductKey);
-        host.Object().OnMessage(WM_CLOSE, &closing, &Closing::OnClose);
+        host_.Object().OnMessage(WM_CLOSE, &closing_, &Closing::OnClose);
     }
 
-    Closing closing{Box()};
+    Closing closing_{Box()};
 };
 
 TEST_F(AboutBoxUninstall, asks_removes_both_keys_and_closes_the_parent) {
@@ -211,7 +211,7 @@ TEST_F(AboutBoxUninstall, asks_removes_both_keys_and_closes_the_parent) {
     EXPECT_EQ(boxes.Seen()[1].caption, L"Confirmation");
     EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[1], L"Uninstall this program."));
     EXPECT_FALSE(Exists(MakerKey));
-    EXPECT_EQ(closing.asked, 1);
+    EXPECT_EQ(closing_.asked, 1);
 }
 
 TEST_F(AboutBoxUninstall, takes_the_sub_keys_along) {
@@ -228,7 +228,7 @@ TEST_F(AboutBoxUninstall, leaves_the_makers_key_when_it_is_told_of_none) {
     Box().RunModal();
     EXPECT_FALSE(Exists(ProductKey));
     EXPECT_TRUE(Exists(MakerKey));
-    EXPECT_EQ(closing.asked, 1);
+    EXPECT_EQ(closing_.asked, 1);
 }
 
 TEST_F(AboutBoxUninstall, gives_way_to_a_routine_that_is_bound_later) {
@@ -247,7 +247,7 @@ TEST_F(AboutBoxUninstall, gives_way_to_a_routine_that_is_bound_later) {
     SendMessageW(Item(BUTTON_UNINSTALL), BM_CLICK, 0, 0);
     EXPECT_EQ(owner.asked, 1);
     EXPECT_TRUE(Exists(ProductKey));
-    EXPECT_EQ(closing.asked, 0);
+    EXPECT_EQ(closing_.asked, 0);
 }
 
 TEST_F(AboutBoxUninstall, leaves_the_makers_key_to_another_product) {
@@ -257,7 +257,7 @@ TEST_F(AboutBoxUninstall, leaves_the_makers_key_to_another_product) {
     Box().RunModal();
     EXPECT_FALSE(Exists(ProductKey));
     EXPECT_TRUE(Exists(L"Software\\QuorinAboutTest\\Another"));
-    EXPECT_EQ(closing.asked, 1);
+    EXPECT_EQ(closing_.asked, 1);
 }
 
 TEST_F(AboutBoxUninstall, closes_the_parent_without_a_word_when_the_key_cannot_be_removed) {
@@ -266,7 +266,7 @@ TEST_F(AboutBoxUninstall, closes_the_parent_without_a_word_when_the_key_cannot_b
     Box().RunModal();
     EXPECT_EQ(boxes.Seen().size(), 2u);
     EXPECT_TRUE(Exists(MakerKey));
-    EXPECT_EQ(closing.asked, 1);
+    EXPECT_EQ(closing_.asked, 1);
 }
 
 TEST_F(AboutBoxUninstall, asks_in_japanese_on_a_japanese_surface_and_does_nothing_when_it_is_not_confirmed) {
@@ -284,7 +284,7 @@ TEST_F(AboutBoxUninstall, asks_in_japanese_on_a_japanese_surface_and_does_nothin
     EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"ｱﾝｲﾝｽﾄｰﾙを実行します"));
     EXPECT_EQ(boxes.Seen()[0].owner, about);
     EXPECT_TRUE(Exists(ProductKey));
-    EXPECT_EQ(closing.asked, 0);
+    EXPECT_EQ(closing_.asked, 0);
 }
 
 TEST_F(AboutBoxUninstall, does_nothing_at_all_without_a_product_key) {
@@ -296,5 +296,5 @@ TEST_F(AboutBoxUninstall, does_nothing_at_all_without_a_product_key) {
     PumpQueue();
     EXPECT_TRUE(boxes.Seen().empty());
     EXPECT_TRUE(Exists(ProductKey));
-    EXPECT_EQ(closing.asked, 0);
+    EXPECT_EQ(closing_.asked, 0);
 }

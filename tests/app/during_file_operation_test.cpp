@@ -26,11 +26,11 @@ class DuringFileOperation : public MainWindowTest {
         copied = 0;
         Open();
         for (int i = 0; i < FileCount; ++i)
-            tree.AddFile(L"s\\" + std::to_wstring(i), "text");
-        tree.AddFolder(L"d");
+            tree_.AddFile(L"s\\" + std::to_wstring(i), "text");
+        tree_.AddFolder(L"d");
         FileOperation& operation = Window().Operation();
-        ASSERT_TRUE(operation.AddSource(tree.Path(L"s").c_str()));
-        ASSERT_TRUE(operation.SetDestination(tree.Path(L"d").c_str()));
+        ASSERT_TRUE(operation.AddSource(tree_.Path(L"s").c_str()));
+        ASSERT_TRUE(operation.SetDestination(tree_.Path(L"d").c_str()));
     }
     void TearDown() override { disturbance = nullptr; }
 
@@ -40,10 +40,10 @@ class DuringFileOperation : public MainWindowTest {
         return Window().Operation().RunModal();
     }
 
-    TempTree tree;
+    TempTree tree_;
 
   private:
-    Replaced<decltype(ce::FileCalls::copyFile)> copy{ce::fileCalls.copyFile, CountCopy};
+    Replaced<decltype(ce::FileCalls::copyFile)> copy_{ce::fileCalls.copyFile, CountCopy};
 };
 
 TEST_F(DuringFileOperation, undisturbed_it_takes_every_file_and_the_window_is_usable_again) {
@@ -80,7 +80,7 @@ TEST_F(DuringFileOperation, closing_the_window_stops_it_first_and_closes_then) {
               1);
     EXPECT_TRUE(stillThere);
     EXPECT_EQ(copied, 5);
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
     EXPECT_FALSE(IsWindow(Handle()));
 }
 
@@ -88,12 +88,12 @@ TEST_F(DuringFileOperation, the_exit_command_ends_it_and_the_program) {
     EXPECT_EQ(RunWith([this] { PostCommand(COMMAND_EXIT); }), 1);
     EXPECT_GE(copied, 5);
     EXPECT_LT(copied, FileCount);
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
 }
 
 TEST_F(DuringFileOperation, the_windows_sudden_end_ends_it) {
     const HWND main = Handle();
     EXPECT_EQ(RunWith([main] { DestroyWindow(main); }), 1);
     EXPECT_EQ(copied, 5);
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
 }

@@ -77,10 +77,10 @@ class DuringSearch : public MainWindowTest {
     }
 
   private:
-    Replaced<decltype(ce::fileCalls.findFirstFile)> first{ce::fileCalls.findFirstFile, &FirstFile};
-    Replaced<decltype(ce::fileCalls.findNextFile)> next{ce::fileCalls.findNextFile, &NextFile};
-    Replaced<decltype(ce::fileCalls.findClose)> close{ce::fileCalls.findClose,
-                                                      [](HANDLE) -> BOOL { return TRUE; }};
+    Replaced<decltype(ce::fileCalls.findFirstFile)> first_{ce::fileCalls.findFirstFile, &FirstFile};
+    Replaced<decltype(ce::fileCalls.findNextFile)> next_{ce::fileCalls.findNextFile, &NextFile};
+    Replaced<decltype(ce::fileCalls.findClose)> close_{ce::fileCalls.findClose,
+                                                       [](HANDLE) -> BOOL { return TRUE; }};
 };
 
 TEST_F(DuringSearch, undisturbed_it_finds_every_file_once) {

@@ -8,11 +8,11 @@
 class Find : public MainWindowTest {
   protected:
     void SetUp() override {
-        tree.AddFile(L"a.txt", "alpha");
-        tree.AddFile(L"b.log", "beta");
-        tree.AddFile(L"sub\\c.txt", "ALPHA");
+        tree_.AddFile(L"a.txt", "alpha");
+        tree_.AddFile(L"b.log", "beta");
+        tree_.AddFile(L"sub\\c.txt", "ALPHA");
         Open();
-        SetText(NamePageIndex, COMBO_LOCATION, tree.Root());
+        SetText(NamePageIndex, COMBO_LOCATION, tree_.Root());
     }
     void FindNames(const wchar_t* name) {
         SetText(NamePageIndex, COMBO_NAME, name);
@@ -29,13 +29,13 @@ class Find : public MainWindowTest {
         return names;
     }
 
-    TempTree tree;
+    TempTree tree_;
 };
 
 TEST_F(Find, finds_what_the_name_asks_for_in_the_folder) {
     FindNames(L"*.txt");
     EXPECT_EQ(RowNames(), Texts{L"a.txt"});
-    EXPECT_EQ(CellOf(List(), 0, ResultColumn::Folder), tree.Root());
+    EXPECT_EQ(CellOf(List(), 0, ResultColumn::Folder), tree_.Root());
     EXPECT_EQ(CellOf(List(), 0, ResultColumn::Size), L"5");
 }
 
@@ -53,7 +53,7 @@ TEST_F(Find, descends_where_the_box_is_checked) {
     Send(NamePageIndex, CHECK_SUBFOLDERS, BM_CLICK);
     FindNames(L"*.txt");
     EXPECT_EQ(RowNames(), (Texts{L"a.txt", L"c.txt"}));
-    EXPECT_EQ(CellOf(List(), 1, ResultColumn::Folder), tree.Path(L"sub"));
+    EXPECT_EQ(CellOf(List(), 1, ResultColumn::Folder), tree_.Path(L"sub"));
     EXPECT_EQ(RowNumberOf(List(), 1), 1);
 }
 
@@ -68,7 +68,7 @@ TEST_F(Find, nothing_found_leaves_an_empty_list_with_the_focus_and_gray_commands
 }
 
 TEST_F(Find, a_folder_that_is_not_there_gives_no_rows_and_no_message) {
-    SetText(NamePageIndex, COMBO_LOCATION, tree.Path(L"missing"));
+    SetText(NamePageIndex, COMBO_LOCATION, tree_.Path(L"missing"));
     FindNames(L"*");
     EXPECT_EQ(RowCount(), 0);
 }
@@ -109,8 +109,8 @@ TEST_F(Find, a_contained_text_is_looked_for_with_its_case_until_the_option_is_cl
 }
 
 TEST_F(Find, a_size_bound_of_the_third_page_counts) {
-    tree.AddFile(L"big.txt", std::string(10241, 'x'));
-    tree.AddFile(L"edge.txt", std::string(10240, 'x'));
+    tree_.AddFile(L"big.txt", std::string(10241, 'x'));
+    tree_.AddFile(L"edge.txt", std::string(10240, 'x'));
     Send(SizePageIndex, COMBO_FILE_SIZE, CB_SETCURSEL, 1);
     SetText(SizePageIndex, EDIT_KILOBYTES, L"10");
     FindNames(L"*");

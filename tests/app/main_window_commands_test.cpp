@@ -145,7 +145,7 @@ TEST_F(MainWindowCommands, exit_ends_the_program_with_code_0) {
 TEST_F(MainWindowCommands, ctrl_q_is_exit) {
     const HWND handle = Handle();
     Key(Tab(), 'Q', {VK_CONTROL});
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
     EXPECT_FALSE(IsWindow(handle));
 }
 

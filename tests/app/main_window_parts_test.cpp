@@ -23,13 +23,13 @@ class MainWindowParts : public MainWindowTest {
         SendMessageW(Handle(), WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
     }
 
-    const std::vector<bool> first = {true, false, false};
-    const std::vector<bool> all = {true, true, true};
+    const std::vector<bool> first_ = {true, false, false};
+    const std::vector<bool> all_ = {true, true, true};
 };
 
 TEST_F(MainWindowParts, the_first_picture_has_the_name_page_alone_and_no_icons) {
     OpenFirstPicture();
-    EXPECT_EQ(Standing(), first);
+    EXPECT_EQ(Standing(), first_);
     EXPECT_EQ(ShownPage(), NamePageIndex);
     EXPECT_EQ(Images(), nullptr);
     EXPECT_FALSE(GetUpdateRect(Handle(), nullptr, FALSE)) << "something waits to be painted";
@@ -37,7 +37,7 @@ TEST_F(MainWindowParts, the_first_picture_has_the_name_page_alone_and_no_icons) 
 
 TEST_F(MainWindowParts, the_rest_is_made_in_the_first_quiet_moment) {
     OpenFirstPicture();
-    ASSERT_TRUE(PumpUntil([&] { return Standing() == all; }));
+    ASSERT_TRUE(PumpUntil([&] { return Standing() == all_; }));
     EXPECT_EQ(ShownPage(), NamePageIndex);
     EXPECT_EQ(GetFocus(), Tab());
     ASSERT_NE(Images(), nullptr);
@@ -59,14 +59,14 @@ TEST_F(MainWindowParts, the_rest_is_made_once) {
 
 TEST_F(MainWindowParts, no_timer_runs_on_when_the_rest_is_made) {
     OpenFirstPicture();
-    ASSERT_TRUE(PumpUntil([&] { return Standing() == all; }));
+    ASSERT_TRUE(PumpUntil([&] { return Standing() == all_; }));
     EXPECT_FALSE(KillTimer(Handle(), 1));
 }
 
 TEST_F(MainWindowParts, a_tab_that_is_chosen_before_that_shows_its_page) {
     OpenFirstPicture();
     ClickTab(SizePageIndex);
-    EXPECT_EQ(Standing(), all);
+    EXPECT_EQ(Standing(), all_);
     EXPECT_EQ(ShownPage(), SizePageIndex);
     PumpQueue();
     EXPECT_EQ(ShownPage(), SizePageIndex);
@@ -81,7 +81,7 @@ TEST_F(MainWindowParts, a_search_before_that_finds_and_has_its_icons) {
     SetText(NamePageIndex, COMBO_NAME, L"*");
     SetText(NamePageIndex, COMBO_LOCATION, tree.Root());
     Command(COMMAND_FIND);
-    EXPECT_EQ(Standing(), all);
+    EXPECT_EQ(Standing(), all_);
     EXPECT_EQ(RowNames(), (Texts{L"a.txt", L"sub"}));
     ASSERT_NE(Images(), nullptr);
     EXPECT_GE(ImageList_GetImageCount(Images()), 4);
@@ -90,7 +90,7 @@ TEST_F(MainWindowParts, a_search_before_that_finds_and_has_its_icons) {
 TEST_F(MainWindowParts, new_condition_before_that_leaves_the_pages_as_after_a_reset) {
     OpenFirstPicture();
     Command(COMMAND_NEW_CONDITION);
-    ASSERT_EQ(Standing(), all);
+    ASSERT_EQ(Standing(), all_);
     EXPECT_EQ(TextOf(NamePageIndex, COMBO_NAME), L"");
     EXPECT_EQ(Send(DatePageIndex, RADIO_ALL_FILES, BM_GETCHECK), BST_CHECKED);
     EXPECT_EQ(Send(SizePageIndex, COMBO_FILE_TYPE, CB_GETCURSEL), 0);
@@ -101,7 +101,7 @@ TEST_F(MainWindowParts, a_window_that_closes_before_that_saves_its_settings) {
     FindPages();
     Send(NamePageIndex, CHECK_SUBFOLDERS, BM_SETCHECK, BST_CHECKED);
     SendMessageW(Handle(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
     Discard();
     OpenFirstPicture();
     FindPages();

@@ -37,9 +37,9 @@ class MainWindowResults : public MainWindowTest {
   protected:
     void SetUp() override {
         startedFiles.clear();
-        tree.AddFile(L"a.txt", "text");
+        tree_.AddFile(L"a.txt", "text");
         Open();
-        SetText(NamePageIndex, COMBO_LOCATION, tree.Root());
+        SetText(NamePageIndex, COMBO_LOCATION, tree_.Root());
         SetText(NamePageIndex, COMBO_NAME, L"*.txt");
         PostCommand(COMMAND_FIND);
         PumpQueue();
@@ -53,13 +53,13 @@ class MainWindowResults : public MainWindowTest {
         SendMessageW(Handle(), WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification));
     }
 
-    TempTree tree;
-    Replaced<decltype(ce::ShortcutCalls::execute)> starting{ce::shortcutCalls.execute, &NoteStart};
+    TempTree tree_;
+    Replaced<decltype(ce::ShortcutCalls::execute)> starting_{ce::shortcutCalls.execute, &NoteStart};
 };
 
 TEST_F(MainWindowResults, a_double_click_and_enter_and_the_menu_open_the_file) {
     DoubleClick({});
-    EXPECT_EQ(startedFiles, (Texts{tree.Path(L"a.txt")}));
+    EXPECT_EQ(startedFiles, (Texts{tree_.Path(L"a.txt")}));
     Key(List(), VK_RETURN);
     EXPECT_EQ(startedFiles.size(), 2u);
     Command(COMMAND_OPEN);
@@ -97,8 +97,8 @@ TEST_F(MainWindowResults, a_name_edited_in_place_renames_the_file_and_enter_open
     SetWindowTextW(edit, L"b.txt");
     Key(edit, VK_RETURN);
     EXPECT_EQ(RowNames(), Texts{L"b.txt"});
-    EXPECT_NE(GetFileAttributesW(tree.Path(L"b.txt").c_str()), INVALID_FILE_ATTRIBUTES);
-    EXPECT_EQ(GetFileAttributesW(tree.Path(L"a.txt").c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(tree_.Path(L"b.txt").c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(GetFileAttributesW(tree_.Path(L"a.txt").c_str()), INVALID_FILE_ATTRIBUTES);
     EXPECT_TRUE(startedFiles.empty());
 }
 
@@ -110,7 +110,7 @@ TEST_F(MainWindowResults, a_name_whose_editing_is_given_up_stays) {
     SetWindowTextW(edit, L"b.txt");
     Key(edit, VK_ESCAPE);
     EXPECT_EQ(RowNames(), Texts{L"a.txt"});
-    EXPECT_NE(GetFileAttributesW(tree.Path(L"a.txt").c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(tree_.Path(L"a.txt").c_str()), INVALID_FILE_ATTRIBUTES);
     EXPECT_TRUE(startedFiles.empty());
 }
 

@@ -1,7 +1,7 @@
 // The main window as it stands at the start.
 
-#include "base/product.h"
 #include "app/run.h"
+#include "base/product.h"
 #include "framework/property_keys.h"
 #include "tests/app/main_window_test.h"
 
@@ -149,7 +149,7 @@ TEST_F(MainWindowStart, without_a_menu_bar_the_window_stands_and_its_commands_do
     DescribeMainWindow(withoutBar);
     constexpr int NoSuchBar = 999;
     withoutBar.Set(property::MenuBar, NoSuchBar);
-    MainWindow bare(ProductName, withoutBar, world.TheApplication());
+    MainWindow bare(ProductName, withoutBar, world_.TheApplication());
     EXPECT_NE(bare.Handle(), nullptr);
     EXPECT_EQ(bare.MenuBar(), nullptr);
     EXPECT_EQ(bare.Menu(), nullptr);

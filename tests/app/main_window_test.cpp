@@ -1,7 +1,7 @@
 #include "tests/app/main_window_test.h"
 
-#include "base/product.h"
 #include "app/run.h"
+#include "base/product.h"
 
 MainWindowTest::MainWindowTest() {
     ForgetSettings();
@@ -18,7 +18,7 @@ void MainWindowTest::ForgetSettings() {
 
 void MainWindowTest::Open(UiLanguage language) {
     OpenFirstPicture(language);
-    window->CompleteParts();
+    window_->CompleteParts();
     FindPages();
     PumpQueue();
 }
@@ -26,15 +26,15 @@ void MainWindowTest::Open(UiLanguage language) {
 void MainWindowTest::OpenFirstPicture(UiLanguage language) {
     GlobalsForStartUp().uiLanguage = language;
     GlobalsForStartUp().menuLanguage = language;
-    properties.Clear();
-    DescribeMainWindow(properties);
-    window = std::make_unique<MainWindow>(ProductName, properties, world.TheApplication());
-    window->Show();
+    properties_.Clear();
+    DescribeMainWindow(properties_);
+    window_ = std::make_unique<MainWindow>(ProductName, properties_, world_.TheApplication());
+    window_->Show();
 }
 
 int MainWindowTest::RunToTheEnd(int firstCommand) {
     PostCommand(firstCommand);
-    return world.TheApplication().Run();
+    return world_.TheApplication().Run();
 }
 
 void MainWindowTest::FindPages() {
@@ -42,7 +42,7 @@ void MainWindowTest::FindPages() {
     HWND page = nullptr;
     while ((page = FindWindowExW(Tab(), page, L"#32770", nullptr)) != nullptr) {
         for (int i = 0; i < 3; ++i) {
-            if (GetDlgItem(page, OwnControl[i]) != nullptr) pages[i] = page;
+            if (GetDlgItem(page, OwnControl[i]) != nullptr) pages_[i] = page;
         }
     }
 }

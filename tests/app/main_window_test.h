@@ -34,15 +34,15 @@ class MainWindowTest : public testing::Test {
     // Looks for the windows of the pages that stand.
     void FindPages();
     // Deletes the object, and the window with it where it is still there.
-    void Discard() { window.reset(); }
+    void Discard() { window_.reset(); }
     // As start-up does: opens, posts a command, and lives until the program ends. The exit code.
     int RunToTheEnd(int firstCommand);
 
-    [[nodiscard]] MainWindow& Window() { return *window; }
-    [[nodiscard]] HWND Handle() const { return window->Handle(); }
+    [[nodiscard]] MainWindow& Window() { return *window_; }
+    [[nodiscard]] HWND Handle() const { return window_->Handle(); }
     [[nodiscard]] HWND Tab() const { return FindWindowExW(Handle(), nullptr, WC_TABCONTROLW, nullptr); }
     [[nodiscard]] HWND List() const { return FindWindowExW(Handle(), nullptr, WC_LISTVIEWW, nullptr); }
-    [[nodiscard]] HWND Page(int index) const { return pages[index]; }
+    [[nodiscard]] HWND Page(int index) const { return pages_[index]; }
     [[nodiscard]] HWND Item(int page, int id) const { return GetDlgItem(Page(page), id); }
     [[nodiscard]] HWND EditOf(int comboId) const { return GetWindow(Item(NamePageIndex, comboId), GW_CHILD); }
     [[nodiscard]] std::wstring TextOf(int page, int id) const;
@@ -54,7 +54,7 @@ class MainWindowTest : public testing::Test {
     }
     [[nodiscard]] int ShownPage() const;
     [[nodiscard]] UINT MenuState(int command) const {
-        return GetMenuState(window->Menu(), static_cast<UINT>(command), MF_BYCOMMAND);
+        return GetMenuState(window_->Menu(), static_cast<UINT>(command), MF_BYCOMMAND);
     }
     [[nodiscard]] bool IsGray(int command) const { return (MenuState(command) & MF_GRAYED) != 0; }
     [[nodiscard]] bool IsMarked(int command) const { return (MenuState(command) & MF_CHECKED) != 0; }
@@ -76,10 +76,10 @@ class MainWindowTest : public testing::Test {
     // Removes what the program keeps in the registry.
     static void ForgetSettings();
 
-    TestWorld world;
+    TestWorld world_;
 
   private:
-    PropertySet properties;
-    std::unique_ptr<MainWindow> window;
-    HWND pages[3] = {};
+    PropertySet properties_;
+    std::unique_ptr<MainWindow> window_;
+    HWND pages_[3] = {};
 };

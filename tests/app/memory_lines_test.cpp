@@ -74,48 +74,48 @@ TEST(MemoryLines, are_true_for_the_largest_counts_of_all) {
 
 class MemoryLinesOfDevice : public testing::Test {
   protected:
-    TestWorld world;
-    ReplacedStorage storage;
+    TestWorld world_;
+    ReplacedStorage storage_;
 };
 
 TEST_F(MemoryLinesOfDevice, have_english_labels) {
-    storage.program = {4096 * Kilobyte, 16384 * Kilobyte};
-    storage.store = {8 * Kilobyte, 32 * Kilobyte};
+    storage_.program = {4096 * Kilobyte, 16384 * Kilobyte};
+    storage_.store = {8 * Kilobyte, 32 * Kilobyte};
     EXPECT_EQ(Filled(ProgramMemoryLine), L"Program: 4096/16384KB (25%)");
     EXPECT_EQ(Filled(DataStoreLine), L"Data: 8/32KB (25%)");
 }
 
 TEST_F(MemoryLinesOfDevice, have_japanese_labels_on_a_japanese_surface) {
     GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
-    storage.program = {4096 * Kilobyte, 16384 * Kilobyte};
-    storage.store = {8 * Kilobyte, 32 * Kilobyte};
+    storage_.program = {4096 * Kilobyte, 16384 * Kilobyte};
+    storage_.store = {8 * Kilobyte, 32 * Kilobyte};
     EXPECT_EQ(Filled(ProgramMemoryLine), L"ﾌﾟﾛｸﾞﾗﾑ: 4096/16384KB (25%)");
     EXPECT_EQ(Filled(DataStoreLine), L"ﾃﾞｰﾀ: 8/32KB (25%)");
 }
 
 TEST_F(MemoryLinesOfDevice, are_empty_when_a_query_fails) {
-    storage.answersMemory = false;
+    storage_.answersMemory = false;
     EXPECT_EQ(Filled(ProgramMemoryLine), L"");
     EXPECT_EQ(Filled(DataStoreLine), L"");
 }
 
 TEST_F(MemoryLinesOfDevice, name_a_card_as_the_enumeration_does) {
-    storage.cards = {{L"Storage Card", {10 * Kilobyte, 40 * Kilobyte}, true},
-                     {L"100%d", {Kilobyte, 4 * Kilobyte}, true}};
+    storage_.cards = {{L"Storage Card", {10 * Kilobyte, 40 * Kilobyte}, true},
+                      {L"100%d", {Kilobyte, 4 * Kilobyte}, true}};
     EXPECT_EQ(CardLine(0), L"Storage Card: 10/40KB (25%)");
     EXPECT_EQ(CardLine(1), L"100%d: 1/4KB (25%)");
-    EXPECT_EQ(storage.askedNames, (std::vector<std::wstring>{L"Storage Card", L"100%d"}));
+    EXPECT_EQ(storage_.askedNames, (std::vector<std::wstring>{L"Storage Card", L"100%d"}));
 }
 
 TEST_F(MemoryLinesOfDevice, are_empty_without_a_card_or_its_sizes) {
-    storage.cards = {{L"Storage Card", {}, false}};
+    storage_.cards = {{L"Storage Card", {}, false}};
     EXPECT_EQ(CardLine(0), L"");
     EXPECT_EQ(CardLine(1), L"");
 }
 
 TEST_F(MemoryLinesOfDevice, hold_the_longest_card_name) {
     const std::wstring name(MAX_PATH - 1, L'n');
-    storage.cards = {{name, {1024 * Gigabyte, 1024 * Gigabyte}, true}};
+    storage_.cards = {{name, {1024 * Gigabyte, 1024 * Gigabyte}, true}};
     EXPECT_EQ(CardLine(0), name + L": 1073741824/1073741824KB (100%)");
 }
 

@@ -34,12 +34,12 @@ bool DiskSpace(const wchar_t* name, ce::FreeAndTotal& bytes) {
 
 }  // namespace
 
-ReplacedStorage::ReplacedStorage() : before(ce::storageCalls) {
+ReplacedStorage::ReplacedStorage() : before_(ce::storageCalls) {
     current = this;
     ce::storageCalls = {ProgramMemory, ObjectStore, StorageCard, DiskSpace};
 }
 
 ReplacedStorage::~ReplacedStorage() {
-    ce::storageCalls = before;
+    ce::storageCalls = before_;
     current = nullptr;
 }

@@ -28,5 +28,5 @@ class ReplacedStorage {
     std::vector<std::wstring> askedNames;
 
   private:
-    ce::StorageCalls before;
+    ce::StorageCalls before_;
 };

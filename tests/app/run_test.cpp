@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/app_globals.h"
 #include "app/start_up.h"
+#include "base/app_globals.h"
 #include "platform/windows_ce.h"
 #include "tests/support/message_pump.h"
 
@@ -20,19 +20,19 @@ class RunningCopy {
         windowClass.lpszClassName = L"QuorinSearch";
         // Kept for good: an earlier test may have registered the class.
         RegisterClassW(&windowClass);
-        window = CreateWindowW(L"QuorinSearch", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
-                               nullptr, nullptr);
+        window_ = CreateWindowW(L"QuorinSearch", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
+                                nullptr, nullptr);
     }
-    ~RunningCopy() { DestroyWindow(window); }
+    ~RunningCopy() { DestroyWindow(window_); }
     // As one that has been closed and is being taken apart.
     void Go() const {
-        EnableWindow(window, FALSE);
-        ShowWindow(window, SW_HIDE);
+        EnableWindow(window_, FALSE);
+        ShowWindow(window_, SW_HIDE);
     }
-    [[nodiscard]] HWND Window() const { return window; }
+    [[nodiscard]] HWND Window() const { return window_; }
 
   private:
-    HWND window;
+    HWND window_;
 };
 
 // What a window of the class shows while the program runs, read from within its loop.
@@ -55,9 +55,9 @@ class Run : public testing::Test {
   protected:
     void SetUp() override {
         seen = Seen();
-        before = Globals();
+        before_ = Globals();
     }
-    void TearDown() override { GlobalsForStartUp() = before; }
+    void TearDown() override { GlobalsForStartUp() = before_; }
 
     // Runs until a timer of the program's loop has looked and quits with 5.
     static int RunAndLook(const wchar_t* commandLine, int showCommand = SW_SHOWNORMAL) {
@@ -66,7 +66,7 @@ class Run : public testing::Test {
     }
 
   private:
-    AppGlobals before;
+    AppGlobals before_;
 };
 
 }  // namespace

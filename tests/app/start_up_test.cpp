@@ -76,15 +76,15 @@ class StartUpTest : public testing::Test {
   protected:
     void SetUp() override {
         fake = FakeSystem();
-        hadChange =
-            ReadRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore) == ERROR_SUCCESS;
+        hadChange_ =
+            ReadRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore_) == ERROR_SUCCESS;
         RemoveChange();
     }
     void TearDown() override {
-        ReleaseConversionLibrary(globals);
+        ReleaseConversionLibrary(globals_);
         UseConversionLibrary(nullptr, nullptr);
         RemoveChange();
-        if (hadChange) WriteRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore);
+        if (hadChange_) WriteRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore_);
     }
 
     static void RemoveChange() {
@@ -101,41 +101,41 @@ class StartUpTest : public testing::Test {
     }
 
     bool IsPocketPc() {
-        ProbePlatform(globals);
-        return globals.pocketPc;
+        ProbePlatform(globals_);
+        return globals_.pocketPc;
     }
-    void Decide() { DecideLanguage(globals); }
+    void Decide() { DecideLanguage(globals_); }
     void ExpectLanguage(UiLanguage expected) const {
-        EXPECT_EQ(globals.uiLanguage, expected);
-        EXPECT_EQ(globals.menuLanguage, expected);
+        EXPECT_EQ(globals_.uiLanguage, expected);
+        EXPECT_EQ(globals_.menuLanguage, expected);
     }
     void ExpectPair(ToMultiByteRoutine toMultiByte, ToWideRoutine toWide, bool available) const {
-        EXPECT_EQ(globals.toMultiByte, toMultiByte);
-        EXPECT_EQ(globals.toWide, toWide);
-        EXPECT_EQ(globals.codeConversionAvailable, available);
+        EXPECT_EQ(globals_.toMultiByte, toMultiByte);
+        EXPECT_EQ(globals_.toWide, toWide);
+        EXPECT_EQ(globals_.codeConversionAvailable, available);
     }
     [[nodiscard]] std::string BytesOf(const wchar_t* text) const {
         char bytes[16];
-        globals.toMultiByte(text, bytes, sizeof bytes);
+        globals_.toMultiByte(text, bytes, sizeof bytes);
         return bytes;
     }
 
-    AppGlobals globals;
+    AppGlobals globals_;
 
   private:
-    Replaced<decltype(ce::systemCalls.getSystemMetrics)> replacedMetrics{
+    Replaced<decltype(ce::systemCalls.getSystemMetrics)> replacedMetrics_{
         ce::systemCalls.getSystemMetrics, [](int index) {
             return index == SM_CXSCREEN ? fake.width : index == SM_CYSCREEN ? fake.height : -1;
         }};
-    Replaced<decltype(ce::systemCalls.getSystemDefaultLangId)> replacedLanguage{
+    Replaced<decltype(ce::systemCalls.getSystemDefaultLangId)> replacedLanguage_{
         ce::systemCalls.getSystemDefaultLangId, []() -> LANGID { return fake.language; }};
-    Replaced<decltype(ce::systemCalls.loadLibrary)> replacedLoad{ce::systemCalls.loadLibrary, &LoadFake};
-    Replaced<decltype(ce::systemCalls.freeLibrary)> replacedFree{ce::systemCalls.freeLibrary, &FreeFake};
-    Replaced<decltype(ce::systemCalls.getProcAddress)> replacedFind{ce::systemCalls.getProcAddress,
-                                                                    &FindFake};
+    Replaced<decltype(ce::systemCalls.loadLibrary)> replacedLoad_{ce::systemCalls.loadLibrary, &LoadFake};
+    Replaced<decltype(ce::systemCalls.freeLibrary)> replacedFree_{ce::systemCalls.freeLibrary, &FreeFake};
+    Replaced<decltype(ce::systemCalls.getProcAddress)> replacedFind_{ce::systemCalls.getProcAddress,
+                                                                     &FindFake};
 
-    bool hadChange = false;
-    DWORD changeBefore = 0;
+    bool hadChange_ = false;
+    DWORD changeBefore_ = 0;
 };
 
 }  // namespace
@@ -182,8 +182,8 @@ TEST_F(PlatformProbe, the_shell_library_is_freed_at_once) {
 
 TEST_F(PlatformProbe, the_screens_size_is_recorded) {
     EXPECT_FALSE(IsPocketPc(640, 240));
-    EXPECT_EQ(globals.screenWidth, 640);
-    EXPECT_EQ(globals.screenHeight, 240);
+    EXPECT_EQ(globals_.screenWidth, 640);
+    EXPECT_EQ(globals_.screenHeight, 240);
 }
 
 class LanguageDecision : public StartUpTest {};
@@ -201,12 +201,12 @@ TEST_F(LanguageDecision, only_the_primary_language_counts) {
     for (const LANGID language : {LANGID{0x0011}, LANGID{0x0811}, LANGID{0xFC11}}) {
         fake.language = language;
         Decide();
-        EXPECT_EQ(globals.uiLanguage, UiLanguage::Japanese) << language;
+        EXPECT_EQ(globals_.uiLanguage, UiLanguage::Japanese) << language;
     }
     for (const LANGID language : {LANGID{0x0412}, LANGID{0x0404}, LANGID{0x0407}, LANGID{0x0000}}) {
         fake.language = language;
         Decide();
-        EXPECT_EQ(globals.uiLanguage, UiLanguage::English) << language;
+        EXPECT_EQ(globals_.uiLanguage, UiLanguage::English) << language;
     }
 }
 
@@ -215,7 +215,7 @@ TEST_F(LanguageDecision, any_other_system_speaks_english_and_converts_by_the_lib
     Decide();
     ExpectLanguage(UiLanguage::English);
     ExpectPair(&LibraryToMultiByte, &LibraryToWide, true);
-    EXPECT_EQ(globals.conversionLibrary, Library);
+    EXPECT_EQ(globals_.conversionLibrary, Library);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x82\xA0");
 }
 
@@ -223,7 +223,7 @@ TEST_F(LanguageDecision, without_the_library_the_low_bytes_are_all_there_is) {
     Decide();
     ExpectLanguage(UiLanguage::English);
     ExpectPair(&DefaultToMultiByte, &DefaultToWide, false);
-    EXPECT_EQ(globals.conversionLibrary, nullptr);
+    EXPECT_EQ(globals_.conversionLibrary, nullptr);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x42");
 }
 
@@ -231,10 +231,10 @@ TEST_F(LanguageDecision, a_library_without_exports_converts_like_none) {
     fake.hasConversionLibrary = true;
     fake.conversionHasExports = false;
     Decide();
-    EXPECT_TRUE(globals.codeConversionAvailable);
+    EXPECT_TRUE(globals_.codeConversionAvailable);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x42");
     wchar_t units[8];
-    globals.toWide("a\x82\xA0", units, 8);
+    globals_.toWide("a\x82\xA0", units, 8);
     EXPECT_EQ(std::wstring(units), L"a\x82\xA0");
 }
 
@@ -306,20 +306,20 @@ TEST_F(LanguageDecision, a_library_that_is_loaded_already_is_not_loaded_again) {
     Decide();
     Decide();
     EXPECT_EQ(fake.conversionLoads, 1);
-    EXPECT_TRUE(globals.codeConversionAvailable);
+    EXPECT_TRUE(globals_.codeConversionAvailable);
 }
 
 TEST_F(LanguageDecision, the_library_is_freed_once_at_the_end) {
     fake.hasConversionLibrary = true;
     Decide();
-    ReleaseConversionLibrary(globals);
-    ReleaseConversionLibrary(globals);
+    ReleaseConversionLibrary(globals_);
+    ReleaseConversionLibrary(globals_);
     EXPECT_EQ(fake.conversionFrees, 1);
-    EXPECT_EQ(globals.conversionLibrary, nullptr);
+    EXPECT_EQ(globals_.conversionLibrary, nullptr);
 }
 
 TEST_F(LanguageDecision, without_the_library_there_is_nothing_to_free) {
     Decide();
-    ReleaseConversionLibrary(globals);
+    ReleaseConversionLibrary(globals_);
     EXPECT_EQ(fake.conversionFrees, 0);
 }

@@ -26,38 +26,38 @@ class UninstallTest : public testing::Test {
     }
 
     static constexpr const wchar_t* Top = L"Software\\QuorinUninstallTest";
-    const std::wstring maker = std::wstring(Top) + L"\\Maker";
-    const std::wstring product = maker + L"\\Product";
+    const std::wstring maker_ = std::wstring(Top) + L"\\Maker";
+    const std::wstring product_ = maker_ + L"\\Product";
 };
 
 TEST_F(UninstallTest, a_missing_key_has_no_sub_key) {
-    EXPECT_FALSE(HasSubKey(HKEY_CURRENT_USER, maker.c_str()));
+    EXPECT_FALSE(HasSubKey(HKEY_CURRENT_USER, maker_.c_str()));
 }
 
 TEST_F(UninstallTest, a_key_with_nothing_but_values_has_no_sub_key) {
-    Create(maker);
+    Create(maker_);
     const DWORD value = 1;
-    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, maker.c_str(), L"Change language", REG_DWORD, &value,
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, maker_.c_str(), L"Change language", REG_DWORD, &value,
                               sizeof value),
               ERROR_SUCCESS);
-    EXPECT_FALSE(HasSubKey(HKEY_CURRENT_USER, maker.c_str()));
+    EXPECT_FALSE(HasSubKey(HKEY_CURRENT_USER, maker_.c_str()));
 }
 
 TEST_F(UninstallTest, one_sub_key_is_enough_also_with_the_longest_name) {
-    Create(maker + L"\\" + std::wstring(255, L'n'));
-    EXPECT_TRUE(HasSubKey(HKEY_CURRENT_USER, maker.c_str()));
+    Create(maker_ + L"\\" + std::wstring(255, L'n'));
+    EXPECT_TRUE(HasSubKey(HKEY_CURRENT_USER, maker_.c_str()));
 }
 
 TEST_F(UninstallTest, a_key_goes_with_all_its_sub_keys) {
-    Create(product + L"\\Name\\deeper");
-    Create(product + L"\\Location");
-    EXPECT_EQ(DeleteRegistryKey(HKEY_CURRENT_USER, product.c_str()), ERROR_SUCCESS);
-    EXPECT_FALSE(Exists(product));
-    EXPECT_TRUE(Exists(maker));
+    Create(product_ + L"\\Name\\deeper");
+    Create(product_ + L"\\Location");
+    EXPECT_EQ(DeleteRegistryKey(HKEY_CURRENT_USER, product_.c_str()), ERROR_SUCCESS);
+    EXPECT_FALSE(Exists(product_));
+    EXPECT_TRUE(Exists(maker_));
 }
 
 TEST_F(UninstallTest, a_missing_key_cannot_be_removed) {
-    EXPECT_EQ(DeleteRegistryKey(HKEY_CURRENT_USER, product.c_str()), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(DeleteRegistryKey(HKEY_CURRENT_USER, product_.c_str()), ERROR_FILE_NOT_FOUND);
 }
 
 TEST_F(UninstallTest, a_wrong_parameter_counts_as_removed) {
@@ -67,23 +67,23 @@ TEST_F(UninstallTest, a_wrong_parameter_counts_as_removed) {
 }
 
 TEST_F(UninstallTest, the_makers_key_goes_with_its_last_product) {
-    Create(product + L"\\Name");
-    EXPECT_TRUE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker.c_str(), product.c_str()));
-    EXPECT_FALSE(Exists(product));
-    EXPECT_FALSE(Exists(maker));
+    Create(product_ + L"\\Name");
+    EXPECT_TRUE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker_.c_str(), product_.c_str()));
+    EXPECT_FALSE(Exists(product_));
+    EXPECT_FALSE(Exists(maker_));
     EXPECT_TRUE(Exists(Top));
 }
 
 TEST_F(UninstallTest, the_makers_key_stays_for_another_product) {
-    Create(product);
-    Create(maker + L"\\Another");
-    EXPECT_TRUE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker.c_str(), product.c_str()));
-    EXPECT_FALSE(Exists(product));
-    EXPECT_TRUE(Exists(maker + L"\\Another"));
+    Create(product_);
+    Create(maker_ + L"\\Another");
+    EXPECT_TRUE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker_.c_str(), product_.c_str()));
+    EXPECT_FALSE(Exists(product_));
+    EXPECT_TRUE(Exists(maker_ + L"\\Another"));
 }
 
 TEST_F(UninstallTest, the_makers_key_stays_when_the_products_cannot_be_removed) {
-    Create(maker);
-    EXPECT_FALSE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker.c_str(), product.c_str()));
-    EXPECT_TRUE(Exists(maker));
+    Create(maker_);
+    EXPECT_FALSE(RemoveRegistryKeys(HKEY_CURRENT_USER, maker_.c_str(), product_.c_str()));
+    EXPECT_TRUE(Exists(maker_));
 }

@@ -10,13 +10,13 @@ namespace {
 class NumberedObject final : public ListObject {
   public:
     NumberedObject(int ownNumber, std::vector<int>& deletedNumbers)
-        : number(ownNumber), deleted(deletedNumbers) {}
-    ~NumberedObject() override { deleted.push_back(number); }
+        : number(ownNumber), deleted_(deletedNumbers) {}
+    ~NumberedObject() override { deleted_.push_back(number); }
 
     const int number;
 
   private:
-    std::vector<int>& deleted;
+    std::vector<int>& deleted_;
 };
 
 const wchar_t* TextOf(ListObject* item) {

@@ -28,13 +28,13 @@ class PumpOneMessageTest : public testing::Test {
   protected:
     PumpOneMessageTest() {
         noted.clear();
-        window = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(NotingProcedure));
+        window_ = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(NotingProcedure));
         EmptyQueue();
         ExpectMessages();
     }
     ~PumpOneMessageTest() override {
-        DestroyWindow(window);
+        DestroyWindow(window_);
         EmptyQueue();
     }
 
@@ -44,9 +44,9 @@ class PumpOneMessageTest : public testing::Test {
         }
     }
 
-    void Post(WPARAM number) const { ASSERT_TRUE(PostMessageW(window, Noted, number, 0)); }
+    void Post(WPARAM number) const { ASSERT_TRUE(PostMessageW(window_, Noted, number, 0)); }
 
-    HWND window = nullptr;
+    HWND window_ = nullptr;
 };
 
 }  // namespace
@@ -62,10 +62,10 @@ TEST_F(PumpOneMessageTest, takes_one_message_a_call_in_the_order_of_the_queue) {
 }
 
 TEST_F(PumpOneMessageTest, translates_keys_into_characters) {
-    ASSERT_TRUE(PostMessageW(window, WM_KEYDOWN, 'A', 0x001E0001));
+    ASSERT_TRUE(PostMessageW(window_, WM_KEYDOWN, 'A', 0x001E0001));
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Dispatched);
     MSG message;
-    EXPECT_TRUE(PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_REMOVE));
+    EXPECT_TRUE(PeekMessageW(&message, window_, WM_CHAR, WM_CHAR, PM_REMOVE));
 }
 
 TEST_F(PumpOneMessageTest, does_not_look_again_right_after_an_empty_queue) {
@@ -118,7 +118,7 @@ TEST_F(PumpOneMessageTest, delivers_what_was_posted_before_the_quit_first) {
 }
 
 TEST_F(PumpOneMessageTest, may_be_called_by_what_it_dispatches) {
-    ASSERT_TRUE(PostMessageW(window, Nested, 0, 0));
+    ASSERT_TRUE(PostMessageW(window_, Nested, 0, 0));
     Post(1);
     Post(2);
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Dispatched);

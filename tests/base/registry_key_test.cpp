@@ -17,44 +17,44 @@ class RegistryKeyTest : public testing::Test {
     // The data of a text without a terminator goes on behind its size: the system would add a terminator that
     // it finds there.
     void Write(const wchar_t* name, DWORD type, const void* data, DWORD size) {
-        ASSERT_TRUE(key.Create(Path));
-        ASSERT_EQ(RegSetValueExW(key.Handle(), name, 0, type, static_cast<const BYTE*>(data), size),
+        ASSERT_TRUE(key_.Create(Path));
+        ASSERT_EQ(RegSetValueExW(key_.Handle(), name, 0, type, static_cast<const BYTE*>(data), size),
                   ERROR_SUCCESS);
     }
     // What the query makes of a buffer that holds nothing but "#".
     std::wstring Query(const wchar_t* name, bool expected) {
         wchar_t buffer[8];
         std::wmemset(buffer, L'#', 8);
-        EXPECT_EQ(key.QueryString(name, buffer, sizeof buffer), expected);
+        EXPECT_EQ(key_.QueryString(name, buffer, sizeof buffer), expected);
         EXPECT_LT(wcsnlen(buffer, 8), 8U) << "the text has no end";
         return {buffer, wcsnlen(buffer, 8)};
     }
 
-    RegistryKey key{HKEY_CURRENT_USER};
+    RegistryKey key_{HKEY_CURRENT_USER};
 };
 
 }  // namespace
 
 TEST_F(RegistryKeyTest, a_key_that_is_not_there_cannot_be_opened) {
-    EXPECT_FALSE(key.Open(Path));
-    EXPECT_EQ(key.Handle(), nullptr);
+    EXPECT_FALSE(key_.Open(Path));
+    EXPECT_EQ(key_.Handle(), nullptr);
 }
 
 TEST_F(RegistryKeyTest, a_created_key_can_be_opened) {
-    EXPECT_TRUE(key.Create(Path));
-    EXPECT_NE(key.Handle(), nullptr);
+    EXPECT_TRUE(key_.Create(Path));
+    EXPECT_NE(key_.Handle(), nullptr);
     RegistryKey other(HKEY_CURRENT_USER);
     EXPECT_TRUE(other.Open(Path));
 }
 
 TEST_F(RegistryKeyTest, an_open_key_is_closed_before_another_is_opened) {
-    ASSERT_TRUE(key.Create(Path));
-    EXPECT_FALSE(key.Open(L"Software\\QuorinSoftTests\\Missing"));
-    EXPECT_EQ(key.Handle(), nullptr);
-    ASSERT_TRUE(key.Open(Path));
-    key.Close();
-    EXPECT_EQ(key.Handle(), nullptr);
-    key.Close();
+    ASSERT_TRUE(key_.Create(Path));
+    EXPECT_FALSE(key_.Open(L"Software\\QuorinSoftTests\\Missing"));
+    EXPECT_EQ(key_.Handle(), nullptr);
+    ASSERT_TRUE(key_.Open(Path));
+    key_.Close();
+    EXPECT_EQ(key_.Handle(), nullptr);
+    key_.Close();
 }
 
 TEST_F(RegistryKeyTest, a_text_is_read_with_its_end) {
@@ -85,7 +85,7 @@ TEST_F(RegistryKeyTest, a_text_that_does_not_fit_is_none) {
 }
 
 TEST_F(RegistryKeyTest, a_value_that_is_not_there_gives_an_empty_text) {
-    ASSERT_TRUE(key.Create(Path));
+    ASSERT_TRUE(key_.Create(Path));
     EXPECT_EQ(Query(L"missing", false), L"");
 }
 
@@ -93,7 +93,7 @@ TEST_F(RegistryKeyTest, a_value_of_another_type_is_left_as_read) {
     Write(L"b", REG_BINARY, L"ab", 4);
     wchar_t buffer[8];
     std::wmemset(buffer, L'#', 8);
-    EXPECT_TRUE(key.QueryString(L"b", buffer, sizeof buffer));
+    EXPECT_TRUE(key_.QueryString(L"b", buffer, sizeof buffer));
     EXPECT_EQ(std::wstring(buffer, 3), L"ab#");
 }
 
@@ -111,10 +111,10 @@ TEST_F(RegistryKeyTest, a_dword_is_written_and_read_back) {
     DWORD value = 0;
     EXPECT_EQ(ReadRegistryDword(HKEY_CURRENT_USER, Path, L"d", value), ERROR_SUCCESS);
     EXPECT_EQ(value, 0xFEDCBA98);
-    ASSERT_TRUE(key.Open(Path));
+    ASSERT_TRUE(key_.Open(Path));
     DWORD type = 0;
     DWORD size = 0;
-    EXPECT_EQ(RegQueryValueExW(key.Handle(), L"d", nullptr, &type, nullptr, &size), ERROR_SUCCESS);
+    EXPECT_EQ(RegQueryValueExW(key_.Handle(), L"d", nullptr, &type, nullptr, &size), ERROR_SUCCESS);
     EXPECT_EQ(type, DWORD{REG_DWORD});
     EXPECT_EQ(size, 4U);
 }
@@ -122,7 +122,7 @@ TEST_F(RegistryKeyTest, a_dword_is_written_and_read_back) {
 TEST_F(RegistryKeyTest, a_missing_key_or_value_answers_the_systems_error) {
     DWORD value = 3;
     EXPECT_EQ(ReadRegistryDword(HKEY_CURRENT_USER, Path, L"d", value), ERROR_FILE_NOT_FOUND);
-    ASSERT_TRUE(key.Create(Path));
+    ASSERT_TRUE(key_.Create(Path));
     EXPECT_EQ(ReadRegistryDword(HKEY_CURRENT_USER, Path, L"d", value), ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(value, 3U);
 }

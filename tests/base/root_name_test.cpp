@@ -18,10 +18,10 @@ constexpr const wchar_t* Class = L"{000214A0-0000-0000-C000-000000000046}";
 
 class RootName : public testing::Test {
   protected:
-    RootName() : before(Globals()) { RegDeleteTreeW(HKEY_CLASSES_ROOT, Class); }
+    RootName() : before_(Globals()) { RegDeleteTreeW(HKEY_CLASSES_ROOT, Class); }
     ~RootName() override {
         RegDeleteTreeW(HKEY_CLASSES_ROOT, Class);
-        GlobalsForStartUp() = before;
+        GlobalsForStartUp() = before_;
     }
 
     static void Store(DWORD type, const void* data, std::size_t size) {
@@ -46,7 +46,7 @@ class RootName : public testing::Test {
     }
 
   private:
-    AppGlobals before;
+    AppGlobals before_;
 };
 
 TEST_F(RootName, tells_device_and_language_when_the_registry_has_no_name) {

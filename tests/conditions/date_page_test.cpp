@@ -35,8 +35,8 @@ class DatePageTest : public PageTest {
         clockTime.wSecond = 30;
     }
     void OpenPage() {
-        page = std::make_unique<DatePage>(Host());
-        Open(*page);
+        page_ = std::make_unique<DatePage>(Host());
+        Open(*page_);
     }
     [[nodiscard]] Day Picked(int picker) const {
         SYSTEMTIME date = {};
@@ -55,15 +55,15 @@ class DatePageTest : public PageTest {
     }
     // A click's notification without the click.
     void Notify(int id) const {
-        SendMessageW(page->Handle(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+        SendMessageW(page_->Handle(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
                      reinterpret_cast<LPARAM>(Item(id)));
     }
 
-    std::unique_ptr<DatePage> page;
+    std::unique_ptr<DatePage> page_;
 
   private:
-    Replaced<decltype(ce::systemCalls.getSystemTime)> replaced{ce::systemCalls.getSystemTime,
-                                                               [](SYSTEMTIME* now) { *now = clockTime; }};
+    Replaced<decltype(ce::systemCalls.getSystemTime)> replaced_{ce::systemCalls.getSystemTime,
+                                                                [](SYSTEMTIME* now) { *now = clockTime; }};
 };
 
 TEST_F(DatePageTest, all_files_is_checked_and_everything_else_disabled) {
@@ -160,7 +160,7 @@ TEST_F(DatePageTest, on_31_may_the_first_picker_is_given_31_february_and_keeps_w
     ASSERT_EQ(Picked(PICKER_FROM), (Day{2001, 12, 10}));
     clockTime = Date(2002, 5, 31);
     const MessageLog log({DTM_SETSYSTEMTIME});
-    page->Reset();
+    page_->Reset();
     const auto sent = log.To(PICKER_FROM, DTM_SETSYSTEMTIME);
     ASSERT_EQ(sent.size(), 1U);
     EXPECT_EQ(DayOf(sent[0].time), (Day{2002, 2, 31}));
@@ -215,7 +215,7 @@ TEST_F(DatePageTest, a_reset_brings_back_the_choice_the_dates_and_one_day) {
     SYSTEMTIME other = Date(1999, 1, 2);
     Send(PICKER_FROM, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&other));
     Send(PICKER_TO, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&other));
-    page->Reset();
+    page_->Reset();
     ExpectChecked(RADIO_ALL_FILES);
     ExpectEnabled(false, false);
     EXPECT_EQ(Picked(PICKER_FROM), (Day{2002, 4, 15}));

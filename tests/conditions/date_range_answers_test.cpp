@@ -29,7 +29,7 @@ const SYSTEMTIME Now = Time(2002, 7, 15, 20, 5, 30, 123);
 
 class DateRangeAnswers : public PageTest {
   protected:
-    DateRangeAnswers() : page(Host()) { Open(page); }
+    DateRangeAnswers() : page_(Host()) { Open(page_); }
 
     void Pick(int picker, const SYSTEMTIME& date) const {
         Send(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&date));
@@ -39,22 +39,22 @@ class DateRangeAnswers : public PageTest {
         Click(RADIO_PAST);
         SetText(EDIT_DAYS, typed);
         DateRange range = {};
-        EXPECT_TRUE(page.DateRangeChosen(range));
+        EXPECT_TRUE(page_.DateRangeChosen(range));
         EXPECT_EQ(Fields(range.second), Fields(Now));
         return range.first;
     }
 
   private:
-    Replaced<decltype(ce::systemCalls.getSystemTime)> clockTime{ce::systemCalls.getSystemTime,
-                                                                [](SYSTEMTIME* now) { *now = Now; }};
+    Replaced<decltype(ce::systemCalls.getSystemTime)> clockTime_{ce::systemCalls.getSystemTime,
+                                                                 [](SYSTEMTIME* now) { *now = Now; }};
 
   protected:
-    DatePage page;
+    DatePage page_;
 };
 
 TEST_F(DateRangeAnswers, all_files_gives_no_range) {
     DateRange range = {Time(1999, 1, 1), Time(1999, 1, 2)};
-    EXPECT_FALSE(page.DateRangeChosen(range));
+    EXPECT_FALSE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(1999, 1, 1)));
     EXPECT_EQ(Fields(range.second), Fields(Time(1999, 1, 2)));
 }
@@ -64,7 +64,7 @@ TEST_F(DateRangeAnswers, between_runs_from_midnight_to_midnight_of_the_picked_da
     Pick(PICKER_FROM, Time(2002, 1, 10, 13, 14, 15, 16));
     Pick(PICKER_TO, Time(2002, 2, 20, 23, 59, 59, 999));
     DateRange range = {};
-    EXPECT_TRUE(page.DateRangeChosen(range));
+    EXPECT_TRUE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(2002, 1, 10)));
     EXPECT_EQ(Fields(range.second), Fields(Time(2002, 2, 20)));
 }
@@ -74,7 +74,7 @@ TEST_F(DateRangeAnswers, between_may_run_backwards) {
     Pick(PICKER_FROM, Time(2002, 2, 20));
     Pick(PICKER_TO, Time(2002, 1, 10));
     DateRange range = {};
-    EXPECT_TRUE(page.DateRangeChosen(range));
+    EXPECT_TRUE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(2002, 2, 20)));
     EXPECT_EQ(Fields(range.second), Fields(Time(2002, 1, 10)));
 }
@@ -82,7 +82,7 @@ TEST_F(DateRangeAnswers, between_may_run_backwards) {
 TEST_F(DateRangeAnswers, the_past_day_of_the_reset_runs_from_yesterdays_midnight_to_now) {
     Click(RADIO_PAST);
     DateRange range = {};
-    EXPECT_TRUE(page.DateRangeChosen(range));
+    EXPECT_TRUE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(2002, 7, 14)));
     EXPECT_EQ(Fields(range.second), Fields(Now));
 }
@@ -91,7 +91,7 @@ TEST_F(DateRangeAnswers, the_spins_days_are_counted_back) {
     Click(RADIO_PAST);
     Send(SPIN_DAYS, UDM_SETPOS, 0, 999);
     DateRange range = {};
-    EXPECT_TRUE(page.DateRangeChosen(range));
+    EXPECT_TRUE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(1999, 10, 20)));
 }
 
@@ -112,7 +112,7 @@ TEST_F(DateRangeAnswers, empty_days_carry_the_error_word_and_reach_more_than_179
 TEST_F(DateRangeAnswers, with_nothing_checked_a_range_is_told_but_not_set) {
     Send(RADIO_ALL_FILES, BM_SETCHECK, BST_UNCHECKED);
     DateRange range = {Time(1999, 1, 1), Time(1999, 1, 2)};
-    EXPECT_TRUE(page.DateRangeChosen(range));
+    EXPECT_TRUE(page_.DateRangeChosen(range));
     EXPECT_EQ(Fields(range.first), Fields(Time(1999, 1, 1)));
     EXPECT_EQ(Fields(range.second), Fields(Time(1999, 1, 2)));
 }

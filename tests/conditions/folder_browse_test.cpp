@@ -102,12 +102,12 @@ TEST_F(FolderBrowse, is_closed_by_enter_with_what_is_selected) {
 class BrowseButton : public FolderBrowse {
   protected:
     void OpenPage() {
-        page = std::make_unique<NamePage>(Host(), HostHandle());
-        Open(*page);
+        page_ = std::make_unique<NamePage>(Host(), HostHandle());
+        Open(*page_);
         SetText(COMBO_LOCATION, L"\\before");
     }
 
-    std::unique_ptr<NamePage> page;
+    std::unique_ptr<NamePage> page_;
 };
 
 TEST_F(BrowseButton, puts_the_chosen_folder_into_the_location_and_its_history) {
@@ -168,8 +168,8 @@ TEST_F(BrowseButton, leaves_the_location_when_the_browser_is_cancelled) {
 TEST_F(BrowseButton, takes_over_a_path_that_just_fits) {
     const std::wstring first(200, L'f');
     const std::wstring second(57, L'g');
-    folders.AddFolder(L"\\", first);
-    folders.AddFolder(L"\\" + first, second);
+    folders_.AddFolder(L"\\", first);
+    folders_.AddFolder(L"\\" + first, second);
     OpenPage();
     nextDoing = [&](HWND window) { Choose(window, {first, second}); };
     Click(BUTTON_BROWSE);
@@ -182,8 +182,8 @@ TEST_F(BrowseButton, takes_over_a_path_that_just_fits) {
 TEST_F(BrowseButton, leaves_the_browser_open_on_a_folder_whose_path_does_not_fit) {
     const std::wstring first(200, L'f');
     const std::wstring second(58, L'g');
-    folders.AddFolder(L"\\", first);
-    folders.AddFolder(L"\\" + first, second);
+    folders_.AddFolder(L"\\", first);
+    folders_.AddFolder(L"\\" + first, second);
     OpenPage();
     bool stillOpen = false;
     nextDoing = [&](HWND window) {

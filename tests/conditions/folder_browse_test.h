@@ -29,13 +29,13 @@ class FolderBrowse : public PageTest {
     FolderBrowse() {
         const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_TREEVIEW_CLASSES};
         InitCommonControlsEx(&classes);
-        hook = SetWindowsHookExW(WH_CBT, WatchActivation, nullptr, GetCurrentThreadId());
-        folders.AddFolder(L"\\", L"My Documents");
-        folders.AddFolder(L"\\", L"A");
-        folders.AddFolder(L"\\A", L"B");
+        hook_ = SetWindowsHookExW(WH_CBT, WatchActivation, nullptr, GetCurrentThreadId());
+        folders_.AddFolder(L"\\", L"My Documents");
+        folders_.AddFolder(L"\\", L"A");
+        folders_.AddFolder(L"\\A", L"B");
     }
     ~FolderBrowse() override {
-        UnhookWindowsHookEx(hook);
+        UnhookWindowsHookEx(hook_);
         nextDoing = nullptr;
     }
 
@@ -45,7 +45,7 @@ class FolderBrowse : public PageTest {
         return dialog.RunModal();
     }
 
-    FakeFolders folders;
+    FakeFolders folders_;
 
     // What the user does with the next dialog that comes up, once.
     static inline std::function<void(HWND)> nextDoing;
@@ -60,5 +60,5 @@ class FolderBrowse : public PageTest {
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
-    HHOOK hook;
+    HHOOK hook_;
 };

@@ -27,89 +27,89 @@ HWND MakeTree(HWND parent) {
 
 class FolderTree : public testing::Test {
   protected:
-    FolderTree() : tree(MakeTree(host.Handle())) {}
+    FolderTree() : tree_(MakeTree(host_.Handle())) {}
 
-    HTREEITEM Fill() { return FillFolderTree(tree, L"My Pocket PC"); }
+    HTREEITEM Fill() { return FillFolderTree(tree_, L"My Pocket PC"); }
     // The path of the item found by the names from the root down.
     std::wstring PathTo(const Names& names) {
         wchar_t path[MAX_PATH] = L"";
-        EXPECT_TRUE(PathOfItem(tree, ItemAt(tree, names), path));
+        EXPECT_TRUE(PathOfItem(tree_, ItemAt(tree_, names), path));
         return path;
     }
 
-    TestWorld world;
-    HostWindow host;
-    FakeFolders folders;
-    HWND tree;
+    TestWorld world_;
+    HostWindow host_;
+    FakeFolders folders_;
+    HWND tree_;
 };
 
 TEST_F(FolderTree, has_the_root_with_its_name_alone_at_the_top) {
-    folders.AddFolder(L"\\", L"Windows");
+    folders_.AddFolder(L"\\", L"Windows");
     const HTREEITEM root = Fill();
-    EXPECT_EQ(TreeView_GetRoot(tree), root);
-    EXPECT_EQ(TreeView_GetNextSibling(tree, root), nullptr);
-    EXPECT_EQ(TextOfItem(tree, root), L"My Pocket PC");
+    EXPECT_EQ(TreeView_GetRoot(tree_), root);
+    EXPECT_EQ(TreeView_GetNextSibling(tree_, root), nullptr);
+    EXPECT_EQ(TextOfItem(tree_, root), L"My Pocket PC");
 }
 
 TEST_F(FolderTree, lists_each_level_in_the_reverse_of_the_systems_order) {
-    folders.AddFolder(L"\\", L"b");
-    folders.AddFolder(L"\\", L"c");
-    folders.AddFolder(L"\\", L"a");
-    folders.AddFolder(L"\\c", L"2");
-    folders.AddFolder(L"\\c", L"1");
+    folders_.AddFolder(L"\\", L"b");
+    folders_.AddFolder(L"\\", L"c");
+    folders_.AddFolder(L"\\", L"a");
+    folders_.AddFolder(L"\\c", L"2");
+    folders_.AddFolder(L"\\c", L"1");
     const HTREEITEM root = Fill();
-    EXPECT_EQ(ChildrenOf(tree, root), (Names{L"a", L"c", L"b"}));
-    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"c"})), (Names{L"1", L"2"}));
-    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"a"})), Names());
+    EXPECT_EQ(ChildrenOf(tree_, root), (Names{L"a", L"c", L"b"}));
+    EXPECT_EQ(ChildrenOf(tree_, ItemAt(tree_, {L"c"})), (Names{L"1", L"2"}));
+    EXPECT_EQ(ChildrenOf(tree_, ItemAt(tree_, {L"a"})), Names());
 }
 
 TEST_F(FolderTree, leaves_files_out) {
-    folders.AddFile(L"\\", L"a.txt");
-    folders.AddFolder(L"\\", L"b");
-    folders.AddFile(L"\\", L"c.txt");
-    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"b"}));
+    folders_.AddFile(L"\\", L"a.txt");
+    folders_.AddFolder(L"\\", L"b");
+    folders_.AddFile(L"\\", L"c.txt");
+    EXPECT_EQ(ChildrenOf(tree_, Fill()), (Names{L"b"}));
 }
 
 TEST_F(FolderTree, shows_hidden_and_system_folders_too) {
-    folders.AddFolder(L"\\", L"hidden", FILE_ATTRIBUTE_HIDDEN);
-    folders.AddFolder(L"\\", L"system", FILE_ATTRIBUTE_SYSTEM);
-    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"system", L"hidden"}));
+    folders_.AddFolder(L"\\", L"hidden", FILE_ATTRIBUTE_HIDDEN);
+    folders_.AddFolder(L"\\", L"system", FILE_ATTRIBUTE_SYSTEM);
+    EXPECT_EQ(ChildrenOf(tree_, Fill()), (Names{L"system", L"hidden"}));
 }
 
 TEST_F(FolderTree, shows_the_device_and_closed_and_open_folders) {
-    folders.AddFolder(L"\\", L"a");
+    folders_.AddFolder(L"\\", L"a");
     const HTREEITEM root = Fill();
-    EXPECT_EQ(ImagesOf(tree, root), (std::pair{0, 0}));
-    EXPECT_EQ(ImagesOf(tree, ItemAt(tree, {L"a"})), (std::pair{1, 2}));
+    EXPECT_EQ(ImagesOf(tree_, root), (std::pair{0, 0}));
+    EXPECT_EQ(ImagesOf(tree_, ItemAt(tree_, {L"a"})), (std::pair{1, 2}));
 }
 
 TEST_F(FolderTree, asks_for_every_name_in_every_folder_once) {
-    folders.AddFolder(L"\\", L"a");
-    folders.AddFolder(L"\\a", L"b");
+    folders_.AddFolder(L"\\", L"a");
+    folders_.AddFolder(L"\\a", L"b");
     Fill();
-    EXPECT_EQ(folders.listed, (Names{L"\\*.*", L"\\a\\*.*", L"\\a\\b\\*.*"}));
+    EXPECT_EQ(folders_.listed, (Names{L"\\*.*", L"\\a\\*.*", L"\\a\\b\\*.*"}));
 }
 
 TEST_F(FolderTree, goes_on_after_a_folder_that_cannot_be_listed) {
-    folders.AddFolder(L"\\", L"a");
-    folders.AddFolder(L"\\", L"b");
-    folders.AddFolder(L"\\b", L"c");
-    folders.FailListing(L"\\a", ERROR_ACCESS_DENIED);
-    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"b", L"a"}));
-    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"b"})), (Names{L"c"}));
+    folders_.AddFolder(L"\\", L"a");
+    folders_.AddFolder(L"\\", L"b");
+    folders_.AddFolder(L"\\b", L"c");
+    folders_.FailListing(L"\\a", ERROR_ACCESS_DENIED);
+    EXPECT_EQ(ChildrenOf(tree_, Fill()), (Names{L"b", L"a"}));
+    EXPECT_EQ(ChildrenOf(tree_, ItemAt(tree_, {L"b"})), (Names{L"c"}));
 }
 
 TEST_F(FolderTree, is_the_root_alone_when_nothing_can_be_listed) {
-    folders.FailListing(L"\\", ERROR_NOT_READY);
-    EXPECT_EQ(ChildrenOf(tree, Fill()), Names());
+    folders_.FailListing(L"\\", ERROR_NOT_READY);
+    EXPECT_EQ(ChildrenOf(tree_, Fill()), Names());
 }
 
 TEST_F(FolderTree, shows_a_link_but_does_not_follow_it) {
-    folders.AddFolder(L"\\", L"loop", FILE_ATTRIBUTE_REPARSE_POINT);
-    folders.AddFolder(L"\\loop", L"inside");
-    folders.SetFolderLink(L"\\loop");
-    EXPECT_EQ(ChildrenOf(tree, Fill()), (Names{L"loop"}));
-    EXPECT_EQ(ChildrenOf(tree, ItemAt(tree, {L"loop"})), Names());
+    folders_.AddFolder(L"\\", L"loop", FILE_ATTRIBUTE_REPARSE_POINT);
+    folders_.AddFolder(L"\\loop", L"inside");
+    folders_.SetFolderLink(L"\\loop");
+    EXPECT_EQ(ChildrenOf(tree_, Fill()), (Names{L"loop"}));
+    EXPECT_EQ(ChildrenOf(tree_, ItemAt(tree_, {L"loop"})), Names());
 }
 
 TEST_F(FolderTree, gives_the_root_as_a_backslash) {
@@ -118,9 +118,9 @@ TEST_F(FolderTree, gives_the_root_as_a_backslash) {
 }
 
 TEST_F(FolderTree, gives_full_paths_without_a_closing_backslash) {
-    folders.AddFolder(L"\\", L"A");
-    folders.AddFolder(L"\\A", L"B");
-    folders.AddFolder(L"\\A\\B", L"日本 語");
+    folders_.AddFolder(L"\\", L"A");
+    folders_.AddFolder(L"\\A", L"B");
+    folders_.AddFolder(L"\\A\\B", L"日本 語");
     Fill();
     EXPECT_EQ(PathTo({L"A"}), L"\\A");
     EXPECT_EQ(PathTo({L"A", L"B"}), L"\\A\\B");
@@ -131,24 +131,24 @@ TEST_F(FolderTree, gives_a_path_of_259_units_and_refuses_a_longer_one) {
     const std::wstring first(200, L'f');
     const std::wstring fits(57, L'g');
     const std::wstring tooLong(58, L'h');
-    folders.AddFolder(L"\\", first);
-    folders.AddFolder(L"\\" + first, fits);
-    folders.AddFolder(L"\\" + first, tooLong);
+    folders_.AddFolder(L"\\", first);
+    folders_.AddFolder(L"\\" + first, fits);
+    folders_.AddFolder(L"\\" + first, tooLong);
     Fill();
     EXPECT_EQ(PathTo({first, fits}), L"\\" + first + L"\\" + fits);
     wchar_t path[MAX_PATH];
-    EXPECT_FALSE(PathOfItem(tree, ItemAt(tree, {first, tooLong}), path));
+    EXPECT_FALSE(PathOfItem(tree_, ItemAt(tree_, {first, tooLong}), path));
 }
 
 TEST_F(FolderTree, ends_where_paths_become_too_long) {
     std::wstring folder;
     for (int level = 0; level < 200; ++level) {
-        folders.AddFolder(folder.empty() ? L"\\" : folder, L"f");
+        folders_.AddFolder(folder.empty() ? L"\\" : folder, L"f");
         folder += L"\\f";
     }
     HTREEITEM item = Fill();
     int depth = 0;
-    while ((item = TreeView_GetChild(tree, item)) != nullptr)
+    while ((item = TreeView_GetChild(tree_, item)) != nullptr)
         ++depth;
     // The deepest listing is of 255 units with its "\*.*": 127 levels of "\f", whose children are shown.
     EXPECT_EQ(depth, 128);
@@ -156,54 +156,55 @@ TEST_F(FolderTree, ends_where_paths_become_too_long) {
 
 TEST_F(FolderTree, closes_every_listing_that_it_opens) {
     for (const wchar_t* name : {L"a", L"b", L"c"}) {
-        folders.AddFolder(L"\\", name);
-        folders.AddFolder(std::wstring(L"\\") + name, L"below");
+        folders_.AddFolder(L"\\", name);
+        folders_.AddFolder(std::wstring(L"\\") + name, L"below");
     }
-    folders.FailListing(L"\\b", ERROR_ACCESS_DENIED);
+    folders_.FailListing(L"\\b", ERROR_ACCESS_DENIED);
     Fill();
-    EXPECT_EQ(folders.openListings, 0);
+    EXPECT_EQ(folders_.openListings, 0);
 }
 
 TEST_F(FolderTree, gives_no_path_where_the_last_unit_of_the_buffer_would_be_lost) {
     // Twice 85 units with their separators are 172; a separator and 86 more make 259.
     const std::wstring name(85, L'n');
-    folders.AddFolder(L"\\", name);
-    folders.AddFolder(L"\\" + name, name);
+    folders_.AddFolder(L"\\", name);
+    folders_.AddFolder(L"\\" + name, name);
     for (const std::size_t units : {std::size_t{86}, std::size_t{87}})
-        folders.AddFolder(L"\\" + name + L"\\" + name, std::wstring(units, L'm'));
+        folders_.AddFolder(L"\\" + name + L"\\" + name, std::wstring(units, L'm'));
     Fill();
     EXPECT_EQ(PathTo({name, name, std::wstring(86, L'm')}).size(), 259u);
     wchar_t path[MAX_PATH + 1];
     path[MAX_PATH] = L'#';
-    EXPECT_FALSE(PathOfItem(tree, ItemAt(tree, {name, name, std::wstring(87, L'm')}),
+    EXPECT_FALSE(PathOfItem(tree_, ItemAt(tree_, {name, name, std::wstring(87, L'm')}),
                             reinterpret_cast<wchar_t(&)[MAX_PATH]>(path)));
     EXPECT_EQ(path[MAX_PATH], L'#');
 }
 
 class FolderTreeOfDisk : public testing::Test {
   protected:
-    TestWorld world;
-    HostWindow host;
-    TempTree disk;
-    HWND tree = MakeTree(host.Handle());
+    TestWorld world_;
+    HostWindow host_;
+    TempTree disk_;
+    HWND tree_ = MakeTree(host_.Handle());
 };
 
 TEST_F(FolderTreeOfDisk, ends_where_a_link_leads_back_up) {
-    disk.AddFolder(L"a\\b");
-    if (!disk.AddFolderLink(L"a\\b\\loop", L"")) GTEST_SKIP() << "this system makes no links";
-    if (!disk.AddFolderLink(L"side", L"a")) GTEST_SKIP() << "this system makes no links";
-    FillFolderItem(tree, nullptr, disk.Root().c_str());
+    disk_.AddFolder(L"a\\b");
+    if (!disk_.AddFolderLink(L"a\\b\\loop", L"")) GTEST_SKIP() << "this system makes no links";
+    if (!disk_.AddFolderLink(L"side", L"a")) GTEST_SKIP() << "this system makes no links";
+    FillFolderItem(tree_, nullptr, disk_.Root().c_str());
     Names top;
-    for (HTREEITEM item = TreeView_GetRoot(tree); item != nullptr; item = TreeView_GetNextSibling(tree, item))
-        top.push_back(TextOfItem(tree, item));
+    for (HTREEITEM item = TreeView_GetRoot(tree_); item != nullptr;
+         item = TreeView_GetNextSibling(tree_, item))
+        top.push_back(TextOfItem(tree_, item));
     std::sort(top.begin(), top.end());
     EXPECT_EQ(top, (Names{L"a", L"side"}));
-    EXPECT_EQ(TreeView_GetCount(tree), 4u) << "a, side, b and loop, each once";
+    EXPECT_EQ(TreeView_GetCount(tree_), 4u) << "a, side, b and loop, each once";
 }
 
 TEST_F(FolderTreeOfDisk, has_no_items_for_the_folder_itself_and_its_parent) {
-    disk.AddFolder(L"one");
-    FillFolderItem(tree, nullptr, disk.Root().c_str());
-    EXPECT_EQ(TreeView_GetCount(tree), 1u);
-    EXPECT_EQ(TextOfItem(tree, TreeView_GetRoot(tree)), L"one");
+    disk_.AddFolder(L"one");
+    FillFolderItem(tree_, nullptr, disk_.Root().c_str());
+    EXPECT_EQ(TreeView_GetCount(tree_), 1u);
+    EXPECT_EQ(TextOfItem(tree_, TreeView_GetRoot(tree_)), L"one");
 }

@@ -18,13 +18,13 @@ class HistoryComboFixture : public testing::Test {
   protected:
     // With the properties that the set holds at the first use.
     HistoryCombo& Combo() {
-        if (combo == nullptr) {
+        if (combo_ == nullptr) {
             const HWND window =
                 CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN | CBS_AUTOHSCROLL, 0, 0, 100,
-                                100, host.Handle(), nullptr, nullptr, nullptr);
-            combo = std::make_unique<HistoryCombo>(&host.Object(), window, properties);
+                                100, host_.Handle(), nullptr, nullptr, nullptr);
+            combo_ = std::make_unique<HistoryCombo>(&host_.Object(), window, properties_);
         }
-        return *combo;
+        return *combo_;
     }
 
     bool Add(const std::wstring& text) { return Combo().AddToHistory(text.c_str()); }
@@ -53,10 +53,10 @@ class HistoryComboFixture : public testing::Test {
         return text;
     }
 
-    PropertySet properties;
+    PropertySet properties_;
 
   private:
-    TestWorld world;
-    HostWindow host;
-    std::unique_ptr<HistoryCombo> combo;
+    TestWorld world_;
+    HostWindow host_;
+    std::unique_ptr<HistoryCombo> combo_;
 };

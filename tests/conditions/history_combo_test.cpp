@@ -67,7 +67,7 @@ TEST_F(HistoryComboTest, an_empty_text_removes_the_only_entry) {
 }
 
 TEST_F(HistoryComboTest, an_empty_text_is_refused_where_the_set_says_so) {
-    properties.Set(property::RefuseEmpty, 0);
+    properties_.Set(property::RefuseEmpty, 0);
     EXPECT_TRUE(Add(L"a"));
     EXPECT_FALSE(Add(L""));
     EXPECT_EQ(List(), Entries{L"a"});
@@ -90,7 +90,7 @@ TEST_F(HistoryComboTest, a_text_that_replaces_another_drops_none_of_ten) {
 }
 
 TEST_F(HistoryComboTest, a_maximum_of_the_set_keeps_one_entry_more_than_it_says) {
-    properties.Set(property::MaximumEntries, 2);
+    properties_.Set(property::MaximumEntries, 2);
     AddAll({L"a", L"b", L"c"});
     EXPECT_EQ(List(), (Entries{L"c", L"b", L"a"}));
     EXPECT_TRUE(Add(L"d"));

@@ -5,8 +5,8 @@
 #include <map>
 #include <random>
 
-#include "conditions/search_history.h"
 #include "base/registry_key.h"
+#include "conditions/search_history.h"
 #include "tests/conditions/history_combo_fixture.h"
 
 namespace {
@@ -125,12 +125,12 @@ TEST_F(HistoryProperty, any_sequence_of_texts_leaves_what_the_plain_rule_leaves)
 }
 
 TEST_F(HistoryProperty, any_sequence_of_texts_follows_a_maximum_of_3) {
-    properties.Set(property::MaximumEntries, 3);
+    properties_.Set(property::MaximumEntries, 3);
     CompareRandomHistories(3, 2);
 }
 
 TEST_F(HistoryProperty, any_sequence_of_texts_follows_a_maximum_of_1) {
-    properties.Set(property::MaximumEntries, 1);
+    properties_.Set(property::MaximumEntries, 1);
     CompareRandomHistories(1, 3);
 }
 
@@ -139,6 +139,6 @@ TEST_F(HistoryProperty, any_sequence_of_additions_saves_and_loads_keeps_list_and
 }
 
 TEST_F(HistoryProperty, such_a_sequence_follows_a_larger_maximum_too) {
-    properties.Set(property::MaximumEntries, 14);
+    properties_.Set(property::MaximumEntries, 14);
     CompareRandomRuns(14, 5);
 }

@@ -25,7 +25,7 @@ class MessageLog {
     MessageLog(const MessageLog&) = delete;
     MessageLog& operator=(const MessageLog&) = delete;
 
-    [[nodiscard]] const std::vector<SentMessage>& All() const { return sent; }
+    [[nodiscard]] const std::vector<SentMessage>& All() const { return sent_; }
     // Those of one number to controls with this id, in their order.
     [[nodiscard]] std::vector<SentMessage> To(int controlId, UINT message) const;
 
@@ -33,7 +33,7 @@ class MessageLog {
     static LRESULT CALLBACK HookProcedure(int code, WPARAM wParam, LPARAM lParam);
     void Keep(const CWPSTRUCT& call);
 
-    std::vector<UINT> wanted;
-    std::vector<SentMessage> sent;
-    HHOOK hook;
+    std::vector<UINT> wanted_;
+    std::vector<SentMessage> sent_;
+    HHOOK hook_;
 };

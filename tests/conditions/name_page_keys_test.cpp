@@ -7,7 +7,7 @@ using Texts = std::vector<std::wstring>;
 
 class NamePageKeys : public PageTest {
   protected:
-    NamePageKeys() : page(Host(), HostHandle()) { Open(page); }
+    NamePageKeys() : page_(Host(), HostHandle()) { Open(page_); }
 
     // Strikes a key in the text field of a combo, which has the focus.
     void PressInCombo(int id, int key, std::initializer_list<int> modifiers = {}) {
@@ -15,7 +15,7 @@ class NamePageKeys : public PageTest {
         PressKeyOn(EditOf(id), key, modifiers);
     }
 
-    NamePage page;
+    NamePage page_;
 };
 
 TEST_F(NamePageKeys, enter_in_the_name_adds_it_to_its_history_and_starts_a_search) {

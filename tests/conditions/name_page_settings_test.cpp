@@ -1,7 +1,7 @@
 // What the name page remembers between runs.
 
-#include "conditions/name_page.h"
 #include "base/registry_key.h"
+#include "conditions/name_page.h"
 #include "tests/conditions/page_test.h"
 
 using Texts = std::vector<std::wstring>;
@@ -18,15 +18,15 @@ class NamePageSettings : public PageTest {
         Restart();
     }
     void TearDown() override {
-        page.reset();
+        page_.reset();
         ce::RegDeleteKeyW(HKEY_CURRENT_USER, TestsPath);
     }
 
     // The page as it is at the start of another run, before it has loaded anything.
     void Restart() {
-        page.reset();
-        page = std::make_unique<NamePage>(Host(), HostHandle());
-        Open(*page);
+        page_.reset();
+        page_ = std::make_unique<NamePage>(Host(), HostHandle());
+        Open(*page_);
     }
 
     void Enter(int comboId, const std::wstring& text) {
@@ -51,20 +51,20 @@ class NamePageSettings : public PageTest {
         return value;
     }
 
-    std::unique_ptr<NamePage> page;
+    std::unique_ptr<NamePage> page_;
 };
 
 TEST_F(NamePageSettings, at_the_first_start_there_is_nothing_to_load_and_the_page_keeps_its_entries) {
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
     EXPECT_EQ(TextOf(COMBO_NAME), L"*.log");
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
-    EXPECT_FALSE(page->SubFoldersChecked());
+    EXPECT_FALSE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, after_the_first_run_txt_is_stored_as_0_and_log_as_1) {
-    page->LoadSettings(Path);
-    page->SaveSettings(Path);
+    page_->LoadSettings(Path);
+    page_->SaveSettings(Path);
     EXPECT_EQ(Stored(L"Name", L"0"), L"*.txt");
     EXPECT_EQ(Stored(L"Name", L"1"), L"*.log");
     EXPECT_EQ(Stored(L"Name", L"2"), L"(none)");
@@ -73,7 +73,7 @@ TEST_F(NamePageSettings, after_the_first_run_txt_is_stored_as_0_and_log_as_1) {
 }
 
 TEST_F(NamePageSettings, a_location_history_without_entries_is_an_empty_key) {
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     RegistryKey key(HKEY_CURRENT_USER);
     EXPECT_TRUE(key.Open((std::wstring(Path) + L"\\Location").c_str()));
 }
@@ -82,9 +82,9 @@ TEST_F(NamePageSettings, both_histories_come_back_each_in_its_field) {
     Enter(COMBO_NAME, L"notes");
     Enter(COMBO_LOCATION, L"\\My Documents");
     Enter(COMBO_LOCATION, L"\\Windows");
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     Restart();
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"notes", L"*.log", L"*.txt"}));
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), (Texts{L"\\Windows", L"\\My Documents"}));
     EXPECT_EQ(TextOf(COMBO_NAME), L"notes");
@@ -95,18 +95,18 @@ TEST_F(NamePageSettings, after_eleven_searches_and_a_restart_the_nine_oldest_of_
     for (int i = 10; i <= 20; ++i)
         Enter(COMBO_NAME, std::to_wstring(i));
     ASSERT_EQ(EntriesOf(COMBO_NAME).size(), 10U);
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     Restart();
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}));
 }
 
 TEST_F(NamePageSettings, the_saved_names_replace_those_that_the_page_starts_with) {
     SendMessageW(Item(COMBO_NAME), CB_RESETCONTENT, 0, 0);
     Enter(COMBO_NAME, L"only");
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     Restart();
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), Texts{L"only"});
 }
 
@@ -114,8 +114,8 @@ TEST_F(NamePageSettings, any_number_but_0_checks_the_sub_folders) {
     for (const DWORD value : {DWORD{1}, DWORD{5}, DWORD{0xFFFFFFFF}}) {
         StoreSubFolders(REG_DWORD, &value, sizeof value);
         Restart();
-        page->LoadSettings(Path);
-        EXPECT_TRUE(page->SubFoldersChecked()) << value;
+        page_->LoadSettings(Path);
+        EXPECT_TRUE(page_->SubFoldersChecked()) << value;
         EXPECT_EQ(Send(CHECK_SUBFOLDERS, BM_GETCHECK), BST_CHECKED);
     }
 }
@@ -123,55 +123,55 @@ TEST_F(NamePageSettings, any_number_but_0_checks_the_sub_folders) {
 TEST_F(NamePageSettings, a_5_becomes_a_0_when_the_box_is_cleared_and_saved) {
     const DWORD five = 5;
     StoreSubFolders(REG_DWORD, &five, sizeof five);
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     Click(CHECK_SUBFOLDERS);
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     EXPECT_EQ(StoredSubFolders(), 0U);
 }
 
 TEST_F(NamePageSettings, a_checked_box_is_saved_as_1) {
     Click(CHECK_SUBFOLDERS);
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     EXPECT_EQ(StoredSubFolders(), 1U);
 }
 
 TEST_F(NamePageSettings, a_0_and_a_missing_value_clear_the_box) {
     Click(CHECK_SUBFOLDERS);
-    page->LoadSettings(Path);
-    EXPECT_FALSE(page->SubFoldersChecked());
+    page_->LoadSettings(Path);
+    EXPECT_FALSE(page_->SubFoldersChecked());
     const DWORD zero = 0;
     StoreSubFolders(REG_DWORD, &zero, sizeof zero);
     Click(CHECK_SUBFOLDERS);
-    page->LoadSettings(Path);
-    EXPECT_FALSE(page->SubFoldersChecked());
+    page_->LoadSettings(Path);
+    EXPECT_FALSE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, a_sub_folder_value_that_does_not_fit_clears_the_box) {
     StoreSubFolders(REG_SZ, L"yes", 8);
     Click(CHECK_SUBFOLDERS);
-    page->LoadSettings(Path);
-    EXPECT_FALSE(page->SubFoldersChecked());
+    page_->LoadSettings(Path);
+    EXPECT_FALSE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, a_shorter_sub_folder_value_is_taken_as_far_as_it_goes) {
     const BYTE one = 1;
     StoreSubFolders(REG_BINARY, &one, sizeof one);
-    page->LoadSettings(Path);
-    EXPECT_TRUE(page->SubFoldersChecked());
+    page_->LoadSettings(Path);
+    EXPECT_TRUE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, each_part_that_can_be_read_is_read) {
-    page->SaveSettings(Path);
+    page_->SaveSettings(Path);
     ASSERT_EQ(ce::RegDeleteKeyW(HKEY_CURRENT_USER, (std::wstring(Path) + L"\\Location").c_str()),
               ERROR_SUCCESS);
     Enter(COMBO_LOCATION, L"\\kept");
     SetText(COMBO_NAME, L"");
     const DWORD one = 1;
     StoreSubFolders(REG_DWORD, &one, sizeof one);
-    page->LoadSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts{L"\\kept"});
-    EXPECT_TRUE(page->SubFoldersChecked());
+    EXPECT_TRUE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, a_registry_that_takes_nothing_is_silent) {
@@ -180,10 +180,10 @@ TEST_F(NamePageSettings, a_registry_that_takes_nothing_is_silent) {
                               nullptr, &passing, nullptr),
               ERROR_SUCCESS);
     RegCloseKey(passing);
-    page->SaveSettings(Path);
-    page->LoadSettings(Path);
+    page_->SaveSettings(Path);
+    page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
-    EXPECT_FALSE(page->SubFoldersChecked());
+    EXPECT_FALSE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageSettings, a_page_without_a_window_loads_and_saves_nothing) {

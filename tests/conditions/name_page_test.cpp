@@ -7,16 +7,16 @@ using Texts = std::vector<std::wstring>;
 class NamePageTest : public PageTest {
   protected:
     void OpenPage() {
-        page = std::make_unique<NamePage>(Host(), HostHandle());
-        Open(*page);
+        page_ = std::make_unique<NamePage>(Host(), HostHandle());
+        Open(*page_);
     }
     std::wstring ContentText() {
         wchar_t text[ContentTextSize] = L"#";
-        page->ContentText(text);
+        page_->ContentText(text);
         return text;
     }
 
-    std::unique_ptr<NamePage> page;
+    std::unique_ptr<NamePage> page_;
 };
 
 TEST_F(NamePageTest, the_name_starts_with_log_and_offers_log_and_txt) {
@@ -31,7 +31,7 @@ TEST_F(NamePageTest, the_other_fields_start_empty_and_the_box_clear) {
     EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
     EXPECT_EQ(TextOf(EDIT_CONTENT), L"");
-    EXPECT_FALSE(page->SubFoldersChecked());
+    EXPECT_FALSE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageTest, the_content_takes_260_units) {
@@ -59,11 +59,11 @@ TEST_F(NamePageTest, a_reset_empties_name_and_location_alone) {
     SetText(COMBO_LOCATION, L"\\f");
     SetText(EDIT_CONTENT, L"kept");
     Click(CHECK_SUBFOLDERS);
-    page->Reset();
+    page_->Reset();
     EXPECT_EQ(TextOf(COMBO_NAME), L"");
     EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
     EXPECT_EQ(TextOf(EDIT_CONTENT), L"kept");
-    EXPECT_TRUE(page->SubFoldersChecked());
+    EXPECT_TRUE(page_->SubFoldersChecked());
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
 }
 
@@ -74,12 +74,12 @@ TEST_F(NamePageTest, the_search_reads_the_fields_as_they_stand) {
     SetText(EDIT_CONTENT, L"  ");
     Click(CHECK_SUBFOLDERS);
     wchar_t text[MAX_PATH];
-    page->NameText(text);
+    page_->NameText(text);
     EXPECT_EQ(std::wstring(text), L"*.日本");
-    page->LocationText(text);
+    page_->LocationText(text);
     EXPECT_EQ(std::wstring(text), L"\\My Documents");
     EXPECT_EQ(ContentText(), L"  ");
-    EXPECT_TRUE(page->SubFoldersChecked());
+    EXPECT_TRUE(page_->SubFoldersChecked());
 }
 
 TEST_F(NamePageTest, texts_longer_than_the_search_takes_are_cut_at_259_units_and_at_260) {
@@ -88,21 +88,21 @@ TEST_F(NamePageTest, texts_longer_than_the_search_takes_are_cut_at_259_units_and
     for (const int id : {COMBO_NAME, COMBO_LOCATION, EDIT_CONTENT})
         SetText(id, longText);
     wchar_t text[MAX_PATH];
-    page->NameText(text);
+    page_->NameText(text);
     EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
-    page->LocationText(text);
+    page_->LocationText(text);
     EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
     EXPECT_EQ(ContentText(), std::wstring(260, L'x'));
 }
 
 TEST_F(NamePageTest, empty_fields_read_as_empty_texts) {
     OpenPage();
-    page->Reset();
+    page_->Reset();
     wchar_t text[MAX_PATH] = L"#";
-    page->NameText(text);
+    page_->NameText(text);
     EXPECT_EQ(std::wstring(text), L"");
     text[0] = L'#';
-    page->LocationText(text);
+    page_->LocationText(text);
     EXPECT_EQ(std::wstring(text), L"");
     EXPECT_EQ(ContentText(), L"");
 }

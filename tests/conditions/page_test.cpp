@@ -4,31 +4,31 @@ PageTest::PageTest() {
     INITCOMMONCONTROLSEX classes = {sizeof classes,
                                     ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS | ICC_DATE_CLASSES};
     InitCommonControlsEx(&classes);
-    SetWindowSubclass(host.Handle(), &CountFinds, 1, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(host_.Handle(), &CountFinds, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
 PageTest::~PageTest() {
-    RemoveWindowSubclass(host.Handle(), &CountFinds, 1);
+    RemoveWindowSubclass(host_.Handle(), &CountFinds, 1);
 }
 
 LRESULT CALLBACK PageTest::CountFinds(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                       DWORD_PTR test) {
     if (message == WM_COMMAND && wParam == COMMAND_FIND && lParam == 0)
-        ++reinterpret_cast<PageTest*>(test)->finds;
+        ++reinterpret_cast<PageTest*>(test)->finds_;
     return DefSubclassProc(window, message, wParam, lParam);
 }
 
 void PageTest::Open(ConditionPage& page) {
     page.MarkAsPage();
     page.CreateModeless();
-    pageWindow = page.Handle();
+    pageWindow_ = page.Handle();
     page.Show();
-    SetFocus(host.Handle());
+    SetFocus(host_.Handle());
 }
 
 int PageTest::FindCommands() {
     PumpQueue();
-    return finds;
+    return finds_;
 }
 
 std::wstring PageTest::TextOf(int id) const {

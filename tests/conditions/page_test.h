@@ -26,12 +26,12 @@ class PageTest : public testing::Test {
     // Creates the page's window and shows it.
     void Open(ConditionPage& page);
 
-    [[nodiscard]] ContainerWindow* Host() { return &host.Object(); }
-    [[nodiscard]] HWND HostHandle() const { return host.Handle(); }
+    [[nodiscard]] ContainerWindow* Host() { return &host_.Object(); }
+    [[nodiscard]] HWND HostHandle() const { return host_.Handle(); }
     // Find commands that have arrived by now.
     [[nodiscard]] int FindCommands();
 
-    [[nodiscard]] HWND Item(int id) const { return GetDlgItem(pageWindow, id); }
+    [[nodiscard]] HWND Item(int id) const { return GetDlgItem(pageWindow_, id); }
     [[nodiscard]] std::wstring TextOf(int id) const;
     void SetText(int id, const std::wstring& text) const { SetWindowTextW(Item(id), text.c_str()); }
     [[nodiscard]] bool IsEnabled(int id) const { return IsWindowEnabled(Item(id)) != FALSE; }
@@ -47,8 +47,8 @@ class PageTest : public testing::Test {
     static LRESULT CALLBACK CountFinds(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                        DWORD_PTR test);
 
-    TestWorld world;
-    HostWindow host;
-    HWND pageWindow = nullptr;
-    int finds = 0;
+    TestWorld world_;
+    HostWindow host_;
+    HWND pageWindow_ = nullptr;
+    int finds_ = 0;
 };

@@ -34,23 +34,23 @@ constexpr std::uint32_t Untouched = 0xABCD;
 class SizePageTest : public PageTest {
   protected:
     void OpenPage(const FileTypeList* fileTypes = nullptr) {
-        page = std::make_unique<SizePage>(Host(), fileTypes);
-        Open(*page);
+        page_ = std::make_unique<SizePage>(Host(), fileTypes);
+        Open(*page_);
     }
     [[nodiscard]] Answer Ask() const {
         std::uint32_t bound = Untouched;
-        const SizeAnswer answer = page->SizeBound(bound);
+        const SizeAnswer answer = page_->SizeBound(bound);
         return {answer, bound};
     }
     void Choose(int comboId, int index) const { Send(comboId, CB_SETCURSEL, static_cast<WPARAM>(index)); }
     [[nodiscard]] std::wstring ExtensionsOf() const {
         wchar_t text[MAX_PATH] = L"before";
-        page->TypeExtensions(text);
+        page_->TypeExtensions(text);
         return text;
     }
 
-    std::unique_ptr<SizePage> page;
-    TwoTypes types;
+    std::unique_ptr<SizePage> page_;
+    TwoTypes types_;
 };
 
 TEST_F(SizePageTest, the_size_offers_nothing_min_and_max) {
@@ -77,34 +77,34 @@ TEST_F(SizePageTest, the_spin_runs_from_0_to_32767) {
 TEST_F(SizePageTest, without_known_types_there_is_only_everything) {
     OpenPage();
     EXPECT_EQ(EntriesOf(COMBO_FILE_TYPE), Texts{L"All files and folders"});
-    EXPECT_EQ(page->TypeIndex(), 0);
+    EXPECT_EQ(page_->TypeIndex(), 0);
     EXPECT_EQ(ExtensionsOf(), L".*");
 }
 
 TEST_F(SizePageTest, the_types_follow_everything_in_their_own_order) {
-    OpenPage(&types);
+    OpenPage(&types_);
     EXPECT_EQ(EntriesOf(COMBO_FILE_TYPE), (Texts{L"All files and folders", L"Web Page", L"A Picture"}));
-    EXPECT_EQ(page->TypeIndex(), 0);
+    EXPECT_EQ(page_->TypeIndex(), 0);
     EXPECT_EQ(ExtensionsOf(), L".*");
     Choose(COMBO_FILE_TYPE, 1);
-    EXPECT_EQ(page->TypeIndex(), 1);
+    EXPECT_EQ(page_->TypeIndex(), 1);
     EXPECT_EQ(ExtensionsOf(), L".htm.html");
     Choose(COMBO_FILE_TYPE, 2);
-    EXPECT_EQ(page->TypeIndex(), 2);
+    EXPECT_EQ(page_->TypeIndex(), 2);
     EXPECT_EQ(ExtensionsOf(), L".bmp");
 }
 
 TEST_F(SizePageTest, extensions_longer_than_the_search_takes_are_cut_at_259_units) {
-    types.longExtensions = std::wstring(400, L'e');
-    OpenPage(&types);
+    types_.longExtensions = std::wstring(400, L'e');
+    OpenPage(&types_);
     Choose(COMBO_FILE_TYPE, 2);
     EXPECT_EQ(ExtensionsOf(), std::wstring(259, L'e'));
 }
 
 TEST_F(SizePageTest, with_no_type_selected_there_are_no_extensions) {
-    OpenPage(&types);
+    OpenPage(&types_);
     Choose(COMBO_FILE_TYPE, -1);
-    EXPECT_EQ(page->TypeIndex(), -1);
+    EXPECT_EQ(page_->TypeIndex(), -1);
     EXPECT_EQ(ExtensionsOf(), L"");
 }
 
@@ -157,13 +157,13 @@ TEST_F(SizePageTest, a_text_typed_over_the_choice_gives_no_bound_and_writes_none
 }
 
 TEST_F(SizePageTest, a_reset_selects_the_first_entries_and_empties_the_kilobytes) {
-    OpenPage(&types);
+    OpenPage(&types_);
     Choose(COMBO_FILE_TYPE, 2);
     Choose(COMBO_FILE_SIZE, 2);
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 10);
     ASSERT_EQ(TextOf(EDIT_KILOBYTES), L"10");
-    page->Reset();
-    EXPECT_EQ(page->TypeIndex(), 0);
+    page_->Reset();
+    EXPECT_EQ(page_->TypeIndex(), 0);
     EXPECT_EQ(Send(COMBO_FILE_SIZE, CB_GETCURSEL), 0);
     EXPECT_EQ(TextOf(EDIT_KILOBYTES), L"");
 }
@@ -171,7 +171,7 @@ TEST_F(SizePageTest, a_reset_selects_the_first_entries_and_empties_the_kilobytes
 TEST_F(SizePageTest, after_a_reset_min_carries_the_error_word_again) {
     OpenPage();
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 10);
-    page->Reset();
+    page_->Reset();
     Choose(COMBO_FILE_SIZE, 1);
     EXPECT_EQ(Ask().answer, SizeAnswer::Min);
     EXPECT_EQ(Ask().bound >> 26, 1U) << "bit 16 of the spin's answer, ten bits further up";
@@ -180,7 +180,7 @@ TEST_F(SizePageTest, after_a_reset_min_carries_the_error_word_again) {
 TEST_F(SizePageTest, a_resets_position_goes_to_the_edit_and_not_to_the_spin) {
     OpenPage();
     const MessageLog log({UDM_SETPOS});
-    page->Reset();
+    page_->Reset();
     EXPECT_EQ(log.To(EDIT_KILOBYTES, UDM_SETPOS).size(), 1U);
     EXPECT_TRUE(log.To(SPIN_KILOBYTES, UDM_SETPOS).empty());
     EXPECT_EQ(TextOf(EDIT_KILOBYTES), L"");

@@ -31,9 +31,9 @@ class FailingCalls {
     // Called with the number of each call before it is made.
     std::function<void(int)> atCall;
 
-    [[nodiscard]] int Calls() const { return calls; }
-    [[nodiscard]] int OpenSearches() const { return openSearches; }
-    [[nodiscard]] const std::vector<Change>& Changes() const { return changes; }
+    [[nodiscard]] int Calls() const { return calls_; }
+    [[nodiscard]] int OpenSearches() const { return openSearches_; }
+    [[nodiscard]] const std::vector<Change>& Changes() const { return changes_; }
 
   private:
     static bool Fails();
@@ -53,11 +53,11 @@ class FailingCalls {
 
     static FailingCalls* current;
 
-    ce::FileCalls real;
-    Failing mode;
-    int first;
-    DWORD code;
-    int calls = 0;
-    int openSearches = 0;
-    std::vector<Change> changes;
+    ce::FileCalls real_;
+    Failing mode_;
+    int first_;
+    DWORD code_;
+    int calls_ = 0;
+    int openSearches_ = 0;
+    std::vector<Change> changes_;
 };

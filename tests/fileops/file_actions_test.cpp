@@ -140,16 +140,16 @@ class FileActions : public testing::Test {
         return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
     }
 
-    TestWorld world;
-    TempTree tree;
-    AnsweredBoxes boxes{IDOK};
+    TestWorld world_;
+    TempTree tree_;
+    AnsweredBoxes boxes_{IDOK};
 };
 
 TEST_F(FileActions, that_succeed_say_nothing) {
-    const std::wstring file = tree.AddFile(L"a.txt", "text");
-    const std::wstring moved = tree.Path(L"b.txt");
-    const std::wstring copy = tree.Path(L"c.txt");
-    const std::wstring folder = tree.Path(L"folder");
+    const std::wstring file = tree_.AddFile(L"a.txt", "text");
+    const std::wstring moved = tree_.Path(L"b.txt");
+    const std::wstring copy = tree_.Path(L"c.txt");
+    const std::wstring folder = tree_.Path(L"folder");
     EXPECT_TRUE(MoveFileOrReport(nullptr, file.c_str(), moved.c_str()));
     EXPECT_TRUE(CopyFileOrReport(nullptr, moved.c_str(), copy.c_str(), true));
     EXPECT_TRUE(CreateDirectoryOrReport(nullptr, folder.c_str(), nullptr));
@@ -160,30 +160,30 @@ TEST_F(FileActions, that_succeed_say_nothing) {
     EXPECT_TRUE(DeleteFileOrReport(nullptr, copy.c_str()));
     EXPECT_TRUE(RemoveDirectoryOrReport(nullptr, folder.c_str()));
     EXPECT_FALSE(Stands(copy) || Stands(folder));
-    EXPECT_TRUE(boxes.Seen().empty());
+    EXPECT_TRUE(boxes_.Seen().empty());
 }
 
 TEST_F(FileActions, a_copy_overwrites_only_when_it_may) {
-    const std::wstring from = tree.AddFile(L"from.txt", "new");
-    const std::wstring to = tree.AddFile(L"to.txt", "older");
+    const std::wstring from = tree_.AddFile(L"from.txt", "new");
+    const std::wstring to = tree_.AddFile(L"to.txt", "older");
     EXPECT_FALSE(CopyFileOrReport(nullptr, from.c_str(), to.c_str(), true));
-    ASSERT_EQ(boxes.Seen().size(), 1u);
-    EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"Error CopyFile 80"));
+    ASSERT_EQ(boxes_.Seen().size(), 1u);
+    EXPECT_TRUE(AnsweredBoxes::Shows(boxes_.Seen()[0], L"Error CopyFile 80"));
     EXPECT_TRUE(CopyFileOrReport(nullptr, from.c_str(), to.c_str(), false));
-    EXPECT_EQ(boxes.Seen().size(), 1u);
+    EXPECT_EQ(boxes_.Seen().size(), 1u);
     WIN32_FILE_ATTRIBUTE_DATA data = {};
     ASSERT_TRUE(GetFileAttributesExW(to.c_str(), GetFileExInfoStandard, &data));
     EXPECT_EQ(data.nFileSizeLow, 3u);
 }
 
 TEST_F(FileActions, copying_onto_a_file_that_is_held_open_names_the_source) {
-    const std::wstring from = tree.AddFile(L"from.txt", "new");
-    const std::wstring to = tree.AddFile(L"to.txt", "older");
+    const std::wstring from = tree_.AddFile(L"from.txt", "new");
+    const std::wstring to = tree_.AddFile(L"to.txt", "older");
     const HANDLE held =
         CreateFileW(to.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
     EXPECT_FALSE(CopyFileOrReport(nullptr, from.c_str(), to.c_str(), false));
     CloseHandle(held);
-    ASSERT_EQ(boxes.Seen().size(), 1u);
-    EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], from + L" is in use"));
+    ASSERT_EQ(boxes_.Seen().size(), 1u);
+    EXPECT_TRUE(AnsweredBoxes::Shows(boxes_.Seen()[0], from + L" is in use"));
 }

@@ -43,11 +43,11 @@ class FolderPath : public testing::Test {
     }
     using Paths = std::vector<std::wstring>;
 
-    TestWorld world;
-    AnsweredBoxes boxes{IDOK};
-    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes{ce::fileCalls.getFileAttributes,
-                                                                    ToldAttributes};
-    Replaced<decltype(ce::FileCalls::createDirectory)> creation{ce::fileCalls.createDirectory, Create};
+    TestWorld world_;
+    AnsweredBoxes boxes_{IDOK};
+    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes_{ce::fileCalls.getFileAttributes,
+                                                                     ToldAttributes};
+    Replaced<decltype(ce::FileCalls::createDirectory)> creation_{ce::fileCalls.createDirectory, Create};
 };
 
 TEST_F(FolderPath, of_a_folder_that_stands_needs_nothing) {
@@ -60,7 +60,7 @@ TEST_F(FolderPath, of_a_file_fails_without_a_word) {
     files = {L"\\a\\b"};
     EXPECT_FALSE(CreateFolderPath(nullptr, L"\\a\\b"));
     EXPECT_TRUE(created.empty());
-    EXPECT_TRUE(boxes.Seen().empty());
+    EXPECT_TRUE(boxes_.Seen().empty());
 }
 
 TEST_F(FolderPath, is_made_from_the_first_missing_folder_on) {
@@ -90,7 +90,7 @@ TEST_F(FolderPath, without_a_separator_fails_without_a_word) {
     EXPECT_FALSE(CreateFolderPath(nullptr, L""));
     EXPECT_FALSE(CreateFolderPath(nullptr, L"\\\\server"));
     EXPECT_TRUE(created.empty());
-    EXPECT_TRUE(boxes.Seen().empty());
+    EXPECT_TRUE(boxes_.Seen().empty());
 }
 
 TEST_F(FolderPath, with_a_file_on_the_way_fails_without_a_word) {
@@ -98,15 +98,15 @@ TEST_F(FolderPath, with_a_file_on_the_way_fails_without_a_word) {
     files = {L"\\a\\b"};
     EXPECT_FALSE(CreateFolderPath(nullptr, L"\\a\\b\\c"));
     EXPECT_TRUE(created.empty());
-    EXPECT_TRUE(boxes.Seen().empty());
+    EXPECT_TRUE(boxes_.Seen().empty());
 }
 
 TEST_F(FolderPath, ends_with_one_box_at_the_first_folder_that_cannot_be_made) {
     creationError = ERROR_DISK_FULL;
     EXPECT_FALSE(CreateFolderPath(nullptr, L"\\a\\b\\c"));
     EXPECT_EQ(created, Paths{L"\\a"});
-    ASSERT_EQ(boxes.Seen().size(), 1u);
-    EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"There is not enough space on the disk."));
+    ASSERT_EQ(boxes_.Seen().size(), 1u);
+    EXPECT_TRUE(AnsweredBoxes::Shows(boxes_.Seen()[0], L"There is not enough space on the disk."));
 }
 
 TEST_F(FolderPath, that_cannot_be_made_itself_ends_with_one_box) {
@@ -114,8 +114,8 @@ TEST_F(FolderPath, that_cannot_be_made_itself_ends_with_one_box) {
     creationError = ERROR_PATH_NOT_FOUND;
     EXPECT_FALSE(CreateFolderPath(nullptr, L"\\a\\b"));
     EXPECT_EQ(created, Paths{L"\\a\\b"});
-    ASSERT_EQ(boxes.Seen().size(), 1u);
-    EXPECT_TRUE(AnsweredBoxes::Shows(boxes.Seen()[0], L"Can't find the path specified. '\\a\\b'"));
+    ASSERT_EQ(boxes_.Seen().size(), 1u);
+    EXPECT_TRUE(AnsweredBoxes::Shows(boxes_.Seen()[0], L"Can't find the path specified. '\\a\\b'"));
 }
 
 TEST_F(FolderPath, of_260_units_is_refused) {

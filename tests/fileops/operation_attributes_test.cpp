@@ -12,18 +12,18 @@ constexpr int YesToAll = 20;
 class OperationAttributes : public OperationTest {
   protected:
     [[nodiscard]] DWORD AttributesOf(const std::string& path) const {
-        return GetFileAttributesW(PathIn(tree, path).c_str()) & Kept;
+        return GetFileAttributesW(PathIn(tree_, path).c_str()) & Kept;
     }
     void Mark(const std::string& path) const {
-        ASSERT_TRUE(SetFileAttributesW(PathIn(tree, path).c_str(), Kept));
+        ASSERT_TRUE(SetFileAttributesW(PathIn(tree_, path).c_str(), Kept));
         ASSERT_EQ(AttributesOf(path), Kept);
     }
     void Unmark(const std::string& path) const {
-        SetFileAttributesW(PathIn(tree, path).c_str(), FILE_ATTRIBUTE_NORMAL);
+        SetFileAttributesW(PathIn(tree_, path).c_str(), FILE_ATTRIBUTE_NORMAL);
     }
     // Runs the operation with this answer; the file has its attributes while the question is open.
     void RunAnswered(const std::string& asked, int answer) {
-        operation.confirm = true;
+        operation_.confirm = true;
         DWORD atQuestion = 0;
         Run({answer}, [&](HWND) { atQuestion = AttributesOf(asked); });
         EXPECT_EQ(atQuestion, Kept);
@@ -31,7 +31,7 @@ class OperationAttributes : public OperationTest {
 };
 
 TEST_F(OperationAttributes, stay_with_a_file_that_is_not_deleted_after_all) {
-    AddContents(tree, "s/a=1 d/");
+    AddContents(tree_, "s/a=1 d/");
     Mark("s/a");
     for (const int answer : {IDNO, IDCANCEL}) {
         Prepare(FileOperationKind::Delete, {"s/a"}, "d");
@@ -42,7 +42,7 @@ TEST_F(OperationAttributes, stay_with_a_file_that_is_not_deleted_after_all) {
 }
 
 TEST_F(OperationAttributes, stay_with_a_file_that_is_not_replaced_after_all) {
-    AddContents(tree, "s/a=new d/a=old");
+    AddContents(tree_, "s/a=new d/a=old");
     Mark("d/a");
     for (const FileOperationKind kind : {FileOperationKind::Copy, FileOperationKind::Move}) {
         for (const int answer : {IDNO, IDCANCEL}) {
@@ -56,7 +56,7 @@ TEST_F(OperationAttributes, stay_with_a_file_that_is_not_replaced_after_all) {
 }
 
 TEST_F(OperationAttributes, of_a_file_refused_in_a_folder_stay_while_its_neighbours_go) {
-    AddContents(tree, "s/a=1 s/b=2 d/");
+    AddContents(tree_, "s/a=1 s/b=2 d/");
     Mark("s/a");
     Mark("s/b");
     Prepare(FileOperationKind::Delete, {"s/a", "s/b"}, "d");
@@ -68,7 +68,7 @@ TEST_F(OperationAttributes, of_a_file_refused_in_a_folder_stay_while_its_neighbo
 
 TEST_F(OperationAttributes, keep_no_file_from_being_deleted_or_replaced_after_a_yes) {
     for (const int answer : {IDYES, YesToAll}) {
-        AddContents(tree, "s/a=1 s/b=new d/b=old");
+        AddContents(tree_, "s/a=1 s/b=new d/b=old");
         Mark("s/a");
         Mark("d/b");
         Prepare(FileOperationKind::Delete, {"s/a"}, "d");
@@ -76,6 +76,6 @@ TEST_F(OperationAttributes, keep_no_file_from_being_deleted_or_replaced_after_a_
         Prepare(FileOperationKind::Copy, {"s/b"}, "d");
         RunAnswered("d/b", answer);
         EXPECT_EQ(Contents(), InOrder("s/b=new d/b=new")) << answer;
-        DeleteFileW(PathIn(tree, "d/b").c_str());
+        DeleteFileW(PathIn(tree_, "d/b").c_str());
     }
 }

@@ -89,7 +89,7 @@ class OperationDialog : public OperationTest {
 
     [[nodiscard]] Look LookNow() const {
         wchar_t title[64] = L"";
-        GetWindowTextW(operation.Handle(), title, 64);
+        GetWindowTextW(operation_.Handle(), title, 64);
         return {title, Shown(LABEL_SOURCE), Shown(STATIC_SOURCE), Shown(LABEL_DESTINATION),
                 Shown(STATIC_DESTINATION)};
     }
@@ -101,8 +101,8 @@ class OperationTexts : public OperationDialog, public testing::WithParamInterfac
 };
 
 TEST_P(OperationTexts, name_the_operation_before_the_first_file) {
-    AddContents(tree, "s/a=1 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 d/");
+    operation_.confirm = false;
     Prepare(GetParam().kind, {"s"}, "d");
     FailingCalls calls;
     Look look;
@@ -118,7 +118,7 @@ TEST_P(OperationTexts, name_the_operation_before_the_first_file) {
 }
 
 TEST_P(OperationTexts, without_a_source_are_the_title_alone_of_a_dialog_that_closes_at_once) {
-    TitledOperation titled(&host.Object());
+    TitledOperation titled(&host_.Object());
     titled.operation = GetParam().kind;
     EXPECT_EQ(titled.RunModal(), 1);
     EXPECT_EQ(titled.titleAtStart, GetParam().language == English ? L"File Operation..." : L"ﾌｧｲﾙ操作中...");
@@ -131,8 +131,8 @@ INSTANTIATE_TEST_SUITE_P(Operations, OperationTexts, testing::ValuesIn(TextsCase
                          testing::PrintToStringParamName());
 
 TEST_F(OperationDialog, shows_each_file_with_where_it_goes) {
-    AddContents(tree, "s/a=1 s/m/b=2 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 s/m/b=2 d/");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Copy, {"s"}, "d");
     FailingCalls calls;
     std::vector<Look> looks;
@@ -142,46 +142,46 @@ TEST_F(OperationDialog, shows_each_file_with_where_it_goes) {
     };
     EXPECT_EQ(Run(), "");
     ASSERT_EQ(looks.size(), 3u);
-    EXPECT_EQ(looks[1].source, PathIn(tree, "s/a"));
-    EXPECT_EQ(looks[1].destination, PathIn(tree, "d/s/a"));
-    EXPECT_EQ(looks[2].source, PathIn(tree, "s/m/b"));
-    EXPECT_EQ(looks[2].destination, PathIn(tree, "d/s/m/b"));
+    EXPECT_EQ(looks[1].source, PathIn(tree_, "s/a"));
+    EXPECT_EQ(looks[1].destination, PathIn(tree_, "d/s/a"));
+    EXPECT_EQ(looks[2].source, PathIn(tree_, "s/m/b"));
+    EXPECT_EQ(looks[2].destination, PathIn(tree_, "d/s/m/b"));
 }
 
 TEST_F(OperationDialog, shows_no_destination_while_it_deletes) {
-    AddContents(tree, "s/a=1 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 d/");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Delete, {"s"}, "d");
     FailingCalls calls;
     Look last;
     calls.atCall = [&](int) { last = LookNow(); };
     EXPECT_EQ(Run(), "");
-    EXPECT_EQ(last.source, PathIn(tree, "s/a"));
+    EXPECT_EQ(last.source, PathIn(tree_, "s/a"));
     EXPECT_EQ(last.destination, L"");
 }
 
 TEST_F(OperationDialog, is_visible_over_its_owner_which_takes_no_input) {
-    AddContents(tree, "s/a=1 d/");
+    AddContents(tree_, "s/a=1 d/");
     Prepare(FileOperationKind::Copy, {"s"}, "d");
     FailingCalls calls;
     calls.atCall = [&](int number) {
         if (number != 1) return;
-        EXPECT_TRUE(IsWindowVisible(operation.Handle()));
-        EXPECT_EQ(GetWindow(operation.Handle(), GW_OWNER), host.Handle());
-        EXPECT_FALSE(IsWindowEnabled(host.Handle()));
-        EXPECT_TRUE(operation.IsRunning());
+        EXPECT_TRUE(IsWindowVisible(operation_.Handle()));
+        EXPECT_EQ(GetWindow(operation_.Handle(), GW_OWNER), host_.Handle());
+        EXPECT_FALSE(IsWindowEnabled(host_.Handle()));
+        EXPECT_TRUE(operation_.IsRunning());
     };
     EXPECT_EQ(Run(), "");
     EXPECT_GT(calls.Calls(), 1);
 }
 
 TEST_F(OperationDialog, does_nothing_for_an_unknown_operation) {
-    AddContents(tree, "s/a=1 d/");
+    AddContents(tree_, "s/a=1 d/");
     for (const std::uint32_t kind : {5u, 0xFFFFFFFFu}) {
-        TitledOperation titled(&host.Object());
+        TitledOperation titled(&host_.Object());
         titled.operation = static_cast<FileOperationKind>(kind);
-        ASSERT_TRUE(titled.AddSource(PathIn(tree, "s").c_str()));
-        ASSERT_TRUE(titled.SetDestination(PathIn(tree, "d").c_str()));
+        ASSERT_TRUE(titled.AddSource(PathIn(tree_, "s").c_str()));
+        ASSERT_TRUE(titled.SetDestination(PathIn(tree_, "d").c_str()));
         EXPECT_EQ(titled.RunModal(), 1);
         EXPECT_EQ(titled.titleAtEnd, L"File Operation...");
         EXPECT_EQ(Contents(), InOrder("s/a=1 d/"));
@@ -189,16 +189,16 @@ TEST_F(OperationDialog, does_nothing_for_an_unknown_operation) {
 }
 
 TEST_F(OperationDialog, takes_one_message_for_each_file) {
-    AddContents(tree, "s/a=1 s/b=2 s/c=3 d/");
+    AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
     Prepare(FileOperationKind::Copy, {"s/a", "s/b", "s/c"}, "d");
     MessageCounter counter;
-    host.Object().OnMessage(WM_APP + 1, &counter, &MessageCounter::Count);
+    host_.Object().OnMessage(WM_APP + 1, &counter, &MessageCounter::Count);
     FailingCalls calls;
     std::vector<int> countsAtCopies;
     std::wstring lastSource;
     calls.atCall = [&](int number) {
         for (int i = 0; number == 1 && i < 9; ++i)
-            PostMessageW(host.Handle(), WM_APP + 1, 0, 0);
+            PostMessageW(host_.Handle(), WM_APP + 1, 0, 0);
         if (Shown(STATIC_SOURCE) == lastSource) return;
         lastSource = Shown(STATIC_SOURCE);
         countsAtCopies.push_back(counter.count);
@@ -208,21 +208,21 @@ TEST_F(OperationDialog, takes_one_message_for_each_file) {
 }
 
 TEST_F(OperationDialog, and_the_main_window_are_painted_at_once_after_a_yes) {
-    AddContents(tree, "s/a=new d/a=old");
+    AddContents(tree_, "s/a=new d/a=old");
     for (const int answer : {IDYES, 20}) {
-        operation.confirm = true;
+        operation_.confirm = true;
         Prepare(FileOperationKind::Copy, {"s/a"}, "d");
         FailingCalls calls;
         bool asked = false;
         bool painted = false;
         calls.atCall = [&](int) {
-            painted = asked && !GetUpdateRect(host.Handle(), nullptr, FALSE) &&
-                      !GetUpdateRect(operation.Handle(), nullptr, FALSE);
+            painted = asked && !GetUpdateRect(host_.Handle(), nullptr, FALSE) &&
+                      !GetUpdateRect(operation_.Handle(), nullptr, FALSE);
         };
         const auto atBox = [&](HWND) {
             asked = true;
-            InvalidateRect(host.Handle(), nullptr, FALSE);
-            InvalidateRect(operation.Handle(), nullptr, FALSE);
+            InvalidateRect(host_.Handle(), nullptr, FALSE);
+            InvalidateRect(operation_.Handle(), nullptr, FALSE);
         };
         EXPECT_EQ(Run({answer}, atBox), "Confirm File Replace/4");
         EXPECT_TRUE(painted) << answer;

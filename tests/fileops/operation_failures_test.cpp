@@ -35,12 +35,12 @@ TEST_F(OperationFailures, a_source_that_goes_away_during_the_run_ends_it) {
     for (const auto& row : rows) {
         TempTree fresh;
         AddContents(fresh, "s/a=1 s/b=2 s/c=3 d/");
-        operation.operation = row.kind;
-        operation.confirm = false;
-        operation.ClearSources();
+        operation_.operation = row.kind;
+        operation_.confirm = false;
+        operation_.ClearSources();
         for (const char* const source : {"s/a", "s/b", "s/c"})
-            ASSERT_TRUE(operation.AddSource(PathIn(fresh, source).c_str()));
-        ASSERT_TRUE(operation.SetDestination(PathIn(fresh, "d").c_str()));
+            ASSERT_TRUE(operation_.AddSource(PathIn(fresh, source).c_str()));
+        ASSERT_TRUE(operation_.SetDestination(PathIn(fresh, "d").c_str()));
         FailingCalls calls;
         calls.atCall = [&](int number) {
             if (number != 1) return;
@@ -65,8 +65,8 @@ TEST_F(OperationFailures, a_drive_that_is_not_there_is_told_and_takes_nothing) {
         code == ERROR_PATH_NOT_FOUND
             ? "Error: Can't find the path specified. '" + std::string(folder.begin(), folder.end()) + "'"
             : "Error: Error CreateDirectory " + number;
-    AddContents(tree, "s/m/f=1 s/z=Z");
-    operation.confirm = false;
+    AddContents(tree_, "s/m/f=1 s/z=Z");
+    operation_.confirm = false;
     const struct {
         FileOperationKind kind;
         const char* source;
@@ -81,15 +81,15 @@ TEST_F(OperationFailures, a_drive_that_is_not_there_is_told_and_takes_nothing) {
     };
     for (const auto& row : rows) {
         Prepare(row.kind, {row.source, "s/z"}, "");
-        ASSERT_TRUE(operation.SetDestination(folder.c_str()));
+        ASSERT_TRUE(operation_.SetDestination(folder.c_str()));
         EXPECT_EQ(Run(), row.boxes) << row.source;
         EXPECT_EQ(Contents(), InOrder("s/m/f=1 s/z=Z"));
     }
 }
 
 TEST_F(OperationFailures, attributes_that_stay_are_told_and_the_copy_is_still_made) {
-    AddContents(tree, "s/a=new s/z=Z d/a=old");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=new s/z=Z d/a=old");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Copy, {"s/a", "s/z"}, "d");
     const Replaced<SetAttributesCall> refused(ce::fileCalls.setFileAttributes,
                                               [](const wchar_t*, DWORD) { return Refuse(); });
@@ -98,8 +98,8 @@ TEST_F(OperationFailures, attributes_that_stay_are_told_and_the_copy_is_still_ma
 }
 
 TEST_F(OperationFailures, attributes_that_stay_before_a_deletion_are_not_told) {
-    AddContents(tree, "s/a=1 s/b=2");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 s/b=2");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Delete, {"s"}, "");
     const Replaced<SetAttributesCall> refused(ce::fileCalls.setFileAttributes,
                                               [](const wchar_t*, DWORD) { return Refuse(); });
@@ -108,7 +108,7 @@ TEST_F(OperationFailures, attributes_that_stay_before_a_deletion_are_not_told) {
 }
 
 TEST_F(OperationFailures, a_file_that_a_move_cannot_delete_first_is_told_and_the_move_is_still_tried) {
-    AddContents(tree, "s/a=new s/z=Z d/a=old");
+    AddContents(tree_, "s/a=new s/z=Z d/a=old");
     Prepare(FileOperationKind::Move, {"s/a", "s/z"}, "d");
     const Replaced<DeleteCall> refused(ce::fileCalls.deleteFile, [](const wchar_t*) { return Refuse(); });
     EXPECT_EQ(Run({IDYES, IDOK}), "Confirm File Replace/4; Error: Access denied; Error: Error Move file 183");
@@ -116,8 +116,8 @@ TEST_F(OperationFailures, a_file_that_a_move_cannot_delete_first_is_told_and_the
 }
 
 TEST_F(OperationFailures, a_read_only_hidden_system_file_is_overwritten_by_a_copy) {
-    AddContents(tree, "s/a=new d/a=old");
-    const std::wstring existing = PathIn(tree, "d/a");
+    AddContents(tree_, "s/a=new d/a=old");
+    const std::wstring existing = PathIn(tree_, "d/a");
     ASSERT_TRUE(SetFileAttributesW(existing.c_str(),
                                    FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
     Prepare(FileOperationKind::Copy, {"s/a"}, "d");
@@ -127,10 +127,10 @@ TEST_F(OperationFailures, a_read_only_hidden_system_file_is_overwritten_by_a_cop
 }
 
 TEST_F(OperationFailures, hidden_entries_are_copied_and_deleted_like_others) {
-    AddContents(tree, "s/a=1 s/m/b=2 d/");
+    AddContents(tree_, "s/a=1 s/m/b=2 d/");
     for (const char* const path : {"s/a", "s/m"})
-        ASSERT_TRUE(SetFileAttributesW(PathIn(tree, path).c_str(), FILE_ATTRIBUTE_HIDDEN));
-    operation.confirm = false;
+        ASSERT_TRUE(SetFileAttributesW(PathIn(tree_, path).c_str(), FILE_ATTRIBUTE_HIDDEN));
+    operation_.confirm = false;
     Prepare(FileOperationKind::Copy, {"s"}, "d");
     EXPECT_EQ(Run(), "");
     EXPECT_EQ(Contents(), InOrder("s/a=1 s/m/b=2 d/s/a=1 d/s/m/b=2"));
@@ -140,7 +140,7 @@ TEST_F(OperationFailures, hidden_entries_are_copied_and_deleted_like_others) {
 }
 
 TEST_F(OperationFailures, a_question_that_names_the_folder_tells_its_whole_path) {
-    AddContents(tree, "s/m/f=1 d/m/");
+    AddContents(tree_, "s/m/f=1 d/m/");
     Prepare(FileOperationKind::Copy, {"s/m"}, "d");
     std::wstring question;
     const auto read = [&](HWND box) {
@@ -149,7 +149,7 @@ TEST_F(OperationFailures, a_question_that_names_the_folder_tells_its_whole_path)
         question = text;
     };
     EXPECT_EQ(Run({IDNO}, read), "Confirm Folder Replace/4");
-    EXPECT_NE(question.find(L"'" + PathIn(tree, "d/m") + L"'"), std::wstring::npos);
+    EXPECT_NE(question.find(L"'" + PathIn(tree_, "d/m") + L"'"), std::wstring::npos);
 }
 
 class OperationInJapanese : public OperationTest {
@@ -157,7 +157,7 @@ class OperationInJapanese : public OperationTest {
     OperationInJapanese() : OperationTest(UiLanguage::Japanese) {}
 
     // The title of the question and the text of its button for all.
-    std::wstring titleAndAll;
+    std::wstring titleAndAll_;
     void RunAndRead(FileOperationKind kind, const std::string& source, const std::string& destination) {
         Prepare(kind, {source}, destination);
         Run({IDCANCEL}, [this](HWND box) {
@@ -165,25 +165,25 @@ class OperationInJapanese : public OperationTest {
             wchar_t all[64] = L"";
             GetWindowTextW(box, title, 64);
             GetDlgItemTextW(box, BUTTON_YES_TO_ALL, all, 64);
-            titleAndAll = title + std::wstring(L"|") + all;
+            titleAndAll_ = title + std::wstring(L"|") + all;
         });
     }
 };
 
 TEST_F(OperationInJapanese, every_question_is) {
-    AddContents(tree, "s/a=1 s/m/ d/a=2 d/m/f=3");
+    AddContents(tree_, "s/a=1 s/m/ d/a=2 d/m/f=3");
     RunAndRead(FileOperationKind::Copy, "s/a", "d");
-    EXPECT_EQ(titleAndAll, L"ﾌｧｲﾙの置換の確認|全上書(&A)");
+    EXPECT_EQ(titleAndAll_, L"ﾌｧｲﾙの置換の確認|全上書(&A)");
     RunAndRead(FileOperationKind::Move, "s/m", "d");
-    EXPECT_EQ(titleAndAll, L"ﾌｫﾙﾀﾞの置換の確認|すべて上書き(&A)");
+    EXPECT_EQ(titleAndAll_, L"ﾌｫﾙﾀﾞの置換の確認|すべて上書き(&A)");
     RunAndRead(FileOperationKind::Delete, "s/a", "");
-    EXPECT_EQ(titleAndAll, L"ﾌｧｲﾙの削除の確認|全削除(&A)");
+    EXPECT_EQ(titleAndAll_, L"ﾌｧｲﾙの削除の確認|全削除(&A)");
     RunAndRead(FileOperationKind::Exclude, "s/none", "d");
-    EXPECT_EQ(titleAndAll, L"ﾌｫﾙﾀﾞの削除の確認|全削除(&A)");
+    EXPECT_EQ(titleAndAll_, L"ﾌｫﾙﾀﾞの削除の確認|全削除(&A)");
 }
 
 TEST_F(OperationInJapanese, the_refusal_of_an_overlap_is) {
-    AddContents(tree, "a/b=1");
+    AddContents(tree_, "a/b=1");
     Prepare(FileOperationKind::Copy, {"a"}, "a");
     std::wstring message;
     Run({IDOK}, [&](HWND box) {

@@ -97,12 +97,12 @@ void PrintTo(const FaultCase& row, std::ostream* out) {
 class OperationFaults : public OperationTest, public testing::WithParamInterface<FaultCase> {
   protected:
     OperationFaults() {
-        GetCurrentDirectoryW(MAX_PATH, folderBefore);
-        operation.operation = GetParam().kind;
-        EXPECT_TRUE(operation.AddSource(Wide(GetParam().source).c_str()));
-        EXPECT_TRUE(operation.SetDestination(Wide(GetParam().destination).c_str()));
+        GetCurrentDirectoryW(MAX_PATH, folderBefore_);
+        operation_.operation = GetParam().kind;
+        EXPECT_TRUE(operation_.AddSource(Wide(GetParam().source).c_str()));
+        EXPECT_TRUE(operation_.SetDestination(Wide(GetParam().destination).c_str()));
     }
-    ~OperationFaults() override { SetCurrentDirectoryW(folderBefore); }
+    ~OperationFaults() override { SetCurrentDirectoryW(folderBefore_); }
 
     static std::wstring Wide(const std::string& text) { return std::wstring(text.begin(), text.end()); }
 
@@ -134,10 +134,10 @@ class OperationFaults : public OperationTest, public testing::WithParamInterface
         SetLastWriteTime(PathIn(fresh, "d/s/a"), {2003, 1, 0, 1, 12, 0, 0, 0});
         // Short paths have no long way of folders that each have to be looked at.
         SetCurrentDirectoryW(fresh.Root().c_str());
-        operation.confirm = GetParam().answer != 0;
+        operation_.confirm = GetParam().answer != 0;
         const FailingCalls calls(mode, first, code);
-        const std::string boxes = Run({operation.confirm ? GetParam().answer : IDYES});
-        SetCurrentDirectoryW(folderBefore);
+        const std::string boxes = Run({operation_.confirm ? GetParam().answer : IDYES});
+        SetCurrentDirectoryW(folderBefore_);
         SCOPED_TRACE("call " + std::to_string(first) +
                      (mode == Failing::Once ? " once" : " and all after it") + ", code " +
                      std::to_string(code));
@@ -211,7 +211,7 @@ class OperationFaults : public OperationTest, public testing::WithParamInterface
         }
     }
 
-    wchar_t folderBefore[MAX_PATH] = L"";
+    wchar_t folderBefore_[MAX_PATH] = L"";
 };
 
 TEST_P(OperationFaults, a_call_that_fails_once_is_told_once_and_nothing_is_lost) {

@@ -7,12 +7,12 @@
 class OperationLinks : public OperationTest {
   protected:
     OperationLinks() {
-        AddContents(tree, "s/a=1 outside/f=2 d/");
-        operation.confirm = false;
+        AddContents(tree_, "s/a=1 outside/f=2 d/");
+        operation_.confirm = false;
     }
     // A link in the source to a folder beside it, and one that leads back up.
     void AddLinks() {
-        if (!tree.AddFolderLink(L"s\\link", L"outside") || !tree.AddFolderLink(L"s\\up", L""))
+        if (!tree_.AddFolderLink(L"s\\link", L"outside") || !tree_.AddFolderLink(L"s\\up", L""))
             GTEST_SKIP() << "the system makes no links";
         ASSERT_EQ(Contents(), InOrder("s/a=1 s/link-> s/up-> outside/f=2 d/"));
     }
@@ -43,8 +43,8 @@ TEST_F(OperationLinks, keep_what_they_lead_to_in_a_deletion) {
 }
 
 TEST_F(OperationLinks, keep_the_empty_folder_that_they_lead_to_in_a_deletion) {
-    AddContents(tree, "empty/");
-    if (!tree.AddFolderLink(L"s\\link", L"empty")) GTEST_SKIP() << "the system makes no links";
+    AddContents(tree_, "empty/");
+    if (!tree_.AddFolderLink(L"s\\link", L"empty")) GTEST_SKIP() << "the system makes no links";
     Prepare(FileOperationKind::Delete, {"s/link"}, "");
     const std::string boxes = Run();
     EXPECT_TRUE(boxes.empty() || boxes == "Error: Error RemoveDirectory 50") << boxes;
@@ -62,7 +62,7 @@ TEST_F(OperationLinks, go_along_with_a_move_and_keep_what_they_lead_to) {
 }
 
 TEST_F(OperationLinks, to_files_keep_them_in_a_deletion) {
-    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    if (!tree_.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
     Prepare(FileOperationKind::Delete, {"s"}, "");
     const std::string boxes = Run();
     EXPECT_TRUE(boxes.empty() || boxes == "Error: Error DeleteFile 50") << boxes;
@@ -70,8 +70,8 @@ TEST_F(OperationLinks, to_files_keep_them_in_a_deletion) {
 }
 
 TEST_F(OperationLinks, to_files_keep_their_attributes_in_a_deletion) {
-    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
-    const std::wstring file = tree.Path(L"outside\\f");
+    if (!tree_.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    const std::wstring file = tree_.Path(L"outside\\f");
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
     Prepare(FileOperationKind::Delete, {"s"}, "");
     const std::string boxes = Run();
@@ -81,10 +81,10 @@ TEST_F(OperationLinks, to_files_keep_their_attributes_in_a_deletion) {
 }
 
 TEST_F(OperationLinks, to_files_keep_them_when_a_copy_or_an_update_meets_one_in_the_destination) {
-    AddContents(tree, "d/s/");
-    if (!tree.AddFileLink(L"d\\s\\a", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    AddContents(tree_, "d/s/");
+    if (!tree_.AddFileLink(L"d\\s\\a", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
     // Older than what an update brings.
-    SetLastWriteTime(PathIn(tree, "outside/f"), SYSTEMTIME{2001, 2, 6, 3, 4, 5, 6, 0});
+    SetLastWriteTime(PathIn(tree_, "outside/f"), SYSTEMTIME{2001, 2, 6, 3, 4, 5, 6, 0});
     Prepare(FileOperationKind::Copy, {"s"}, "d");
     std::string boxes = Run({IDYES, IDOK});
     EXPECT_NE(boxes.find("Error: Error CopyFile 50"), std::string::npos) << boxes;
@@ -96,7 +96,7 @@ TEST_F(OperationLinks, to_files_keep_them_when_a_copy_or_an_update_meets_one_in_
 }
 
 TEST_F(OperationLinks, to_files_keep_them_in_a_move) {
-    if (!tree.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
+    if (!tree_.AddFileLink(L"s\\link", L"outside\\f")) GTEST_SKIP() << "the system makes no links";
     Prepare(FileOperationKind::Move, {"s"}, "d");
     const std::string boxes = Run();
     EXPECT_TRUE(boxes.empty() || boxes == "Error: Error Move file 50") << boxes;
@@ -105,8 +105,8 @@ TEST_F(OperationLinks, to_files_keep_them_in_a_move) {
 }
 
 TEST_F(OperationLinks, in_the_destination_are_not_entered_by_an_exclusion) {
-    AddContents(tree, "s/link/ outside/deep/g=3");
-    if (!tree.AddFolderLink(L"d\\link", L"outside")) GTEST_SKIP() << "the system makes no links";
+    AddContents(tree_, "s/link/ outside/deep/g=3");
+    if (!tree_.AddFolderLink(L"d\\link", L"outside")) GTEST_SKIP() << "the system makes no links";
     Prepare(FileOperationKind::Exclude, {"s"}, "d");
     EXPECT_EQ(Run(), "");
     EXPECT_EQ(Contents(), InOrder("s/a=1 s/link/ outside/f=2 outside/deep/g=3 d/link->"));
@@ -114,7 +114,7 @@ TEST_F(OperationLinks, in_the_destination_are_not_entered_by_an_exclusion) {
 
 // The same with the system's answer given, so that it holds where no links can be made.
 TEST_F(OperationLinks, are_asked_for_by_the_folders_attributes) {
-    AddContents(tree, "s/m/g=3");
+    AddContents(tree_, "s/m/g=3");
     const Replaced<decltype(ce::FileCalls::getFileAttributes)> linkAttributes(
         ce::fileCalls.getFileAttributes, [](const wchar_t* path) {
             const DWORD attributes = GetFileAttributesW(path);
@@ -135,33 +135,33 @@ TEST_F(OperationLinks, are_asked_for_by_the_folders_attributes) {
 class OneFileTwice : public OperationTest {
   protected:
     OneFileTwice() {
-        AddContents(tree, "s/a=1 x/");
-        operation.ClearSources();
-        EXPECT_TRUE(operation.AddSource(PathIn(tree, "s/a").c_str()));
+        AddContents(tree_, "s/a=1 x/");
+        operation_.ClearSources();
+        EXPECT_TRUE(operation_.AddSource(PathIn(tree_, "s/a").c_str()));
     }
 };
 
 TEST_F(OneFileTwice, is_not_deleted_by_a_move_to_its_own_folder_in_another_spelling) {
     for (const char* const destination : {"x/../s", "s/../s/a", "./s"}) {
-        operation.confirm = true;
-        operation.operation = FileOperationKind::Move;
-        ASSERT_TRUE(operation.SetDestination(PathIn(tree, destination).c_str()));
+        operation_.confirm = true;
+        operation_.operation = FileOperationKind::Move;
+        ASSERT_TRUE(operation_.SetDestination(PathIn(tree_, destination).c_str()));
         Run({IDYES, IDOK});
         EXPECT_EQ(Contents(), InOrder("s/a=1 x/")) << destination;
     }
 }
 
 TEST_F(OneFileTwice, is_not_lost_by_a_copy_onto_itself) {
-    operation.operation = FileOperationKind::Copy;
-    ASSERT_TRUE(operation.SetDestination(PathIn(tree, "x/../s").c_str()));
+    operation_.operation = FileOperationKind::Copy;
+    ASSERT_TRUE(operation_.SetDestination(PathIn(tree_, "x/../s").c_str()));
     Run({IDYES, IDOK});
     EXPECT_EQ(Contents(), InOrder("s/a=1 x/"));
 }
 
 TEST_F(OneFileTwice, is_not_deleted_by_a_move_through_a_link) {
-    if (!tree.AddFolderLink(L"x\\link", L"s")) GTEST_SKIP() << "the system makes no links";
-    operation.operation = FileOperationKind::Move;
-    ASSERT_TRUE(operation.SetDestination(PathIn(tree, "x/link").c_str()));
+    if (!tree_.AddFolderLink(L"x\\link", L"s")) GTEST_SKIP() << "the system makes no links";
+    operation_.operation = FileOperationKind::Move;
+    ASSERT_TRUE(operation_.SetDestination(PathIn(tree_, "x/link").c_str()));
     Run({IDYES, IDOK});
     EXPECT_TRUE(Has(Contents(), "s/a=1")) << Contents();
 }

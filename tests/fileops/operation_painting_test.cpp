@@ -23,21 +23,21 @@ class WatchedOperation : public FileOperation {
 
 class OperationPainting : public OperationTest {
   protected:
-    void Spoil() const { InvalidateRect(operation.Handle(), nullptr, FALSE); }
+    void Spoil() const { InvalidateRect(operation_.Handle(), nullptr, FALSE); }
     // The one message of the next file, so that it is not the painting itself.
-    void PostOther() const { PostMessageW(host.Handle(), WM_APP + 1, 0, 0); }
-    [[nodiscard]] bool IsPainted() const { return !GetUpdateRect(operation.Handle(), nullptr, FALSE); }
+    void PostOther() const { PostMessageW(host_.Handle(), WM_APP + 1, 0, 0); }
+    [[nodiscard]] bool IsPainted() const { return !GetUpdateRect(operation_.Handle(), nullptr, FALSE); }
 };
 
 TEST_F(OperationPainting, is_done_before_the_run_begins) {
-    WatchedOperation watched(&host.Object());
+    WatchedOperation watched(&host_.Object());
     EXPECT_EQ(watched.RunModal(), 1);
     EXPECT_TRUE(watched.paintedAtEnd);
 }
 
 TEST_F(OperationPainting, is_done_before_each_item_of_the_list) {
-    AddContents(tree, "s/a=1 s/b=2 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 s/b=2 d/");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Copy, {"s/a", "s/b"}, "d");
     FailingCalls calls;
     std::size_t copies = 0;
@@ -52,8 +52,8 @@ TEST_F(OperationPainting, is_done_before_each_item_of_the_list) {
 }
 
 TEST_F(OperationPainting, is_done_for_each_file_of_a_folder_before_the_file_is_copied) {
-    AddContents(tree, "s/a=1 s/b=2 s/c=3 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Copy, {"s"}, "d");
     FailingCalls calls;
     std::wstring shown;
@@ -70,8 +70,8 @@ TEST_F(OperationPainting, is_done_for_each_file_of_a_folder_before_the_file_is_c
 }
 
 TEST_F(OperationPainting, is_done_for_each_file_before_it_is_deleted) {
-    AddContents(tree, "s/a=1 s/b=2 s/c=3 d/");
-    operation.confirm = false;
+    AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
+    operation_.confirm = false;
     Prepare(FileOperationKind::Delete, {"s"}, "d");
     FailingCalls calls;
     std::wstring shown;

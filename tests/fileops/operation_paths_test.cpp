@@ -25,111 +25,111 @@ int CountEntries(const std::wstring& folder) {
 
 class OperationPaths : public OperationTest {
   protected:
-    OperationPaths() { operation.confirm = false; }
+    OperationPaths() { operation_.confirm = false; }
 
     // The path below `folder` that has so many units in all, with a name of one letter at each level.
     std::wstring DeepBelow(const std::wstring& folder, std::size_t units) const {
         std::wstring relative = folder;
-        while (tree.Path(relative).size() + 3 < units)
+        while (tree_.Path(relative).size() + 3 < units)
             relative += L"\\n";
-        relative += L"\\" + std::wstring(units - tree.Path(relative).size() - 1, L'z');
+        relative += L"\\" + std::wstring(units - tree_.Path(relative).size() - 1, L'z');
         return relative;
     }
 };
 
 TEST_F(OperationPaths, take_the_longest_path_that_there_is_and_no_longer_one) {
-    EXPECT_TRUE(operation.AddSource(std::wstring(259, L'a').c_str()));
-    EXPECT_FALSE(operation.AddSource(std::wstring(260, L'a').c_str()));
-    EXPECT_TRUE(operation.SetDestination(std::wstring(259, L'a').c_str()));
-    EXPECT_FALSE(operation.SetDestination(std::wstring(260, L'a').c_str()));
+    EXPECT_TRUE(operation_.AddSource(std::wstring(259, L'a').c_str()));
+    EXPECT_FALSE(operation_.AddSource(std::wstring(260, L'a').c_str()));
+    EXPECT_TRUE(operation_.SetDestination(std::wstring(259, L'a').c_str()));
+    EXPECT_FALSE(operation_.SetDestination(std::wstring(260, L'a').c_str()));
 }
 
 TEST_F(OperationPaths, that_are_empty_never_mean_the_current_folder) {
-    AddContents(tree, "s/a=1 here/f=2 here/m/g=3");
-    EXPECT_FALSE(operation.AddSource(L""));
+    AddContents(tree_, "s/a=1 here/f=2 here/m/g=3");
+    EXPECT_FALSE(operation_.AddSource(L""));
     wchar_t before[MAX_PATH];
     GetCurrentDirectoryW(MAX_PATH, before);
-    ASSERT_TRUE(SetCurrentDirectoryW(PathIn(tree, "here").c_str()));
-    ASSERT_TRUE(operation.AddSource(PathIn(tree, "s").c_str()));
-    ASSERT_TRUE(operation.SetDestination(L""));
-    operation.operation = FileOperationKind::Exclude;
+    ASSERT_TRUE(SetCurrentDirectoryW(PathIn(tree_, "here").c_str()));
+    ASSERT_TRUE(operation_.AddSource(PathIn(tree_, "s").c_str()));
+    ASSERT_TRUE(operation_.SetDestination(L""));
+    operation_.operation = FileOperationKind::Exclude;
     EXPECT_EQ(Run(), "Error: Error DeleteFile 3");
     EXPECT_TRUE(SetCurrentDirectoryW(before));
     EXPECT_EQ(Contents(), InOrder("s/a=1 here/f=2 here/m/g=3"));
 }
 
 TEST_F(OperationPaths, may_end_in_separators) {
-    AddContents(tree, "s/m/f=1 d/");
-    operation.operation = FileOperationKind::Copy;
-    ASSERT_TRUE(operation.AddSource((PathIn(tree, "s/m") + L"\\").c_str()));
-    ASSERT_TRUE(operation.SetDestination((PathIn(tree, "d") + L"\\/").c_str()));
+    AddContents(tree_, "s/m/f=1 d/");
+    operation_.operation = FileOperationKind::Copy;
+    ASSERT_TRUE(operation_.AddSource((PathIn(tree_, "s/m") + L"\\").c_str()));
+    ASSERT_TRUE(operation_.SetDestination((PathIn(tree_, "d") + L"\\/").c_str()));
     EXPECT_EQ(Run(), "");
     EXPECT_EQ(Contents(), InOrder("s/m/f=1 d/m/f=1"));
     // Neither the destination's spelling nor the source's hides that they overlap.
-    ASSERT_TRUE(operation.SetDestination((PathIn(tree, "s") + L"\\").c_str()));
+    ASSERT_TRUE(operation_.SetDestination((PathIn(tree_, "s") + L"\\").c_str()));
     EXPECT_EQ(Run(), "Error: Source to destination is recursive");
 }
 
 TEST_F(OperationPaths, may_stand_in_quotes) {
-    AddContents(tree, "s/a=1 d/");
-    operation.operation = FileOperationKind::Copy;
-    ASSERT_TRUE(operation.AddSource((L"\"" + PathIn(tree, "s/a") + L"\"").c_str()));
-    ASSERT_TRUE(operation.SetDestination(PathIn(tree, "s").c_str()));
+    AddContents(tree_, "s/a=1 d/");
+    operation_.operation = FileOperationKind::Copy;
+    ASSERT_TRUE(operation_.AddSource((L"\"" + PathIn(tree_, "s/a") + L"\"").c_str()));
+    ASSERT_TRUE(operation_.SetDestination(PathIn(tree_, "s").c_str()));
     EXPECT_EQ(Run(), "Error: Source to destination is recursive");
 }
 
 TEST_F(OperationPaths, of_a_hundred_levels_are_copied_moved_and_deleted) {
     const std::wstring deep = DeepBelow(L"s", 250);
-    tree.AddFile(deep, "1");
-    tree.AddFolder(L"d");
-    const int entries = CountEntries(tree.Path(L"s"));
+    tree_.AddFile(deep, "1");
+    tree_.AddFolder(L"d");
+    const int entries = CountEntries(tree_.Path(L"s"));
     ASSERT_GT(entries, 90);
     // The destination's name is as long as the source's, so that everything fits.
     Prepare(FileOperationKind::Update, {"s"}, "d");
     EXPECT_EQ(Run(), "");
-    EXPECT_EQ(CountEntries(tree.Path(L"d")), entries);
+    EXPECT_EQ(CountEntries(tree_.Path(L"d")), entries);
     Prepare(FileOperationKind::Delete, {"s"}, "");
     EXPECT_EQ(Run(), "");
-    EXPECT_EQ(CountEntries(tree.Root()), entries + 1);
-    operation.ClearSources();
-    ASSERT_TRUE(operation.AddSource(tree.Path(L"d\\n").c_str()));
-    ASSERT_TRUE(operation.SetDestination(tree.Root().c_str()));
-    operation.operation = FileOperationKind::Move;
+    EXPECT_EQ(CountEntries(tree_.Root()), entries + 1);
+    operation_.ClearSources();
+    ASSERT_TRUE(operation_.AddSource(tree_.Path(L"d\\n").c_str()));
+    ASSERT_TRUE(operation_.SetDestination(tree_.Root().c_str()));
+    operation_.operation = FileOperationKind::Move;
     EXPECT_EQ(Run(), "");
-    EXPECT_EQ(CountEntries(tree.Path(L"d")), 0);
-    EXPECT_EQ(CountEntries(tree.Root()), entries + 1);
+    EXPECT_EQ(CountEntries(tree_.Path(L"d")), 0);
+    EXPECT_EQ(CountEntries(tree_.Root()), entries + 1);
 }
 
 TEST_F(OperationPaths, that_would_be_too_long_are_left_out_of_a_copy) {
     const std::wstring deep = DeepBelow(L"s", 259);
-    tree.AddFile(deep, "1");
-    tree.AddFile(L"s\\short", "2");
-    tree.AddFolder(L"longer");
-    const int entries = CountEntries(tree.Path(L"s"));
+    tree_.AddFile(deep, "1");
+    tree_.AddFile(L"s\\short", "2");
+    tree_.AddFolder(L"longer");
+    const int entries = CountEntries(tree_.Path(L"s"));
     Prepare(FileOperationKind::Copy, {"s"}, "longer");
     EXPECT_EQ(Run(), "");
-    EXPECT_EQ(CountEntries(tree.Path(L"s")), entries);
+    EXPECT_EQ(CountEntries(tree_.Path(L"s")), entries);
     // Everything gets 7 units longer. The file's path has 259 units, the folder that holds it ends at 257 or
     // 256 and the ones above it 2 units earlier each. Those beyond 252 do not fit: 257, 255 and 253, or 256
     // and 254.
-    const std::size_t holder = tree.Path(deep.substr(0, deep.rfind(L'\\'))).size();
+    const std::size_t holder = tree_.Path(deep.substr(0, deep.rfind(L'\\'))).size();
     ASSERT_TRUE(holder == 256 || holder == 257) << holder;
-    EXPECT_EQ(CountEntries(tree.Path(L"longer\\s")), entries - (holder == 257 ? 4 : 3));
+    EXPECT_EQ(CountEntries(tree_.Path(L"longer\\s")), entries - (holder == 257 ? 4 : 3));
 }
 
 TEST_F(OperationPaths, that_would_be_too_long_stay_where_they_are_in_a_move) {
-    tree.AddFile(DeepBelow(L"s", 259), "1");
-    tree.AddFile(L"s\\short", "2");
-    tree.AddFolder(L"longer");
+    tree_.AddFile(DeepBelow(L"s", 259), "1");
+    tree_.AddFile(L"s\\short", "2");
+    tree_.AddFolder(L"longer");
     Prepare(FileOperationKind::Move, {"s"}, "longer");
     EXPECT_EQ(Run(), "Error: Folder not empty");
-    EXPECT_NE(GetFileAttributesW(Literal(tree.Path(DeepBelow(L"s", 259))).c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(Literal(tree_.Path(DeepBelow(L"s", 259))).c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(OperationPaths, that_are_too_long_are_not_deleted) {
     const std::wstring tooLong = DeepBelow(L"s", 262);
-    tree.AddFile(tooLong, "1");
+    tree_.AddFile(tooLong, "1");
     Prepare(FileOperationKind::Delete, {"s"}, "");
     EXPECT_EQ(Run(), "Error: Folder not empty");
-    EXPECT_NE(GetFileAttributesW(Literal(tree.Path(tooLong)).c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(Literal(tree_.Path(tooLong)).c_str()), INVALID_FILE_ATTRIBUTES);
 }

@@ -22,9 +22,9 @@ class RefusedOperations : public OperationTest {
             SCOPED_TRACE(number);
             prepare();
             const bool refused = RunRefusing(number, done);
-            EXPECT_FALSE(operation.IsRunning());
-            EXPECT_EQ(nullptr, operation.Handle());
-            EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+            EXPECT_FALSE(operation_.IsRunning());
+            EXPECT_EQ(nullptr, operation_.Handle());
+            EXPECT_TRUE(IsWindowEnabled(host_.Handle()));
             prepare();
             Run({IDYES});
             EXPECT_TRUE(done());
@@ -36,10 +36,10 @@ class RefusedOperations : public OperationTest {
   private:
     template <typename Done>
     bool RunRefusing(int number, Done done) {
-        OperationUser user(operation, {IDYES});
+        OperationUser user(operation_, {IDYES});
         const RefusedWindows refusal = RefusedWindows::Only(number);
-        operation.confirm = true;
-        const INT_PTR result = operation.RunModal();
+        operation_.confirm = true;
+        const INT_PTR result = operation_.RunModal();
         EXPECT_EQ(!user.Met().empty(), done());
         EXPECT_TRUE(result == 1 || (result == -1 && user.Met().empty()));
         return refusal.HasRefused();
@@ -49,7 +49,7 @@ class RefusedOperations : public OperationTest {
 TEST_F(RefusedOperations, nothing_is_deleted_without_a_question) {
     ExpectWorkOnlyAfterYes(
         [this] {
-            AddContents(tree, "a.txt=a");
+            AddContents(tree_, "a.txt=a");
             Prepare(FileOperationKind::Delete, {"a.txt"}, "");
         },
         [this] { return !Has(Contents(), "a.txt=a"); });
@@ -58,7 +58,7 @@ TEST_F(RefusedOperations, nothing_is_deleted_without_a_question) {
 TEST_F(RefusedOperations, nothing_is_replaced_without_a_question) {
     ExpectWorkOnlyAfterYes(
         [this] {
-            AddContents(tree, "a.txt=new to/a.txt=old");
+            AddContents(tree_, "a.txt=new to/a.txt=old");
             Prepare(FileOperationKind::Copy, {"a.txt"}, "to");
         },
         [this] { return Has(Contents(), "to/a.txt=new"); });

@@ -42,11 +42,11 @@ class OperationStop : public OperationTest, public testing::WithParamInterface<S
         TempTree fresh;
         AddContents(fresh, Before);
         if (withQuestions && IsBringing()) AddOldFiles(fresh);
-        operation.operation = GetParam().kind;
-        operation.confirm = withQuestions;
-        operation.ClearSources();
-        EXPECT_TRUE(operation.AddSource(fresh.Path(L"s").c_str()));
-        EXPECT_TRUE(operation.SetDestination(fresh.Path(L"d").c_str()));
+        operation_.operation = GetParam().kind;
+        operation_.confirm = withQuestions;
+        operation_.ClearSources();
+        EXPECT_TRUE(operation_.AddSource(fresh.Path(L"s").c_str()));
+        EXPECT_TRUE(operation_.SetDestination(fresh.Path(L"d").c_str()));
         FailingCalls calls;
         std::wstring inProgress, goesTo;
         std::size_t changesBefore = 0;
@@ -104,8 +104,8 @@ class OperationStop : public OperationTest, public testing::WithParamInterface<S
 
 TEST_P(OperationStop, ends_the_run_before_the_next_file_wherever_it_is_pressed) {
     int call = 1;
-    while (
-        StopAt(call, [this] { PostMessageW(GetDlgItem(operation.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); })) {
+    while (StopAt(call,
+                  [this] { PostMessageW(GetDlgItem(operation_.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); })) {
         ++call;
     }
     EXPECT_GT(call, 10);
@@ -114,7 +114,7 @@ TEST_P(OperationStop, ends_the_run_before_the_next_file_wherever_it_is_pressed) 
 TEST_P(OperationStop, ends_a_run_with_questions_likewise) {
     int call = 1;
     while (StopAt(
-        call, [this] { PostMessageW(GetDlgItem(operation.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); }, true)) {
+        call, [this] { PostMessageW(GetDlgItem(operation_.Handle(), BUTTON_STOP), BM_CLICK, 0, 0); }, true)) {
         ++call;
     }
     EXPECT_GT(call, 10);
@@ -122,7 +122,7 @@ TEST_P(OperationStop, ends_a_run_with_questions_likewise) {
 
 TEST_P(OperationStop, is_what_closing_the_dialog_does) {
     for (int call = 1; call <= 16; call += 5)
-        EXPECT_TRUE(StopAt(call, [this] { PostMessageW(operation.Handle(), WM_CLOSE, 0, 0); }));
+        EXPECT_TRUE(StopAt(call, [this] { PostMessageW(operation_.Handle(), WM_CLOSE, 0, 0); }));
 }
 
 TEST_P(OperationStop, comes_with_the_end_of_the_program_which_still_ends) {

@@ -23,15 +23,15 @@ std::string CaseName(const testing::TestParamInfo<OperationCase>& info) {
 
 TEST_P(OperationTable, is_kept) {
     const OperationRow& row = *GetParam().row;
-    AddContents(tree, row.before);
+    AddContents(tree_, row.before);
     for (const std::string& entry : Words(row.before)) {
         const std::size_t equals = entry.find('=');
         if (equals == std::string::npos) continue;
         const WORD day = entry.substr(equals) == "=old" ? 1 : 2;
-        SetLastWriteTime(PathIn(tree, entry.substr(0, equals)), {2003, 1, 0, day, 12, 0, 0, 0});
+        SetLastWriteTime(PathIn(tree_, entry.substr(0, equals)), {2003, 1, 0, day, 12, 0, 0, 0});
     }
-    operation.confirm = row.asks != Asks::Never;
-    operation.multiple = row.asks == Asks::WithYesToAll;
+    operation_.confirm = row.asks != Asks::Never;
+    operation_.multiple = row.asks == Asks::WithYesToAll;
     Prepare(GetParam().kind, Words(row.sources), row.destination);
 
     std::vector<int> answers = row.answers;
@@ -39,5 +39,5 @@ TEST_P(OperationTable, is_kept) {
     EXPECT_EQ(Run(answers), row.boxes);
     EXPECT_EQ(Contents(), InOrder(row.after));
     const bool saidAll = std::find(answers.begin(), answers.end(), All) != answers.end();
-    EXPECT_EQ(operation.confirm, row.asks != Asks::Never && !saidAll);
+    EXPECT_EQ(operation_.confirm, row.asks != Asks::Never && !saidAll);
 }

@@ -2,24 +2,24 @@
 
 #include "tests/fileops/operation_user.h"
 
-OperationTest::OperationTest(UiLanguage language) : world(language), operation(&host.Object()) {}
+OperationTest::OperationTest(UiLanguage language) : world_(language), operation_(&host_.Object()) {}
 
 void OperationTest::Prepare(FileOperationKind kind, const std::vector<std::string>& sources,
                             const std::string& destination) {
-    operation.operation = kind;
-    operation.ClearSources();
+    operation_.operation = kind;
+    operation_.ClearSources();
     for (const std::string& source : sources)
-        ASSERT_TRUE(operation.AddSource(PathIn(tree, source).c_str()));
-    ASSERT_TRUE(operation.SetDestination(PathIn(tree, destination).c_str()));
+        ASSERT_TRUE(operation_.AddSource(PathIn(tree_, source).c_str()));
+    ASSERT_TRUE(operation_.SetDestination(PathIn(tree_, destination).c_str()));
 }
 
 std::string OperationTest::Run(std::vector<int> answers, std::function<void(HWND)> atBox) {
-    OperationUser user(operation, std::move(answers));
+    OperationUser user(operation_, std::move(answers));
     user.atBox = std::move(atBox);
-    EXPECT_EQ(operation.RunModal(), 1);
-    EXPECT_EQ(operation.Handle(), nullptr);
-    EXPECT_FALSE(operation.IsRunning());
-    EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+    EXPECT_EQ(operation_.RunModal(), 1);
+    EXPECT_EQ(operation_.Handle(), nullptr);
+    EXPECT_FALSE(operation_.IsRunning());
+    EXPECT_TRUE(IsWindowEnabled(host_.Handle()));
     std::string boxes;
     for (const MetBox& box : user.Met()) {
         EXPECT_TRUE(box.ownerIsRight) << box.what;
@@ -30,6 +30,6 @@ std::string OperationTest::Run(std::vector<int> answers, std::function<void(HWND
 
 std::wstring OperationTest::Shown(int id) const {
     wchar_t text[MAX_PATH + 1] = L"";
-    GetDlgItemTextW(operation.Handle(), id, text, MAX_PATH + 1);
+    GetDlgItemTextW(operation_.Handle(), id, text, MAX_PATH + 1);
     return text;
 }

@@ -25,10 +25,10 @@ class OperationTest : public testing::Test {
     std::string Run(std::vector<int> answers = {IDOK}, std::function<void(HWND)> atBox = {});
     // The text of a control of the dialog, while it is up.
     [[nodiscard]] std::wstring Shown(int id) const;
-    [[nodiscard]] std::string Contents() const { return ContentsOf(tree); }
+    [[nodiscard]] std::string Contents() const { return ContentsOf(tree_); }
 
-    TestWorld world;
-    HostWindow host;
-    TempTree tree;
-    FileOperation operation;
+    TestWorld world_;
+    HostWindow host_;
+    TempTree tree_;
+    FileOperation operation_;
 };

@@ -42,13 +42,13 @@ BOOL CALLBACK CollectControl(HWND window, LPARAM collected) {
 }  // namespace
 
 OperationUser::OperationUser(const FileOperation& watched, std::vector<int> wanted)
-    : operation(watched), answers(std::move(wanted)) {
+    : operation_(watched), answers_(std::move(wanted)) {
     present = this;
-    hook = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
+    hook_ = SetWindowsHookExW(WH_CALLWNDPROCRET, AfterMessage, nullptr, GetCurrentThreadId());
 }
 
 OperationUser::~OperationUser() {
-    UnhookWindowsHookEx(hook);
+    UnhookWindowsHookEx(hook_);
     present = nullptr;
 }
 
@@ -56,7 +56,7 @@ OperationUser::~OperationUser() {
 LRESULT CALLBACK OperationUser::AfterMessage(int code, WPARAM wParam, LPARAM lParam) {
     const auto& sent = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
     if (code == HC_ACTION && sent.message == WM_INITDIALOG && present != nullptr &&
-        sent.hwnd != present->operation.Handle()) {
+        sent.hwnd != present->operation_.Handle()) {
         present->Meet(sent.hwnd);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
@@ -64,17 +64,17 @@ LRESULT CALLBACK OperationUser::AfterMessage(int code, WPARAM wParam, LPARAM lPa
 
 // The answer is posted: the dialog is not up yet.
 void OperationUser::Meet(HWND box) {
-    int answer = answers[std::min(met.size(), answers.size() - 1)];
+    int answer = answers_[std::min(met_.size(), answers_.size() - 1)];
     Controls controls;
     EnumChildWindows(box, CollectControl, reinterpret_cast<LPARAM>(&controls));
     const std::wstring title = TextOf(box);
     const HWND owner = GetWindow(box, GW_OWNER);
     if (title == L"Error" || title == L"ｴﾗｰ") {
-        met.push_back({"Error: " + Narrow(controls.longestText), owner == operation.Handle()});
+        met_.push_back({"Error: " + Narrow(controls.longestText), owner == operation_.Handle()});
         answer = IDOK;
     } else {
-        met.push_back(
-            {Narrow(title) + "/" + std::to_string(controls.buttons), owner == operation.ParentHandle()});
+        met_.push_back(
+            {Narrow(title) + "/" + std::to_string(controls.buttons), owner == operation_.ParentHandle()});
     }
     if (atBox) atBox(box);
     PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);

@@ -29,14 +29,14 @@ class OperationUser {
     // Called with each box before it is answered.
     std::function<void(HWND)> atBox;
 
-    [[nodiscard]] const std::vector<MetBox>& Met() const { return met; }
+    [[nodiscard]] const std::vector<MetBox>& Met() const { return met_; }
 
   private:
     static LRESULT CALLBACK AfterMessage(int code, WPARAM wParam, LPARAM lParam);
     void Meet(HWND box);
 
-    const FileOperation& operation;
-    std::vector<int> answers;
-    std::vector<MetBox> met;
-    HHOOK hook;
+    const FileOperation& operation_;
+    std::vector<int> answers_;
+    std::vector<MetBox> met_;
+    HHOOK hook_;
 };

@@ -84,14 +84,14 @@ class QuestionTexts : public testing::Test {
     static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     ShownQuestion Shown(const wchar_t* templateName, QuestionRoutine fill, const std::wstring& path) {
-        return AskAndClick(&host.Object(), templateName, fill, path.c_str()).shown;
+        return AskAndClick(&host_.Object(), templateName, fill, path.c_str()).shown;
     }
 
   private:
-    TestWorld world;
-    HostWindow host;
-    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes{ce::fileCalls.getFileAttributes,
-                                                                    &AttributesByName};
+    TestWorld world_;
+    HostWindow host_;
+    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes_{ce::fileCalls.getFileAttributes,
+                                                                     &AttributesByName};
 };
 
 class FileDeleteQuestion : public QuestionTexts, public testing::WithParamInterface<QuestionRow> {};

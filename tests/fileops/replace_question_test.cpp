@@ -80,26 +80,26 @@ class FileReplaceQuestion : public testing::Test {
 
     ShownQuestion Shown(const wchar_t* templateName, const wchar_t* newFile, const wchar_t* existingFile) {
         const ReplacePaths paths = {newFile, existingFile};
-        return AskAndClick(&host.Object(), templateName, FillFileReplaceText, &paths).shown;
+        return AskAndClick(&host_.Object(), templateName, FillFileReplaceText, &paths).shown;
     }
 
-    TestWorld world;
-    HostWindow host;
-    TempTree tree;
-    std::wstring existing = tree.AddFile(L"old.txt", std::string(102400, 'x'));
-    std::wstring replacing = tree.AddFile(L"new\\new.txt", "fresh");
+    TestWorld world_;
+    HostWindow host_;
+    TempTree tree_;
+    std::wstring existing_ = tree_.AddFile(L"old.txt", std::string(102400, 'x'));
+    std::wstring replacing_ = tree_.AddFile(L"new\\new.txt", "fresh");
     // Only the existing file's own attributes matter.
-    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes{
+    Replaced<decltype(ce::FileCalls::getFileAttributes)> attributes_{
         ce::fileCalls.getFileAttributes, [](const wchar_t* path) -> DWORD {
             return std::wcsstr(path, L"\\old.txt") != nullptr ? existingAttributes : FILE_ATTRIBUTE_SYSTEM;
         }};
-    Replaced<decltype(ce::ShellCalls::getFileInfo)> icons{ce::shellCalls.getFileInfo, &IconOfFile};
+    Replaced<decltype(ce::ShellCalls::getFileInfo)> icons_{ce::shellCalls.getFileInfo, &IconOfFile};
 };
 
 TEST_F(FileReplaceQuestion, tells_system_before_read_only_files_in_english) {
     for (const CaseRow& row : Cases) {
         existingAttributes = row.attributes;
-        const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing.c_str(), existing.c_str());
+        const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
         EXPECT_EQ(shown.title, L"Confirm File Replace");
         EXPECT_EQ(shown.question, row.english);
     }
@@ -109,7 +109,8 @@ TEST_F(FileReplaceQuestion, tells_system_before_read_only_files_in_japanese) {
     GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
     for (const CaseRow& row : Cases) {
         existingAttributes = row.attributes;
-        const ShownQuestion shown = Shown(MultipleFileReplaceTemplate(), replacing.c_str(), existing.c_str());
+        const ShownQuestion shown =
+            Shown(MultipleFileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
         EXPECT_EQ(shown.title, L"ﾌｧｲﾙの置換の確認");
         EXPECT_EQ(shown.question, row.japanese);
         EXPECT_EQ(shown.yesToAll, L"全上書(&A)");
@@ -117,31 +118,31 @@ TEST_F(FileReplaceQuestion, tells_system_before_read_only_files_in_japanese) {
 }
 
 TEST_F(FileReplaceQuestion, describes_both_files) {
-    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing.c_str(), existing.c_str());
+    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
     EXPECT_EQ(shown.existingDetails.substr(0, 21), L"100KB (102400 bytes)\n");
-    EXPECT_EQ(shown.existingDetails, DetailsOf(existing));
+    EXPECT_EQ(shown.existingDetails, DetailsOf(existing_));
     EXPECT_EQ(shown.newDetails.substr(0, 16), L"0.0KB (5 bytes)\n");
-    EXPECT_EQ(shown.newDetails, DetailsOf(replacing));
+    EXPECT_EQ(shown.newDetails, DetailsOf(replacing_));
 }
 
 TEST_F(FileReplaceQuestion, shows_the_shells_icons_of_both_files) {
-    const ShownQuestion shown = Shown(MultipleFileReplaceTemplate(), replacing.c_str(), existing.c_str());
+    const ShownQuestion shown = Shown(MultipleFileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
     ASSERT_EQ(iconQuestions.size(), 2u);
     for (const IconQuestion& question : iconQuestions) {
         EXPECT_EQ(question.attributes, 0u);
         EXPECT_EQ(question.flags, 0x700u);
     }
-    EXPECT_EQ(iconQuestions[0].path, existing);
+    EXPECT_EQ(iconQuestions[0].path, existing_);
     EXPECT_EQ(shown.existingIcon, iconQuestions[0].answer);
-    EXPECT_EQ(iconQuestions[1].path, replacing);
+    EXPECT_EQ(iconQuestions[1].path, replacing_);
     EXPECT_EQ(shown.newIcon, iconQuestions[1].answer);
 }
 
 TEST_F(FileReplaceQuestion, frees_the_shells_icons_when_it_is_over) {
-    const ReplacePaths paths = {replacing.c_str(), existing.c_str()};
+    const ReplacePaths paths = {replacing_.c_str(), existing_.c_str()};
     bool aliveWhileShown = false;
     const AskedQuestion asked =
-        Ask(&host.Object(), FileReplaceTemplate(), FillFileReplaceText, &paths, [&](HWND dialog) {
+        Ask(&host_.Object(), FileReplaceTemplate(), FillFileReplaceText, &paths, [&](HWND dialog) {
             aliveWhileShown = IsIconAlive(iconQuestions[0].answer) && IsIconAlive(iconQuestions[1].answer);
             PostMessageW(dialog, WM_COMMAND, IDYES, 0);
         });
@@ -154,29 +155,29 @@ TEST_F(FileReplaceQuestion, frees_the_shells_icons_when_it_is_over) {
 
 TEST_F(FileReplaceQuestion, keeps_the_templates_icons_where_the_shell_has_none) {
     shellHasIcons = false;
-    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing.c_str(), existing.c_str());
+    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
     EXPECT_NE(shown.existingIcon, nullptr);
     EXPECT_NE(shown.newIcon, nullptr);
     EXPECT_NE(shown.existingIcon, shown.newIcon);
 }
 
 TEST_F(FileReplaceQuestion, without_an_existing_file_shows_the_new_one_only) {
-    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing.c_str(), nullptr);
+    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing_.c_str(), nullptr);
     EXPECT_EQ(shown.existingDetails, L"");
-    EXPECT_EQ(shown.newDetails, DetailsOf(replacing));
+    EXPECT_EQ(shown.newDetails, DetailsOf(replacing_));
     EXPECT_EQ(iconQuestions.size(), 1u);
 }
 
 TEST_F(FileReplaceQuestion, without_a_new_file_shows_the_existing_one_only) {
-    const ShownQuestion shown = Shown(FileReplaceTemplate(), nullptr, existing.c_str());
-    EXPECT_EQ(shown.existingDetails, DetailsOf(existing));
+    const ShownQuestion shown = Shown(FileReplaceTemplate(), nullptr, existing_.c_str());
+    EXPECT_EQ(shown.existingDetails, DetailsOf(existing_));
     EXPECT_EQ(shown.newDetails, L"");
     EXPECT_EQ(iconQuestions.size(), 1u);
 }
 
 TEST_F(FileReplaceQuestion, leaves_the_details_of_a_vanished_file_empty) {
-    ASSERT_TRUE(DeleteFileW(existing.c_str()));
-    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing.c_str(), existing.c_str());
+    ASSERT_TRUE(DeleteFileW(existing_.c_str()));
+    const ShownQuestion shown = Shown(FileReplaceTemplate(), replacing_.c_str(), existing_.c_str());
     EXPECT_EQ(shown.question, L"This folder already contains a file called 'old.txt'.");
     EXPECT_EQ(shown.existingDetails, L"");
 }

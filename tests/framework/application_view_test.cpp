@@ -43,7 +43,7 @@ class ApplicationViews : public FrameworkTest {
         return place;
     }
 
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(ApplicationViews, have_a_class_of_their_own_unless_the_caller_names_one) {
@@ -171,27 +171,27 @@ TEST_F(ApplicationViews, make_the_standard_controls_known) {
 TEST_F(ApplicationViews, that_are_main_views_translate_their_accelerators_in_the_message_loop) {
     PropertySet properties = ViewProperties();
     properties.Set(property::Accelerators, VIEW_ACCELERATORS);
-    TestView view(properties, &application);
-    view.OnCommand(VIEW_COMMAND, &listener, &Listener::TakeEvent);
-    view.OnMessage(WM_KEYDOWN, &listener, &Listener::TakeMessage);
+    TestView view(properties, &application_);
+    view.OnCommand(VIEW_COMMAND, &listener_, &Listener::TakeEvent);
+    view.OnMessage(WM_KEYDOWN, &listener_, &Listener::TakeMessage);
     SetFocus(view.Handle());
     PostMessageW(view.Handle(), WM_KEYDOWN, VK_F2, 1);
     PostMessageW(view.Handle(), WM_KEYDOWN, VK_F3, 1);
     PostMessageW(view.Handle(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(application.Run(), 0);
-    EXPECT_EQ(listener.events.size(), 1U);
-    ASSERT_EQ(listener.messages.size(), 1U) << "the accelerator's key is consumed";
-    EXPECT_EQ(listener.messages[0].wParam, static_cast<WPARAM>(VK_F3));
+    EXPECT_EQ(application_.Run(), 0);
+    EXPECT_EQ(listener_.events.size(), 1U);
+    ASSERT_EQ(listener_.messages.size(), 1U) << "the accelerator's key is consumed";
+    EXPECT_EQ(listener_.messages[0].wParam, static_cast<WPARAM>(VK_F3));
 }
 
 TEST_F(ApplicationViews, without_accelerators_consume_nothing) {
-    TestView view(ViewProperties(), &application);
+    TestView view(ViewProperties(), &application_);
     MSG key{view.Handle(), WM_KEYDOWN, VK_F2, 1, 0, {}};
     EXPECT_FALSE(view.PreTranslate(key));
 }
 
 TEST_F(ApplicationViews, end_the_message_loop_when_they_are_destroyed) {
-    const TestView view(ViewProperties(), &application);
+    const TestView view(ViewProperties(), &application_);
     DestroyWindow(view.Handle());
     EXPECT_TRUE(TakeQuit());
 }
@@ -206,7 +206,7 @@ TEST_F(ApplicationViews, show_about_on_help) {
 
 TEST_F(ApplicationViews, are_shown_as_the_program_was_asked_to_start_when_they_are_main_views) {
     GlobalsForStartUp().showCommand = SW_HIDE;
-    TestView main(ViewProperties(), &application);
+    TestView main(ViewProperties(), &application_);
     TestView other(ViewProperties());
     ShowWindow(other.Handle(), SW_HIDE);
     main.Show();
@@ -219,7 +219,7 @@ class Loop : public FrameworkTest {};
 
 TEST_F(Loop, answers_what_the_quit_message_says) {
     PostQuitMessage(23);
-    EXPECT_EQ(application.Run(), 23);
+    EXPECT_EQ(application_.Run(), 23);
 }
 
 TEST_F(Loop, belongs_to_an_application_that_keeps_its_name_and_words) {

@@ -21,12 +21,12 @@ PropertySet WithRebar() {
 // Notes what is sent to the windows of one class.
 class SentMessages {
   public:
-    explicit SentMessages(const wchar_t* wantedClass) : className(wantedClass) {
+    explicit SentMessages(const wchar_t* wantedClass) : className_(wantedClass) {
         current = this;
-        hook = SetWindowsHookExW(WH_CALLWNDPROC, BeforeMessage, nullptr, GetCurrentThreadId());
+        hook_ = SetWindowsHookExW(WH_CALLWNDPROC, BeforeMessage, nullptr, GetCurrentThreadId());
     }
     ~SentMessages() {
-        UnhookWindowsHookEx(hook);
+        UnhookWindowsHookEx(hook_);
         current = nullptr;
     }
     SentMessages(const SentMessages&) = delete;
@@ -45,12 +45,12 @@ class SentMessages {
     [[nodiscard]] bool IsWanted(HWND window) const {
         wchar_t name[64] = L"";
         GetClassNameW(window, name, 64);
-        return name == className;
+        return name == className_;
     }
 
     static inline SentMessages* current = nullptr;
-    std::wstring className;
-    HHOOK hook;
+    std::wstring className_;
+    HHOOK hook_;
 };
 
 class BarMessages : public FrameworkTest {};

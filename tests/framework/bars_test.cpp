@@ -65,8 +65,8 @@ DWORD StyleOf(HWND window) {
 
 class Bars : public FrameworkTest {
   protected:
-    LONG width = GetSystemMetrics(SM_CXSCREEN);
-    LONG height = GetSystemMetrics(SM_CYSCREEN);
+    LONG width_ = GetSystemMetrics(SM_CXSCREEN);
+    LONG height_ = GetSystemMetrics(SM_CYSCREEN);
 };
 
 TEST_F(Bars, are_only_there_when_asked_for) {
@@ -137,8 +137,8 @@ TEST_F(Bars, a_rebar_stands_at_the_bottom_26_pixels_above_the_edge) {
     EXPECT_EQ(GetDlgCtrlID(rebar), 12200);
     EXPECT_EQ(StyleOf(rebar) & 0x6000649U, 0x6000649U);
     EXPECT_EQ(PlaceOf(rebar).left, 0);
-    EXPECT_EQ(PlaceOf(rebar).right, width);
-    EXPECT_EQ(PlaceOf(rebar).bottom, height - MenuBarSpace);
+    EXPECT_EQ(PlaceOf(rebar).right, width_);
+    EXPECT_EQ(PlaceOf(rebar).bottom, height_ - MenuBarSpace);
     EXPECT_GE(view.ViewRebar()->BarHeight(), 22);
 }
 
@@ -149,7 +149,7 @@ TEST_F(Bars, a_rebar_stands_at_the_top_when_asked) {
     ExpectPlace(view.ViewRebar()->Handle(), 0, 0, before.right - before.left, before.bottom - before.top);
     const RECT area = view.LayoutRectangle();
     EXPECT_EQ(area.top, view.ViewRebar()->BarHeight());
-    EXPECT_EQ(area.bottom, height - MenuBarSpace);
+    EXPECT_EQ(area.bottom, height_ - MenuBarSpace);
 }
 
 TEST_F(Bars, the_command_bar_s_band_is_two_pixels_larger_than_the_bar) {
@@ -175,7 +175,7 @@ TEST_F(Bars, bands_are_counted_from_0_and_the_rebar_is_made_for_the_first) {
     band.cyMinChild = 20;
     EXPECT_EQ(view.AddBand(band), 0);
     ASSERT_NE(view.ViewRebar(), nullptr);
-    EXPECT_EQ(PlaceOf(view.ViewRebar()->Handle()).bottom, height - MenuBarSpace);
+    EXPECT_EQ(PlaceOf(view.ViewRebar()->Handle()).bottom, height_ - MenuBarSpace);
     EXPECT_EQ(view.AddBand(band), 1);
     REBARBANDINFOW refused = band;
     refused.cbSize = 1;
@@ -231,14 +231,14 @@ TEST_F(Bars, take_their_heights_from_the_area_for_children) {
     RECT area = view.LayoutRectangle();
     EXPECT_EQ(area.left, 0);
     EXPECT_EQ(area.top, 0);
-    EXPECT_EQ(area.right, width);
-    EXPECT_EQ(area.bottom, height - 20 - rebarHeight - MenuBarSpace);
+    EXPECT_EQ(area.right, width_);
+    EXPECT_EQ(area.bottom, height_ - 20 - rebarHeight - MenuBarSpace);
     ShowWindow(view.ViewStatusBar()->Handle(), SW_HIDE);
     area = view.LayoutRectangle();
-    EXPECT_EQ(area.bottom, height - rebarHeight - MenuBarSpace) << "a hidden bar takes no place";
+    EXPECT_EQ(area.bottom, height_ - rebarHeight - MenuBarSpace) << "a hidden bar takes no place";
     ShowWindow(view.ViewRebar()->Handle(), SW_HIDE);
     area = view.LayoutRectangle();
-    EXPECT_EQ(area.bottom, height - MenuBarSpace);
+    EXPECT_EQ(area.bottom, height_ - MenuBarSpace);
 }
 
 TEST_F(Bars, take_their_heights_from_a_view_that_is_not_shown_yet) {

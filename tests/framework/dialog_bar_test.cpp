@@ -46,7 +46,7 @@ void ClickButton(HWND bar, int command) {
 
 class DialogBars : public FrameworkTest {
   protected:
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(DialogBars, hold_cancel_and_ok) {
@@ -138,11 +138,11 @@ TEST_F(DialogBars, end_the_dialog_by_a_click_on_cancel) {
 
 TEST_F(DialogBars, raise_ok_as_a_command) {
     TestDialog dialog(L"Plain_E");
-    dialog.OnCommand(IDOK, &listener, &Listener::TakeEvent);
+    dialog.OnCommand(IDOK, &listener_, &Listener::TakeEvent);
     dialog.CreateModeless();
     ClickButton(dialog.MenuBar(), IDOK);
     PumpMessages();
-    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener_.events.size(), 1U);
 }
 
 TEST_F(DialogBars, go_before_the_dialog_when_it_ends) {

@@ -10,7 +10,7 @@ namespace {
 
 class ModalDialogs : public FrameworkTest {
   protected:
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(ModalDialogs, return_the_result_that_ends_them) {
@@ -37,11 +37,11 @@ TEST_F(ModalDialogs, have_a_window_in_the_map_only_while_they_run) {
 
 TEST_F(ModalDialogs, can_be_run_again) {
     TestDialog dialog(L"Plain_E");
-    dialog.OnInitialise(&listener, &Listener::TakeEvent);
+    dialog.OnInitialise(&listener_, &Listener::TakeEvent);
     EXPECT_EQ(dialog.RunWith([&] { dialog.End(1); }), 1);
     EXPECT_EQ(dialog.RunWith([&] { dialog.End(2); }), 2);
     EXPECT_EQ(dialog.RunWith([&] { dialog.End(3); }), 3);
-    EXPECT_EQ(listener.events.size(), 3U);
+    EXPECT_EQ(listener_.events.size(), 3U);
 }
 
 TEST_F(ModalDialogs, are_not_run_twice_at_once) {
@@ -144,20 +144,20 @@ TEST_F(DialogInitialisation, hands_the_argument_and_the_extra_word_over) {
     PropertySet properties = TemplateProperties(L"Plain_E");
     properties.Set(property::InitArgument, reinterpret_cast<PropertyValue>(&data));
     TestDialog dialog(properties);
-    dialog.OnInitialise(&listener, &Listener::TakeEvent, 66);
+    dialog.OnInitialise(&listener_, &Listener::TakeEvent, 66);
     dialog.RunWith([] {});
-    ASSERT_EQ(listener.events.size(), 1U);
-    EXPECT_EQ(listener.events[0].argument, reinterpret_cast<std::intptr_t>(&data));
-    EXPECT_EQ(listener.events[0].extra, 66U);
-    EXPECT_EQ(listener.events[0].record.message, static_cast<UINT>(WM_INITDIALOG));
+    ASSERT_EQ(listener_.events.size(), 1U);
+    EXPECT_EQ(listener_.events[0].argument, reinterpret_cast<std::intptr_t>(&data));
+    EXPECT_EQ(listener_.events[0].extra, 66U);
+    EXPECT_EQ(listener_.events[0].record.message, static_cast<UINT>(WM_INITDIALOG));
 }
 
 TEST_F(DialogInitialisation, hands_0_over_without_an_argument) {
     TestDialog dialog(L"Plain_E");
-    dialog.OnInitialise(&listener, &Listener::TakeEvent);
+    dialog.OnInitialise(&listener_, &Listener::TakeEvent);
     dialog.RunWith([] {});
-    ASSERT_EQ(listener.events.size(), 1U);
-    EXPECT_EQ(listener.events[0].argument, 0);
+    ASSERT_EQ(listener_.events.size(), 1U);
+    EXPECT_EQ(listener_.events[0].argument, 0);
 }
 
 // Notes what already stands when the handler is called.
@@ -192,14 +192,14 @@ class ModelessDialogs : public ModalDialogs {};
 
 TEST_F(ModelessDialogs, are_created_once) {
     TestDialog dialog(L"Plain_E");
-    dialog.OnInitialise(&listener, &Listener::TakeEvent);
+    dialog.OnInitialise(&listener_, &Listener::TakeEvent);
     dialog.CreateModeless();
     const HWND window = dialog.Handle();
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(Application::Windows()->Find(window), &dialog);
     dialog.CreateModeless();
     EXPECT_EQ(dialog.Handle(), window);
-    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener_.events.size(), 1U);
 }
 
 TEST_F(ModelessDialogs, are_shown_in_front) {

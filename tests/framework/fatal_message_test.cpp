@@ -12,9 +12,9 @@ class BoxIcons {
     BoxIcons() {
         seenIcon = nullptr;
         seenOwner = nullptr;
-        hook = SetWindowsHookExW(WH_CBT, Look, nullptr, GetCurrentThreadId());
+        hook_ = SetWindowsHookExW(WH_CBT, Look, nullptr, GetCurrentThreadId());
     }
-    ~BoxIcons() { UnhookWindowsHookEx(hook); }
+    ~BoxIcons() { UnhookWindowsHookEx(hook_); }
     BoxIcons(const BoxIcons&) = delete;
     BoxIcons& operator=(const BoxIcons&) = delete;
 
@@ -38,7 +38,7 @@ class BoxIcons {
 
     static HANDLE seenIcon;
     static HWND seenOwner;
-    HHOOK hook = nullptr;
+    HHOOK hook_ = nullptr;
 };
 HANDLE BoxIcons::seenIcon = nullptr;
 HWND BoxIcons::seenOwner = nullptr;

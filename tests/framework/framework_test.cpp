@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-FrameworkTest::FrameworkTest() : recordBefore(Globals()) {
+FrameworkTest::FrameworkTest() : recordBefore_(Globals()) {
     AppGlobals& globals = GlobalsForStartUp();
     globals = AppGlobals{};
     globals.instance = GetModuleHandleW(nullptr);
@@ -11,7 +11,7 @@ FrameworkTest::FrameworkTest() : recordBefore(Globals()) {
 
 FrameworkTest::~FrameworkTest() {
     PumpMessages();
-    GlobalsForStartUp() = recordBefore;
+    GlobalsForStartUp() = recordBefore_;
 }
 
 LRESULT Listener::TakeEvent(EventArguments& arguments) {
@@ -63,15 +63,15 @@ void TypeKey(HWND window, WPARAM key, HWND dialog) {
 
 ShiftHeld::ShiftHeld() {
     GetKeyState(VK_SHIFT);  // the thread's state exists from the first question on
-    GetKeyboardState(before);
-    BYTE held[sizeof before];
-    std::copy(std::begin(before), std::end(before), held);
+    GetKeyboardState(before_);
+    BYTE held[sizeof before_];
+    std::copy(std::begin(before_), std::end(before_), held);
     held[VK_SHIFT] = 0x80;
     SetKeyboardState(held);
 }
 
 ShiftHeld::~ShiftHeld() {
-    SetKeyboardState(before);
+    SetKeyboardState(before_);
 }
 
 std::wstring TextOf(HWND window) {

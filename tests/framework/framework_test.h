@@ -19,10 +19,10 @@ class FrameworkTest : public testing::Test {
     FrameworkTest();
     ~FrameworkTest() override;
 
-    Application application{L"Framework test", 0, nullptr};
+    Application application_{L"Framework test", 0, nullptr};
 
   private:
-    AppGlobals recordBefore;
+    AppGlobals recordBefore_;
 };
 
 struct NotedEvent {
@@ -71,7 +71,7 @@ class ShiftHeld {
     ShiftHeld& operator=(const ShiftHeld&) = delete;
 
   private:
-    BYTE before[256];
+    BYTE before_[256];
 };
 
 [[nodiscard]] std::wstring TextOf(HWND window);

@@ -13,7 +13,7 @@ constexpr UINT OtherMessage = WM_APP + 2;
 
 class Lifetimes : public FrameworkTest {
   protected:
-    Listener listener;
+    Listener listener_;
 };
 
 class LostWindows : public Lifetimes {};
@@ -125,8 +125,8 @@ class LostObjects : public Lifetimes {};
 
 TEST_F(LostObjects, are_called_no_more_and_an_older_handler_counts_again) {
     TestWindow object;
-    object.OnMessage(OtherMessage, &listener, &Listener::TakeMessage);
-    object.OnCommand(300, &listener, &Listener::TakeEvent);
+    object.OnMessage(OtherMessage, &listener_, &Listener::TakeMessage);
+    object.OnCommand(300, &listener_, &Listener::TakeEvent);
     {
         Listener shorter;
         shorter.answer = 8;
@@ -140,8 +140,8 @@ TEST_F(LostObjects, are_called_no_more_and_an_older_handler_counts_again) {
     EXPECT_EQ(SendMessageW(object.Handle(), SumMessage, 1, 2), 0);
     SendCommand(object.Handle(), 300, 0, nullptr);
     SendCommand(object.Handle(), 301, 0, nullptr);
-    EXPECT_EQ(listener.messages.size(), 1U);
-    EXPECT_EQ(listener.events.size(), 1U);
+    EXPECT_EQ(listener_.messages.size(), 1U);
+    EXPECT_EQ(listener_.events.size(), 1U);
 }
 
 TEST_F(LostObjects, are_not_asked_to_initialise_a_dialog) {
@@ -161,7 +161,7 @@ TEST_F(LostObjects, are_nobody_s_parent) {
     parent.reset();
     EXPECT_EQ(child.Parent(), nullptr);
     EXPECT_EQ(child.ParentHandle(), nullptr);
-    child.OnNotification(event::KeyDown, &listener, &Listener::TakeEvent);
+    child.OnNotification(event::KeyDown, &listener_, &Listener::TakeEvent);
     EXPECT_EQ(child.Handle(), foreign.window);
 }
 
@@ -266,14 +266,14 @@ TEST_F(MissingControls, get_nothing_that_is_meant_for_others) {
     dialog.CreateModeless();
     for (WindowObject* parent : {static_cast<WindowObject*>(&window), static_cast<WindowObject*>(&dialog)}) {
         Control missing(parent, nullptr, L"Button");
-        missing.OnNotification(event::DrawItem, &listener, &Listener::TakeEvent);
-        missing.OnNotification(event::Command, &listener, &Listener::TakeEvent);
+        missing.OnNotification(event::DrawItem, &listener_, &Listener::TakeEvent);
+        missing.OnNotification(event::Command, &listener_, &Listener::TakeEvent);
         DRAWITEMSTRUCT menuItem{};
         menuItem.CtlType = ODT_MENU;
         SendMessageW(parent->Handle(), WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&menuItem));
         SendCommand(parent->Handle(), 0, 0, nullptr);
     }
-    EXPECT_TRUE(listener.events.empty());
+    EXPECT_TRUE(listener_.events.empty());
 }
 
 class DialogEnds : public Lifetimes {};

@@ -22,18 +22,18 @@ class MainViews : public FrameworkTest {
     int RunLoop() {
         PostThreadMessageW(GetCurrentThreadId(), OtherMessage, 0, 0);
         PostQuitMessage(4);
-        return application.Run();
+        return application_.Run();
     }
 };
 
 TEST_F(MainViews, that_are_gone_are_not_asked) {
     {
         QuietView shorter;
-        application.SetMainView(&shorter);
+        application_.SetMainView(&shorter);
     }
     EXPECT_EQ(RunLoop(), 4);
     QuietView view;
-    application.SetMainView(&view);
+    application_.SetMainView(&view);
     EXPECT_EQ(RunLoop(), 4);
     EXPECT_EQ(view.asked, 1);
 }
@@ -42,8 +42,8 @@ TEST_F(MainViews, that_were_replaced_take_nothing_from_their_successors) {
     QuietView successor;
     {
         QuietView first;
-        application.SetMainView(&first);
-        application.SetMainView(&successor);
+        application_.SetMainView(&first);
+        application_.SetMainView(&successor);
     }
     EXPECT_EQ(RunLoop(), 4);
     EXPECT_EQ(successor.asked, 1);
@@ -55,7 +55,7 @@ TEST_F(MainViews, may_outlive_their_application) {
         Application shorter(L"Shorter", 0, nullptr);
         shorter.SetMainView(&view);
     }
-    application.SetMainView(&view);
+    application_.SetMainView(&view);
     EXPECT_EQ(RunLoop(), 4);
     EXPECT_EQ(view.asked, 1);
 }

@@ -64,39 +64,39 @@ LRESULT CALLBACK Measure(int code, WPARAM wParam, LPARAM lParam) {
 
 class MessageBoxFit : public testing::Test {
   protected:
-    MessageBoxFit() { place = &seen; }
+    MessageBoxFit() { place = &seen_; }
     ~MessageBoxFit() override {
         place = nullptr;
-        if (hook != nullptr) UnhookWindowsHookEx(hook);
+        if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
     }
     void Show(const std::wstring& path) {
         const AnsweredBoxes boxes{IDOK};
-        hook = SetWindowsHookExW(WH_CALLWNDPROC, Measure, nullptr, GetCurrentThreadId());
-        ShowError(host.Handle(), L"Can't find the path specified. '%s'", path.c_str());
-        UnhookWindowsHookEx(hook);
-        hook = nullptr;
+        hook_ = SetWindowsHookExW(WH_CALLWNDPROC, Measure, nullptr, GetCurrentThreadId());
+        ShowError(host_.Handle(), L"Can't find the path specified. '%s'", path.c_str());
+        UnhookWindowsHookEx(hook_);
+        hook_ = nullptr;
         ASSERT_EQ(1u, boxes.Seen().size());
     }
     void ExpectWhole() const {
         RECT area = {};
         SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-        EXPECT_GE(seen.box.left, area.left);
-        EXPECT_GE(seen.box.top, area.top);
-        EXPECT_LE(seen.box.right, area.right);
-        EXPECT_LE(seen.box.bottom, area.bottom);
-        for (const RECT& control : seen.controls) {
+        EXPECT_GE(seen_.box.left, area.left);
+        EXPECT_GE(seen_.box.top, area.top);
+        EXPECT_LE(seen_.box.right, area.right);
+        EXPECT_LE(seen_.box.bottom, area.bottom);
+        for (const RECT& control : seen_.controls) {
             EXPECT_GE(control.left, 0);
-            EXPECT_LE(control.right, seen.client.right);
-            EXPECT_LE(control.bottom, seen.client.bottom);
+            EXPECT_LE(control.right, seen_.client.right);
+            EXPECT_LE(control.bottom, seen_.client.bottom);
         }
-        EXPECT_LE(seen.neededHeight, seen.text.bottom - seen.text.top);
-        EXPECT_GT(seen.neededHeight, 0);
+        EXPECT_LE(seen_.neededHeight, seen_.text.bottom - seen_.text.top);
+        EXPECT_GT(seen_.neededHeight, 0);
     }
 
-    TestWorld world;
-    HostWindow host;
-    SeenPlace seen;
-    HHOOK hook = nullptr;
+    TestWorld world_;
+    HostWindow host_;
+    SeenPlace seen_;
+    HHOOK hook_ = nullptr;
 };
 
 }  // namespace

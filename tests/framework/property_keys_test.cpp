@@ -42,7 +42,7 @@ class PropertyKeys : public FrameworkTest {
         return properties;
     }
 
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(PropertyKeys, describe_a_window_class) {
@@ -123,11 +123,11 @@ TEST_F(PropertyKeys, describe_a_dialog) {
         using TestDialog::TestDialog;
     };
     Watched dialog(properties);
-    dialog.OnInitialise(&listener, &Listener::TakeEvent);
+    dialog.OnInitialise(&listener_, &Listener::TakeEvent);
     dialog.CreateModeless();
     EXPECT_EQ(TextOf(dialog.Handle()), L"Plain");
-    ASSERT_EQ(listener.events.size(), 1U);
-    EXPECT_EQ(listener.events[0].argument, 77);
+    ASSERT_EQ(listener_.events.size(), 1U);
+    EXPECT_EQ(listener_.events[0].argument, 77);
     EXPECT_EQ(dialog.FullScreenFlags(), 8U);
 }
 

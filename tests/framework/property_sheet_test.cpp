@@ -51,7 +51,7 @@ class Sheets : public FrameworkTest {
     }
     // Shows the pages in a sheet, which somebody cancels as soon as it is up.
     void Run(std::initializer_list<TestPage*> pages) {
-        PropertySheetDialog sheet(&owner, L"Sheet");
+        PropertySheetDialog sheet(&owner_, L"Sheet");
         for (TestPage* page : pages)
             sheet.AddPage(*page);
         const UINT_PTR timer = SetTimer(nullptr, 0, 20, &PressCancel);
@@ -59,7 +59,7 @@ class Sheets : public FrameworkTest {
         KillTimer(nullptr, timer);
     }
 
-    TestWindow owner;
+    TestWindow owner_;
 };
 
 TEST_F(Sheets, show_their_pages_until_they_are_cancelled) {
@@ -68,19 +68,19 @@ TEST_F(Sheets, show_their_pages_until_they_are_cancelled) {
     doing = [&](HWND) {
         window = page.Handle();
         EXPECT_EQ(Application::Windows()->Find(window), &page);
-        EXPECT_FALSE(IsWindowEnabled(owner.Handle()));
+        EXPECT_FALSE(IsWindowEnabled(owner_.Handle()));
     };
     Run({&page});
     EXPECT_EQ(page.setUps, 1);
     EXPECT_NE(window, nullptr);
     EXPECT_EQ(page.Handle(), nullptr);
     EXPECT_EQ(Application::Windows()->Find(window), nullptr);
-    EXPECT_TRUE(IsWindowEnabled(owner.Handle()));
+    EXPECT_TRUE(IsWindowEnabled(owner_.Handle()));
 }
 
 TEST_F(Sheets, have_ok_and_cancel_alone_in_the_middle_of_their_owner) {
     constexpr int ApplyButton = 0x3021;
-    owner.Move(30, 20, 180, 240);
+    owner_.Move(30, 20, 180, 240);
     TestPage page(L"Page_E");
     doing = [&](HWND sheet) {
         EXPECT_TRUE(IsWindowVisible(GetDlgItem(sheet, IDOK)));
@@ -106,7 +106,7 @@ TEST_F(Sheets, are_not_shown_when_no_page_has_its_template) {
     EXPECT_EQ(missing.CreatePage(), nullptr);
     Run({&missing});
     EXPECT_EQ(sheetsSeen, 0);
-    EXPECT_TRUE(IsWindowEnabled(owner.Handle()));
+    EXPECT_TRUE(IsWindowEnabled(owner_.Handle()));
 }
 
 TEST_F(Sheets, leave_out_a_page_without_its_template) {
@@ -129,7 +129,7 @@ TEST_F(Sheets, can_be_cancelled_with_a_page_whose_control_cannot_be_made) {
     Run({&page, &broken});
     Run({&broken});
     EXPECT_EQ(broken.Handle(), nullptr);
-    EXPECT_TRUE(IsWindowEnabled(owner.Handle()));
+    EXPECT_TRUE(IsWindowEnabled(owner_.Handle()));
 }
 
 TEST_F(Sheets, can_be_cancelled_while_another_object_wraps_a_page_s_window) {

@@ -25,75 +25,75 @@ SIZE ClientSize(const ScrollingView& view) {
 
 class Reclamping : public FrameworkTest {
   protected:
-    ScrolledView view;
+    ScrolledView view_;
 };
 
 TEST_F(Reclamping, without_content_leaves_no_usable_range) {
-    SetBar(view, SB_HORZ, {{0, 99}, 10, 20, 0});
-    SetBar(view, SB_VERT, {{0, 99}, 10, 20, 0});
-    ASSERT_LT(ClientSize(view).cx, 200) << "the bars are there";
-    view.Reclamp();
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().minimum, 0);
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().maximum, 0);
-    EXPECT_EQ(view.Bar(SB_HORZ).Position(), 0);
-    EXPECT_LE(view.Bar(SB_VERT).Range().maximum, 0);
-    EXPECT_EQ(view.Bar(SB_VERT).Position(), 0);
-    EXPECT_FALSE(HasBar(view, WS_HSCROLL));
-    EXPECT_FALSE(HasBar(view, WS_VSCROLL));
-    EXPECT_EQ(ClientSize(view).cx, 200);
-    EXPECT_EQ(ClientSize(view).cy, 150);
+    SetBar(view_, SB_HORZ, {{0, 99}, 10, 20, 0});
+    SetBar(view_, SB_VERT, {{0, 99}, 10, 20, 0});
+    ASSERT_LT(ClientSize(view_).cx, 200) << "the bars are there";
+    view_.Reclamp();
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().minimum, 0);
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().maximum, 0);
+    EXPECT_EQ(view_.Bar(SB_HORZ).Position(), 0);
+    EXPECT_LE(view_.Bar(SB_VERT).Range().maximum, 0);
+    EXPECT_EQ(view_.Bar(SB_VERT).Position(), 0);
+    EXPECT_FALSE(HasBar(view_, WS_HSCROLL));
+    EXPECT_FALSE(HasBar(view_, WS_VSCROLL));
+    EXPECT_EQ(ClientSize(view_).cx, 200);
+    EXPECT_EQ(ClientSize(view_).cy, 150);
 }
 
 TEST_F(Reclamping, gives_the_bars_what_the_content_has_beyond_the_area) {
-    view.SetContentSize(300, 400);
-    view.Reclamp();
-    EXPECT_TRUE(HasBar(view, WS_HSCROLL));
-    EXPECT_TRUE(HasBar(view, WS_VSCROLL));
-    EXPECT_EQ(ClientSize(view).cx, 200 - DownBar());
-    EXPECT_EQ(ClientSize(view).cy, 150 - AcrossBar());
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().maximum, 300 - (200 - DownBar()));
-    EXPECT_EQ(view.Bar(SB_VERT).Range().maximum, 400 - (150 - AcrossBar()));
+    view_.SetContentSize(300, 400);
+    view_.Reclamp();
+    EXPECT_TRUE(HasBar(view_, WS_HSCROLL));
+    EXPECT_TRUE(HasBar(view_, WS_VSCROLL));
+    EXPECT_EQ(ClientSize(view_).cx, 200 - DownBar());
+    EXPECT_EQ(ClientSize(view_).cy, 150 - AcrossBar());
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().maximum, 300 - (200 - DownBar()));
+    EXPECT_EQ(view_.Bar(SB_VERT).Range().maximum, 400 - (150 - AcrossBar()));
 }
 
 // As wide as the view, until the other bar takes a part of it.
 TEST_F(Reclamping, counts_with_the_bar_that_it_has_just_brought) {
-    view.SetContentSize(200, 400);
-    view.Reclamp();
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().maximum, DownBar());
-    EXPECT_EQ(view.Bar(SB_VERT).Range().maximum, 400 - (150 - AcrossBar()));
+    view_.SetContentSize(200, 400);
+    view_.Reclamp();
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().maximum, DownBar());
+    EXPECT_EQ(view_.Bar(SB_VERT).Range().maximum, 400 - (150 - AcrossBar()));
 }
 
 TEST_F(Reclamping, counts_without_the_bar_that_it_has_just_taken_away) {
-    view.SetContentSize(200, 400);
-    view.Reclamp();
-    view.SetContentSize(200, 100);
-    view.Reclamp();
-    EXPECT_FALSE(HasBar(view, WS_VSCROLL));
-    EXPECT_FALSE(HasBar(view, WS_HSCROLL));
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().maximum, 0);
+    view_.SetContentSize(200, 400);
+    view_.Reclamp();
+    view_.SetContentSize(200, 100);
+    view_.Reclamp();
+    EXPECT_FALSE(HasBar(view_, WS_VSCROLL));
+    EXPECT_FALSE(HasBar(view_, WS_HSCROLL));
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().maximum, 0);
 }
 
 // Each bar takes just the place for which the other is needed.
 TEST_F(Reclamping, leaves_two_bars_that_need_each_other) {
-    view.SetContentSize(300, 400);
-    view.Reclamp();
-    view.SetContentSize(200, 150);
-    view.Reclamp();
-    EXPECT_EQ(view.Bar(SB_HORZ).Range().maximum, DownBar());
-    EXPECT_EQ(view.Bar(SB_VERT).Range().maximum, AcrossBar());
+    view_.SetContentSize(300, 400);
+    view_.Reclamp();
+    view_.SetContentSize(200, 150);
+    view_.Reclamp();
+    EXPECT_EQ(view_.Bar(SB_HORZ).Range().maximum, DownBar());
+    EXPECT_EQ(view_.Bar(SB_VERT).Range().maximum, AcrossBar());
 }
 
 TEST_F(Reclamping, keeps_a_position_that_the_new_range_still_has) {
-    view.SetContentSize(0, 400);
-    view.Reclamp();
-    view.Bar(SB_VERT).SetPosition(200);
-    view.SetContentSize(0, 380);
-    view.Reclamp();
-    EXPECT_EQ(view.Bar(SB_VERT).Range().maximum, 380 - 150);
-    EXPECT_EQ(view.Bar(SB_VERT).Position(), 200);
-    view.SetContentSize(0, 250);
-    view.Reclamp();
-    EXPECT_EQ(view.Bar(SB_VERT).Position(), 100) << "the nearest that it has";
+    view_.SetContentSize(0, 400);
+    view_.Reclamp();
+    view_.Bar(SB_VERT).SetPosition(200);
+    view_.SetContentSize(0, 380);
+    view_.Reclamp();
+    EXPECT_EQ(view_.Bar(SB_VERT).Range().maximum, 380 - 150);
+    EXPECT_EQ(view_.Bar(SB_VERT).Position(), 200);
+    view_.SetContentSize(0, 250);
+    view_.Reclamp();
+    EXPECT_EQ(view_.Bar(SB_VERT).Position(), 100) << "the nearest that it has";
 }
 
 class SizedView : public ApplicationView {

@@ -8,18 +8,18 @@ constexpr UINT HeldMessage = WM_APP + 101;
 class HeldSteps : public WindowObject {
   public:
     explicit HeldSteps(const std::function<void()>& stepsToTake)
-        : WindowObject(nullptr, nullptr), steps(stepsToTake) {}
+        : WindowObject(nullptr, nullptr), steps_(stepsToTake) {}
 
     LRESULT Take(MessageRecord&) {
         ++taken;
-        steps();
+        steps_();
         return 0;
     }
 
     int taken = 0;
 
   private:
-    const std::function<void()>& steps;
+    const std::function<void()>& steps_;
 };
 
 }  // namespace

@@ -4,7 +4,7 @@ namespace {
 
 class ScrollingViews : public FrameworkTest {
   protected:
-    Listener listener;
+    Listener listener_;
 };
 
 void ExpectBar(const ScrollingView& view, int bar, int minimum, int maximum, int position) {
@@ -164,100 +164,100 @@ TEST_F(ScrollingViews, take_their_own_handle_in_a_scroll_message_for_their_own_b
 class ViewsWithContent : public FrameworkTest {
   protected:
     ViewsWithContent() {
-        SetBar(view, SB_HORZ, {{0, 99}, 10, 20, 0});
-        SetBar(view, SB_VERT, {{0, 299}, 50, 100, 0});
+        SetBar(view_, SB_HORZ, {{0, 99}, 10, 20, 0});
+        SetBar(view_, SB_VERT, {{0, 299}, 50, 100, 0});
         for (int i = 0; i < 2; ++i) {
             PropertySet place = ChildProperties(i);
             place.SetText(property::ClassName, L"ScrolledChild");
             place.Set(property::Style, WS_CHILD | WS_VISIBLE);
             if (i == 1) place.Set(property::Y, 400);
-            children[i] = std::make_unique<WindowObject>(&view, L"", place);
+            children_[i] = std::make_unique<WindowObject>(&view_, L"", place);
         }
-        UpdateWindow(view.Handle());
+        UpdateWindow(view_.Handle());
     }
 
     void ExpectChildrenAt(LONG x, LONG y) {
-        const POINT shown = PlaceInParent(children[0]->Handle());
-        const POINT below = PlaceInParent(children[1]->Handle());
+        const POINT shown = PlaceInParent(children_[0]->Handle());
+        const POINT below = PlaceInParent(children_[1]->Handle());
         EXPECT_EQ(shown.x, x);
         EXPECT_EQ(shown.y, y);
         EXPECT_EQ(below.x, x);
         EXPECT_EQ(below.y, y + 380) << "children out of sight are scrolled as well";
     }
 
-    ScrolledView view;
-    std::unique_ptr<WindowObject> children[2];
+    ScrolledView view_;
+    std::unique_ptr<WindowObject> children_[2];
 };
 
 TEST_F(ViewsWithContent, move_it_with_its_children_by_one_pixel_a_line) {
     ExpectChildrenAt(10, 20);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_LINEDOWN);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_LINEDOWN);
     ExpectChildrenAt(10, 19);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_LINEUP);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_LINEUP);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_LINEUP);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_LINEUP);
     ExpectChildrenAt(10, 21);
-    SendScroll(view.Handle(), WM_HSCROLL, SB_LINERIGHT);
+    SendScroll(view_.Handle(), WM_HSCROLL, SB_LINERIGHT);
     ExpectChildrenAt(9, 21);
-    ASSERT_EQ(view.moves.size(), 4U);
-    EXPECT_EQ(view.moves[3].x, -1);
-    EXPECT_EQ(view.moves[3].y, 0);
+    ASSERT_EQ(view_.moves.size(), 4U);
+    EXPECT_EQ(view_.moves[3].x, -1);
+    EXPECT_EQ(view_.moves[3].y, 0);
 }
 
 TEST_F(ViewsWithContent, move_it_by_pages_and_to_the_ends) {
-    SendScroll(view.Handle(), WM_VSCROLL, SB_PAGEUP);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_PAGEUP);
     ExpectChildrenAt(10, 20 + 51);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_TOP);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_TOP);
     ExpectChildrenAt(10, 20 + 100);
-    SendScroll(view.Handle(), WM_HSCROLL, SB_PAGERIGHT);
+    SendScroll(view_.Handle(), WM_HSCROLL, SB_PAGERIGHT);
     ExpectChildrenAt(10 - 10, 120);
 }
 
 TEST_F(ViewsWithContent, do_not_move_it_past_the_end_however_often_they_are_asked) {
     for (int step = 0; step < 20; ++step)
-        SendScroll(view.Handle(), WM_VSCROLL, SB_PAGEDOWN);
-    EXPECT_EQ(view.Bar(SB_VERT).Position(), 250);
+        SendScroll(view_.Handle(), WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_EQ(view_.Bar(SB_VERT).Position(), 250);
     ExpectChildrenAt(10, 20 - 150);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_LINEDOWN);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_LINEDOWN);
     ExpectChildrenAt(10, 20 - 150);
 }
 
 TEST_F(ViewsWithContent, erase_and_paint_what_comes_into_sight_at_once) {
     Listener erasures;
     Listener paintings;
-    view.OnMessage(WM_ERASEBKGND, &erasures, &Listener::TakeMessage);
-    view.OnMessage(WM_PAINT, &paintings, &Listener::TakeMessage);
-    SendScroll(view.Handle(), WM_VSCROLL, SB_PAGEDOWN);
+    view_.OnMessage(WM_ERASEBKGND, &erasures, &Listener::TakeMessage);
+    view_.OnMessage(WM_PAINT, &paintings, &Listener::TakeMessage);
+    SendScroll(view_.Handle(), WM_VSCROLL, SB_PAGEDOWN);
     EXPECT_GE(paintings.messages.size(), 1U);
     RECT client{};
-    GetClientRect(view.Handle(), &client);
+    GetClientRect(view_.Handle(), &client);
     RECT open{};
-    ASSERT_TRUE(GetUpdateRect(view.Handle(), &open, FALSE)) << "the listener paints nothing";
+    ASSERT_TRUE(GetUpdateRect(view_.Handle(), &open, FALSE)) << "the listener paints nothing";
     EXPECT_EQ(open.bottom, client.bottom);
     EXPECT_EQ(open.top, client.bottom - 50);
     PAINTSTRUCT paint{};
-    BeginPaint(view.Handle(), &paint);
-    EndPaint(view.Handle(), &paint);
+    BeginPaint(view_.Handle(), &paint);
+    EndPaint(view_.Handle(), &paint);
     EXPECT_GE(erasures.messages.size(), 1U);
 }
 
 TEST_F(ViewsWithContent, leave_it_while_the_box_is_dragged_until_the_box_is_released) {
-    DragVerticalBox(view, 15, [this] {
-        EXPECT_EQ(view.Bar(SB_VERT).Position(), 100);
+    DragVerticalBox(view_, 15, [this] {
+        EXPECT_EQ(view_.Bar(SB_VERT).Position(), 100);
         ExpectChildrenAt(10, 20);
     });
-    const int position = view.Bar(SB_VERT).Position();
+    const int position = view_.Bar(SB_VERT).Position();
     EXPECT_GT(position, 100);
     ExpectChildrenAt(10, 20 - (position - 100));
 }
 
 TEST_F(ViewsWithContent, move_it_with_the_dragged_box_when_thumb_tracking_is_on) {
-    view.SetThumbTracking(true);
-    DragVerticalBox(view, 15, [this] {
-        const int position = view.Bar(SB_VERT).Position();
+    view_.SetThumbTracking(true);
+    DragVerticalBox(view_, 15, [this] {
+        const int position = view_.Bar(SB_VERT).Position();
         EXPECT_GT(position, 100);
         ExpectChildrenAt(10, 20 - (position - 100));
     });
-    ExpectChildrenAt(10, 20 - (view.Bar(SB_VERT).Position() - 100));
+    ExpectChildrenAt(10, 20 - (view_.Bar(SB_VERT).Position() - 100));
 }
 
 TEST_F(ScrollingViews, track_the_box_when_the_set_says_so) {

@@ -15,7 +15,7 @@ class Resubclassing : public FrameworkTest {
         return SendMessageW(foreign.window, SumMessage, 30, 4);
     }
 
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(Resubclassing, after_the_first_object_is_gone_reaches_the_control_s_own_procedure) {
@@ -62,8 +62,8 @@ TEST_F(Resubclassing, behind_a_procedure_that_somebody_else_put_in_comes_to_an_e
         SetWindowLongPtrW(foreign.window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&PassOn)));
     WindowObject second(nullptr, foreign.window);
     second.Subclass();
-    second.OnMessage(OtherMessage, &listener, &Listener::TakeMessage);
-    listener.answer = 9;
+    second.OnMessage(OtherMessage, &listener_, &Listener::TakeMessage);
+    listener_.answer = 9;
     EXPECT_EQ(SumOf(foreign), 34);
     EXPECT_EQ(SendMessageW(foreign.window, OtherMessage, 0, 0), 9);
 }

@@ -9,7 +9,7 @@ constexpr UINT StepsMessage = WM_APP + 100;
 }  // namespace
 
 INT_PTR TestDialog::RunWith(std::function<void()> stepsToTake) {
-    steps = std::move(stepsToTake);
+    steps_ = std::move(stepsToTake);
     OnMessage(StepsMessage, this, &TestDialog::OnSteps);
     return RunModal();
 }
@@ -23,7 +23,7 @@ LRESULT TestDialog::OnInitDialog(MessageRecord& record) {
 }
 
 LRESULT TestDialog::OnSteps(MessageRecord&) {
-    steps();
+    steps_();
     // One that is ending is hidden already.
     if (IsWindow(Handle()) && IsWindowVisible(Handle())) End(LeftOpen);
     return 1;

@@ -34,5 +34,5 @@ class TestDialog : public Dialog {
   private:
     LRESULT OnSteps(MessageRecord& record);
 
-    std::function<void()> steps;
+    std::function<void()> steps_;
 };

@@ -10,7 +10,7 @@ namespace {
 
 class WindowObjects : public FrameworkTest {
   protected:
-    Listener listener;
+    Listener listener_;
 };
 
 TEST_F(WindowObjects, created_without_a_class_name_get_the_class_value) {
@@ -118,7 +118,7 @@ TEST_F(WindowObjects, without_a_window_are_harmless) {
     object.Enable();
     object.Disable();
     object.Subclass();
-    object.OnNotification(event::KeyDown, &listener, &Listener::TakeEvent);
+    object.OnNotification(event::KeyDown, &listener_, &Listener::TakeEvent);
     const RECT area = object.LayoutRectangle();
     EXPECT_EQ(area.right, 0);
     EXPECT_EQ(area.bottom, 0);
@@ -153,16 +153,16 @@ TEST_F(WindowObjects, lay_out_in_their_client_area_and_move) {
 
 TEST_F(WindowObjects, are_hidden_and_shown_again_when_disabled) {
     TestWindow object;
-    object.OnMessage(WM_SHOWWINDOW, &listener, &Listener::TakeMessage);
-    object.OnMessage(WM_ENABLE, &listener, &Listener::TakeMessage);
+    object.OnMessage(WM_SHOWWINDOW, &listener_, &Listener::TakeMessage);
+    object.OnMessage(WM_ENABLE, &listener_, &Listener::TakeMessage);
     object.Disable();
-    ASSERT_EQ(listener.messages.size(), 3U);
-    EXPECT_EQ(listener.messages[0].message, static_cast<UINT>(WM_SHOWWINDOW));
-    EXPECT_EQ(listener.messages[0].wParam, 0U);
-    EXPECT_EQ(listener.messages[1].message, static_cast<UINT>(WM_ENABLE));
-    EXPECT_EQ(listener.messages[1].wParam, 0U);
-    EXPECT_EQ(listener.messages[2].message, static_cast<UINT>(WM_SHOWWINDOW));
-    EXPECT_EQ(listener.messages[2].wParam, 1U);
+    ASSERT_EQ(listener_.messages.size(), 3U);
+    EXPECT_EQ(listener_.messages[0].message, static_cast<UINT>(WM_SHOWWINDOW));
+    EXPECT_EQ(listener_.messages[0].wParam, 0U);
+    EXPECT_EQ(listener_.messages[1].message, static_cast<UINT>(WM_ENABLE));
+    EXPECT_EQ(listener_.messages[1].wParam, 0U);
+    EXPECT_EQ(listener_.messages[2].message, static_cast<UINT>(WM_SHOWWINDOW));
+    EXPECT_EQ(listener_.messages[2].wParam, 1U);
     EXPECT_TRUE(IsWindowVisible(object.Handle()));
     EXPECT_FALSE(IsWindowEnabled(object.Handle()));
 }
@@ -171,14 +171,14 @@ TEST_F(WindowObjects, are_shown_first_when_enabled) {
     TestWindow object;
     EnableWindow(object.Handle(), FALSE);
     ShowWindow(object.Handle(), SW_HIDE);
-    object.OnMessage(WM_SHOWWINDOW, &listener, &Listener::TakeMessage);
-    object.OnMessage(WM_ENABLE, &listener, &Listener::TakeMessage);
+    object.OnMessage(WM_SHOWWINDOW, &listener_, &Listener::TakeMessage);
+    object.OnMessage(WM_ENABLE, &listener_, &Listener::TakeMessage);
     object.Enable();
-    ASSERT_EQ(listener.messages.size(), 2U);
-    EXPECT_EQ(listener.messages[0].message, static_cast<UINT>(WM_SHOWWINDOW));
-    EXPECT_EQ(listener.messages[0].wParam, 1U);
-    EXPECT_EQ(listener.messages[1].message, static_cast<UINT>(WM_ENABLE));
-    EXPECT_EQ(listener.messages[1].wParam, 1U);
+    ASSERT_EQ(listener_.messages.size(), 2U);
+    EXPECT_EQ(listener_.messages[0].message, static_cast<UINT>(WM_SHOWWINDOW));
+    EXPECT_EQ(listener_.messages[0].wParam, 1U);
+    EXPECT_EQ(listener_.messages[1].message, static_cast<UINT>(WM_ENABLE));
+    EXPECT_EQ(listener_.messages[1].wParam, 1U);
     EXPECT_TRUE(IsWindowVisible(object.Handle()));
     EXPECT_TRUE(IsWindowEnabled(object.Handle()));
 }

@@ -5,7 +5,7 @@
 class Activation : public HandsTest {
   protected:
     ~Activation() override {
-        if (other != nullptr) DestroyWindow(other);
+        if (other_ != nullptr) DestroyWindow(other_);
     }
 
     // The real program, started again.
@@ -19,10 +19,10 @@ class Activation : public HandsTest {
     }
     // Another program's window takes the input.
     void BringOtherForward() {
-        other = CreateWindowExW(0, L"Static", L"in front", WS_POPUP | WS_VISIBLE, 0, 0, 40, 40, nullptr,
-                                nullptr, nullptr, nullptr);
-        SetForegroundWindow(other);
-        WaitUntil("the other window in front", [this] { return GetForegroundWindow() == other; });
+        other_ = CreateWindowExW(0, L"Static", L"in front", WS_POPUP | WS_VISIBLE, 0, 0, 40, 40, nullptr,
+                                 nullptr, nullptr, nullptr);
+        SetForegroundWindow(other_);
+        WaitUntil("the other window in front", [this] { return GetForegroundWindow() == other_; });
     }
     [[nodiscard]] static bool HasInput(HWND window) {
         return HoldsWithin(StepDeadline, [window] {
@@ -69,7 +69,7 @@ class Activation : public HandsTest {
     }
 
   private:
-    HWND other = nullptr;
+    HWND other_ = nullptr;
 };
 
 // A dialog, and how it is opened.

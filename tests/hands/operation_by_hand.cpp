@@ -63,18 +63,18 @@ void OperationByHand::SetUp() {
     files = 0;
     nextFailure = 0;
     Open(LanguageOfWorld());
-    main = Handle();
+    main_ = Handle();
     present = this;
-    hook = SetWindowsHookExW(WH_GETMESSAGE, WatchInput, nullptr, GetCurrentThreadId());
-    SetForegroundWindow(main);
+    hook_ = SetWindowsHookExW(WH_GETMESSAGE, WatchInput, nullptr, GetCurrentThreadId());
+    SetForegroundWindow(main_);
     SetFocus(EditOf(COMBO_NAME));
     PumpQueue();
-    focusBefore = GetFocus();
-    ASSERT_EQ(GetForegroundWindow(), main);
+    focusBefore_ = GetFocus();
+    ASSERT_EQ(GetForegroundWindow(), main_);
 }
 
 void OperationByHand::TearDown() {
-    UnhookWindowsHookEx(hook);
+    UnhookWindowsHookEx(hook_);
     present = nullptr;
 }
 
@@ -84,47 +84,47 @@ void OperationByHand::Prepare(FileOperationKind kind, const std::vector<std::wst
     operation.confirm = true;
     operation.ClearSources();
     for (const std::wstring& source : sources)
-        ASSERT_TRUE(operation.AddSource(tree.Path(source).c_str()));
-    ASSERT_TRUE(operation.SetDestination(tree.Path(L"d").c_str()));
+        ASSERT_TRUE(operation.AddSource(tree_.Path(source).c_str()));
+    ASSERT_TRUE(operation.SetDestination(tree_.Path(L"d").c_str()));
 }
 
 void OperationByHand::PrepareCopy(int count) {
-    tree.AddNumberedFiles(L"s", count);
-    tree.AddFolder(L"d");
+    tree_.AddNumberedFiles(L"s", count);
+    tree_.AddFolder(L"d");
     Prepare(FileOperationKind::Copy, {L"s"});
 }
 
 void OperationByHand::PrepareCopyWithQuestion(int count) {
     PrepareCopy(count);
-    tree.AddFile(L"a.txt", "new");
-    tree.AddFile(L"d\\a.txt", "old");
+    tree_.AddFile(L"a.txt", "new");
+    tree_.AddFile(L"d\\a.txt", "old");
     Prepare(FileOperationKind::Copy, {L"a.txt", L"s"});
 }
 
 void OperationByHand::RunToTheProgramsEnd(const std::function<void()>& person) {
-    fault.clear();
+    fault_.clear();
     std::string failure;
     std::thread hands([&] {
         try {
             person();
         } catch (const std::exception& error) {
             failure = error.what();
-            PostMessageW(main, WM_CLOSE, 0, 0);
+            PostMessageW(main_, WM_CLOSE, 0, 0);
         }
     });
     EXPECT_EQ(Window().Operation().RunModal(), 1);
     hands.join();
     EXPECT_EQ(failure, "");
-    EXPECT_EQ(fault, "");
-    EXPECT_EQ(inputBehind, 0) << "a window behind the dialog on top took keys or clicks";
+    EXPECT_EQ(fault_, "");
+    EXPECT_EQ(inputBehind_, 0) << "a window behind the dialog on top took keys or clicks";
 }
 
 void OperationByHand::RunWith(const std::function<void()>& person) {
     RunToTheProgramsEnd(person);
     PumpQueue();
-    EXPECT_TRUE(IsWindowEnabled(main));
-    EXPECT_EQ(GetForegroundWindow(), main);
-    EXPECT_EQ(GetFocus(), focusBefore);
+    EXPECT_TRUE(IsWindowEnabled(main_));
+    EXPECT_EQ(GetForegroundWindow(), main_);
+    EXPECT_EQ(GetFocus(), focusBefore_);
 }
 
 int OperationByHand::Files() {
@@ -150,24 +150,24 @@ BOOL OperationByHand::Copy(const wchar_t*, const wchar_t*, BOOL) {
 
 BOOL OperationByHand::Delete(const wchar_t* path) {
     present->MeetFile();
-    return present->deletion.Original()(path);
+    return present->deletion_.Original()(path);
 }
 
 BOOL OperationByHand::RemoveFolder(const wchar_t* path) {
     present->MeetFile();
-    return present->removal.Original()(path);
+    return present->removal_.Original()(path);
 }
 
 void OperationByHand::MeetFile() {
     ++files;
-    if (fault.empty()) fault = Fault();
-    if (atFile) atFile();
+    if (fault_.empty()) fault_ = Fault();
+    if (atFile_) atFile_();
     Sleep(TimeOfFile);
 }
 
 // What is wrong with the windows now; empty if nothing is.
 std::string OperationByHand::Fault() {
-    if (IsWindowEnabled(main)) return "the main window is enabled in the middle of the run";
+    if (IsWindowEnabled(main_)) return "the main window is enabled in the middle of the run";
     if (!IsWindowEnabled(Progress())) return "the progress dialog is disabled";
     if (GetActiveWindow() != Progress()) return "the progress dialog is not active";
     if (GetForegroundWindow() != Progress()) return "the progress dialog is not in front";
@@ -177,7 +177,8 @@ std::string OperationByHand::Fault() {
 }
 
 bool OperationByHand::IsAboveMain(HWND dialog) const {
-    for (HWND above = GetWindow(main, GW_HWNDPREV); above != nullptr; above = GetWindow(above, GW_HWNDPREV)) {
+    for (HWND above = GetWindow(main_, GW_HWNDPREV); above != nullptr;
+         above = GetWindow(above, GW_HWNDPREV)) {
         if (above == dialog) return true;
     }
     return false;
@@ -188,7 +189,7 @@ LRESULT CALLBACK OperationByHand::WatchInput(int code, WPARAM wParam, LPARAM lPa
     if (code == HC_ACTION && wParam == PM_REMOVE && IsInput(message.message) && present != nullptr &&
         present->Window().Operation().IsRunning()) {
         const HWND root = GetAncestor(message.hwnd, GA_ROOT);
-        if (root == present->main || !IsWindowEnabled(root)) ++present->inputBehind;
+        if (root == present->main_ || !IsWindowEnabled(root)) ++present->inputBehind_;
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -197,14 +198,14 @@ HWND OperationByHand::AwaitProgress() {
     WaitUntil("the progress dialog in front with the focus on Stop", [this] {
         const State now = StateNow();
         return Progress() != nullptr && FindBox() == nullptr && now.foreground == Progress() &&
-               now.focus == Stop() && !IsWindowEnabled(main);
+               now.focus == Stop() && !IsWindowEnabled(main_);
     });
     return Progress();
 }
 
 HWND OperationByHand::FindBox() {
     BoxSearch search{Progress()};
-    EnumThreadWindows(GetWindowThreadProcessId(main, nullptr), TakeBox, reinterpret_cast<LPARAM>(&search));
+    EnumThreadWindows(GetWindowThreadProcessId(main_, nullptr), TakeBox, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
@@ -213,8 +214,8 @@ HWND OperationByHand::AwaitBox() {
     WaitUntil("a question or an error box in front, and no window behind it enabled", [&] {
         box = FindBox();
         const State now = StateNow();
-        return box != nullptr && now.foreground == box && IsChild(box, now.focus) && !IsWindowEnabled(main) &&
-               !IsWindowEnabled(Progress());
+        return box != nullptr && now.foreground == box && IsChild(box, now.focus) &&
+               !IsWindowEnabled(main_) && !IsWindowEnabled(Progress());
     });
     return box;
 }
@@ -248,7 +249,7 @@ void OperationByHand::ClickBehind() {
         GetWindowRect(behind, &place);
         for (const POINT point : {POINT{place.left + 4, place.top + 4}, POINT{place.right - 5, place.top + 4},
                                   POINT{place.left + 4, place.bottom - 5}}) {
-            if (GetAncestor(WindowFromPoint(point), GA_ROOT) == main) ClickAt(point);
+            if (GetAncestor(WindowFromPoint(point), GA_ROOT) == main_) ClickAt(point);
         }
     }
 }

@@ -35,7 +35,7 @@ class OperationByHand : public MainWindowTest {
     // The same where the main window is closed meanwhile.
     void RunToTheProgramsEnd(const std::function<void()>& person);
     // Called on the program's thread before each file is copied or deleted.
-    std::function<void()> atFile;
+    std::function<void()> atFile_;
     // The next file that is copied fails with this code.
     static void FailNextCopy(DWORD code);
     // Files handled so far.
@@ -59,8 +59,8 @@ class OperationByHand : public MainWindowTest {
     // In the registry.
     [[nodiscard]] static bool AreSettingsSaved();
 
-    [[nodiscard]] HWND Main() const { return main; }
-    TempTree tree;
+    [[nodiscard]] HWND Main() const { return main_; }
+    TempTree tree_;
 
   private:
     static BOOL Copy(const wchar_t* from, const wchar_t* to, BOOL failIfExists);
@@ -74,14 +74,14 @@ class OperationByHand : public MainWindowTest {
 
     static OperationByHand* present;
 
-    HWND main = nullptr;
-    HWND focusBefore = nullptr;
-    HHOOK hook = nullptr;
-    int inputBehind = 0;
-    std::string fault;
-    Replaced<decltype(ce::FileCalls::copyFile)> copy{ce::fileCalls.copyFile, Copy};
-    Replaced<decltype(ce::FileCalls::deleteFile)> deletion{ce::fileCalls.deleteFile, Delete};
-    Replaced<decltype(ce::FileCalls::removeDirectory)> removal{ce::fileCalls.removeDirectory, RemoveFolder};
+    HWND main_ = nullptr;
+    HWND focusBefore_ = nullptr;
+    HHOOK hook_ = nullptr;
+    int inputBehind_ = 0;
+    std::string fault_;
+    Replaced<decltype(ce::FileCalls::copyFile)> copy_{ce::fileCalls.copyFile, Copy};
+    Replaced<decltype(ce::FileCalls::deleteFile)> deletion_{ce::fileCalls.deleteFile, Delete};
+    Replaced<decltype(ce::FileCalls::removeDirectory)> removal_{ce::fileCalls.removeDirectory, RemoveFolder};
 };
 
 [[nodiscard]] POINT MiddleOf(HWND window);

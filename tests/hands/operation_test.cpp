@@ -166,19 +166,19 @@ class OperationQuestions : public OperationByHand, public testing::WithParamInte
   protected:
     // Also what an earlier answer took away.
     void PrepareQuestion() {
-        tree.AddFile(L"a.txt", "new");
-        tree.AddFile(L"f\\new.txt", "new");
-        tree.AddFile(L"d\\a.txt", "old");
-        if (!Stands(L"empty")) tree.AddFolder(L"empty");
-        if (!Stands(L"many")) tree.AddNumberedFiles(L"many", Few);
+        tree_.AddFile(L"a.txt", "new");
+        tree_.AddFile(L"f\\new.txt", "new");
+        tree_.AddFile(L"d\\a.txt", "old");
+        if (!Stands(L"empty")) tree_.AddFolder(L"empty");
+        if (!Stands(L"many")) tree_.AddNumberedFiles(L"many", Few);
         const wchar_t* const other = GetParam().kind == FileOperationKind::Exclude ? L"d\\extra" : L"d\\f";
-        if (!Stands(other)) tree.AddFolder(other);
-        RemoveDirectoryW(tree.Path(L"d\\many").c_str());
+        if (!Stands(other)) tree_.AddFolder(other);
+        RemoveDirectoryW(tree_.Path(L"d\\many").c_str());
         Prepare(GetParam().kind, GetParam().sources);
         Window().Operation().multiple = GetParam().multiple;
     }
     [[nodiscard]] bool Stands(const wchar_t* path) const {
-        return GetFileAttributesW(tree.Path(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+        return GetFileAttributesW(tree_.Path(path).c_str()) != INVALID_FILE_ATTRIBUTES;
     }
     void RunAnswered(const AnswerCase& answer, bool byPointer) {
         SCOPED_TRACE(std::to_string(answer.button) + (byPointer ? " by pointer" : " by keys"));
@@ -231,7 +231,7 @@ TEST_F(OperationByHand, a_question_that_cannot_be_made_ends_the_run_as_cancel_do
     refuseNextDialog = false;
     const HHOOK refusal = SetWindowsHookExW(WH_CBT, RefuseDialog, nullptr, GetCurrentThreadId());
     Prepare(FileOperationKind::Copy, {L"s", L"a.txt", L"s"});
-    atFile = [] { refuseNextDialog = true; };
+    atFile_ = [] { refuseNextDialog = true; };
     RunWith([] {});
     UnhookWindowsHookEx(refusal);
     EXPECT_EQ(Files(), Few);
@@ -304,7 +304,7 @@ TEST_F(OperationByHand, closing_the_main_window_from_outside_gives_up_the_questi
         AwaitNoBox(question);
     });
     EXPECT_EQ(Files(), 0);
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
     EXPECT_FALSE(IsWindow(Main()));
 }
 
@@ -319,7 +319,7 @@ TEST_F(OperationByHand, a_log_off_saves_the_settings_and_ends_the_run_before_the
     });
     EXPECT_EQ(Files(), filesAtEnd);
     EXPECT_TRUE(AreSettingsSaved());
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
 }
 
 TEST_F(OperationByHand, a_log_off_over_a_question_counts_as_cancel) {
@@ -330,5 +330,5 @@ TEST_F(OperationByHand, a_log_off_over_a_question_counts_as_cancel) {
     });
     EXPECT_EQ(Files(), 0);
     EXPECT_TRUE(AreSettingsSaved());
-    EXPECT_EQ(world.TheApplication().Run(), 0);
+    EXPECT_EQ(world_.TheApplication().Run(), 0);
 }

@@ -52,27 +52,27 @@ bool IsFirstNameSaved() {
 
 class Refusals : public testing::Test {
   protected:
-    Refusals() : tree(L"QuorinRefusals"), drive(tree.Root()) {
-        tree.AddFile(L"alpha.txt");
-        tree.AddFile(L"beta.log");
-        tree.AddFile(L"gamma\\alpha too.txt");
+    Refusals() : tree_(L"QuorinRefusals"), drive_(tree_.Root()) {
+        tree_.AddFile(L"alpha.txt");
+        tree_.AddFile(L"beta.log");
+        tree_.AddFile(L"gamma\\alpha too.txt");
     }
 
     void StartRefusing(LONG number) {
         PrepareRegistry();
-        program.Refuse(number);
-        program.Start(drive.Root());
+        program_.Refuse(number);
+        program_.Start(drive_.Root());
     }
 
     // "alpha" in all folders, where there is a page to say so.
     void FillNamePage() const {
-        if (program.PageWith(CHECK_SUBFOLDERS) == nullptr) return;
+        if (program_.PageWith(CHECK_SUBFOLDERS) == nullptr) return;
         SetWindowTextOf(COMBO_NAME, L"alpha");
-        SendMessageW(program.Control(CHECK_SUBFOLDERS), BM_SETCHECK, BST_CHECKED, 0);
+        SendMessageW(program_.Control(CHECK_SUBFOLDERS), BM_SETCHECK, BST_CHECKED, 0);
     }
 
     void SetWindowTextOf(int control, const wchar_t* text) const {
-        const HWND page = program.PageWith(CHECK_SUBFOLDERS);
+        const HWND page = program_.PageWith(CHECK_SUBFOLDERS);
         SendMessageW(GetDlgItem(page, control), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
     }
 
@@ -86,27 +86,27 @@ class Refusals : public testing::Test {
     }
 
     [[nodiscard]] LRESULT RowCount() const {
-        return SendMessageW(program.Child(WC_LISTVIEWW), LVM_GETITEMCOUNT, 0, 0);
+        return SendMessageW(program_.Child(WC_LISTVIEWW), LVM_GETITEMCOUNT, 0, 0);
     }
 
     // With the page the two of that name; without it every name of the root.
     void ExpectSearchToWork() {
-        const bool hasNamePage = program.PageWith(CHECK_SUBFOLDERS) != nullptr;
-        program.Run(COMMAND_FIND);
-        ASSERT_TRUE(program.IsRunning());
-        if (program.Child(WC_LISTVIEWW) == nullptr) return;
+        const bool hasNamePage = program_.PageWith(CHECK_SUBFOLDERS) != nullptr;
+        program_.Run(COMMAND_FIND);
+        ASSERT_TRUE(program_.IsRunning());
+        if (program_.Child(WC_LISTVIEWW) == nullptr) return;
         EXPECT_EQ(hasNamePage ? 2 : 3, RowCount());
     }
 
     // A search leaves the focus in the list, and Tab leads on to the tab control, which keeps it where there
     // is no list. A page that does not exist is no stop on the way.
     void ExpectKeysToLeadOn() {
-        if (program.PageWith(CHECK_SUBFOLDERS) == nullptr) {
+        if (program_.PageWith(CHECK_SUBFOLDERS) == nullptr) {
             PressKey(VK_TAB, {VK_SHIFT});
             PressKey('N', {VK_MENU});
         }
-        if (program.Child(WC_TABCONTROLW) == nullptr) return;
-        if (program.Child(WC_LISTVIEWW) != nullptr) PressKey(VK_TAB);
+        if (program_.Child(WC_TABCONTROLW) == nullptr) return;
+        if (program_.Child(WC_LISTVIEWW) != nullptr) PressKey(VK_TAB);
         for (const int page : {1, 2}) {
             PressKey(VK_RIGHT);
             EXPECT_TRUE(HoldsWithin(LongestStep, [&] { return IsShown(page); })) << "page " << page;
@@ -114,13 +114,13 @@ class Refusals : public testing::Test {
     }
 
     [[nodiscard]] bool IsShown(int page) const {
-        const LRESULT selected = SendMessageW(program.Child(WC_TABCONTROLW), TCM_GETCURSEL, 0, 0);
-        const HWND window = program.PageWith(PageControls[page]);
+        const LRESULT selected = SendMessageW(program_.Child(WC_TABCONTROLW), TCM_GETCURSEL, 0, 0);
+        const HWND window = program_.PageWith(PageControls[page]);
         return selected == page && (window == nullptr || IsWindowVisible(window));
     }
 
     void ExpectMenusToOpen() {
-        if (program.Child(MenuBarClass) == nullptr || refused == L"menu") return;
+        if (program_.Child(MenuBarClass) == nullptr || refused_ == L"menu") return;
         PressKey(VK_F10);
         EXPECT_TRUE(HoldsWithin(LongestStep, [] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
         PressKey(VK_ESCAPE);
@@ -129,23 +129,23 @@ class Refusals : public testing::Test {
 
     void ExpectCommandsToWork() {
         for (const UINT command : HarmlessCommands)
-            program.Run(command);
-        ASSERT_TRUE(program.IsRunning());
+            program_.Run(command);
+        ASSERT_TRUE(program_.IsRunning());
     }
 
     void ExpectOrderlyEnd(DWORD subFolders = 1) {
-        const bool hasNamePage = program.PageWith(CHECK_SUBFOLDERS) != nullptr;
-        EXPECT_EQ(0u, program.Close());
+        const bool hasNamePage = program_.PageWith(CHECK_SUBFOLDERS) != nullptr;
+        EXPECT_EQ(0u, program_.Close());
         EXPECT_EQ(hasNamePage, IsSaved(L"Sub Folder", subFolders));
         EXPECT_EQ(hasNamePage, IsFirstNameSaved());
     }
 
     static constexpr DWORD LongestStep = 5000;
 
-    DeviceTree tree;
-    DeviceDrive drive;
-    RefusingProgram program;
-    std::wstring refused;  // at the start
+    DeviceTree tree_;
+    DeviceDrive drive_;
+    RefusingProgram program_;
+    std::wstring refused_;  // at the start
 };
 
 // The commands of a program that has started well and shows a row.
@@ -154,8 +154,8 @@ class RefusedCommands : public Refusals {
     void SetUp() override {
         StartRefusing(0);
         FillNamePage();
-        SendMessageW(program.Control(CHECK_SUBFOLDERS), BM_SETCHECK, BST_UNCHECKED, 0);
-        program.Run(COMMAND_FIND);
+        SendMessageW(program_.Control(CHECK_SUBFOLDERS), BM_SETCHECK, BST_UNCHECKED, 0);
+        program_.Run(COMMAND_FIND);
         ASSERT_EQ(1, RowCount());
     }
 
@@ -164,44 +164,44 @@ class RefusedCommands : public Refusals {
         if (!HasFailure()) ExpectOrderlyEnd(0);
     }
 
-    void Post(UINT command) { PostMessageW(program.Window(), WM_COMMAND, command, 0); }
+    void Post(UINT command) { PostMessageW(program_.Window(), WM_COMMAND, command, 0); }
 
     [[nodiscard]] HWND NameEdit() const {
-        return FindWindowExW(program.Child(WC_LISTVIEWW), nullptr, WC_EDITW, nullptr);
+        return FindWindowExW(program_.Child(WC_LISTVIEWW), nullptr, WC_EDITW, nullptr);
     }
 
     [[nodiscard]] static bool IsMenuOpen() { return FindWindowW(L"#32768", nullptr) != nullptr; }
 
     [[nodiscard]] bool IsAnythingOpen() const {
-        return program.OpenDialog() != nullptr || NameEdit() != nullptr || IsMenuOpen();
+        return program_.OpenDialog() != nullptr || NameEdit() != nullptr || IsMenuOpen();
     }
 
     // Esc until nothing is open.
     void Dismiss() {
-        program.WaitForQueue();
+        program_.WaitForQueue();
         WaitUntil("the program to wait for commands", [this] {
-            if (!IsAnythingOpen()) return IsWindowEnabled(program.Window()) != FALSE;
-            const HWND dialog = program.OpenDialog();
+            if (!IsAnythingOpen()) return IsWindowEnabled(program_.Window()) != FALSE;
+            const HWND dialog = program_.OpenDialog();
             PressKey(VK_ESCAPE);
             static_cast<void>(HoldsWithin(LongestClosing, [&] {
-                return !IsAnythingOpen() || (dialog != nullptr && program.OpenDialog() != dialog);
+                return !IsAnythingOpen() || (dialog != nullptr && program_.OpenDialog() != dialog);
             }));
             return false;
         });
-        program.WaitForQueue();
+        program_.WaitForQueue();
     }
 
     // Each creation of what the action opens is refused once, and then the action works again.
     template <typename Action>
     void ExpectToSurvive(Action action) {
         for (LONG number = 1; number < MostCreations; ++number) {
-            program.Refuse(number);
+            program_.Refuse(number);
             action();
             Dismiss();
-            const std::wstring name = program.Refused();
+            const std::wstring name = program_.Refused();
             SCOPED_TRACE(testing::Message() << "creation " << number << ": " << name.c_str());
-            program.Refuse(0);
-            ASSERT_TRUE(program.IsRunning());
+            program_.Refuse(0);
+            ASSERT_TRUE(program_.IsRunning());
             EXPECT_EQ(1, RowCount());
             EXPECT_TRUE(Stands(L"alpha.txt"));
             action();
@@ -213,7 +213,7 @@ class RefusedCommands : public Refusals {
     }
 
     [[nodiscard]] bool Stands(const std::wstring& name) const {
-        return GetFileAttributesW((drive.Root() + name).c_str()) != INVALID_FILE_ATTRIBUTES;
+        return GetFileAttributesW((drive_.Root() + name).c_str()) != INVALID_FILE_ATTRIBUTES;
     }
 
     static constexpr DWORD LongestClosing = 1000;
@@ -222,18 +222,18 @@ class RefusedCommands : public Refusals {
 TEST_F(Refusals, whatever_cannot_be_made_at_the_start_costs_that_alone) {
     for (LONG number = FirstNumberOfWorld(); number < MostCreations; number += WorldCount) {
         StartRefusing(number);
-        refused = program.Refused();
-        SCOPED_TRACE(testing::Message() << "creation " << number << ": " << refused.c_str());
-        EXPECT_EQ(IsToldOf(refused), program.HasComplained());
-        if (!program.IsRunning()) {
-            EXPECT_EQ(ExitWithoutWindow, program.ExitCode());
-            EXPECT_TRUE(refused == L"class" || refused == L"QuorinSearch");
+        refused_ = program_.Refused();
+        SCOPED_TRACE(testing::Message() << "creation " << number << ": " << refused_.c_str());
+        EXPECT_EQ(IsToldOf(refused_), program_.HasComplained());
+        if (!program_.IsRunning()) {
+            EXPECT_EQ(ExitWithoutWindow, program_.ExitCode());
+            EXPECT_TRUE(refused_ == L"class" || refused_ == L"QuorinSearch");
             continue;
         }
         FillNamePage();
-        program.Run(COMMAND_FIND);
-        const bool wasLast = program.Refused().empty();
-        program.Refuse(0);
+        program_.Run(COMMAND_FIND);
+        const bool wasLast = program_.Refused().empty();
+        program_.Refuse(0);
         ExpectKeysToLeadOn();
         ExpectMenusToOpen();
         ExpectSearchToWork();
@@ -255,12 +255,12 @@ TEST_F(RefusedCommands, a_name_is_edited_again_after_an_edit_that_could_not_be_m
 TEST_F(RefusedCommands, a_rename_that_fails_without_its_messages_leaves_the_file) {
     ExpectToSurvive([this] {
         Post(COMMAND_RENAME);
-        program.WaitForQueue();
+        program_.WaitForQueue();
         if (NameEdit() == nullptr) return;
         TypeText(L"beta.log");
         PressKey(VK_RETURN);
         static_cast<void>(HoldsWithin(
-            LongestStep, [this] { return NameEdit() == nullptr || program.OpenDialog() != nullptr; }));
+            LongestStep, [this] { return NameEdit() == nullptr || program_.OpenDialog() != nullptr; }));
     });
     EXPECT_TRUE(Stands(L"beta.log"));
 }
@@ -270,7 +270,7 @@ TEST_F(RefusedCommands, properties_are_shown_again_after_a_sheet_that_could_not_
 }
 
 TEST_F(RefusedCommands, the_folder_browser_opens_again_after_one_that_could_not_be_made) {
-    ExpectToSurvive([this] { PostMessageW(program.Control(BUTTON_BROWSE), BM_CLICK, 0, 0); });
+    ExpectToSurvive([this] { PostMessageW(program_.Control(BUTTON_BROWSE), BM_CLICK, 0, 0); });
 }
 
 TEST_F(RefusedCommands, the_about_box_opens_again_after_one_that_could_not_be_made) {

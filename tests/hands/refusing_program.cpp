@@ -52,44 +52,44 @@ BOOL CALLBACK TakePage(HWND window, LPARAM parameter) {
 
 RefusingProgram::RefusingProgram() {
     const std::wstring name = L"Local\\QuorinRefusals-" + std::to_wstring(GetCurrentProcessId());
-    section = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(probe::Refusals),
-                                 name.c_str());
-    refusals = static_cast<probe::Refusals*>(
-        MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(probe::Refusals)));
-    if (refusals == nullptr) throw DriverError("there is no section for the refusals");
+    section_ = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(probe::Refusals),
+                                  name.c_str());
+    refusals_ = static_cast<probe::Refusals*>(
+        MapViewOfFile(section_, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(probe::Refusals)));
+    if (refusals_ == nullptr) throw DriverError("there is no section for the refusals");
     SetEnvironmentVariableW(probe::RefusalsVariable, name.c_str());
 }
 
 RefusingProgram::~RefusingProgram() {
-    if (process != nullptr) process->Kill();
+    if (process_ != nullptr) process_->Kill();
     SetEnvironmentVariableW(probe::RefusalsVariable, nullptr);
-    UnmapViewOfFile(refusals);
-    CloseHandle(section);
+    UnmapViewOfFile(refusals_);
+    CloseHandle(section_);
 }
 
 void RefusingProgram::Refuse(LONG number) {
-    refusals->refused = 0;
-    refusals->asked = 0;
-    refusals->name[0] = L'\0';
-    refusals->refused = number;
+    refusals_->refused = 0;
+    refusals_->asked = 0;
+    refusals_->name[0] = L'\0';
+    refusals_->refused = number;
 }
 
 void RefusingProgram::Start(const std::wstring& workingFolder) {
-    if (process != nullptr) process->Kill();
-    link.reset();
-    hasComplained = false;
+    if (process_ != nullptr) process_->Kill();
+    link_.reset();
+    hasComplained_ = false;
     ProgramStart start;
     start.path = ProgramPath();
     start.workingFolder = workingFolder;
     start.probePath = ProbePath();
-    process = std::make_unique<RunningProgram>();
-    process->Start(start);
+    process_ = std::make_unique<RunningProgram>();
+    process_->Start(start);
     Settle();
 }
 
 void RefusingProgram::Settle() {
     WaitUntil("the program to wait for commands or to end", [this] {
-        if (!process->IsRunning()) return true;
+        if (!process_->IsRunning()) return true;
         if (const HWND box = OpenDialog()) {
             // A search ends by itself.
             if (GetDlgItem(box, STATIC_FOLDER) == nullptr) Answer(box);
@@ -105,9 +105,9 @@ void RefusingProgram::Settle() {
 
 // A window that is just going under takes no hooks.
 bool RefusingProgram::Connects() {
-    if (link != nullptr) return true;
+    if (link_ != nullptr) return true;
     try {
-        link = std::make_unique<ProbeLink>(Window());
+        link_ = std::make_unique<ProbeLink>(Window());
     } catch (const DriverError&) {
         return false;
     }
@@ -115,11 +115,11 @@ bool RefusingProgram::Connects() {
 }
 
 void RefusingProgram::WaitForQueue() {
-    link->WaitForQueue();
+    link_->WaitForQueue();
 }
 
 void RefusingProgram::Answer(HWND box) {
-    hasComplained = hasComplained || CaptionOf(box) == Shown(L"Fatal", L"致命的なｴﾗｰ");
+    hasComplained_ = hasComplained_ || CaptionOf(box) == Shown(L"Fatal", L"致命的なｴﾗｰ");
     if (GetForegroundWindow() != box) SetForegroundWindow(box);
     PressKey(VK_RETURN);
     static_cast<void>(HoldsWithin(LongestAnswer, [&] { return !IsWindow(box) || !IsWindowVisible(box); }));
@@ -131,7 +131,7 @@ DWORD RefusingProgram::Close() {
 }
 
 DWORD RefusingProgram::ExitCode() const {
-    const std::optional<DWORD> code = process->ExitCode(StepDeadline);
+    const std::optional<DWORD> code = process_->ExitCode(StepDeadline);
     if (!code) throw DriverError("the program does not end");
     return *code;
 }
@@ -152,7 +152,7 @@ HWND RefusingProgram::Control(int control) const {
 }
 
 HWND RefusingProgram::OpenDialog() const {
-    DialogSearch search = {process->ProcessId(), nullptr};
+    DialogSearch search = {process_->ProcessId(), nullptr};
     EnumWindows(TakeDialog, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }

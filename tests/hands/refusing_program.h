@@ -20,7 +20,7 @@ class RefusingProgram {
     // The creations are counted from now on, and the one with this number, from 1, fails; 0 for none.
     void Refuse(LONG number);
     // What was refused since: a window's class, or a word for anything else; empty for nothing yet.
-    [[nodiscard]] std::wstring Refused() const { return refusals->name; }
+    [[nodiscard]] std::wstring Refused() const { return refusals_->name; }
 
     // Starts the program and waits as Settle does. What is refused was said before.
     void Start(const std::wstring& workingFolder);
@@ -29,13 +29,13 @@ class RefusingProgram {
     void Settle();
     // Closes the main window as a person does who is told of anything on the way; the exit code.
     DWORD Close();
-    [[nodiscard]] bool IsRunning() const { return process != nullptr && process->IsRunning(); }
+    [[nodiscard]] bool IsRunning() const { return process_ != nullptr && process_->IsRunning(); }
     [[nodiscard]] DWORD ExitCode() const;
     // Whether the user was told of a window that could not be created since the start.
-    [[nodiscard]] bool HasComplained() const { return hasComplained; }
+    [[nodiscard]] bool HasComplained() const { return hasComplained_; }
 
     // Its windows; null where they do not exist.
-    [[nodiscard]] HWND Window() const { return process->MainWindow(); }
+    [[nodiscard]] HWND Window() const { return process_->MainWindow(); }
     [[nodiscard]] HWND Child(const wchar_t* className) const;
     // The condition page with this control, and the control.
     [[nodiscard]] HWND PageWith(int control) const;
@@ -52,9 +52,9 @@ class RefusingProgram {
     void Answer(HWND box);
     [[nodiscard]] bool Connects();
 
-    HANDLE section = nullptr;
-    probe::Refusals* refusals = nullptr;
-    std::unique_ptr<RunningProgram> process;
-    std::unique_ptr<ProbeLink> link;
-    bool hasComplained = false;
+    HANDLE section_ = nullptr;
+    probe::Refusals* refusals_ = nullptr;
+    std::unique_ptr<RunningProgram> process_;
+    std::unique_ptr<ProbeLink> link_;
+    bool hasComplained_ = false;
 };

@@ -15,65 +15,65 @@ HWND Make(HWND owner, DWORD style) {
 
 class ActivatedWindows : public testing::Test {
   protected:
-    ~ActivatedWindows() override { DestroyWindow(main); }
+    ~ActivatedWindows() override { DestroyWindow(main_); }
 
-    HWND main = Make(nullptr, WS_OVERLAPPEDWINDOW);
-    HWND first = Make(main, WS_POPUP | WS_CAPTION);
-    HWND second = Make(main, WS_POPUP | WS_CAPTION);
-    HWND box = Make(second, WS_POPUP | WS_CAPTION);
+    HWND main_ = Make(nullptr, WS_OVERLAPPEDWINDOW);
+    HWND first_ = Make(main_, WS_POPUP | WS_CAPTION);
+    HWND second_ = Make(main_, WS_POPUP | WS_CAPTION);
+    HWND box_ = Make(second_, WS_POPUP | WS_CAPTION);
 };
 
 TEST_F(ActivatedWindows, take_their_own_input_while_they_are_enabled) {
-    SetActiveWindow(box);
-    EXPECT_EQ(ce::InputWindowOf(main), main);
-    EXPECT_FALSE(ce::PassActivationOn(main));
-    EXPECT_EQ(GetActiveWindow(), box);
+    SetActiveWindow(box_);
+    EXPECT_EQ(ce::InputWindowOf(main_), main_);
+    EXPECT_FALSE(ce::PassActivationOn(main_));
+    EXPECT_EQ(GetActiveWindow(), box_);
 }
 
 TEST_F(ActivatedWindows, leave_it_to_the_dialog_that_was_active_last) {
-    EnableWindow(main, FALSE);
-    for (const HWND dialog : {first, second}) {
+    EnableWindow(main_, FALSE);
+    for (const HWND dialog : {first_, second_}) {
         SetActiveWindow(dialog);
-        EXPECT_EQ(ce::InputWindowOf(main), dialog);
+        EXPECT_EQ(ce::InputWindowOf(main_), dialog);
     }
 }
 
 TEST_F(ActivatedWindows, leave_it_to_the_one_enabled_dialog_after_an_activation_of_their_own) {
-    EnableWindow(main, FALSE);
-    EnableWindow(first, FALSE);
-    EnableWindow(second, FALSE);
-    SetActiveWindow(main);
-    EXPECT_EQ(ce::InputWindowOf(main), box);
-    EXPECT_EQ(ce::InputWindowOf(first), box);
-    EXPECT_EQ(ce::InputWindowOf(second), box);
-    EXPECT_TRUE(ce::PassActivationOn(main));
-    EXPECT_EQ(GetActiveWindow(), box);
+    EnableWindow(main_, FALSE);
+    EnableWindow(first_, FALSE);
+    EnableWindow(second_, FALSE);
+    SetActiveWindow(main_);
+    EXPECT_EQ(ce::InputWindowOf(main_), box_);
+    EXPECT_EQ(ce::InputWindowOf(first_), box_);
+    EXPECT_EQ(ce::InputWindowOf(second_), box_);
+    EXPECT_TRUE(ce::PassActivationOn(main_));
+    EXPECT_EQ(GetActiveWindow(), box_);
 }
 
 TEST_F(ActivatedWindows, leave_it_to_no_tooltip_and_no_list_that_drops_down) {
-    DestroyWindow(box);
-    EnableWindow(main, FALSE);
-    EnableWindow(first, FALSE);
-    EnableWindow(second, FALSE);
-    const HWND tip = Make(main, WS_POPUP | WS_BORDER);
+    DestroyWindow(box_);
+    EnableWindow(main_, FALSE);
+    EnableWindow(first_, FALSE);
+    EnableWindow(second_, FALSE);
+    const HWND tip = Make(main_, WS_POPUP | WS_BORDER);
     SetActiveWindow(tip);
-    EXPECT_EQ(ce::InputWindowOf(main), main);
-    EXPECT_FALSE(ce::PassActivationOn(main));
+    EXPECT_EQ(ce::InputWindowOf(main_), main_);
+    EXPECT_FALSE(ce::PassActivationOn(main_));
 }
 
 TEST_F(ActivatedWindows, are_restored_when_they_are_asked_to_the_front) {
-    ShowWindow(main, SW_MINIMIZE);
-    ce::SetForegroundWindow(main);
-    EXPECT_FALSE(IsIconic(main));
-    EXPECT_EQ(GetForegroundWindow(), main);
+    ShowWindow(main_, SW_MINIMIZE);
+    ce::SetForegroundWindow(main_);
+    EXPECT_FALSE(IsIconic(main_));
+    EXPECT_EQ(GetForegroundWindow(), main_);
 }
 
 TEST_F(ActivatedWindows, get_what_a_dialog_leaves_them_while_its_owner_stays_disabled) {
-    EnableWindow(main, FALSE);
-    EnableWindow(first, FALSE);
-    SetActiveWindow(second);
-    ce::LeaveInputTo(first, second);
-    EXPECT_TRUE(IsWindowEnabled(first));
-    EXPECT_EQ(GetWindow(second, GW_OWNER), first);
-    EXPECT_FALSE(IsWindowEnabled(main));
+    EnableWindow(main_, FALSE);
+    EnableWindow(first_, FALSE);
+    SetActiveWindow(second_);
+    ce::LeaveInputTo(first_, second_);
+    EXPECT_TRUE(IsWindowEnabled(first_));
+    EXPECT_EQ(GetWindow(second_, GW_OWNER), first_);
+    EXPECT_FALSE(IsWindowEnabled(main_));
 }

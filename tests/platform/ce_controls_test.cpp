@@ -13,46 +13,46 @@ class Controls : public testing::Test {
     Controls() {
         INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_UPDOWN_CLASS};
         InitCommonControlsEx(&classes);
-        parent =
+        parent_ =
             CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
     }
-    ~Controls() override { DestroyWindow(parent); }
+    ~Controls() override { DestroyWindow(parent_); }
 
     HWND Child(const wchar_t* className, DWORD style) {
-        return CreateWindowExW(0, className, L"", WS_CHILD | style, 0, 0, 80, 100, parent, nullptr, nullptr,
+        return CreateWindowExW(0, className, L"", WS_CHILD | style, 0, 0, 80, 100, parent_, nullptr, nullptr,
                                nullptr);
     }
 
   private:
-    HWND parent;
+    HWND parent_;
 };
 
 class SpinPosition : public Controls {
   protected:
-    SpinPosition() : edit(Child(L"EDIT", 0)), spin(Child(UPDOWN_CLASSW, UDS_SETBUDDYINT | UDS_ALIGNRIGHT)) {
-        SendMessageW(spin, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit), 0);
-        SendMessageW(spin, UDM_SETRANGE, 0, MAKELPARAM(999, 1));
-        SendMessageW(spin, UDM_SETPOS, 0, 7);
+    SpinPosition() : edit_(Child(L"EDIT", 0)), spin_(Child(UPDOWN_CLASSW, UDS_SETBUDDYINT | UDS_ALIGNRIGHT)) {
+        SendMessageW(spin_, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit_), 0);
+        SendMessageW(spin_, UDM_SETRANGE, 0, MAKELPARAM(999, 1));
+        SendMessageW(spin_, UDM_SETPOS, 0, 7);
     }
     DWORD PositionOf(const wchar_t* text) {
-        SetWindowTextW(edit, text);
-        return ce::SpinPosition(spin);
+        SetWindowTextW(edit_, text);
+        return ce::SpinPosition(spin_);
     }
 
-    HWND edit;
-    HWND spin;
+    HWND edit_;
+    HWND spin_;
 };
 
 class FindComboEntry : public Controls {
   protected:
-    FindComboEntry() : combo(Child(L"COMBOBOX", CBS_DROPDOWN)) {}
+    FindComboEntry() : combo_(Child(L"COMBOBOX", CBS_DROPDOWN)) {}
 
     void Fill(std::initializer_list<const wchar_t*> entries) {
         for (const wchar_t* entry : entries)
-            SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+            SendMessageW(combo_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
     }
 
-    HWND combo;
+    HWND combo_;
 };
 
 // What a window is given as its format.
@@ -79,9 +79,9 @@ class PickerFormat : public Controls {
 }  // namespace
 
 TEST_F(SpinPosition, what_the_spin_itself_has_set_is_its_position) {
-    EXPECT_EQ(ce::SpinPosition(spin), 7U);
-    SendMessageW(spin, UDM_SETPOS, 0, 999);
-    EXPECT_EQ(ce::SpinPosition(spin), 999U);
+    EXPECT_EQ(ce::SpinPosition(spin_), 7U);
+    SendMessageW(spin_, UDM_SETPOS, 0, 999);
+    EXPECT_EQ(ce::SpinPosition(spin_), 999U);
 }
 
 TEST_F(SpinPosition, a_typed_number_is_read_as_typed) {
@@ -111,9 +111,9 @@ TEST_F(SpinPosition, a_number_beyond_16_bits_carries_the_error_word) {
 }
 
 TEST_F(SpinPosition, the_groups_of_thousands_that_the_spin_writes_are_read_back) {
-    SendMessageW(spin, UDM_SETRANGE, 0, MAKELPARAM(32767, 0));
-    SendMessageW(spin, UDM_SETPOS, 0, 12345);
-    EXPECT_EQ(ce::SpinPosition(spin), 12345U);
+    SendMessageW(spin_, UDM_SETRANGE, 0, MAKELPARAM(32767, 0));
+    SendMessageW(spin_, UDM_SETPOS, 0, 12345);
+    EXPECT_EQ(ce::SpinPosition(spin_), 12345U);
 }
 
 TEST_F(SpinPosition, a_spin_without_a_buddy_answers_for_itself) {
@@ -124,42 +124,42 @@ TEST_F(SpinPosition, a_spin_without_a_buddy_answers_for_itself) {
 }
 
 TEST_F(FindComboEntry, in_an_empty_combo_nothing_is_found) {
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"a"), CB_ERR);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"a"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L""), CB_ERR);
 }
 
 TEST_F(FindComboEntry, an_entry_that_begins_with_the_text_is_found_whatever_its_case) {
     Fill({L"x", L"abcdef", L"y"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"ABC"), 1);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abcdef"), 1);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abcdefg"), CB_ERR);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"bcd"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"ABC"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"abcdef"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"abcdefg"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"bcd"), CB_ERR);
 }
 
 TEST_F(FindComboEntry, letters_of_other_scripts_are_compared_without_case_as_well) {
     Fill({L"x", L"Äпример"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"äПРИ"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"äПРИ"), 1);
 }
 
 TEST_F(FindComboEntry, the_start_is_looked_at_last) {
     Fill({L"ab", L"ac", L"ad"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"a"), 1);
-    EXPECT_EQ(ce::FindComboEntry(combo, 2, L"a"), 0);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"ab"), 0);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"a"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 2, L"a"), 0);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"ab"), 0);
 }
 
 TEST_F(FindComboEntry, every_entry_begins_with_an_empty_text) {
     Fill({L"a"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), 0);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L""), 0);
     Fill({L"b", L"c"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L""), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L""), 1);
 }
 
 TEST_F(FindComboEntry, a_bracket_counts_as_any_other_unit) {
     Fill({L"x", L"[abc]", L"[-d-]"});
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"abc"), CB_ERR);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"d"), CB_ERR);
-    EXPECT_EQ(ce::FindComboEntry(combo, 0, L"[a"), 1);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"abc"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"d"), CB_ERR);
+    EXPECT_EQ(ce::FindComboEntry(combo_, 0, L"[a"), 1);
 }
 
 TEST_F(PickerFormat, a_year_of_three_letters_is_given_as_four) {

@@ -34,30 +34,30 @@ bool ShellKnows(const std::wstring& shortcut) {
 class TextShortcut : public testing::Test {
   protected:
     std::wstring Read(std::string_view bytes, int capacity = 260) {
-        return TargetOf(tree.AddFile(L"a.lnk", bytes), capacity);
+        return TargetOf(tree_.AddFile(L"a.lnk", bytes), capacity);
     }
-    TempTree tree;
+    TempTree tree_;
 };
 
 class LinkedShortcut : public testing::Test {
   protected:
     // Makes a shortcut with this target and reads it again.
     std::wstring RoundTrip(const std::wstring& target) {
-        EXPECT_TRUE(ce::SHCreateShortcut(shortcut.c_str(), target.c_str()));
-        return TargetOf(shortcut);
+        EXPECT_TRUE(ce::SHCreateShortcut(shortcut_.c_str(), target.c_str()));
+        return TargetOf(shortcut_);
     }
     std::string BytesOfLink() {
-        EXPECT_TRUE(ce::SHCreateShortcut(shortcut.c_str(), (file + L" one two").c_str()));
-        std::ifstream stream(shortcut.c_str(), std::ios::binary);
+        EXPECT_TRUE(ce::SHCreateShortcut(shortcut_.c_str(), (file_ + L" one two").c_str()));
+        std::ifstream stream(shortcut_.c_str(), std::ios::binary);
         std::ostringstream bytes;
         bytes << stream.rdbuf();
         return bytes.str();
     }
     static std::wstring Quoted(const std::wstring& text) { return L'"' + text + L'"'; }
 
-    TempTree tree;
-    std::wstring file = tree.AddFile(L"a.txt", "text");
-    std::wstring shortcut = tree.Path(L"s.lnk");
+    TempTree tree_;
+    std::wstring file_ = tree_.AddFile(L"a.txt", "text");
+    std::wstring shortcut_ = tree_.Path(L"s.lnk");
 };
 
 }  // namespace
@@ -124,14 +124,14 @@ TEST_F(TextShortcut, fits_the_room_or_is_none) {
 }
 
 TEST_F(TextShortcut, is_no_folder_and_no_missing_file) {
-    EXPECT_EQ(TargetOf(tree.AddFolder(L"folder.lnk")), L"(none)");
-    EXPECT_EQ(TargetOf(tree.Path(L"missing.lnk")), L"(none)");
+    EXPECT_EQ(TargetOf(tree_.AddFolder(L"folder.lnk")), L"(none)");
+    EXPECT_EQ(TargetOf(tree_.Path(L"missing.lnk")), L"(none)");
     EXPECT_EQ(TargetOf(L""), L"(none)");
-    EXPECT_EQ(TargetOf(tree.Path(std::wstring(300, L'n'))), L"(none)");
+    EXPECT_EQ(TargetOf(tree_.Path(std::wstring(300, L'n'))), L"(none)");
 }
 
 TEST_F(TextShortcut, writes_nothing_where_there_is_no_room) {
-    const std::wstring path = tree.AddFile(L"a.lnk", "6#\\a.txt");
+    const std::wstring path = tree_.AddFile(L"a.lnk", "6#\\a.txt");
     wchar_t unit = L'#';
     EXPECT_FALSE(ce::SHGetShortcutTarget(path.c_str(), &unit, 0));
     EXPECT_EQ(unit, L'#');
@@ -140,28 +140,28 @@ TEST_F(TextShortcut, writes_nothing_where_there_is_no_room) {
 }
 
 TEST_F(LinkedShortcut, gives_back_the_target_that_it_was_made_with) {
-    EXPECT_EQ(RoundTrip(file), file);
-    EXPECT_EQ(RoundTrip(file + L" one two"), file + L" one two");
-    const std::wstring spaced = tree.AddFile(L"a b.txt");
+    EXPECT_EQ(RoundTrip(file_), file_);
+    EXPECT_EQ(RoundTrip(file_ + L" one two"), file_ + L" one two");
+    const std::wstring spaced = tree_.AddFile(L"a b.txt");
     EXPECT_EQ(RoundTrip(Quoted(spaced)), Quoted(spaced));
     EXPECT_EQ(RoundTrip(Quoted(spaced) + L" /o \"x y\""), Quoted(spaced) + L" /o \"x y\"");
-    const std::wstring japanese = tree.AddFile(L"日報.txt");
+    const std::wstring japanese = tree_.AddFile(L"日報.txt");
     EXPECT_EQ(RoundTrip(japanese), japanese);
 }
 
 TEST_F(LinkedShortcut, may_point_to_a_folder_to_a_shortcut_and_to_nothing) {
-    const std::wstring folder = tree.AddFolder(L"folder");
+    const std::wstring folder = tree_.AddFolder(L"folder");
     EXPECT_EQ(RoundTrip(folder), folder);
-    const std::wstring missing = tree.Path(L"missing.txt");
+    const std::wstring missing = tree_.Path(L"missing.txt");
     EXPECT_EQ(RoundTrip(missing), missing);
-    const std::wstring second = tree.Path(L"second.lnk");
-    ASSERT_TRUE(ce::SHCreateShortcut(second.c_str(), shortcut.c_str()));
-    EXPECT_EQ(TargetOf(second), shortcut);
+    const std::wstring second = tree_.Path(L"second.lnk");
+    ASSERT_TRUE(ce::SHCreateShortcut(second.c_str(), shortcut_.c_str()));
+    EXPECT_EQ(TargetOf(second), shortcut_);
 }
 
 TEST_F(LinkedShortcut, is_made_over_one_that_is_there) {
-    EXPECT_EQ(RoundTrip(file), file);
-    const std::wstring other = tree.AddFile(L"b.txt");
+    EXPECT_EQ(RoundTrip(file_), file_);
+    const std::wstring other = tree_.AddFile(L"b.txt");
     EXPECT_EQ(RoundTrip(other), other);
 }
 
@@ -173,18 +173,18 @@ TEST_F(LinkedShortcut, has_a_drive_even_where_the_target_has_none) {
 
 TEST_F(LinkedShortcut, is_not_made_without_a_target_nor_where_there_is_no_folder) {
     for (const wchar_t* target : {L"", L"\"\"", L"\"\" one", L" one"}) {
-        EXPECT_FALSE(ce::SHCreateShortcut(shortcut.c_str(), target)) << testing::PrintToString(target);
-        EXPECT_EQ(GetFileAttributesW(shortcut.c_str()), INVALID_FILE_ATTRIBUTES);
+        EXPECT_FALSE(ce::SHCreateShortcut(shortcut_.c_str(), target)) << testing::PrintToString(target);
+        EXPECT_EQ(GetFileAttributesW(shortcut_.c_str()), INVALID_FILE_ATTRIBUTES);
     }
-    EXPECT_FALSE(ce::SHCreateShortcut(shortcut.c_str(), (L"\\" + std::wstring(300, L'n')).c_str()));
-    EXPECT_FALSE(ce::SHCreateShortcut(tree.Path(L"missing\\s.lnk").c_str(), file.c_str()));
+    EXPECT_FALSE(ce::SHCreateShortcut(shortcut_.c_str(), (L"\\" + std::wstring(300, L'n')).c_str()));
+    EXPECT_FALSE(ce::SHCreateShortcut(tree_.Path(L"missing\\s.lnk").c_str(), file_.c_str()));
 }
 
 TEST_F(LinkedShortcut, too_long_for_the_room_is_none) {
-    const std::wstring target = file + L" " + std::wstring(260, L'n');
-    ASSERT_TRUE(ce::SHCreateShortcut(shortcut.c_str(), target.c_str()));
-    EXPECT_EQ(TargetOf(shortcut), L"(none)");
-    EXPECT_EQ(TargetOf(shortcut, 1040), target);
+    const std::wstring target = file_ + L" " + std::wstring(260, L'n');
+    ASSERT_TRUE(ce::SHCreateShortcut(shortcut_.c_str(), target.c_str()));
+    EXPECT_EQ(TargetOf(shortcut_), L"(none)");
+    EXPECT_EQ(TargetOf(shortcut_, 1040), target);
 }
 
 TEST_F(LinkedShortcut, cut_off_anywhere_ends_in_silence) {
@@ -192,7 +192,7 @@ TEST_F(LinkedShortcut, cut_off_anywhere_ends_in_silence) {
     ASSERT_GT(whole.size(), 76u) << "no more than a header";
     int unread = 0;
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        const std::wstring cut = tree.AddFile(L"cut.lnk", whole.substr(0, length));
+        const std::wstring cut = tree_.AddFile(L"cut.lnk", whole.substr(0, length));
         unread += TargetOf(cut) == L"(none)" ? 1 : 0;
         EXPECT_TRUE(ShellKnows(cut));
     }
@@ -206,7 +206,7 @@ TEST_F(LinkedShortcut, with_changed_bytes_ends_in_silence) {
         std::string bytes = whole;
         for (int change = 0; change < 4; ++change)
             bytes[random() % bytes.size()] = static_cast<char>(random());
-        const std::wstring changed = tree.AddFile(L"changed.lnk", bytes);
+        const std::wstring changed = tree_.AddFile(L"changed.lnk", bytes);
         TargetOf(changed);
         EXPECT_TRUE(ShellKnows(changed));
     }

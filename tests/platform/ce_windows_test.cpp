@@ -18,15 +18,15 @@ std::wstring ClassNameOf(HWND window, int capacity) {
 class SystemWindow {
   public:
     explicit SystemWindow(const wchar_t* className)
-        : window(::CreateWindowExW(0, className, L"", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr,
-                                   GetModuleHandleW(nullptr), nullptr)) {}
-    ~SystemWindow() { DestroyWindow(window); }
+        : window_(::CreateWindowExW(0, className, L"", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr,
+                                    GetModuleHandleW(nullptr), nullptr)) {}
+    ~SystemWindow() { DestroyWindow(window_); }
     SystemWindow(const SystemWindow&) = delete;
     SystemWindow& operator=(const SystemWindow&) = delete;
-    [[nodiscard]] HWND Handle() const { return window; }
+    [[nodiscard]] HWND Handle() const { return window_; }
 
   private:
-    HWND window;
+    HWND window_;
 };
 
 TEST(ClassNames, a_dialog_s_class_reads_dialog) {
@@ -111,22 +111,22 @@ TEST(ClassRegistration, a_class_without_a_cursor_gets_the_arrow) {
 class TopLevelWindow : public testing::Test {
   protected:
     void TearDown() override {
-        if (window != nullptr) DestroyWindow(window);
+        if (window_ != nullptr) DestroyWindow(window_);
     }
     void Create(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
-        window = ce::CreateWindowExW(0, TestClass::Name, L"Title", style, x, y, width, height, parent,
-                                     nullptr, GetModuleHandleW(nullptr), nullptr);
-        ASSERT_NE(window, nullptr);
+        window_ = ce::CreateWindowExW(0, TestClass::Name, L"Title", style, x, y, width, height, parent,
+                                      nullptr, GetModuleHandleW(nullptr), nullptr);
+        ASSERT_NE(window_, nullptr);
     }
     [[nodiscard]] RECT Rectangle() const {
         RECT rectangle{};
-        GetWindowRect(window, &rectangle);
+        GetWindowRect(window_, &rectangle);
         return rectangle;
     }
-    [[nodiscard]] LONG_PTR Style() const { return GetWindowLongPtrW(window, GWL_STYLE); }
+    [[nodiscard]] LONG_PTR Style() const { return GetWindowLongPtrW(window_, GWL_STYLE); }
 
-    TestClass made{nullptr, nullptr};
-    HWND window = nullptr;
+    TestClass made_{nullptr, nullptr};
+    HWND window_ = nullptr;
 };
 
 void ExpectSame(const RECT& actual, const RECT& expected) {
@@ -149,7 +149,7 @@ TEST_F(TopLevelWindow, with_default_place_fills_the_work_area_of_a_handheld_s_sc
     ExpectSame(Rectangle(), workArea);
     EXPECT_EQ(Style() & (WS_CAPTION | WS_SYSMENU), WS_CAPTION | WS_SYSMENU);
     EXPECT_EQ(Style() & (WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX), 0);
-    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_TRUE(IsWindowVisible(window_));
 }
 
 TEST_F(TopLevelWindow, with_default_place_has_handheld_proportions_on_a_large_screen) {
@@ -158,7 +158,7 @@ TEST_F(TopLevelWindow, with_default_place_has_handheld_proportions_on_a_large_sc
     Create(0, Default, Default, Default, Default);
     EXPECT_EQ(Style() & (WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX), WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX);
     EXPECT_EQ(Style() & (WS_THICKFRAME | WS_MAXIMIZEBOX), 0);
-    EXPECT_FALSE(IsWindowVisible(window));
+    EXPECT_FALSE(IsWindowVisible(window_));
 }
 
 TEST_F(TopLevelWindow, with_a_place_of_its_own_is_made_as_asked) {

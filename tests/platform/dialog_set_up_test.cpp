@@ -14,33 +14,33 @@ constexpr DWORD OrdinaryFlags = ce::DialogDoneButton | ce::DialogSizeFullScreen;
 class DialogSetUp : public testing::Test {
   protected:
     void SetUp() override {
-        dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(DIALOG_PLAIN), nullptr,
-                                    Procedure, reinterpret_cast<LPARAM>(this));
-        ASSERT_NE(dialog, nullptr);
-        GetWindowRect(dialog, &asDesigned);
+        dialog_ = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(DIALOG_PLAIN), nullptr,
+                                     Procedure, reinterpret_cast<LPARAM>(this));
+        ASSERT_NE(dialog_, nullptr);
+        GetWindowRect(dialog_, &asDesigned_);
     }
-    void TearDown() override { DestroyWindow(dialog); }
+    void TearDown() override { DestroyWindow(dialog_); }
 
     void PretendPocketPc() {
-        screen.emplace(ce::systemCalls.getSystemMetrics,
-                       [](int index) { return index == SM_CXSCREEN ? 240 : 320; });
+        screen_.emplace(ce::systemCalls.getSystemMetrics,
+                        [](int index) { return index == SM_CXSCREEN ? 240 : 320; });
     }
     void PretendHandheldPc() {
-        screen.emplace(ce::systemCalls.getSystemMetrics,
-                       [](int index) { return index == SM_CXSCREEN ? 640 : 240; });
+        screen_.emplace(ce::systemCalls.getSystemMetrics,
+                        [](int index) { return index == SM_CXSCREEN ? 640 : 240; });
     }
     void PretendDesktop() {
-        screen.emplace(ce::systemCalls.getSystemMetrics,
-                       [](int index) { return index == SM_CXSCREEN ? 1920 : 1080; });
+        screen_.emplace(ce::systemCalls.getSystemMetrics,
+                        [](int index) { return index == SM_CXSCREEN ? 1920 : 1080; });
     }
     [[nodiscard]] BOOL Init(DWORD flags, DWORD mask = 1) const {
-        const ce::DialogInitInfo info{mask, dialog, flags};
+        const ce::DialogInitInfo info{mask, dialog_, flags};
         return ce::SHInitDialog(&info);
     }
     [[nodiscard]] HWND MakeBar() const {
         ce::MenuBarInfo info{};
         info.cbSize = sizeof(info);
-        info.hwndParent = dialog;
+        info.hwndParent = dialog_;
         info.nToolBarId = BAR_EMPTY;
         info.hInstRes = GetModuleHandleW(nullptr);
         info.nBmpId = BAR_PICTURES;
@@ -49,7 +49,7 @@ class DialogSetUp : public testing::Test {
     }
     [[nodiscard]] RECT Rectangle() const {
         RECT rectangle{};
-        GetWindowRect(dialog, &rectangle);
+        GetWindowRect(dialog_, &rectangle);
         return rectangle;
     }
     static void ExpectSame(const RECT& actual, const RECT& expected) {
@@ -60,10 +60,10 @@ class DialogSetUp : public testing::Test {
     }
     void ExpectBarAtBottom(HWND bar) const {
         RECT client{};
-        GetClientRect(dialog, &client);
+        GetClientRect(dialog_, &client);
         RECT rectangle{};
         GetWindowRect(bar, &rectangle);
-        MapWindowPoints(HWND_DESKTOP, dialog, reinterpret_cast<POINT*>(&rectangle), 2);
+        MapWindowPoints(HWND_DESKTOP, dialog_, reinterpret_cast<POINT*>(&rectangle), 2);
         ExpectSame(rectangle, RECT{0, client.bottom - 26, client.right, client.bottom});
     }
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -71,14 +71,14 @@ class DialogSetUp : public testing::Test {
         auto* self = reinterpret_cast<DialogSetUp*>(GetWindowLongPtrW(window, DWLP_USER));
         // The edits' own notifications carry their handles.
         const bool fromBar = LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL;
-        if (message == WM_COMMAND && fromBar && self != nullptr) self->commands.push_back({wParam, lParam});
+        if (message == WM_COMMAND && fromBar && self != nullptr) self->commands_.push_back({wParam, lParam});
         return FALSE;
     }
 
-    std::optional<Replaced<int (*)(int)>> screen;
-    HWND dialog = nullptr;
-    RECT asDesigned{};
-    std::vector<TestParent::Command> commands;
+    std::optional<Replaced<int (*)(int)>> screen_;
+    HWND dialog_ = nullptr;
+    RECT asDesigned_{};
+    std::vector<TestParent::Command> commands_;
 };
 
 TEST_F(DialogSetUp, a_full_screen_dialog_covers_a_pocket_pc_s_screen) {
@@ -90,25 +90,25 @@ TEST_F(DialogSetUp, a_full_screen_dialog_covers_a_pocket_pc_s_screen) {
 TEST_F(DialogSetUp, a_full_screen_dialog_keeps_its_asDesigneds_size_on_a_handheld_pc) {
     PretendHandheldPc();
     EXPECT_TRUE(Init(OrdinaryFlags));
-    ExpectSame(Rectangle(), asDesigned);
+    ExpectSame(Rectangle(), asDesigned_);
 }
 
 TEST_F(DialogSetUp, a_full_screen_dialog_keeps_its_asDesigneds_size_on_a_desktop) {
     PretendDesktop();
     EXPECT_TRUE(Init(OrdinaryFlags));
-    ExpectSame(Rectangle(), asDesigned);
+    ExpectSame(Rectangle(), asDesigned_);
 }
 
 TEST_F(DialogSetUp, a_dialog_that_only_lowers_the_input_panel_keeps_its_size_everywhere) {
     PretendPocketPc();
     EXPECT_TRUE(Init(ce::DialogLowerInputPanel));
-    ExpectSame(Rectangle(), asDesigned);
+    ExpectSame(Rectangle(), asDesigned_);
 }
 
 TEST_F(DialogSetUp, flags_that_are_not_marked_valid_and_no_dialog_are_refused) {
     PretendPocketPc();
     EXPECT_FALSE(Init(OrdinaryFlags, 0));
-    ExpectSame(Rectangle(), asDesigned);
+    ExpectSame(Rectangle(), asDesigned_);
     const ce::DialogInitInfo nobody{1, nullptr, OrdinaryFlags};
     EXPECT_FALSE(ce::SHInitDialog(&nobody));
     EXPECT_FALSE(ce::SHInitDialog(nullptr));
@@ -128,7 +128,8 @@ TEST_F(DialogSetUp, the_bar_of_a_smaller_dialog_gets_26_more_pixels_at_the_botto
     ASSERT_TRUE(Init(OrdinaryFlags));
     const HWND bar = MakeBar();
     ASSERT_NE(bar, nullptr);
-    ExpectSame(Rectangle(), RECT{asDesigned.left, asDesigned.top, asDesigned.right, asDesigned.bottom + 26});
+    ExpectSame(Rectangle(),
+               RECT{asDesigned_.left, asDesigned_.top, asDesigned_.right, asDesigned_.bottom + 26});
     ExpectBarAtBottom(bar);
 }
 
@@ -136,21 +137,21 @@ TEST_F(DialogSetUp, a_bar_that_cannot_be_made_leaves_the_dialog_as_it_is) {
     PretendHandheldPc();
     ce::MenuBarInfo info{};
     info.cbSize = sizeof(info);
-    info.hwndParent = dialog;
+    info.hwndParent = dialog_;
     info.nToolBarId = BAR_MISSING;
     info.hInstRes = GetModuleHandleW(nullptr);
     EXPECT_FALSE(ce::SHCreateMenuBar(&info));
-    ExpectSame(Rectangle(), asDesigned);
+    ExpectSame(Rectangle(), asDesigned_);
 }
 
 TEST_F(DialogSetUp, tab_goes_round_the_controls_and_never_into_the_bar) {
     const HWND bar = MakeBar();
     ASSERT_NE(bar, nullptr);
-    const HWND first = GetDlgItem(dialog, EDIT_FIRST);
-    const HWND second = GetDlgItem(dialog, EDIT_SECOND);
-    EXPECT_EQ(GetNextDlgTabItem(dialog, first, FALSE), second);
-    EXPECT_EQ(GetNextDlgTabItem(dialog, second, FALSE), first);
-    EXPECT_EQ(GetNextDlgGroupItem(dialog, second, FALSE), first) << "arrow keys";
+    const HWND first = GetDlgItem(dialog_, EDIT_FIRST);
+    const HWND second = GetDlgItem(dialog_, EDIT_SECOND);
+    EXPECT_EQ(GetNextDlgTabItem(dialog_, first, FALSE), second);
+    EXPECT_EQ(GetNextDlgTabItem(dialog_, second, FALSE), first);
+    EXPECT_EQ(GetNextDlgGroupItem(dialog_, second, FALSE), first) << "arrow keys";
 }
 
 TEST_F(DialogSetUp, the_bar_s_buttons_end_at_the_dialog_as_commands_without_a_control) {
@@ -162,11 +163,11 @@ TEST_F(DialogSetUp, the_bar_s_buttons_end_at_the_dialog_as_commands_without_a_co
         buttons[index].fsState = TBSTATE_ENABLED;
     }
     ASSERT_TRUE(SendMessageW(bar, TB_ADDBUTTONSW, 2, reinterpret_cast<LPARAM>(buttons)));
-    EXPECT_EQ(GetDlgItem(dialog, IDCANCEL), nullptr);
+    EXPECT_EQ(GetDlgItem(dialog_, IDCANCEL), nullptr);
     Click(bar, IDCANCEL);
     Click(bar, IDOK);
-    ASSERT_TRUE(PumpUntil([&] { return commands.size() == 2; }));
-    EXPECT_EQ(commands, (std::vector<TestParent::Command>{{IDCANCEL, 0}, {IDOK, 0}}));
+    ASSERT_TRUE(PumpUntil([&] { return commands_.size() == 2; }));
+    EXPECT_EQ(commands_, (std::vector<TestParent::Command>{{IDCANCEL, 0}, {IDOK, 0}}));
 }
 
 }  // namespace

@@ -33,19 +33,19 @@ LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 class DroppedCalendar : public testing::Test {
   protected:
-    DroppedCalendar() : size(ce::systemCalls.getSystemMetrics, MetricsOfScreen) {
+    DroppedCalendar() : size_(ce::systemCalls.getSystemMetrics, MetricsOfScreen) {
         const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_DATE_CLASSES};
         InitCommonControlsEx(&classes);
-        parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 640, 480, nullptr, nullptr,
-                                 nullptr, nullptr);
-        SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ParentProcedure));
+        parent_ = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 640, 480, nullptr, nullptr,
+                                  nullptr, nullptr);
+        SetWindowLongPtrW(parent_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ParentProcedure));
     }
-    ~DroppedCalendar() override { DestroyWindow(parent); }
+    ~DroppedCalendar() override { DestroyWindow(parent_); }
 
     // Where the calendar lies that a picker at this place drops.
     RECT PlaceOfCalendar(int left, int top) {
         const HWND picker = CreateWindowExW(0, DATETIMEPICK_CLASSW, L"", WS_CHILD | WS_VISIBLE, left, top,
-                                            110, 20, parent, nullptr, nullptr, nullptr);
+                                            110, 20, parent_, nullptr, nullptr, nullptr);
         ce::DroppedCalendar calendar;
         Opening dropped = {&calendar, {}};
         opening = &dropped;
@@ -57,8 +57,8 @@ class DroppedCalendar : public testing::Test {
     }
 
   private:
-    Replaced<int (*)(int)> size;
-    HWND parent;
+    Replaced<int (*)(int)> size_;
+    HWND parent_;
 };
 
 }  // namespace

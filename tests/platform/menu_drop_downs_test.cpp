@@ -10,25 +10,25 @@ constexpr LPARAM AltDown = 1L << 29;
 class MenuDropDowns : public testing::Test {
   protected:
     void SetUp() override {
-        bar = parent.MakeBar(BAR_ENGLISH);
-        ASSERT_NE(bar, nullptr);
+        bar_ = parent_.MakeBar(BAR_ENGLISH);
+        ASSERT_NE(bar_, nullptr);
         PumpAll();
     }
 
     [[nodiscard]] HMENU SubMenu(int command) const {
-        return reinterpret_cast<HMENU>(SendMessageW(bar, ce::MenuBarGetSubMenu, 0, command));
+        return reinterpret_cast<HMENU>(SendMessageW(bar_, ce::MenuBarGetSubMenu, 0, command));
     }
     // Pumps until a menu was open and has been closed again by what the steps did.
     [[nodiscard]] bool WaitForMenu(const MenuDriver& driver) const {
         return PumpUntil([&] { return driver.AllTaken() && !MenuIsOpen(); }) && !driver.HadToClose();
     }
-    void Key(WPARAM key) const { PressKey(parent.Handle(), key); }
+    void Key(WPARAM key) const { PressKey(parent_.Handle(), key); }
 
     using Menus = std::vector<HMENU>;
     using Commands = std::vector<TestParent::Command>;
 
-    TestParent parent{240, 200};
-    HWND bar = nullptr;
+    TestParent parent_{240, 200};
+    HWND bar_ = nullptr;
 };
 
 // With the pointer at rest away from the bar: moves of an earlier test may still be on their way.
@@ -52,9 +52,9 @@ class MenuDropDownsByPointer : public MenuDropDowns {
     }
 
     [[nodiscard]] POINT OnScreen(int command) const {
-        const LPARAM middle = MiddleOf(bar, command);
+        const LPARAM middle = MiddleOf(bar_, command);
         POINT point{static_cast<short>(LOWORD(middle)), static_cast<short>(HIWORD(middle))};
-        ClientToScreen(ToolBarOf(bar), &point);
+        ClientToScreen(ToolBarOf(bar_), &point);
         return point;
     }
     void MovePointerTo(int command) const {
@@ -70,12 +70,12 @@ class MenuDropDownsByPointer : public MenuDropDowns {
 
 TEST_F(MenuDropDowns, a_click_opens_the_menu_and_the_picked_item_reaches_the_parent_as_a_menu_command) {
     MenuDriver driver({[&] { Key(VK_DOWN); }, [&] { Key(VK_DOWN); }, [&] { Key(VK_RETURN); }});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
     EXPECT_FALSE(driver.HadToClose());
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_FILE)});
-    ASSERT_TRUE(PumpUntil([&] { return !parent.commands.empty(); }));
-    EXPECT_EQ(parent.commands, (Commands{{ITEM_DELETE, 0}}));
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_FILE)});
+    ASSERT_TRUE(PumpUntil([&] { return !parent_.commands.empty(); }));
+    EXPECT_EQ(parent_.commands, (Commands{{ITEM_DELETE, 0}}));
 }
 
 TEST_F(MenuDropDowns, the_menu_lies_above_the_bar_at_its_button) {
@@ -83,80 +83,80 @@ TEST_F(MenuDropDowns, the_menu_lies_above_the_bar_at_its_button) {
     bool pressed = false;
     MenuDriver driver({[&] {
         GetWindowRect(FindWindowW(L"#32768", nullptr), &menu);
-        pressed = SendMessageW(bar, TB_ISBUTTONPRESSED, BUTTON_VIEW, 0) != 0;
+        pressed = SendMessageW(bar_, TB_ISBUTTONPRESSED, BUTTON_VIEW, 0) != 0;
         Key(VK_ESCAPE);
     }});
     RECT barRectangle{};
-    GetWindowRect(bar, &barRectangle);
-    Click(bar, BUTTON_VIEW);
+    GetWindowRect(bar_, &barRectangle);
+    Click(bar_, BUTTON_VIEW);
     ASSERT_TRUE(WaitForMenu(driver));
-    RECT button = ButtonRectangle(bar, BUTTON_VIEW);
-    MapWindowPoints(ToolBarOf(bar), HWND_DESKTOP, reinterpret_cast<POINT*>(&button), 2);
+    RECT button = ButtonRectangle(bar_, BUTTON_VIEW);
+    MapWindowPoints(ToolBarOf(bar_), HWND_DESKTOP, reinterpret_cast<POINT*>(&button), 2);
     EXPECT_LT(menu.top, menu.bottom);
     EXPECT_LE(menu.bottom, button.top);
     EXPECT_GE(menu.bottom, barRectangle.top - 1);
     EXPECT_EQ(menu.left, button.left);
     EXPECT_TRUE(pressed) << "the button is down while its menu is open";
-    EXPECT_EQ(SendMessageW(bar, TB_ISBUTTONPRESSED, BUTTON_VIEW, 0), 0);
+    EXPECT_EQ(SendMessageW(bar_, TB_ISBUTTONPRESSED, BUTTON_VIEW, 0), 0);
 }
 
 TEST_F(MenuDropDowns, escape_closes_the_menu_without_a_command) {
     MenuDriver driver({[&] { Key(VK_ESCAPE); }});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
     PumpAll();
     EXPECT_FALSE(driver.HadToClose());
-    EXPECT_TRUE(parent.commands.empty());
+    EXPECT_TRUE(parent_.commands.empty());
 }
 
 TEST_F(MenuDropDowns, a_greyed_item_sends_no_command) {
     EnableMenuItem(SubMenu(BUTTON_OPTION), ITEM_CASE, MF_BYCOMMAND | MF_GRAYED);
     MenuDriver driver({[&] { Key(VK_DOWN); }, [&] { Key(VK_RETURN); }, [&] { Key(VK_ESCAPE); }});
-    Click(bar, BUTTON_OPTION);
-    PumpUntil([&] { return !parent.menusOpened.empty() && !MenuIsOpen(); });
+    Click(bar_, BUTTON_OPTION);
+    PumpUntil([&] { return !parent_.menusOpened.empty() && !MenuIsOpen(); });
     PumpAll();
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
-    EXPECT_TRUE(parent.commands.empty());
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
+    EXPECT_TRUE(parent_.commands.empty());
 }
 
 TEST_F(MenuDropDowns, alt_with_the_marked_letter_opens_the_menu_wherever_the_focus_is) {
     const HWND edit = ::CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20,
-                                        parent.Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
+                                        parent_.Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
     SetFocus(edit);
     PumpAll();
-    parent.commands.clear();  // the edit tells of its focus
+    parent_.commands.clear();  // the edit tells of its focus
     MenuDriver driver({[&] { Key(VK_RETURN); }});
     PostMessageW(edit, WM_SYSCHAR, L'v', AltDown);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_VIEW)});
-    ASSERT_TRUE(PumpUntil([&] { return !parent.commands.empty(); }))
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_VIEW)});
+    ASSERT_TRUE(PumpUntil([&] { return !parent_.commands.empty(); }))
         << "the keyboard starts at the first item";
-    EXPECT_EQ(parent.commands, (Commands{{ITEM_LARGE, 0}}));
+    EXPECT_EQ(parent_.commands, (Commands{{ITEM_LARGE, 0}}));
 }
 
 TEST_F(MenuDropDowns, alt_with_the_first_letter_opens_a_menu_that_marks_none) {
     MenuDriver driver({[&] { Key(VK_ESCAPE); }});
-    PostMessageW(parent.Handle(), WM_SYSCHAR, L'O', AltDown);
+    PostMessageW(parent_.Handle(), WM_SYSCHAR, L'O', AltDown);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
 }
 
 TEST_F(MenuDropDowns, alt_with_another_letter_is_left_to_the_system) {
-    PostMessageW(parent.Handle(), WM_SYSCHAR, L'x', AltDown);
-    ASSERT_TRUE(PumpUntil([&] { return !parent.systemCommands.empty(); }));
-    EXPECT_EQ(parent.systemCommands, std::vector<UINT>{SC_KEYMENU});
-    EXPECT_TRUE(parent.menusOpened.empty());
+    PostMessageW(parent_.Handle(), WM_SYSCHAR, L'x', AltDown);
+    ASSERT_TRUE(PumpUntil([&] { return !parent_.systemCommands.empty(); }));
+    EXPECT_EQ(parent_.systemCommands, std::vector<UINT>{SC_KEYMENU});
+    EXPECT_TRUE(parent_.menusOpened.empty());
 }
 
 TEST_F(MenuDropDowns, f10_opens_the_first_menu_from_a_child_too) {
     const HWND edit = ::CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20,
-                                        parent.Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
+                                        parent_.Handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
     SetFocus(edit);
     MenuDriver driver({[&] { Key(VK_ESCAPE); }});
     keybd_event(VK_F10, 0, 0, 0);
     keybd_event(VK_F10, 0, KEYEVENTF_KEYUP, 0);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_FILE)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_FILE)});
 }
 
 TEST_F(MenuDropDowns, alt_alone_opens_the_first_menu) {
@@ -164,42 +164,42 @@ TEST_F(MenuDropDowns, alt_alone_opens_the_first_menu) {
     keybd_event(VK_MENU, 0, 0, 0);
     keybd_event(VK_MENU, 0, KEYEVENTF_KEYUP, 0);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_FILE)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_FILE)});
 }
 
 TEST_F(MenuDropDowns, right_goes_from_menu_to_menu_and_from_the_last_to_the_first) {
     MenuDriver driver(
         {[&] { Key(VK_RIGHT); }, [&] { Key(VK_RIGHT); }, [&] { Key(VK_RIGHT); }, [&] { Key(VK_ESCAPE); }});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_VIEW), SubMenu(BUTTON_OPTION),
-                                         SubMenu(BUTTON_FILE)}));
+    EXPECT_EQ(parent_.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_VIEW), SubMenu(BUTTON_OPTION),
+                                          SubMenu(BUTTON_FILE)}));
 }
 
 TEST_F(MenuDropDowns, left_goes_from_the_first_menu_to_the_last_and_marks_its_first_item) {
     MenuDriver driver({[&] { Key(VK_LEFT); }, [&] { Key(VK_RETURN); }});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_OPTION)}));
-    ASSERT_TRUE(PumpUntil([&] { return !parent.commands.empty(); }));
-    EXPECT_EQ(parent.commands, (Commands{{ITEM_CASE, 0}}));
+    EXPECT_EQ(parent_.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_OPTION)}));
+    ASSERT_TRUE(PumpUntil([&] { return !parent_.commands.empty(); }));
+    EXPECT_EQ(parent_.commands, (Commands{{ITEM_CASE, 0}}));
 }
 
 TEST_F(MenuDropDownsByPointer, the_pointer_over_another_button_opens_its_menu) {
     MenuDriver driver({[&] { MovePointerTo(BUTTON_OPTION); },
-                       {[&] { Key(VK_ESCAPE); }, [&] { return parent.menusOpened.size() == 2; }}});
-    Click(bar, BUTTON_FILE);
+                       {[&] { Key(VK_ESCAPE); }, [&] { return parent_.menusOpened.size() == 2; }}});
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_OPTION)}));
+    EXPECT_EQ(parent_.menusOpened, (Menus{SubMenu(BUTTON_FILE), SubMenu(BUTTON_OPTION)}));
 }
 
 TEST_F(MenuDropDownsByPointer, a_second_click_on_the_button_closes_its_menu) {
     MenuDriver driver({[&] { MovePointerTo(BUTTON_FILE); }, [] {}, [] { PressMouse(); }});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
     PumpForAWhile();
     EXPECT_FALSE(driver.HadToClose());
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_FILE)}) << "and does not open it again";
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_FILE)}) << "and does not open it again";
 }
 
 TEST_F(MenuDropDownsByPointer,
@@ -214,55 +214,55 @@ TEST_F(MenuDropDownsByPointer,
     PressMouse();
     ASSERT_TRUE(WaitForMenu(driver));
     EXPECT_TRUE(openStill);
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_FILE)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_FILE)});
 }
 
 TEST_F(MenuDropDownsByPointer, nothing_opens_while_the_parent_is_disabled) {
-    EnableWindow(parent.Handle(), FALSE);
+    EnableWindow(parent_.Handle(), FALSE);
     MenuDriver driver({});
-    SendMessageW(parent.Handle(), WM_SYSCOMMAND, SC_KEYMENU, 0);
-    PostMessageW(parent.Handle(), WM_SYSCHAR, L'v', AltDown);
+    SendMessageW(parent_.Handle(), WM_SYSCOMMAND, SC_KEYMENU, 0);
+    PostMessageW(parent_.Handle(), WM_SYSCHAR, L'v', AltDown);
     RestPointerAt(OnScreen(BUTTON_FILE));
     PressMouse();
     PumpForAWhile();
-    EXPECT_TRUE(parent.menusOpened.empty());
-    EnableWindow(parent.Handle(), TRUE);
+    EXPECT_TRUE(parent_.menusOpened.empty());
+    EnableWindow(parent_.Handle(), TRUE);
 }
 
 TEST_F(MenuDropDowns, a_drop_down_that_was_asked_for_before_the_parent_was_disabled_stays_closed) {
     MenuDriver driver({});
-    Click(bar, BUTTON_FILE);
+    Click(bar_, BUTTON_FILE);
     MSG message;
-    ASSERT_TRUE(PeekMessageW(&message, ToolBarOf(bar), WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));
+    ASSERT_TRUE(PeekMessageW(&message, ToolBarOf(bar_), WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE));
     DispatchMessageW(&message);
-    EnableWindow(parent.Handle(), FALSE);
+    EnableWindow(parent_.Handle(), FALSE);
     PumpForAWhile();
-    EXPECT_TRUE(parent.menusOpened.empty());
-    EnableWindow(parent.Handle(), TRUE);
+    EXPECT_TRUE(parent_.menusOpened.empty());
+    EnableWindow(parent_.Handle(), TRUE);
 }
 
 TEST_F(MenuDropDowns, a_bar_destroyed_under_its_open_menu_closes_it_and_is_not_touched_again) {
-    MenuDriver driver({[&] { DestroyWindow(bar); }});
-    Click(bar, BUTTON_FILE);
+    MenuDriver driver({[&] { DestroyWindow(bar_); }});
+    Click(bar_, BUTTON_FILE);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_FALSE(IsWindow(bar));
-    EXPECT_TRUE(IsWindow(parent.Handle()));
+    EXPECT_FALSE(IsWindow(bar_));
+    EXPECT_TRUE(IsWindow(parent_.Handle()));
     // The next bar works as the first one did.
-    bar = parent.MakeBar(BAR_ENGLISH);
-    parent.menusOpened.clear();
+    bar_ = parent_.MakeBar(BAR_ENGLISH);
+    parent_.menusOpened.clear();
     MenuDriver again({[&] { Key(VK_ESCAPE); }});
-    Click(bar, BUTTON_VIEW);
+    Click(bar_, BUTTON_VIEW);
     ASSERT_TRUE(WaitForMenu(again));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_VIEW)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_VIEW)});
 }
 
 TEST_F(MenuDropDowns, the_marked_letter_of_a_japanese_menu_opens_it) {
-    DestroyWindow(bar);
-    bar = parent.MakeBar(BAR_JAPANESE);
+    DestroyWindow(bar_);
+    bar_ = parent_.MakeBar(BAR_JAPANESE);
     MenuDriver driver({[&] { Key(VK_ESCAPE); }});
-    PostMessageW(parent.Handle(), WM_SYSCHAR, L'o', AltDown);
+    PostMessageW(parent_.Handle(), WM_SYSCHAR, L'o', AltDown);
     ASSERT_TRUE(WaitForMenu(driver));
-    EXPECT_EQ(parent.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
+    EXPECT_EQ(parent_.menusOpened, Menus{SubMenu(BUTTON_OPTION)});
 }
 
 }  // namespace

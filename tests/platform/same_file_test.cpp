@@ -7,15 +7,15 @@
 class SameFile : public testing::Test {
   protected:
     SameFile() {
-        tree.AddFile(L"a\\f", "1");
-        tree.AddFile(L"a\\g", "1");
-        tree.AddFile(L"b\\f", "1");
+        tree_.AddFile(L"a\\f", "1");
+        tree_.AddFile(L"a\\g", "1");
+        tree_.AddFile(L"b\\f", "1");
     }
     [[nodiscard]] bool Same(const wchar_t* first, const wchar_t* second) const {
-        return IsSameFile(tree.Path(first).c_str(), tree.Path(second).c_str());
+        return IsSameFile(tree_.Path(first).c_str(), tree_.Path(second).c_str());
     }
 
-    TempTree tree;
+    TempTree tree_;
 };
 
 TEST_F(SameFile, is_what_two_spellings_lead_to) {
@@ -27,7 +27,7 @@ TEST_F(SameFile, is_what_two_spellings_lead_to) {
 }
 
 TEST_F(SameFile, is_what_a_link_leads_to) {
-    if (!tree.AddFolderLink(L"link", L"a")) GTEST_SKIP() << "the system makes no links";
+    if (!tree_.AddFolderLink(L"link", L"a")) GTEST_SKIP() << "the system makes no links";
     EXPECT_TRUE(Same(L"link\\f", L"a\\f"));
     EXPECT_FALSE(Same(L"link\\f", L"b\\f"));
 }

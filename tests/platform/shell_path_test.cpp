@@ -33,8 +33,8 @@ std::wstring LongPathIn(TempTree& tree, int units, const std::wstring& extension
 class ShellFiles : public testing::Test {
   protected:
     ShellFiles() {
-        types.Add(L".qzz", L"qzz.kind");
-        types.Add(L"qzz.kind", L"Kind of qzz");
+        types_.Add(L".qzz", L"qzz.kind");
+        types_.Add(L"qzz.kind", L"Kind of qzz");
     }
     static SHFILEINFOW Info(const std::wstring& path) {
         SHFILEINFOW info = {};
@@ -46,8 +46,8 @@ class ShellFiles : public testing::Test {
     static std::wstring TypeOf(const std::wstring& path) { return Info(path).szTypeName; }
     static std::wstring NameOf(const std::wstring& path) { return Info(path).szDisplayName; }
 
-    RegisteredTypes types;
-    TempTree tree;
+    RegisteredTypes types_;
+    TempTree tree_;
 };
 
 }  // namespace
@@ -95,44 +95,44 @@ TEST(ShellPath, of_an_address_is_not_looked_at) {
 
 TEST_F(ShellFiles, whose_names_end_in_a_dot_or_a_blank_are_not_taken_for_others) {
     for (const wchar_t* beside : {L"a.qzz", L"a", L"a.exe"})
-        tree.AddFile(beside, "another");
-    const std::wstring typeOfPlain = TypeOf(tree.AddFile(L"plain"));
+        tree_.AddFile(beside, "another");
+    const std::wstring typeOfPlain = TypeOf(tree_.AddFile(L"plain"));
     for (const wchar_t* name : {L"a.qzz.", L"a.qzz ", L"a.", L"a ", L"a.exe."}) {
-        const std::wstring path = tree.AddFile(name);
+        const std::wstring path = tree_.AddFile(name);
         EXPECT_EQ(NameOf(path), name);
         EXPECT_EQ(TypeOf(path), typeOfPlain) << testing::PrintToString(std::wstring(name));
     }
 }
 
 TEST_F(ShellFiles, that_are_missing_are_not_answered_by_others) {
-    tree.AddFile(L"a.qzz", "another");
+    tree_.AddFile(L"a.qzz", "another");
     SHFILEINFOW info = {};
-    EXPECT_EQ(ce::SHGetFileInfo(tree.Path(L"a.qzz.").c_str(), 0, &info, sizeof info, SHGFI_TYPENAME), 0U);
-    EXPECT_EQ(ce::SHGetFileInfo(tree.Path(L"a.qzz ").c_str(), 0, &info, sizeof info, SHGFI_TYPENAME), 0U);
+    EXPECT_EQ(ce::SHGetFileInfo(tree_.Path(L"a.qzz.").c_str(), 0, &info, sizeof info, SHGFI_TYPENAME), 0U);
+    EXPECT_EQ(ce::SHGetFileInfo(tree_.Path(L"a.qzz ").c_str(), 0, &info, sizeof info, SHGFI_TYPENAME), 0U);
     EXPECT_STREQ(info.szTypeName, L"");
 }
 
 TEST_F(ShellFiles, with_names_of_devices_are_files_of_their_extension) {
-    const std::wstring path = tree.AddFile(L"aux.qzz");
+    const std::wstring path = tree_.AddFile(L"aux.qzz");
     EXPECT_EQ(TypeOf(path), L"Kind of qzz");
     EXPECT_EQ(NameOf(path), L"aux.qzz");
-    EXPECT_EQ(TypeOf(tree.AddFile(L"con")), TypeOf(tree.AddFile(L"plain")));
+    EXPECT_EQ(TypeOf(tree_.AddFile(L"con")), TypeOf(tree_.AddFile(L"plain")));
 }
 
 TEST_F(ShellFiles, in_folders_whose_names_end_in_a_dot_have_their_own_name_and_type) {
-    tree.AddFile(L"f\\in.qzz");
-    const std::wstring path = tree.AddFile(L"f.\\in.qzz");
+    tree_.AddFile(L"f\\in.qzz");
+    const std::wstring path = tree_.AddFile(L"f.\\in.qzz");
     EXPECT_EQ(TypeOf(path), L"Kind of qzz");
     EXPECT_EQ(NameOf(path), L"in.qzz");
-    EXPECT_EQ(TypeOf(tree.AddFolder(L"f.\\deep")), TypeOf(tree.AddFolder(L"deep")));
+    EXPECT_EQ(TypeOf(tree_.AddFolder(L"f.\\deep")), TypeOf(tree_.AddFolder(L"deep")));
 }
 
 TEST_F(ShellFiles, of_the_longest_paths_have_their_name_and_type) {
-    const CurrentFolder current(tree.Root());
+    const CurrentFolder current(tree_.Root());
     for (int units = MAX_PATH - 6; units < MAX_PATH; ++units) {
         // Without its drive the path is one of the program's, with it one of the system's.
-        const std::wstring relative = LongPathIn(tree, units + 2, L".qzz");
-        const std::wstring path = tree.AddFile(relative).substr(2);
+        const std::wstring relative = LongPathIn(tree_, units + 2, L".qzz");
+        const std::wstring path = tree_.AddFile(relative).substr(2);
         ASSERT_EQ(path.size(), static_cast<std::size_t>(units));
         EXPECT_EQ(TypeOf(path), L"Kind of qzz") << units << " units";
         EXPECT_EQ(NameOf(path), relative.substr(101)) << units << " units";
@@ -141,10 +141,10 @@ TEST_F(ShellFiles, of_the_longest_paths_have_their_name_and_type) {
 
 TEST_F(ShellFiles, get_shortcuts_that_lead_to_the_very_file) {
     for (const wchar_t* beside : {L"a.txt", L"a"})
-        tree.AddFile(beside, "another");
+        tree_.AddFile(beside, "another");
     for (const wchar_t* name : {L"a.txt.", L"a ", L"con"}) {
-        const std::wstring path = tree.AddFile(name, "this");
-        const std::wstring shortcut = tree.Path(L"s.lnk");
+        const std::wstring path = tree_.AddFile(name, "this");
+        const std::wstring shortcut = tree_.Path(L"s.lnk");
         wchar_t target[MAX_PATH] = L"";
         if (!ce::SHCreateShortcut(shortcut.c_str(), (L'"' + path + L'"').c_str())) continue;
         ASSERT_TRUE(ce::SHGetShortcutTarget(shortcut.c_str(), target, MAX_PATH));
@@ -155,19 +155,19 @@ TEST_F(ShellFiles, get_shortcuts_that_lead_to_the_very_file) {
 }
 
 TEST_F(ShellFiles, get_shortcuts_in_the_very_folder) {
-    const std::wstring file = tree.AddFile(L"a.txt");
-    tree.AddFolder(L"f");
-    tree.AddFolder(L"f.");
-    ASSERT_TRUE(ce::SHCreateShortcut(tree.Path(L"f.\\s.lnk").c_str(), file.c_str()));
-    EXPECT_EQ(ce::GetFileAttributesW(tree.Path(L"f\\s.lnk").c_str()), INVALID_FILE_ATTRIBUTES);
+    const std::wstring file = tree_.AddFile(L"a.txt");
+    tree_.AddFolder(L"f");
+    tree_.AddFolder(L"f.");
+    ASSERT_TRUE(ce::SHCreateShortcut(tree_.Path(L"f.\\s.lnk").c_str(), file.c_str()));
+    EXPECT_EQ(ce::GetFileAttributesW(tree_.Path(L"f\\s.lnk").c_str()), INVALID_FILE_ATTRIBUTES);
     wchar_t target[MAX_PATH] = L"";
-    EXPECT_TRUE(ce::SHGetShortcutTarget(tree.Path(L"f.\\s.lnk").c_str(), target, MAX_PATH));
+    EXPECT_TRUE(ce::SHGetShortcutTarget(tree_.Path(L"f.\\s.lnk").c_str(), target, MAX_PATH));
     EXPECT_EQ(file, target);
 }
 
 TEST_F(ShellFiles, keep_their_bytes_where_a_shortcut_would_be_written_through_a_link) {
-    const std::wstring file = tree.AddFile(L"a.lnk", "6#\\a.txt");
-    if (!tree.AddFileLink(L"link.lnk", L"a.lnk")) GTEST_SKIP() << "the system makes no links";
-    EXPECT_FALSE(ce::SHCreateShortcut(tree.Path(L"link.lnk").c_str(), file.c_str()));
+    const std::wstring file = tree_.AddFile(L"a.lnk", "6#\\a.txt");
+    if (!tree_.AddFileLink(L"link.lnk", L"a.lnk")) GTEST_SKIP() << "the system makes no links";
+    EXPECT_FALSE(ce::SHCreateShortcut(tree_.Path(L"link.lnk").c_str(), file.c_str()));
     EXPECT_EQ(ContentOf(file.c_str()), "6#\\a.txt");
 }

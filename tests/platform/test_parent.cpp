@@ -20,23 +20,23 @@ TestParent::TestParent(int clientWidth, int clientHeight) {
         windowClass.lpszClassName = ParentClass;
         ::RegisterClassW(&windowClass);
     }
-    window = ::CreateWindowExW(0, ParentClass, L"", WS_POPUP | WS_VISIBLE, 0, 0, clientWidth, clientHeight,
-                               nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-    SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(this));
-    SetForegroundWindow(window);
-    SetFocus(window);
+    window_ = ::CreateWindowExW(0, ParentClass, L"", WS_POPUP | WS_VISIBLE, 0, 0, clientWidth, clientHeight,
+                                nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    SetWindowLongPtrW(window_, 0, reinterpret_cast<LONG_PTR>(this));
+    SetForegroundWindow(window_);
+    SetFocus(window_);
 }
 
 TestParent::~TestParent() {
-    SetWindowLongPtrW(window, 0, 0);
-    DestroyWindow(window);
+    SetWindowLongPtrW(window_, 0, 0);
+    DestroyWindow(window_);
     PumpAll();
 }
 
 HWND TestParent::MakeBar(UINT resource, int bitmap, int images) const {
     ce::MenuBarInfo info{};
     info.cbSize = sizeof(info);
-    info.hwndParent = window;
+    info.hwndParent = window_;
     info.nToolBarId = resource;
     info.hInstRes = GetModuleHandleW(nullptr);
     info.nBmpId = bitmap;
@@ -81,25 +81,25 @@ void PumpAll() {
     }
 }
 
-MenuDriver::MenuDriver(std::vector<Step> stepsToTake) : steps(std::move(stepsToTake)) {
+MenuDriver::MenuDriver(std::vector<Step> stepsToTake) : steps_(std::move(stepsToTake)) {
     currentDriver = this;
-    timer = SetTimer(nullptr, 0, TickMilliseconds, Tick);
+    timer_ = SetTimer(nullptr, 0, TickMilliseconds, Tick);
 }
 
 MenuDriver::~MenuDriver() {
-    KillTimer(nullptr, timer);
+    KillTimer(nullptr, timer_);
     currentDriver = nullptr;
 }
 
 void CALLBACK MenuDriver::Tick(HWND, UINT, UINT_PTR, DWORD) {
     MenuDriver* driver = currentDriver;
     if (driver == nullptr || !MenuIsOpen()) return;
-    if (driver->taken < driver->steps.size() && driver->steps[driver->taken].when()) {
-        driver->idleTicks = 0;
-        driver->steps[driver->taken++].action();
-    } else if (++driver->idleTicks == TicksBeforeClosing) {
-        driver->hadToClose = true;
-        driver->taken = driver->steps.size();
+    if (driver->taken_ < driver->steps_.size() && driver->steps_[driver->taken_].when()) {
+        driver->idleTicks_ = 0;
+        driver->steps_[driver->taken_++].action();
+    } else if (++driver->idleTicks_ == TicksBeforeClosing) {
+        driver->hadToClose_ = true;
+        driver->taken_ = driver->steps_.size();
         EndMenu();
     }
 }

@@ -17,7 +17,7 @@ class TestParent {
     TestParent(const TestParent&) = delete;
     TestParent& operator=(const TestParent&) = delete;
 
-    [[nodiscard]] HWND Handle() const { return window; }
+    [[nodiscard]] HWND Handle() const { return window_; }
     // A bar from this program's resources; null when it could not be made.
     [[nodiscard]] HWND MakeBar(UINT resource, int bitmap = 0, int images = 0) const;
 
@@ -35,7 +35,7 @@ class TestParent {
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    HWND window = nullptr;
+    HWND window_ = nullptr;
 };
 
 // Handles messages until the condition holds; false when it does not within two seconds.
@@ -67,17 +67,17 @@ class MenuDriver {
     MenuDriver(const MenuDriver&) = delete;
     MenuDriver& operator=(const MenuDriver&) = delete;
 
-    [[nodiscard]] bool AllTaken() const { return taken == steps.size(); }
+    [[nodiscard]] bool AllTaken() const { return taken_ == steps_.size(); }
     // Whether a menu had to be closed because nothing else closed it.
-    [[nodiscard]] bool HadToClose() const { return hadToClose; }
+    [[nodiscard]] bool HadToClose() const { return hadToClose_; }
 
   private:
     static void CALLBACK Tick(HWND window, UINT message, UINT_PTR id, DWORD time);
-    std::vector<Step> steps;
-    std::size_t taken = 0;
-    int idleTicks = 0;
-    bool hadToClose = false;
-    UINT_PTR timer = 0;
+    std::vector<Step> steps_;
+    std::size_t taken_ = 0;
+    int idleTicks_ = 0;
+    bool hadToClose_ = false;
+    UINT_PTR timer_ = 0;
 };
 
 [[nodiscard]] bool MenuIsOpen();

@@ -86,17 +86,17 @@ class ContentWithoutLibrary : public Content {
     void SetUp() override {
         wchar_t folder[MAX_PATH] = L"";
         GetTempPathW(MAX_PATH, folder);
-        alone = std::wstring(folder) + L"quorinsearch-" + std::to_wstring(GetCurrentProcessId()) + L".exe";
-        ASSERT_TRUE(CopyFileW(ProgramPath().c_str(), alone.c_str(), FALSE));
-        StartFresh(L"", alone);
+        alone_ = std::wstring(folder) + L"quorinsearch-" + std::to_wstring(GetCurrentProcessId()) + L".exe";
+        ASSERT_TRUE(CopyFileW(ProgramPath().c_str(), alone_.c_str(), FALSE));
+        StartFresh(L"", alone_);
     }
 
     void TearDown() override {
         Program().Kill();
-        DeleteFileW(alone.c_str());
+        DeleteFileW(alone_.c_str());
     }
 
-    std::wstring alone;
+    std::wstring alone_;
 };
 
 TEST_F(ContentWithoutLibrary, only_a_japanese_system_finds_shift_jis) {

@@ -75,15 +75,15 @@ std::wstring FreeLetter() {
 }  // namespace
 
 DeviceDrive::DeviceDrive(const std::wstring& rootFolder, UINT driveType)
-    : letter(FreeLetter()), folder(rootFolder) {
-    if (!DefineDrive(letter, folder, driveType))
+    : letter_(FreeLetter()), folder_(rootFolder) {
+    if (!DefineDrive(letter_, folder_, driveType))
         throw std::runtime_error("the device's drive could not be made");
 }
 
 DeviceDrive::~DeviceDrive() {
     if (WineUnixFileName() != nullptr) {
-        SetUnixDrive(letter[0], "");
+        SetUnixDrive(letter_[0], "");
     } else {
-        DefineDosDeviceW(DDD_REMOVE_DEFINITION, letter.c_str(), folder.c_str());
+        DefineDosDeviceW(DDD_REMOVE_DEFINITION, letter_.c_str(), folder_.c_str());
     }
 }

@@ -16,11 +16,11 @@ class DeviceDrive {
     DeviceDrive& operator=(const DeviceDrive&) = delete;
 
     // "Q:"
-    [[nodiscard]] const std::wstring& Letter() const { return letter; }
+    [[nodiscard]] const std::wstring& Letter() const { return letter_; }
     // "Q:\"
-    [[nodiscard]] std::wstring Root() const { return letter + L"\\"; }
+    [[nodiscard]] std::wstring Root() const { return letter_ + L"\\"; }
 
   private:
-    std::wstring letter;
-    std::wstring folder;
+    std::wstring letter_;
+    std::wstring folder_;
 };

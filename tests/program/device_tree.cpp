@@ -38,13 +38,13 @@ constexpr LONGLONG UnitsPerHour = 36000000000LL;
 DeviceTree::DeviceTree(const std::wstring& name) {
     wchar_t folder[MAX_PATH] = L"";
     GetTempPathW(MAX_PATH, folder);
-    root = std::wstring(folder) + name + L"-" + std::to_wstring(GetCurrentProcessId());
-    DeleteTree(root);
-    if (!CreateDirectoryW(root.c_str(), nullptr)) throw std::runtime_error("the device tree cannot be made");
+    root_ = std::wstring(folder) + name + L"-" + std::to_wstring(GetCurrentProcessId());
+    DeleteTree(root_);
+    if (!CreateDirectoryW(root_.c_str(), nullptr)) throw std::runtime_error("the device tree cannot be made");
 }
 
 DeviceTree::~DeviceTree() {
-    DeleteTree(root);
+    DeleteTree(root_);
 }
 
 void DeviceTree::AddFolder(const std::wstring& path) const {

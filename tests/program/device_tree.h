@@ -26,13 +26,13 @@ class DeviceTree {
     void SetAge(const std::wstring& path, int days, int hours) const;
     void SetAttributes(const std::wstring& path, DWORD attributes) const;
 
-    [[nodiscard]] const std::wstring& Root() const { return root; }
+    [[nodiscard]] const std::wstring& Root() const { return root_; }
 
   private:
-    [[nodiscard]] std::wstring Full(const std::wstring& path) const { return root + L"\\" + path; }
+    [[nodiscard]] std::wstring Full(const std::wstring& path) const { return root_ + L"\\" + path; }
     void SetTime(const std::wstring& path, const FILETIME& utc) const;
 
-    std::wstring root;
+    std::wstring root_;
 };
 
 // 24-hour time of a day.

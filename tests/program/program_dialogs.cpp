@@ -61,13 +61,13 @@ HWND VisiblePage(HWND sheet) {
 }  // namespace
 
 std::wstring ProgramDialog::Caption() const {
-    return TextOf(window);
+    return TextOf(window_);
 }
 
 HWND ProgramDialog::Control(int id) const {
-    const HWND page = VisiblePage(window);
+    const HWND page = VisiblePage(window_);
     const HWND onPage = page != nullptr ? GetDlgItem(page, id) : nullptr;
-    const HWND control = onPage != nullptr ? onPage : GetDlgItem(window, id);
+    const HWND control = onPage != nullptr ? onPage : GetDlgItem(window_, id);
     if (control == nullptr) throw DriverError("the dialog has no control " + std::to_string(id));
     return control;
 }
@@ -78,13 +78,13 @@ std::wstring ProgramDialog::Text(int id) const {
 
 bool ProgramDialog::HasText(const std::wstring& text) const {
     TextSearch search = {&text, false};
-    EnumChildWindows(window, LookForText, reinterpret_cast<LPARAM>(&search));
+    EnumChildWindows(window_, LookForText, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
 RECT ProgramDialog::Place() const {
     RECT place = {};
-    GetWindowRect(window, &place);
+    GetWindowRect(window_, &place);
     return place;
 }
 
@@ -98,26 +98,26 @@ void ProgramDialog::Click(int id) const {
 
 void ProgramDialog::Press(int id) const {
     Click(id);
-    WaitUntil("the dialog to close", [this] { return !IsWindow(window) || !IsWindowVisible(window); });
+    WaitUntil("the dialog to close", [this] { return !IsWindow(window_) || !IsWindowVisible(window_); });
 }
 
 bool ProgramDialog::IsSheet() const {
-    return TabsOf(window) != nullptr;
+    return TabsOf(window_) != nullptr;
 }
 
 int ProgramDialog::PageCount() const {
-    return static_cast<int>(Ask(TabsOf(window), TCM_GETITEMCOUNT));
+    return static_cast<int>(Ask(TabsOf(window_), TCM_GETITEMCOUNT));
 }
 
 void ProgramDialog::TurnTo(int page) const {
-    Ask(window, PSM_SETCURSEL, static_cast<WPARAM>(page));
+    Ask(window_, PSM_SETCURSEL, static_cast<WPARAM>(page));
 }
 
 HWND ProgramDialog::Focus() const {
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof(thread);
-    if (!GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread)) return nullptr;
-    return IsChild(window, thread.hwndFocus) ? thread.hwndFocus : nullptr;
+    if (!GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &thread)) return nullptr;
+    return IsChild(window_, thread.hwndFocus) ? thread.hwndFocus : nullptr;
 }
 
 std::optional<ProgramDialog> OpenDialogOf(HWND mainWindow) {

@@ -11,9 +11,9 @@
 // A dialog of the program. What it shows may be read as long as it is open.
 class ProgramDialog {
   public:
-    explicit ProgramDialog(HWND dialog) : window(dialog) {}
+    explicit ProgramDialog(HWND dialog) : window_(dialog) {}
 
-    [[nodiscard]] HWND Window() const { return window; }
+    [[nodiscard]] HWND Window() const { return window_; }
     [[nodiscard]] std::wstring Caption() const;
     // The text of its control, which may stand on the page that a sheet shows.
     [[nodiscard]] std::wstring Text(int id) const;
@@ -33,7 +33,7 @@ class ProgramDialog {
     void TurnTo(int page) const;
 
   private:
-    HWND window;
+    HWND window_;
 };
 
 // The program's dialog that takes input now, waited for until the focus is in it where it takes that; throws

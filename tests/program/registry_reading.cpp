@@ -12,18 +12,18 @@ constexpr DWORD LongestName = 300;
 class OpenKey {
   public:
     explicit OpenKey(const wchar_t* path) {
-        if (RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_READ, &key) != ERROR_SUCCESS) key = nullptr;
+        if (RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_READ, &key_) != ERROR_SUCCESS) key_ = nullptr;
     }
     ~OpenKey() {
-        if (key != nullptr) RegCloseKey(key);
+        if (key_ != nullptr) RegCloseKey(key_);
     }
     OpenKey(const OpenKey&) = delete;
     OpenKey& operator=(const OpenKey&) = delete;
 
-    [[nodiscard]] HKEY Handle() const { return key; }
+    [[nodiscard]] HKEY Handle() const { return key_; }
 
   private:
-    HKEY key = nullptr;
+    HKEY key_ = nullptr;
 };
 
 }  // namespace

@@ -96,12 +96,12 @@ void ResultsTest::TearDownTestSuite() {
     DeleteFileW(LogPath().c_str());
 }
 
-ResultsTest::ResultsTest() : folder(L"\\results " + std::to_wstring(++testsBegun)) {}
+ResultsTest::ResultsTest() : folder_(L"\\results " + std::to_wstring(++testsBegun)) {}
 
 void ResultsTest::SetUp() {
     ProgramTest::SetUp();
     DeleteFileW(LogPath().c_str());
-    Tree().AddFolder(folder.substr(1));
+    Tree().AddFolder(folder_.substr(1));
     Program().BringForward();
 }
 
@@ -134,7 +134,7 @@ std::string ResultsTest::ContentOf(const std::wstring& name) const {
 }
 
 Names ResultsTest::Find(const std::wstring& pattern, bool subFolders) {
-    return NamesFoundBy(Named(pattern, folder, subFolders));
+    return NamesFoundBy(Named(pattern, folder_, subFolders));
 }
 
 RowState ResultsTest::Row(const std::wstring& name) {

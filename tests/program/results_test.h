@@ -25,8 +25,8 @@ class ResultsTest : public ProgramTest {
     void TearDown() override;
 
     // The test's folder as the program sees it ("\results 1"), and a path in it.
-    [[nodiscard]] const std::wstring& Folder() const { return folder; }
-    [[nodiscard]] std::wstring Path(const std::wstring& name) const { return folder + L"\\" + name; }
+    [[nodiscard]] const std::wstring& Folder() const { return folder_; }
+    [[nodiscard]] std::wstring Path(const std::wstring& name) const { return folder_ + L"\\" + name; }
     // The same with the device's drive.
     [[nodiscard]] std::wstring Real(const std::wstring& name) const { return Drive().Letter() + Path(name); }
 
@@ -62,7 +62,7 @@ class ResultsTest : public ProgramTest {
   private:
     [[nodiscard]] Names StartedSoFar() const;
 
-    std::wstring folder;
+    std::wstring folder_;
 };
 
 [[nodiscard]] POINT CentreOf(const RECT& rectangle);

@@ -10,15 +10,15 @@ namespace {
 // Reads little-endian words one after the other; reading past the end only marks the reader as failed.
 class WordReader {
   public:
-    explicit WordReader(const std::vector<unsigned char>& source) : bytes(source) {}
+    explicit WordReader(const std::vector<unsigned char>& source) : bytes_(source) {}
 
     WORD Word() {
-        if (place + 2 > bytes.size()) {
-            failed = true;
+        if (place_ + 2 > bytes_.size()) {
+            failed_ = true;
             return 0;
         }
-        const unsigned int value = bytes[place] | static_cast<unsigned int>(bytes[place + 1]) << 8;
-        place += 2;
+        const unsigned int value = bytes_[place_] | static_cast<unsigned int>(bytes_[place_ + 1]) << 8;
+        place_ += 2;
         return static_cast<WORD>(value);
     }
     DWORD DoubleWord() {
@@ -43,14 +43,14 @@ class WordReader {
         if (isClass && ordinal >= 0x80 && ordinal <= 0x85) return classes[ordinal - 0x80];
         return L"#" + std::to_wstring(ordinal);
     }
-    void AlignToDoubleWord() { place = (place + 3) / 4 * 4; }
-    void Skip(std::size_t count) { place += count; }
-    bool Failed() const { return failed; }
+    void AlignToDoubleWord() { place_ = (place_ + 3) / 4 * 4; }
+    void Skip(std::size_t count) { place_ += count; }
+    bool Failed() const { return failed_; }
 
   private:
-    const std::vector<unsigned char>& bytes;
-    std::size_t place = 0;
-    bool failed = false;
+    const std::vector<unsigned char>& bytes_;
+    std::size_t place_ = 0;
+    bool failed_ = false;
 };
 
 TemplateControl ReadControl(WordReader& reader) {

@@ -61,33 +61,33 @@ SIZE TextRoom(HWND control, const std::wstring& text, LONG width) {
 }
 
 DialogWindow::DialogWindow(const wchar_t* templateName, Screen screen, UiLanguage language)
-    : globalsBefore(Globals()) {
+    : globalsBefore_(Globals()) {
     const INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_WIN95_CLASSES};
     InitCommonControlsEx(&classes);
-    screenSize.emplace(ce::systemCalls.getSystemMetrics, MetricsOf(screen));
+    screenSize_.emplace(ce::systemCalls.getSystemMetrics, MetricsOf(screen));
     GlobalsForStartUp().instance = ProgramModule();
     GlobalsForStartUp().uiLanguage = language;
-    dialog = MakeDialog(templateName, nullptr);
-    EXPECT_NE(dialog, nullptr);
+    dialog_ = MakeDialog(templateName, nullptr);
+    EXPECT_NE(dialog_, nullptr);
 }
 
 DialogWindow::~DialogWindow() {
-    if (dialog != nullptr) DestroyWindow(dialog);
-    GlobalsForStartUp() = globalsBefore;
+    if (dialog_ != nullptr) DestroyWindow(dialog_);
+    GlobalsForStartUp() = globalsBefore_;
 }
 
 std::wstring DialogWindow::TextOf(int id) const {
     wchar_t text[1024] = {};
-    GetDlgItemTextW(dialog, id, text, 1024);
+    GetDlgItemTextW(dialog_, id, text, 1024);
     return text;
 }
 
 void DialogWindow::SetUpByShell() {
-    const ce::DialogInitInfo info = {1, dialog, ce::DialogDoneButton | ce::DialogSizeFullScreen};
+    const ce::DialogInitInfo info = {1, dialog_, ce::DialogDoneButton | ce::DialogSizeFullScreen};
     ASSERT_TRUE(ce::SHInitDialog(&info));
     ce::MenuBarInfo bar = {};
     bar.cbSize = sizeof(bar);
-    bar.hwndParent = dialog;
+    bar.hwndParent = dialog_;
     bar.nToolBarId = 28701;
     bar.hInstRes = ProgramModule();
     ASSERT_TRUE(ce::SHCreateMenuBar(&bar));
@@ -95,16 +95,16 @@ void DialogWindow::SetUpByShell() {
 
 LONG DialogWindow::RoomAboveBar() const {
     RECT client = {};
-    GetClientRect(dialog, &client);
+    GetClientRect(dialog_, &client);
     return client.bottom - BarHeight;
 }
 
 std::vector<DialogControl> DialogWindow::Controls() const {
     std::vector<DialogControl> controls;
-    for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(dialog_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         RECT place = {};
         GetWindowRect(child, &place);
-        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+        MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&place), 2);
         // The menu bar itself.
         if (place.top >= RoomAboveBar()) continue;
         wchar_t name[64] = {};
@@ -127,14 +127,14 @@ RECT DialogWindow::VisiblePart(const DialogControl& control) const {
 
 void DialogWindow::ExpectOnScreen() const {
     RECT window = {};
-    GetWindowRect(dialog, &window);
+    GetWindowRect(dialog_, &window);
     EXPECT_LE(window.right - window.left, ce::GetSystemMetrics(SM_CXSCREEN));
     EXPECT_LE(window.bottom - window.top, ce::GetSystemMetrics(SM_CYSCREEN));
 }
 
 void DialogWindow::ExpectControlsInside() const {
     RECT client = {};
-    GetClientRect(dialog, &client);
+    GetClientRect(dialog_, &client);
     for (const DialogControl& control : Controls()) {
         SCOPED_TRACE(testing::PrintToString(control.className + L" " + control.text));
         const RECT part = VisiblePart(control);

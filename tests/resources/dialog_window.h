@@ -37,8 +37,8 @@ class DialogWindow {
     DialogWindow(const DialogWindow&) = delete;
     DialogWindow& operator=(const DialogWindow&) = delete;
 
-    [[nodiscard]] HWND Handle() const { return dialog; }
-    [[nodiscard]] HWND Item(int id) const { return GetDlgItem(dialog, id); }
+    [[nodiscard]] HWND Handle() const { return dialog_; }
+    [[nodiscard]] HWND Item(int id) const { return GetDlgItem(dialog_, id); }
     [[nodiscard]] std::wstring TextOf(int id) const;
 
     // What the shell does on initialisation: full size on the small screen, room for the menu bar elsewhere.
@@ -56,9 +56,9 @@ class DialogWindow {
     [[nodiscard]] RECT VisiblePart(const DialogControl& control) const;
     [[nodiscard]] LONG RoomAboveBar() const;
 
-    std::optional<Replaced<int (*)(int)>> screenSize;
-    AppGlobals globalsBefore;
-    HWND dialog;
+    std::optional<Replaced<int (*)(int)>> screenSize_;
+    AppGlobals globalsBefore_;
+    HWND dialog_;
 };
 
 // The room that the static's text takes, broken at the width unless the static has one line only.

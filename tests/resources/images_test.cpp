@@ -22,31 +22,31 @@ class DrawnIcon {
             static_cast<HICON>(LoadImageW(ProgramModule(), MAKEINTRESOURCEW(id), IMAGE_ICON, size, size, 0));
         EXPECT_NE(icon, nullptr);
         const HDC screen = GetDC(nullptr);
-        memory = CreateCompatibleDC(screen);
-        canvas = CreateCompatibleBitmap(screen, size, size);
-        before = SelectObject(memory, canvas);
+        memory_ = CreateCompatibleDC(screen);
+        canvas_ = CreateCompatibleBitmap(screen, size, size);
+        before_ = SelectObject(memory_, canvas_);
         const HBRUSH brush = CreateSolidBrush(background);
         const RECT area = {0, 0, size, size};
-        FillRect(memory, &area, brush);
-        DrawIconEx(memory, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
+        FillRect(memory_, &area, brush);
+        DrawIconEx(memory_, 0, 0, icon, size, size, 0, nullptr, DI_NORMAL);
         DeleteObject(brush);
         ReleaseDC(nullptr, screen);
         DestroyIcon(icon);
     }
     ~DrawnIcon() {
-        SelectObject(memory, before);
-        DeleteObject(canvas);
-        DeleteDC(memory);
+        SelectObject(memory_, before_);
+        DeleteObject(canvas_);
+        DeleteDC(memory_);
     }
     DrawnIcon(const DrawnIcon&) = delete;
     DrawnIcon& operator=(const DrawnIcon&) = delete;
 
-    [[nodiscard]] COLORREF At(int x, int y) const { return GetPixel(memory, x, y); }
+    [[nodiscard]] COLORREF At(int x, int y) const { return GetPixel(memory_, x, y); }
 
   private:
-    HDC memory;
-    HBITMAP canvas;
-    HGDIOBJ before;
+    HDC memory_;
+    HBITMAP canvas_;
+    HGDIOBJ before_;
 };
 
 TEST(Images, every_icon_holds_a_small_and_a_large_picture) {

@@ -15,13 +15,13 @@ namespace {
 class PageLayout : public PageWindow {};
 
 TEST_P(PageLayout, the_tabs_stand_in_one_row) {
-    EXPECT_EQ(TabCtrl_GetRowCount(tabs), 1);
+    EXPECT_EQ(TabCtrl_GetRowCount(tabs_), 1);
 }
 
 TEST_P(PageLayout, every_control_is_inside_the_page) {
     RECT area = {};
-    GetClientRect(page, &area);
-    for (const ChildWindow& child : children) {
+    GetClientRect(page_, &area);
+    for (const ChildWindow& child : children_) {
         SCOPED_TRACE(testing::PrintToString(child.className + L" " + child.text));
         EXPECT_GE(child.rectangle.left, 0);
         EXPECT_GE(child.rectangle.top, 0);
@@ -37,14 +37,15 @@ bool IsSpinOf(const ChildWindow& spin, const ChildWindow& buddy) {
 }
 
 TEST_P(PageLayout, no_control_covers_another) {
-    for (std::size_t first = 0; first < children.size(); ++first)
-        for (std::size_t second = first + 1; second < children.size(); ++second) {
-            SCOPED_TRACE(testing::PrintToString(children[first].className + L" " + children[first].text) +
+    for (std::size_t first = 0; first < children_.size(); ++first)
+        for (std::size_t second = first + 1; second < children_.size(); ++second) {
+            SCOPED_TRACE(testing::PrintToString(children_[first].className + L" " + children_[first].text) +
                          " and " +
-                         testing::PrintToString(children[second].className + L" " + children[second].text));
+                         testing::PrintToString(children_[second].className + L" " + children_[second].text));
             RECT common = {};
-            IntersectRect(&common, &children[first].rectangle, &children[second].rectangle);
-            const int allowed = IsSpinOf(children[second], children[first]) ? GetSystemMetrics(SM_CXEDGE) : 0;
+            IntersectRect(&common, &children_[first].rectangle, &children_[second].rectangle);
+            const int allowed =
+                IsSpinOf(children_[second], children_[first]) ? GetSystemMetrics(SM_CXEDGE) : 0;
             EXPECT_LE(common.right - common.left, allowed);
         }
 }
@@ -53,7 +54,7 @@ TEST_P(PageLayout, every_text_is_shown_whole) {
     constexpr LONG BoxAndGap = 13 + 4;  // of a check box or a radio button
     constexpr LONG ButtonBorders = 2 * 4;
     int texts = 0;
-    for (const ChildWindow& child : children) {
+    for (const ChildWindow& child : children_) {
         if (child.className != L"Static" && child.className != L"Button") continue;
         ++texts;
         RECT area = {};
@@ -70,7 +71,7 @@ TEST_P(PageLayout, every_text_is_shown_whole) {
 
 TEST_P(PageLayout, every_field_is_high_enough_for_its_text) {
     int fields = 0;
-    for (const ChildWindow& child : children) {
+    for (const ChildWindow& child : children_) {
         RECT area = {};
         if (child.className == L"Edit" || child.className == L"SysDateTimePick32") {
             GetClientRect(child.window, &area);
@@ -89,7 +90,7 @@ TEST_P(PageLayout, every_field_is_high_enough_for_its_text) {
 }
 
 TEST_P(PageLayout, a_drop_down_list_has_room_for_five_lines) {
-    for (const ChildWindow& child : children) {
+    for (const ChildWindow& child : children_) {
         if (child.className != L"ComboBox") continue;
         RECT dropped = {};
         SendMessageW(child.window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));

@@ -48,13 +48,13 @@ void PageWindow::SetUpTestSuite() {
 }
 
 void PageWindow::SetUp() {
-    frame = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, GetParam().screenWidth, 294, nullptr, nullptr,
-                            nullptr, nullptr);
-    ASSERT_NE(frame, nullptr);
-    tabs = CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE, 0, 0,
-                           GetParam().screenWidth - FrameWidth, TabControlHeight, frame, nullptr, nullptr,
-                           nullptr);
-    ASSERT_NE(tabs, nullptr);
+    frame_ = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, GetParam().screenWidth, 294, nullptr, nullptr,
+                             nullptr, nullptr);
+    ASSERT_NE(frame_, nullptr);
+    tabs_ = CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD | WS_VISIBLE, 0, 0,
+                            GetParam().screenWidth - FrameWidth, TabControlHeight, frame_, nullptr, nullptr,
+                            nullptr);
+    ASSERT_NE(tabs_, nullptr);
     const bool japanese = GetParam().japanese;
     AppendTab(japanese ? L"名前と場所" : L"Name");
     AppendTab(japanese ? L"日付" : L"Date");
@@ -63,28 +63,28 @@ void PageWindow::SetUp() {
 }
 
 void PageWindow::TearDown() {
-    if (frame != nullptr) DestroyWindow(frame);
+    if (frame_ != nullptr) DestroyWindow(frame_);
 }
 
 void PageWindow::AppendTab(const wchar_t* caption) {
     TCITEMW item = {};
     item.mask = TCIF_TEXT;
     item.pszText = const_cast<wchar_t*>(caption);
-    SendMessageW(tabs, TCM_INSERTITEMW, static_cast<WPARAM>(TabCtrl_GetItemCount(tabs)),
+    SendMessageW(tabs_, TCM_INSERTITEMW, static_cast<WPARAM>(TabCtrl_GetItemCount(tabs_)),
                  reinterpret_cast<LPARAM>(&item));
 }
 
 void PageWindow::MakePage() {
     RECT display = {};
-    GetClientRect(tabs, &display);
-    SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&display));
-    page = MakeDialog(GetParam().templateName, tabs);
-    ASSERT_NE(page, nullptr);
-    MoveWindow(page, display.left, display.top, display.right - display.left, display.bottom - display.top,
+    GetClientRect(tabs_, &display);
+    SendMessageW(tabs_, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&display));
+    page_ = MakeDialog(GetParam().templateName, tabs_);
+    ASSERT_NE(page_, nullptr);
+    MoveWindow(page_, display.left, display.top, display.right - display.left, display.bottom - display.top,
                FALSE);
-    for (HWND child = GetWindow(page, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
-        children.push_back(Describe(child));
-    ASSERT_FALSE(children.empty());
+    for (HWND child = GetWindow(page_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        children_.push_back(Describe(child));
+    ASSERT_FALSE(children_.empty());
 }
 
 ChildWindow PageWindow::Describe(HWND child) const {
@@ -95,18 +95,18 @@ ChildWindow PageWindow::Describe(HWND child) const {
     ChildWindow described = {child, name, text, {}};
     std::erase(described.text, L'&');
     GetWindowRect(child, &described.rectangle);
-    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&described.rectangle), 2);
+    MapWindowPoints(nullptr, page_, reinterpret_cast<POINT*>(&described.rectangle), 2);
     return described;
 }
 
 SIZE PageWindow::Measure(const std::wstring& text) const {
-    const HDC context = GetDC(page);
-    const auto font = reinterpret_cast<HFONT>(SendMessageW(page, WM_GETFONT, 0, 0));
+    const HDC context = GetDC(page_);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(page_, WM_GETFONT, 0, 0));
     const HGDIOBJ before = SelectObject(context, font);
     SIZE size = {};
     GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
     SelectObject(context, before);
-    ReleaseDC(page, context);
+    ReleaseDC(page_, context);
     return size;
 }
 

@@ -41,11 +41,11 @@ class PageWindow : public testing::TestWithParam<PageCase> {
     // Fails where the text, in the page's font, needs more room.
     void ExpectFits(const std::wstring& text, LONG width, LONG height) const;
 
-    HWND Item(int id) const { return GetDlgItem(page, id); }
+    HWND Item(int id) const { return GetDlgItem(page_, id); }
 
-    HWND tabs = nullptr;
-    HWND page = nullptr;
-    std::vector<ChildWindow> children;
+    HWND tabs_ = nullptr;
+    HWND page_ = nullptr;
+    std::vector<ChildWindow> children_;
 
   private:
     void AppendTab(const wchar_t* caption);
@@ -53,5 +53,5 @@ class PageWindow : public testing::TestWithParam<PageCase> {
     ChildWindow Describe(HWND child) const;
     SIZE Measure(const std::wstring& text) const;
 
-    HWND frame = nullptr;
+    HWND frame_ = nullptr;
 };

@@ -62,7 +62,7 @@ class SheetLayout : public testing::TestWithParam<SheetCase> {
     void SetUp() override {
         const INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_WIN95_CLASSES};
         InitCommonControlsEx(&classes);
-        screenSize.emplace(ce::systemCalls.getSystemMetrics, MetricsOf(GetParam().screen));
+        screenSize_.emplace(ce::systemCalls.getSystemMetrics, MetricsOf(GetParam().screen));
         HPROPSHEETPAGE pages[] = {MakePage(GetParam().inJapanese ? GetParam().japanese : GetParam().english)};
         PROPSHEETHEADERW header = {};
         header.dwSize = sizeof(header);
@@ -72,24 +72,24 @@ class SheetLayout : public testing::TestWithParam<SheetCase> {
         header.nPages = 1;
         header.phpage = pages;
         header.pfnCallback = CutOnInitialisation;
-        sheet = reinterpret_cast<HWND>(PropertySheetW(&header));
-        ASSERT_NE(sheet, nullptr);
-        page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
-        ASSERT_NE(page, nullptr);
-        room = SizeOf(page);
+        sheet_ = reinterpret_cast<HWND>(PropertySheetW(&header));
+        ASSERT_NE(sheet_, nullptr);
+        page_ = reinterpret_cast<HWND>(SendMessageW(sheet_, PSM_GETCURRENTPAGEHWND, 0, 0));
+        ASSERT_NE(page_, nullptr);
+        room_ = SizeOf(page_);
     }
     void TearDown() override {
-        if (sheet != nullptr) DestroyWindow(sheet);
+        if (sheet_ != nullptr) DestroyWindow(sheet_);
     }
 
     [[nodiscard]] RECT PlaceOf(HWND child) const {
         RECT place = {};
         GetWindowRect(child, &place);
-        MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
+        MapWindowPoints(nullptr, page_, reinterpret_cast<POINT*>(&place), 2);
         return place;
     }
     void ExpectFits(int id, const wchar_t* text) const {
-        const HWND control = GetDlgItem(page, id);
+        const HWND control = GetDlgItem(page_, id);
         ASSERT_NE(control, nullptr);
         const RECT place = PlaceOf(control);
         const SIZE needed = TextRoom(control, text, place.right - place.left);
@@ -98,25 +98,25 @@ class SheetLayout : public testing::TestWithParam<SheetCase> {
         EXPECT_LE(needed.cy, place.bottom - place.top) << testing::PrintToString(std::wstring(text));
     }
 
-    std::optional<Replaced<int (*)(int)>> screenSize;
-    HWND sheet = nullptr;
-    HWND page = nullptr;
-    SIZE room = {};
+    std::optional<Replaced<int (*)(int)>> screenSize_;
+    HWND sheet_ = nullptr;
+    HWND page_ = nullptr;
+    SIZE room_ = {};
 };
 
 TEST_P(SheetLayout, the_sheet_fits_the_screen_with_its_page_and_both_buttons) {
-    EXPECT_LE(SizeOf(sheet).cx, GetParam().screen == Screen::Pocket ? 240 : 640);
-    EXPECT_LE(SizeOf(sheet).cy, GetParam().screen == Screen::Pocket ? 320 : 240);
+    EXPECT_LE(SizeOf(sheet_).cx, GetParam().screen == Screen::Pocket ? 240 : 640);
+    EXPECT_LE(SizeOf(sheet_).cy, GetParam().screen == Screen::Pocket ? 320 : 240);
     RECT client = {};
-    GetClientRect(sheet, &client);
+    GetClientRect(sheet_, &client);
     RECT pagePlace = {};
-    GetWindowRect(page, &pagePlace);
-    MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&pagePlace), 2);
+    GetWindowRect(page_, &pagePlace);
+    MapWindowPoints(nullptr, sheet_, reinterpret_cast<POINT*>(&pagePlace), 2);
     EXPECT_LE(pagePlace.right, client.right);
     for (const int id : {IDOK, IDCANCEL}) {
         RECT button = {};
-        GetWindowRect(GetDlgItem(sheet, id), &button);
-        MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&button), 2);
+        GetWindowRect(GetDlgItem(sheet_, id), &button);
+        MapWindowPoints(nullptr, sheet_, reinterpret_cast<POINT*>(&button), 2);
         EXPECT_GE(button.left, 0);
         EXPECT_LE(button.right, client.right);
         EXPECT_LE(button.bottom, client.bottom);
@@ -125,18 +125,18 @@ TEST_P(SheetLayout, the_sheet_fits_the_screen_with_its_page_and_both_buttons) {
 }
 
 TEST_P(SheetLayout, every_control_is_inside_the_page) {
-    for (HWND child = GetWindow(page, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(page_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         SCOPED_TRACE(GetDlgCtrlID(child));
         const RECT place = PlaceOf(child);
         EXPECT_GE(place.left, 0);
         EXPECT_GE(place.top, 0);
-        EXPECT_LE(place.right, room.cx);
-        EXPECT_LE(place.bottom, room.cy);
+        EXPECT_LE(place.right, room_.cx);
+        EXPECT_LE(place.bottom, room_.cy);
     }
 }
 
 TEST_P(SheetLayout, no_control_covers_another) {
-    for (HWND one = GetWindow(page, GW_CHILD); one != nullptr; one = GetWindow(one, GW_HWNDNEXT))
+    for (HWND one = GetWindow(page_, GW_CHILD); one != nullptr; one = GetWindow(one, GW_HWNDNEXT))
         for (HWND other = GetWindow(one, GW_HWNDNEXT); other != nullptr;
              other = GetWindow(other, GW_HWNDNEXT)) {
             const RECT first = PlaceOf(one);
@@ -152,7 +152,7 @@ TEST_P(SheetLayout, no_control_covers_another) {
 TEST_P(SheetLayout, every_label_is_shown_whole) {
     constexpr LONG BoxAndGap = 13 + 4;
     int labels = 0;
-    for (HWND child = GetWindow(page, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(page_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         wchar_t buffer[100] = {};
         GetWindowTextW(child, buffer, 100);
         std::wstring text(buffer);

@@ -65,58 +65,58 @@ class DamagedShortcut : public PropertiesTest {
         PropertySet properties;
         properties.Set(property::Width, 220);
         properties.Set(property::Height, 150);
-        list = std::make_unique<ResultList>(&host.Object(), properties);
+        list_ = std::make_unique<ResultList>(&host_.Object(), properties);
     }
     [[nodiscard]] std::wstring Target(int room) const {
         std::wstring text(static_cast<std::size_t>(room), L'\0');
-        if (!ce::SHGetShortcutTarget(path.c_str(), text.data(), room)) return L"";
+        if (!ce::SHGetShortcutTarget(path_.c_str(), text.data(), room)) return L"";
         return text.substr(0, text.find(L'\0'));
     }
     void ExpectOpening() {
         const int before = started;
-        ResultCommands(host.Object(), *list).Open();
+        ResultCommands(host_.Object(), *list_).Open();
         const std::wstring target = Target(OpenRoom);
         const bool opens = !target.empty() && !IsFolder(ProgramPart(target));
         EXPECT_EQ(started - before, opens ? 1 : 0) << testing::PrintToString(target);
     }
     void ExpectAdding() {
         const int before = made;
-        ResultCommands(host.Object(), *list).AddToStartMenu();
+        ResultCommands(host_.Object(), *list_).AddToStartMenu();
         EXPECT_EQ(made - before, Target(OtherRoom).empty() ? 0 : 1);
     }
     void ExpectPage() {
         std::wstring shown = L"(no page)";
-        ShowSheet(path, IDCANCEL, [&](const OpenSheet& sheet) {
+        ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {
             sheet.TurnTo(1);
             shown = sheet.Text(EDIT_TARGET);
         });
         EXPECT_EQ(shown, Target(OtherRoom));
     }
 
-    std::wstring path = tree.Path(L"s.lnk");
-    std::unique_ptr<ResultList> list;
-    Replaced<decltype(ce::ShortcutCalls::execute)> starting{ce::shortcutCalls.execute, &CountStart};
+    std::wstring path_ = tree_.Path(L"s.lnk");
+    std::unique_ptr<ResultList> list_;
+    Replaced<decltype(ce::ShortcutCalls::execute)> starting_{ce::shortcutCalls.execute, &CountStart};
 };
 
 TEST_F(DamagedShortcut, is_used_as_far_as_it_can_be_read_and_stays_as_it_is) {
-    const std::wstring target = tree.AddFile(L"a.txt", "text") + L" one two";
-    ASSERT_TRUE(ce::SHCreateShortcut(path.c_str(), target.c_str()));
-    const std::string whole = BytesOf(path);
+    const std::wstring target = tree_.AddFile(L"a.txt", "text") + L" one two";
+    ASSERT_TRUE(ce::SHCreateShortcut(path_.c_str(), target.c_str()));
+    const std::string whole = BytesOf(path_);
     ASSERT_GT(whole.size(), 76u);
     const Replaced making(ce::shortcutCalls.create, &CountMaking);
-    list->AddMatch(path.c_str(), FileEntry(L"s.lnk"));
-    list->SelectRow(0);
+    list_->AddMatch(path_.c_str(), FileEntry(L"s.lnk"));
+    list_->SelectRow(0);
     std::mt19937 random(20021115);
     int readable = 0;
     for (int round = 0; round < 30; ++round) {
         SCOPED_TRACE(round);
         const std::string bytes = Damaged(whole, random);
-        tree.AddFile(L"s.lnk", bytes);
+        tree_.AddFile(L"s.lnk", bytes);
         readable += Target(OtherRoom).empty() ? 0 : 1;
         ExpectOpening();
         ExpectAdding();
         ExpectPage();
-        EXPECT_EQ(BytesOf(path), bytes);
+        EXPECT_EQ(BytesOf(path_), bytes);
     }
     // Both kinds were among them.
     EXPECT_GT(readable, 0);

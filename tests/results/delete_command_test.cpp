@@ -84,7 +84,7 @@ TEST_F(DeleteCommand, asks_and_reports_in_japanese_on_a_japanese_surface) {
 }
 
 TEST_F(DeleteCommand, reports_a_file_that_vanished_and_keeps_its_row) {
-    ASSERT_TRUE(DeleteFileW(tree.Path(L"b.txt").c_str()));
+    ASSERT_TRUE(DeleteFileW(tree_.Path(L"b.txt").c_str()));
     const AnsweredBoxes boxes{IDYES, IDOK};
     Commands().Delete();
     ASSERT_EQ(boxes.Seen().size(), 2u);
@@ -93,7 +93,7 @@ TEST_F(DeleteCommand, reports_a_file_that_vanished_and_keeps_its_row) {
 }
 
 TEST_F(DeleteCommand, fails_for_a_folder_and_says_so) {
-    tree.AddFile(L"folder\\inside.txt");
+    tree_.AddFile(L"folder\\inside.txt");
     AddRow(L"folder");
     List().SelectRow(3);
     const AnsweredBoxes boxes{IDYES, IDOK};

@@ -44,30 +44,30 @@ class FileIconCacheTest : public testing::Test {
   protected:
     void SetUp() override {
         asked.clear();
-        types.Add(L".qsaa", L"qsnote");
-        types.Add(L".qsab", L"qsnote");
-        types.Add(L".qsac", L"qssheet");
-        cache.emplace();
+        types_.Add(L".qsaa", L"qsnote");
+        types_.Add(L".qsab", L"qsnote");
+        types_.Add(L".qsac", L"qssheet");
+        cache_.emplace();
     }
     int ImageOf(const wchar_t* path, DWORD attributes = FILE_ATTRIBUTE_ARCHIVE, unsigned kinds = AllKinds) {
-        return cache->ImageOf(path, attributes, kinds);
+        return cache_->ImageOf(path, attributes, kinds);
     }
 
-    TestWorld world;
-    RegisteredTypes types;
-    Replaced<decltype(ce::shellCalls.getFileInfo)> shell{ce::shellCalls.getFileInfo, &AnswerWithIcon};
-    std::optional<FileIconCache> cache;
+    TestWorld world_;
+    RegisteredTypes types_;
+    Replaced<decltype(ce::shellCalls.getFileInfo)> shell_{ce::shellCalls.getFileInfo, &AnswerWithIcon};
+    std::optional<FileIconCache> cache_;
 };
 
 TEST_F(FileIconCacheTest, both_lists_begin_with_the_four_fixed_images_in_their_sizes) {
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 4);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), 4);
     int width = 0;
     int height = 0;
-    ImageList_GetIconSize(cache->LargeImages(), &width, &height);
+    ImageList_GetIconSize(cache_->LargeImages(), &width, &height);
     EXPECT_EQ(width, 32);
     EXPECT_EQ(height, 32);
-    ImageList_GetIconSize(cache->SmallImages(), &width, &height);
+    ImageList_GetIconSize(cache_->SmallImages(), &width, &height);
     EXPECT_EQ(width, 16);
     EXPECT_EQ(height, 16);
 }
@@ -75,9 +75,9 @@ TEST_F(FileIconCacheTest, both_lists_begin_with_the_four_fixed_images_in_their_s
 TEST_F(FileIconCacheTest, fixed_icons_that_cannot_be_loaded_leave_their_places_empty) {
     // A module that has none of the program's icons.
     GlobalsForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
-    cache->Fill();
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 4);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), 4);
+    cache_->Fill();
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), 4);
     EXPECT_EQ(ImageOf(L"\\f\\a.exe"), FirstFetched);
 }
 
@@ -88,14 +88,14 @@ TEST_F(FileIconCacheTest, a_file_with_only_one_of_the_two_icons_leaves_the_lists
         EXPECT_EQ(ImageOf(L"\\f\\a.exe"), -1);
     }
     EXPECT_EQ(ImageOf(L"\\f\\b.exe"), FirstFetched + 1);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), FirstFetched + 2);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), FirstFetched + 2);
     {
         const Replaced largeOnly(ce::shellCalls.getFileInfo, &AnswerWithLargeIconsOnly);
         EXPECT_EQ(ImageOf(L"\\f\\c.exe"), FirstFetched + 2);
     }
     EXPECT_EQ(ImageOf(L"\\f\\d.exe"), FirstFetched + 3);
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), FirstFetched + 4);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), FirstFetched + 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), FirstFetched + 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), FirstFetched + 4);
 }
 
 TEST_F(FileIconCacheTest, a_folder_gets_image_2_without_a_question) {
@@ -120,8 +120,8 @@ TEST_F(FileIconCacheTest, a_thousand_files_of_one_type_cost_one_pair_of_question
     for (int i = 0; i < 1000; ++i)
         ASSERT_EQ(ImageOf((L"\\f\\" + std::to_wstring(i) + L".qsaa").c_str()), FirstFetched);
     EXPECT_EQ(asked.size(), 2U);
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 5);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), 5);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 5);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), 5);
 }
 
 TEST_F(FileIconCacheTest, each_application_has_its_own_image_fetched_once) {
@@ -165,9 +165,9 @@ TEST_F(FileIconCacheTest, a_kind_that_is_not_wanted_gets_its_fallback_unless_it_
 TEST_F(FileIconCacheTest, a_refill_forgets_every_icon_but_the_fixed_ones) {
     EXPECT_EQ(ImageOf(L"\\f\\a.exe"), FirstFetched);
     EXPECT_EQ(ImageOf(L"\\f\\a.qsaa"), FirstFetched + 1);
-    cache->Fill();
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 4);
-    EXPECT_EQ(ImageList_GetImageCount(cache->SmallImages()), 4);
+    cache_->Fill();
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 4);
+    EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), 4);
     EXPECT_EQ(ImageOf(L"\\f\\a.qsaa"), FirstFetched);
     EXPECT_EQ(asked.size(), 6U);
 }
@@ -175,15 +175,15 @@ TEST_F(FileIconCacheTest, a_refill_forgets_every_icon_but_the_fixed_ones) {
 TEST_F(FileIconCacheTest, all_caches_share_their_lists_until_the_last_one_goes) {
     std::optional<FileIconCache> second;
     second.emplace();
-    EXPECT_EQ(second->LargeImages(), cache->LargeImages());
-    EXPECT_EQ(second->SmallImages(), cache->SmallImages());
+    EXPECT_EQ(second->LargeImages(), cache_->LargeImages());
+    EXPECT_EQ(second->SmallImages(), cache_->SmallImages());
     EXPECT_EQ(ImageOf(L"\\f\\a.exe"), FirstFetched);
-    cache.reset();
+    cache_.reset();
     EXPECT_EQ(second->ImageOf(L"\\f\\a.exe", FILE_ATTRIBUTE_ARCHIVE, AllKinds), FirstFetched);
     EXPECT_EQ(asked.size(), 2U);
     second.reset();
-    cache.emplace();
-    EXPECT_EQ(ImageList_GetImageCount(cache->LargeImages()), 4);
+    cache_.emplace();
+    EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 4);
     EXPECT_EQ(ImageOf(L"\\f\\a.exe"), FirstFetched);
     EXPECT_EQ(asked.size(), 4U);
 }

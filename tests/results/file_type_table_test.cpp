@@ -11,13 +11,13 @@ class FileTypeTableTest : public testing::Test {
   protected:
     // Registers two types with all there is, in two letter cases.
     void SetUp() override {
-        types.Add(L".qsaa", L"qsnote");
-        types.Add(L".qsab", L"qssheet");
-        types.Add(L".QSAC", L"qsnote");
-        types.Add(L"qsnote", L"Quorin note");
-        types.Add(L"qsnote\\Shell\\Open\\Command", L"\\Windows\\note.exe \"%1\"");
-        types.Add(L"qsnote\\DefaultIcon", L"\\Windows\\note,s.dll,-12");
-        types.Add(L"qssheet", L"Quorin sheet");
+        types_.Add(L".qsaa", L"qsnote");
+        types_.Add(L".qsab", L"qssheet");
+        types_.Add(L".QSAC", L"qsnote");
+        types_.Add(L"qsnote", L"Quorin note");
+        types_.Add(L"qsnote\\Shell\\Open\\Command", L"\\Windows\\note.exe \"%1\"");
+        types_.Add(L"qsnote\\DefaultIcon", L"\\Windows\\note,s.dll,-12");
+        types_.Add(L"qssheet", L"Quorin sheet");
     }
 
     static const FileTypeInfo* Find(const FileTypeTable& table, const std::wstring& typeKey) {
@@ -26,8 +26,8 @@ class FileTypeTableTest : public testing::Test {
         return nullptr;
     }
 
-    TestWorld world;
-    RegisteredTypes types;
+    TestWorld world_;
+    RegisteredTypes types_;
 };
 
 TEST_F(FileTypeTableTest, a_type_is_read_with_all_that_the_registry_tells_of_it) {
@@ -78,7 +78,7 @@ TEST_F(FileTypeTableTest, an_extension_is_looked_up_without_regard_to_case_from_
 }
 
 TEST_F(FileTypeTableTest, the_extension_of_applications_is_left_out) {
-    types.Add(L".exe", L"exefile");
+    types_.Add(L".exe", L"exefile");
     const FileTypeTable table;
     EXPECT_STREQ(table.TypeKeyOf(L"\\f\\a.exe"), L"");
     for (int i = 0; i < table.Count(); ++i)
@@ -86,7 +86,7 @@ TEST_F(FileTypeTableTest, the_extension_of_applications_is_left_out) {
 }
 
 TEST_F(FileTypeTableTest, a_type_without_an_icon_has_its_description_and_open_command) {
-    types.Add(L"qssheet\\Shell\\Open\\Command", L"sheet.exe");
+    types_.Add(L"qssheet\\Shell\\Open\\Command", L"sheet.exe");
     const FileTypeTable table;
     const FileTypeInfo* sheet = Find(table, L"qssheet");
     ASSERT_NE(sheet, nullptr);
@@ -97,7 +97,7 @@ TEST_F(FileTypeTableTest, a_type_without_an_icon_has_its_description_and_open_co
 }
 
 TEST_F(FileTypeTableTest, a_missing_open_command_ends_the_reading) {
-    types.Add(L"qssheet\\DefaultIcon", L"sheet.dll,3");
+    types_.Add(L"qssheet\\DefaultIcon", L"sheet.dll,3");
     const FileTypeTable table;
     const FileTypeInfo* sheet = Find(table, L"qssheet");
     ASSERT_NE(sheet, nullptr);
@@ -106,7 +106,7 @@ TEST_F(FileTypeTableTest, a_missing_open_command_ends_the_reading) {
 }
 
 TEST_F(FileTypeTableTest, a_type_whose_key_is_missing_has_its_key_and_extension_alone) {
-    types.Add(L".qsad", L"qsnowhere");
+    types_.Add(L".qsad", L"qsnowhere");
     const FileTypeTable table;
     const FileTypeInfo* nowhere = Find(table, L"qsnowhere");
     ASSERT_NE(nowhere, nullptr);
@@ -115,8 +115,8 @@ TEST_F(FileTypeTableTest, a_type_whose_key_is_missing_has_its_key_and_extension_
 }
 
 TEST_F(FileTypeTableTest, extensions_without_a_type_share_one_record_with_an_empty_key) {
-    types.Make(L".qsae");
-    types.Make(L".qsaf");
+    types_.Make(L".qsae");
+    types_.Make(L".qsaf");
     const FileTypeTable table;
     const FileTypeInfo* none = Find(table, L"");
     ASSERT_NE(none, nullptr);
@@ -149,7 +149,7 @@ TEST_F(FileTypeTableTest, the_arrow_stands_again_when_the_registry_has_been_read
 TEST_F(FileTypeTableTest, the_registry_is_read_again_only_when_all_tables_are_gone) {
     std::optional<FileTypeTable> first;
     first.emplace();
-    types.Add(L".qsag", L"qslater");
+    types_.Add(L".qsag", L"qslater");
     {
         const FileTypeTable second;
         EXPECT_EQ(Find(second, L"qslater"), nullptr);

@@ -56,18 +56,19 @@ class GeneralPageAttributes : public PropertiesTest {
         failureCode = 0;
     }
 
-    std::wstring path = tree.AddFile(L"a.txt");
-    Replaced<decltype(ce::fileCalls.getFileAttributes)> get{ce::fileCalls.getFileAttributes, &AttributesNow};
-    Replaced<decltype(ce::fileCalls.setFileAttributes)> set{ce::fileCalls.setFileAttributes, &NoteAttributes};
-    Replaced<decltype(ce::fileCalls.findFirstFile)> find{ce::fileCalls.findFirstFile, &FindWithAttributes};
-    Replaced<decltype(ce::fileCalls.findClose)> close{ce::fileCalls.findClose, &EndFinding};
+    std::wstring path_ = tree_.AddFile(L"a.txt");
+    Replaced<decltype(ce::fileCalls.getFileAttributes)> get_{ce::fileCalls.getFileAttributes, &AttributesNow};
+    Replaced<decltype(ce::fileCalls.setFileAttributes)> set_{ce::fileCalls.setFileAttributes,
+                                                             &NoteAttributes};
+    Replaced<decltype(ce::fileCalls.findFirstFile)> find_{ce::fileCalls.findFirstFile, &FindWithAttributes};
+    Replaced<decltype(ce::fileCalls.findClose)> close_{ce::fileCalls.findClose, &EndFinding};
 };
 
 TEST_F(GeneralPageAttributes, are_shown_by_their_boxes) {
     for (DWORD some = 0; some <= Changeable; ++some) {
         if ((some & ~Changeable) != 0) continue;
         attributesNow = some | FILE_ATTRIBUTE_TEMPORARY;
-        ShowSheet(path, IDCANCEL, [&](const OpenSheet& sheet) {
+        ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {
             for (const Box& box : Boxes)
                 EXPECT_EQ(sheet.IsChecked(box.id), (some & box.attribute) != 0) << some << ", " << box.id;
         });
@@ -79,7 +80,7 @@ TEST_F(GeneralPageAttributes, are_set_one_by_one_and_the_others_stay) {
     attributesNow = FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_COMPRESSED;
     for (const Box& box : Boxes) {
         attributesSet.clear();
-        EXPECT_TRUE(ShowSheet(path, IDOK, [&](const OpenSheet& sheet) { sheet.Click(box.id); }));
+        EXPECT_TRUE(ShowSheet(path_, IDOK, [&](const OpenSheet& sheet) { sheet.Click(box.id); }));
         EXPECT_EQ(attributesSet, (std::vector<DWORD>{attributesNow | box.attribute})) << box.id;
     }
 }
@@ -88,15 +89,15 @@ TEST_F(GeneralPageAttributes, are_cleared_one_by_one_and_the_others_stay) {
     attributesNow = Changeable | FILE_ATTRIBUTE_TEMPORARY;
     for (const Box& box : Boxes) {
         attributesSet.clear();
-        EXPECT_TRUE(ShowSheet(path, IDOK, [&](const OpenSheet& sheet) { sheet.Click(box.id); }));
+        EXPECT_TRUE(ShowSheet(path_, IDOK, [&](const OpenSheet& sheet) { sheet.Click(box.id); }));
         EXPECT_EQ(attributesSet, (std::vector<DWORD>{attributesNow & ~box.attribute})) << box.id;
     }
 }
 
 TEST_F(GeneralPageAttributes, are_not_touched_when_no_box_has_changed) {
     attributesNow = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_TEMPORARY;
-    EXPECT_FALSE(ShowSheet(path, IDOK));
-    EXPECT_FALSE(ShowSheet(path, IDOK, [](const OpenSheet& sheet) {
+    EXPECT_FALSE(ShowSheet(path_, IDOK));
+    EXPECT_FALSE(ShowSheet(path_, IDOK, [](const OpenSheet& sheet) {
         sheet.Click(CHECK_HIDDEN);
         sheet.Click(CHECK_HIDDEN);
     }));
@@ -104,7 +105,7 @@ TEST_F(GeneralPageAttributes, are_not_touched_when_no_box_has_changed) {
 }
 
 TEST_F(GeneralPageAttributes, are_not_touched_when_the_sheet_is_cancelled) {
-    EXPECT_FALSE(ShowSheet(path, IDCANCEL, [](const OpenSheet& sheet) {
+    EXPECT_FALSE(ShowSheet(path_, IDCANCEL, [](const OpenSheet& sheet) {
         for (const Box& box : Boxes)
             sheet.Click(box.id);
     }));
@@ -114,12 +115,12 @@ TEST_F(GeneralPageAttributes, are_not_touched_when_the_sheet_is_cancelled) {
 TEST_F(GeneralPageAttributes, of_a_folder_that_has_another_one_are_written_like_a_files) {
     attributesNow = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN;
     // The hidden boxes are all clear.
-    EXPECT_TRUE(ShowSheet(path, IDOK));
+    EXPECT_TRUE(ShowSheet(path_, IDOK));
     EXPECT_EQ(attributesSet, (std::vector<DWORD>{FILE_ATTRIBUTE_DIRECTORY}));
 }
 
 TEST_F(GeneralPageAttributes, that_cannot_be_read_any_more_are_not_written) {
-    EXPECT_FALSE(ShowSheet(path, IDOK, [](const OpenSheet& sheet) {
+    EXPECT_FALSE(ShowSheet(path_, IDOK, [](const OpenSheet& sheet) {
         sheet.Click(CHECK_HIDDEN);
         attributesNow = INVALID_FILE_ATTRIBUTES;
     }));
@@ -132,7 +133,7 @@ TEST_F(GeneralPageAttributes, whose_change_is_refused_are_reported_once) {
         attributesSet.clear();
         failureCode = ERROR_ACCESS_DENIED;
         std::optional<AnsweredBoxes> boxes;
-        ShowSheet(path, IDOK, [&](const OpenSheet& sheet) {
+        ShowSheet(path_, IDOK, [&](const OpenSheet& sheet) {
             sheet.Click(CHECK_READ_ONLY);
             boxes.emplace(std::initializer_list<int>{IDOK});
         });
@@ -157,7 +158,7 @@ TEST_F(GeneralPageSizes, are_shown_whole_however_long_they_are) {
         GlobalsForStartUp().uiLanguage = language;
         for (const DWORD size : {500u, 102399u, 102400000u, 2147483647u}) {
             sizeNow = size;
-            ShowSheet(path, IDCANCEL, [&](const OpenSheet& sheet) {
+            ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {
                 SCOPED_TRACE(testing::PrintToString(sheet.Text(11904)));
                 EXPECT_TRUE(sheet.ShowsWhole(11904));
                 EXPECT_TRUE(sheet.ShowsWhole(11703));

@@ -7,14 +7,14 @@ class GeneralPageTest : public PropertiesTest {
   protected:
     std::wstring SizeOf(std::size_t bytes) {
         std::wstring shown;
-        ShowSheet(tree.AddFile(L"a.bin", std::string(bytes, 'x')), IDCANCEL,
+        ShowSheet(tree_.AddFile(L"a.bin", std::string(bytes, 'x')), IDCANCEL,
                   [&](const OpenSheet& sheet) { shown = sheet.Text(11904); });
         return shown;
     }
 };
 
 TEST_F(GeneralPageTest, shows_name_type_place_size_and_time) {
-    const std::wstring path = tree.AddFile(L"docs\\a.txt", std::string(1000, 'x'));
+    const std::wstring path = tree_.AddFile(L"docs\\a.txt", std::string(1000, 'x'));
     SetWritten(path);
     SHFILEINFOW info = {};
     SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
@@ -25,7 +25,7 @@ TEST_F(GeneralPageTest, shows_name_type_place_size_and_time) {
         EXPECT_TRUE(sheet.HasIcon());
         EXPECT_EQ(sheet.Text(11901), info.szDisplayName);
         EXPECT_EQ(sheet.Text(11902), info.szTypeName);
-        EXPECT_EQ(sheet.Text(11903), tree.Path(L"docs"));
+        EXPECT_EQ(sheet.Text(11903), tree_.Path(L"docs"));
         EXPECT_EQ(sheet.Text(11904), L"0.9KB (1000 bytes)");
         EXPECT_EQ(sheet.Text(11905), ShortForms());
         EXPECT_EQ(sheet.Text(11701), L"Type:");
@@ -42,7 +42,7 @@ TEST_F(GeneralPageTest, shows_name_type_place_size_and_time) {
 
 TEST_F(GeneralPageTest, speaks_japanese_on_a_japanese_surface) {
     UseJapanese();
-    ShowSheet(tree.AddFile(L"a.txt"), IDCANCEL, [&](const OpenSheet& sheet) {
+    ShowSheet(tree_.AddFile(L"a.txt"), IDCANCEL, [&](const OpenSheet& sheet) {
         EXPECT_EQ(sheet.Tabs(), (std::vector<std::wstring>{L"全般"}));
         EXPECT_EQ(sheet.Text(11701), L"種類:");
         EXPECT_EQ(sheet.Text(11702), L"場所:");
@@ -91,7 +91,7 @@ TEST_F(GeneralPageTest, shows_the_drive_as_the_place_of_a_file_in_a_drives_root)
 }
 
 TEST_F(GeneralPageTest, of_a_folder_hides_what_only_files_have_and_changes_nothing) {
-    const std::wstring path = tree.AddFolder(L"folder");
+    const std::wstring path = tree_.AddFolder(L"folder");
     static int changes;
     changes = 0;
     const Replaced set(ce::fileCalls.setFileAttributes, [](const wchar_t*, DWORD) -> BOOL {
@@ -103,7 +103,7 @@ TEST_F(GeneralPageTest, of_a_folder_hides_what_only_files_have_and_changes_nothi
             EXPECT_FALSE(sheet.IsShown(id)) << id;
         for (const int id : {11701, 11702, 11901, 11902, 11903, 10901})
             EXPECT_TRUE(sheet.IsShown(id)) << id;
-        EXPECT_EQ(sheet.Text(11903), tree.Root());
+        EXPECT_EQ(sheet.Text(11903), tree_.Root());
         EXPECT_EQ(sheet.Text(11904), L"");
         EXPECT_EQ(sheet.Text(11905), L"");
     }));
@@ -111,18 +111,18 @@ TEST_F(GeneralPageTest, of_a_folder_hides_what_only_files_have_and_changes_nothi
 }
 
 TEST_F(GeneralPageTest, of_a_missing_file_leaves_size_time_and_boxes_empty_and_changes_nothing) {
-    EXPECT_FALSE(ShowSheet(tree.Path(L"missing.txt"), IDOK, [&](const OpenSheet& sheet) {
-        EXPECT_EQ(sheet.Text(11903), tree.Root());
+    EXPECT_FALSE(ShowSheet(tree_.Path(L"missing.txt"), IDOK, [&](const OpenSheet& sheet) {
+        EXPECT_EQ(sheet.Text(11903), tree_.Root());
         EXPECT_EQ(sheet.Text(11904), L"");
         EXPECT_EQ(sheet.Text(11905), L"");
         for (const int box : {10301, 10302, 10303, 10304})
             EXPECT_FALSE(sheet.IsChecked(box)) << box;
     }));
-    EXPECT_EQ(GetFileAttributesW(tree.Path(L"missing.txt").c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(GetFileAttributesW(tree_.Path(L"missing.txt").c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(GeneralPageTest, changes_a_real_file) {
-    const std::wstring path = tree.AddFile(L"a.txt", "text");
+    const std::wstring path = tree_.AddFile(L"a.txt", "text");
     ASSERT_TRUE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_ARCHIVE));
     EXPECT_TRUE(ShowSheet(path, IDOK, [](const OpenSheet& sheet) {
         EXPECT_FALSE(sheet.IsChecked(CHECK_READ_ONLY));

@@ -22,7 +22,7 @@ TEST_F(OpenCommand, starts_a_file_by_its_path_with_the_default_action) {
     Commands().Open();
     ASSERT_EQ(Shell().started.size(), 1u);
     const StartedFile& started = Shell().started[0];
-    EXPECT_EQ(started.file, tree.Path(L"a b.txt"));
+    EXPECT_EQ(started.file, tree_.Path(L"a b.txt"));
     EXPECT_EQ(started.info.cbSize, sizeof(SHELLEXECUTEINFOW));
     EXPECT_EQ(started.info.fMask, 0u);
     EXPECT_EQ(started.info.hwnd, OwnerHandle());
@@ -37,7 +37,7 @@ TEST_F(OpenCommand, starts_a_file_that_has_vanished_and_leaves_the_failure_to_th
     List().SelectRow(0);
     Commands().Open();
     ASSERT_EQ(Shell().started.size(), 1u);
-    EXPECT_EQ(Shell().started[0].file, tree.Path(L"vanished.txt"));
+    EXPECT_EQ(Shell().started[0].file, tree_.Path(L"vanished.txt"));
 }
 
 TEST_F(OpenCommand, runs_a_shortcuts_quoted_program_with_the_quotes_of_its_argument_doubled) {
@@ -73,7 +73,7 @@ TEST_F(OpenCommand, reads_a_shortcut_whatever_the_case_of_its_ending) {
 }
 
 TEST_F(OpenCommand, does_nothing_with_a_folder) {
-    tree.AddFolder(L"folder");
+    tree_.AddFolder(L"folder");
     AddRow(L"folder");
     List().SelectRow(0);
     Commands().Open();
@@ -81,10 +81,10 @@ TEST_F(OpenCommand, does_nothing_with_a_folder) {
 }
 
 TEST_F(OpenCommand, does_nothing_with_a_shortcut_to_a_folder) {
-    tree.AddFolder(L"a folder");
+    tree_.AddFolder(L"a folder");
     AddFileRow(L"a.lnk");
     List().SelectRow(0);
-    Shell().target = L"\"" + tree.Path(L"a folder") + L"\"";
+    Shell().target = L"\"" + tree_.Path(L"a folder") + L"\"";
     Commands().Open();
     EXPECT_EQ(Shell().targetCapacities.size(), 1u);
     EXPECT_TRUE(Shell().started.empty());
@@ -129,7 +129,7 @@ TEST_F(StartMenuCommand, numbers_the_second_and_the_third_shortcut_to_the_same_f
                                          L"\\Windows\\Start Menu\\Programs\\Notes (2).lnk",
                                          L"\\Windows\\Start Menu\\Programs\\Notes (3).lnk"}));
     for (const MadeShortcut& made : Shell().made)
-        EXPECT_EQ(made.target, tree.Path(L"notes.txt"));
+        EXPECT_EQ(made.target, tree_.Path(L"notes.txt"));
 }
 
 TEST_F(StartMenuCommand, uses_the_japanese_folder_on_a_japanese_surface) {

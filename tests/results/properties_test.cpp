@@ -47,30 +47,30 @@ HWND TabsOf(HWND sheet) {
 }  // namespace
 
 std::wstring OpenSheet::Caption() const {
-    return TextOf(sheet);
+    return TextOf(sheet_);
 }
 
 std::vector<std::wstring> OpenSheet::Tabs() const {
     std::vector<std::wstring> tabs;
-    const auto count = static_cast<int>(SendMessageW(TabsOf(sheet), TCM_GETITEMCOUNT, 0, 0));
+    const auto count = static_cast<int>(SendMessageW(TabsOf(sheet_), TCM_GETITEMCOUNT, 0, 0));
     for (int i = 0; i < count; ++i) {
         wchar_t text[64] = L"";
         TCITEMW item = {};
         item.mask = TCIF_TEXT;
         item.pszText = text;
         item.cchTextMax = 64;
-        SendMessageW(TabsOf(sheet), TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        SendMessageW(TabsOf(sheet_), TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
         tabs.emplace_back(text);
     }
     return tabs;
 }
 
 void OpenSheet::TurnTo(int page) const {
-    SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
+    SendMessageW(sheet_, PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
 }
 
 HWND OpenSheet::Page() const {
-    return reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+    return reinterpret_cast<HWND>(SendMessageW(sheet_, PSM_GETCURRENTPAGEHWND, 0, 0));
 }
 
 std::wstring OpenSheet::Text(int id) const {
@@ -124,7 +124,7 @@ void OpenSheet::SetText(int id, const std::wstring& text) const {
 bool PropertiesTest::ShowSheet(const std::wstring& path, int button, const Doing& doing) {
     run = {&doing, button, false};
     const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &WaitForSheet);
-    FilePropertiesSheet sheet(&host.Object(), L"");
+    FilePropertiesSheet sheet(&host_.Object(), L"");
     sheet.SetPath(path.c_str());
     sheet.Run();
     KillTimer(nullptr, timer);

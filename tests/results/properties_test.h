@@ -16,9 +16,9 @@
 // The sheet while it is open. A page is made when it is first turned to; the first one stands at once.
 class OpenSheet {
   public:
-    explicit OpenSheet(HWND sheetWindow) : sheet(sheetWindow) {}
+    explicit OpenSheet(HWND sheetWindow) : sheet_(sheetWindow) {}
 
-    [[nodiscard]] HWND Window() const { return sheet; }
+    [[nodiscard]] HWND Window() const { return sheet_; }
     [[nodiscard]] std::wstring Caption() const;
     [[nodiscard]] std::vector<std::wstring> Tabs() const;
     void TurnTo(int page) const;
@@ -35,7 +35,7 @@ class OpenSheet {
     void SetText(int id, const std::wstring& text) const;
 
   private:
-    HWND sheet;
+    HWND sheet_;
 };
 
 class PropertiesTest : public testing::Test {
@@ -53,13 +53,13 @@ class PropertiesTest : public testing::Test {
     static std::wstring ShortForms();
     static std::string BytesOf(const std::wstring& path);
 
-    TestWorld world;
-    HostWindow host;
-    TempTree tree;
+    TestWorld world_;
+    HostWindow host_;
+    TempTree tree_;
 
   private:
     static BOOL NineHoursLater(const FILETIME* utc, FILETIME* local);
 
-    Replaced<decltype(ce::systemCalls.fileTimeToLocalFileTime)> zone{ce::systemCalls.fileTimeToLocalFileTime,
-                                                                     &NineHoursLater};
+    Replaced<decltype(ce::systemCalls.fileTimeToLocalFileTime)> zone_{ce::systemCalls.fileTimeToLocalFileTime,
+                                                                      &NineHoursLater};
 };

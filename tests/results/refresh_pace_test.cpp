@@ -10,15 +10,15 @@ constexpr bool NoRows = false;
 
 class RefreshPaceTest : public testing::Test {
   protected:
-    RefreshPaceTest() { pace.Begin(Start); }
+    RefreshPaceTest() { pace_.Begin(Start); }
     void DrawAt(ULONGLONG begin, ULONGLONG cost, bool hasRows) {
-        pace.Drawn(Start + begin, Start + begin + cost, hasRows);
+        pace_.Drawn(Start + begin, Start + begin + cost, hasRows);
     }
     [[nodiscard]] bool IsDueAt(ULONGLONG time, bool hasRows) const {
-        return pace.IsDue(Start + time, hasRows);
+        return pace_.IsDue(Start + time, hasRows);
     }
 
-    RefreshPace pace;
+    RefreshPace pace_;
 };
 
 }  // namespace
@@ -56,7 +56,7 @@ TEST_F(RefreshPaceTest, a_dear_drawing_is_followed_by_a_pause_of_ten_times_its_c
 
 TEST_F(RefreshPaceTest, the_next_search_begins_anew) {
     DrawAt(50, 100, Rows);
-    pace.Begin(Start + 200);
+    pace_.Begin(Start + 200);
     EXPECT_FALSE(IsDueAt(249, Rows));
     EXPECT_TRUE(IsDueAt(250, Rows));
 }

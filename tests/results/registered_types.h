@@ -13,7 +13,7 @@ class RegisteredTypes {
     RegisteredTypes(const RegisteredTypes&) = delete;
     RegisteredTypes& operator=(const RegisteredTypes&) = delete;
     ~RegisteredTypes() {
-        for (const std::wstring& key : made)
+        for (const std::wstring& key : made_)
             RegDeleteTreeW(HKEY_CLASSES_ROOT, key.c_str());
     }
 
@@ -28,9 +28,9 @@ class RegisteredTypes {
         RegCreateKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
                         nullptr);
         RegCloseKey(key);
-        made.push_back(path.substr(0, path.find(L'\\')));
+        made_.push_back(path.substr(0, path.find(L'\\')));
     }
 
   private:
-    std::vector<std::wstring> made;
+    std::vector<std::wstring> made_;
 };

@@ -71,7 +71,7 @@ TEST_F(RenameCommand, that_was_cancelled_does_nothing) {
 }
 
 TEST_F(RenameCommand, onto_an_existing_file_keeps_both) {
-    tree.AddFile(L"b.txt", "of b");
+    tree_.AddFile(L"b.txt", "of b");
     ExpectRefused(L"b.txt", L"Error Move file 183");
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
     EXPECT_EQ(ContentOf(L"b.txt"), "of b");
@@ -91,14 +91,14 @@ TEST_F(RenameCommand, into_a_missing_folder_is_refused) {
 }
 
 TEST_F(RenameCommand, into_an_existing_folder_moves_the_file_there) {
-    tree.AddFolder(L"sub");
+    tree_.AddFolder(L"sub");
     EndWith(L"sub\\b.txt");
     EXPECT_EQ(ContentOf(L"sub\\b.txt"), "of a");
     EXPECT_EQ(Files(), (Names{L"sub"}));
     wchar_t path[MAX_PATH] = L"";
     List().SelectRow(0);
     EXPECT_EQ(List().SelectedPath(path), 0);
-    EXPECT_EQ(path, tree.Path(L"sub\\b.txt"));
+    EXPECT_EQ(path, tree_.Path(L"sub\\b.txt"));
 }
 
 TEST_F(RenameCommand, to_a_name_that_makes_the_path_too_long_is_refused) {
@@ -107,7 +107,7 @@ TEST_F(RenameCommand, to_a_name_that_makes_the_path_too_long_is_refused) {
 }
 
 TEST_F(RenameCommand, of_a_file_that_vanished_is_refused) {
-    ASSERT_TRUE(DeleteFileW(tree.Path(L"a.txt").c_str()));
+    ASSERT_TRUE(DeleteFileW(tree_.Path(L"a.txt").c_str()));
     ExpectRefused(L"b.txt", L"Error Move file 2");
     EXPECT_EQ(Files(), Names());
 }
@@ -115,7 +115,7 @@ TEST_F(RenameCommand, of_a_file_that_vanished_is_refused) {
 TEST_F(RenameCommand, of_a_file_in_use_tells_its_path) {
     const Replaced failing(ce::fileCalls.moveFile, &FailToMove);
     failureCode = ERROR_SHARING_VIOLATION;
-    ExpectRefused(L"b.txt", (tree.Path(L"a.txt") + L" is in use").c_str());
+    ExpectRefused(L"b.txt", (tree_.Path(L"a.txt") + L" is in use").c_str());
 }
 
 TEST_F(RenameCommand, is_refused_in_japanese_on_a_japanese_surface) {
@@ -140,25 +140,25 @@ TEST_F(RenameCommand, to_the_same_name_changes_nothing) {
 }
 
 TEST_F(RenameCommand, of_a_read_only_file_moves_it) {
-    ASSERT_TRUE(SetFileAttributesW(tree.Path(L"a.txt").c_str(), FILE_ATTRIBUTE_READONLY));
+    ASSERT_TRUE(SetFileAttributesW(tree_.Path(L"a.txt").c_str(), FILE_ATTRIBUTE_READONLY));
     EndWith(L"b.txt");
     EXPECT_EQ(Files(), (Names{L"b.txt"}));
     EXPECT_EQ(RowNames(), (Names{L"b.txt"}));
-    EXPECT_NE(GetFileAttributesW(tree.Path(L"b.txt").c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
+    EXPECT_NE(GetFileAttributesW(tree_.Path(L"b.txt").c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
 }
 
 TEST_F(RenameCommand, of_a_file_that_another_program_holds_is_refused) {
     const HANDLE held =
-        CreateFileW(tree.Path(L"a.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        CreateFileW(tree_.Path(L"a.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    ExpectRefused(L"b.txt", (tree.Path(L"a.txt") + L" is in use").c_str());
+    ExpectRefused(L"b.txt", (tree_.Path(L"a.txt") + L" is in use").c_str());
     CloseHandle(held);
     EXPECT_EQ(Files(), (Names{L"a.txt"}));
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
 }
 
 TEST_F(RenameCommand, onto_a_folder_is_refused) {
-    tree.AddFile(L"sub\\inside.txt", "inside");
+    tree_.AddFile(L"sub\\inside.txt", "inside");
     ExpectRefused(L"sub", L"Error Move file 183");
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
     EXPECT_EQ(ContentOf(L"sub\\inside.txt"), "inside");
@@ -185,7 +185,7 @@ TEST_F(RenameCommand, to_a_name_that_no_file_can_have_is_refused) {
 }
 
 TEST_F(RenameCommand, of_a_folder_moves_it_with_what_it_holds) {
-    tree.AddFile(L"sub\\inside.txt", "inside");
+    tree_.AddFile(L"sub\\inside.txt", "inside");
     AddRow(L"sub");
     std::wstring text = L"other";
     NMLVDISPINFOW edited = {};

@@ -10,10 +10,10 @@ class RenameInPlace : public RenameTest {
     class Listener : public WindowObject {
       public:
         explicit Listener(ResultCommands& resultCommands)
-            : WindowObject(nullptr, nullptr), commands(resultCommands) {}
+            : WindowObject(nullptr, nullptr), commands_(resultCommands) {}
         LRESULT OnEnd(EventArguments& arguments) {
             ++ends;
-            commands.EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
+            commands_.EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
             return FALSE;
         }
         LRESULT OnOther(EventArguments&) {
@@ -25,13 +25,13 @@ class RenameInPlace : public RenameTest {
         int others = 0;  // keys and clicks on headings that reached the list
 
       private:
-        ResultCommands& commands;
+        ResultCommands& commands_;
     };
 
     RenameInPlace() {
-        List().OnNotification(event::EndLabelEdit, &listener, &Listener::OnEnd);
-        List().OnNotification(event::KeyDown, &listener, &Listener::OnOther);
-        List().OnNotification(event::ColumnClick, &listener, &Listener::OnOther);
+        List().OnNotification(event::EndLabelEdit, &listener_, &Listener::OnEnd);
+        List().OnNotification(event::KeyDown, &listener_, &Listener::OnOther);
+        List().OnNotification(event::ColumnClick, &listener_, &Listener::OnOther);
         List().SelectRow(0);
     }
     [[nodiscard]] HWND Edit() {
@@ -57,7 +57,7 @@ class RenameInPlace : public RenameTest {
         EXPECT_EQ(RowNames(), (Names{name}));
     }
 
-    Listener listener{Commands()};
+    Listener listener_{Commands()};
 };
 
 TEST_F(RenameInPlace, ends_with_enter) {
@@ -65,8 +65,8 @@ TEST_F(RenameInPlace, ends_with_enter) {
     BeginAndEnd(L"b.txt", VK_RETURN);
     EXPECT_TRUE(boxes.Seen().empty());
     ExpectRenamedTo(L"b.txt");
-    EXPECT_EQ(listener.ends, 1);
-    EXPECT_EQ(listener.others, 0) << "Enter reached the list";
+    EXPECT_EQ(listener_.ends, 1);
+    EXPECT_EQ(listener_.others, 0) << "Enter reached the list";
 }
 
 TEST_F(RenameInPlace, is_given_up_with_escape) {
@@ -74,12 +74,12 @@ TEST_F(RenameInPlace, is_given_up_with_escape) {
     BeginAndEnd(L"b.txt", VK_ESCAPE);
     EXPECT_TRUE(boxes.Seen().empty());
     ExpectRenamedTo(L"a.txt");
-    EXPECT_EQ(listener.others, 0) << "Esc reached the list";
+    EXPECT_EQ(listener_.others, 0) << "Esc reached the list";
 }
 
 TEST_F(RenameInPlace, is_given_up_with_escape_whatever_stands_in_the_edit) {
     const AnsweredBoxes boxes{IDOK};
-    ASSERT_TRUE(DeleteFileW(tree.Path(L"a.txt").c_str()));
+    ASSERT_TRUE(DeleteFileW(tree_.Path(L"a.txt").c_str()));
     for (const wchar_t* text : {L"", L"a.txt"})
         BeginAndEnd(text, VK_ESCAPE);
     EXPECT_TRUE(boxes.Seen().empty());
@@ -87,13 +87,13 @@ TEST_F(RenameInPlace, is_given_up_with_escape_whatever_stands_in_the_edit) {
 }
 
 TEST_F(RenameInPlace, that_fails_shows_two_boxes_and_the_old_name) {
-    tree.AddFile(L"b.txt", "of b");
+    tree_.AddFile(L"b.txt", "of b");
     const AnsweredBoxes boxes{IDOK};
     BeginAndEnd(L"b.txt", VK_RETURN);
     ExpectRefusal(boxes, L"Error Move file 183");
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
     EXPECT_EQ(ContentOf(L"b.txt"), "of b");
-    EXPECT_EQ(listener.ends, 1);
+    EXPECT_EQ(listener_.ends, 1);
 }
 
 TEST_F(RenameInPlace, to_nothing_is_tried_and_refused) {
@@ -111,7 +111,7 @@ TEST_F(RenameInPlace, to_the_same_name_is_tried_as_well) {
         EXPECT_TRUE(boxes.Seen().empty());
         ExpectRenamedTo(L"a.txt");
     }
-    ASSERT_TRUE(DeleteFileW(tree.Path(L"a.txt").c_str()));
+    ASSERT_TRUE(DeleteFileW(tree_.Path(L"a.txt").c_str()));
     const AnsweredBoxes boxes{IDOK};
     BeginAndEnd(L"a.txt", VK_RETURN);
     ExpectRefusal(boxes, L"Error Move file 2");
@@ -128,14 +128,14 @@ TEST_F(RenameInPlace, takes_the_text_of_an_edit_that_is_left) {
 }
 
 TEST_F(RenameInPlace, that_fails_when_the_edit_is_left_shows_two_boxes_as_well) {
-    tree.AddFile(L"b.txt", "of b");
+    tree_.AddFile(L"b.txt", "of b");
     const AnsweredBoxes boxes{IDOK};
     Begin(L"b.txt");
     SetFocus(List().Handle());
     PumpQueue();
     EXPECT_EQ(Edit(), nullptr);
     ExpectRefusal(boxes, L"Error Move file 183");
-    EXPECT_EQ(listener.ends, 1);
+    EXPECT_EQ(listener_.ends, 1);
     EXPECT_EQ(ContentOf(L"a.txt"), "of a");
     EXPECT_EQ(ContentOf(L"b.txt"), "of b");
 }
@@ -155,14 +155,14 @@ TEST_F(RenameInPlace, leaves_enter_and_escape_to_an_input_method_that_composes) 
         PressKeyOn(Edit(), key);
         ASSERT_NE(Edit(), nullptr) << "key " << key << " ended the editing";
     }
-    EXPECT_EQ(listener.ends, 0);
+    EXPECT_EQ(listener_.ends, 0);
     SendMessageW(Edit(), WM_IME_ENDCOMPOSITION, 0, 0);
     SetWindowTextW(Edit(), L"日報.txt");
     PressKeyOn(Edit(), VK_RETURN);
     EXPECT_EQ(Edit(), nullptr);
     EXPECT_TRUE(boxes.Seen().empty());
     ExpectRenamedTo(L"日報.txt");
-    EXPECT_EQ(listener.others, 0) << "a key reached the list";
+    EXPECT_EQ(listener_.others, 0) << "a key reached the list";
 }
 
 TEST_F(RenameInPlace, keeps_the_keys_of_the_list_to_itself) {
@@ -173,7 +173,7 @@ TEST_F(RenameInPlace, keeps_the_keys_of_the_list_to_itself) {
     SendMessageW(Edit(), WM_SYSKEYDOWN, VK_RETURN, 0x20000001);
     SendMessageW(Edit(), WM_SYSKEYUP, VK_RETURN, static_cast<LPARAM>(0xE0000001));
     EXPECT_NE(Edit(), nullptr);
-    EXPECT_EQ(listener.others, 0);
+    EXPECT_EQ(listener_.others, 0);
     EXPECT_EQ(Files(), (Names{L"a.txt"}));
     EXPECT_TRUE(Shell().started.empty());
 }
@@ -226,7 +226,7 @@ TEST_F(RenameInPlace, is_taken_at_once_when_something_else_is_to_be_done) {
     EXPECT_EQ(Edit(), nullptr);
     ExpectRenamedTo(L"b.txt");
     List().EndEditing();
-    EXPECT_EQ(listener.ends, 1);
+    EXPECT_EQ(listener_.ends, 1);
 }
 
 TEST_F(RenameInPlace, does_not_begin_behind_a_dialog_or_during_a_search) {

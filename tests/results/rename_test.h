@@ -26,7 +26,7 @@ class RenameTest : public ResultCommandsTest {
         EXPECT_EQ(RowNames()[0], L"a.txt");
     }
     [[nodiscard]] std::string ContentOf(const std::wstring& relative) const {
-        std::FILE* file = _wfopen(tree.Path(relative).c_str(), L"rb");
+        std::FILE* file = _wfopen(tree_.Path(relative).c_str(), L"rb");
         if (file == nullptr) return "(missing)";
         char bytes[16] = {};
         const std::size_t size = std::fread(bytes, 1, sizeof bytes, file);
@@ -37,7 +37,7 @@ class RenameTest : public ResultCommandsTest {
     [[nodiscard]] Names Files() const {
         Names names;
         WIN32_FIND_DATAW data;
-        const HANDLE search = ce::FindFirstFileW(tree.Path(L"*.*").c_str(), &data);
+        const HANDLE search = ce::FindFirstFileW(tree_.Path(L"*.*").c_str(), &data);
         if (search == INVALID_HANDLE_VALUE) return names;
         do
             names.emplace_back(data.cFileName);

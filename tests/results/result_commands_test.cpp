@@ -35,13 +35,13 @@ DWORD_PTR AnswerAboutFile(const wchar_t*, DWORD, SHFILEINFOW* info, UINT, UINT) 
 }  // namespace
 
 ResultCommandsTest::ResultCommandsTest()
-    : shortcutsBefore(ce::shortcutCalls), kinds(ce::shellCalls.getFileInfo, &AnswerAboutFile) {
+    : shortcutsBefore_(ce::shortcutCalls), kinds_(ce::shellCalls.getFileInfo, &AnswerAboutFile) {
     record = {};
     ce::shortcutCalls = {Target, Make, Start};
 }
 
 ResultCommandsTest::~ResultCommandsTest() {
-    ce::shortcutCalls = shortcutsBefore;
+    ce::shortcutCalls = shortcutsBefore_;
 }
 
 ShellRecord& ResultCommandsTest::Shell() {
@@ -49,22 +49,22 @@ ShellRecord& ResultCommandsTest::Shell() {
 }
 
 ResultList& ResultCommandsTest::List() {
-    if (list == nullptr) {
+    if (list_ == nullptr) {
         PropertySet properties;
         properties.Set(property::Width, 220);
         properties.Set(property::Height, 150);
-        list = std::make_unique<ResultList>(&host.Object(), properties);
+        list_ = std::make_unique<ResultList>(&host_.Object(), properties);
     }
-    return *list;
+    return *list_;
 }
 
 ResultCommands& ResultCommandsTest::Commands() {
-    if (commands == nullptr) commands = std::make_unique<ResultCommands>(host.Object(), List());
-    return *commands;
+    if (commands_ == nullptr) commands_ = std::make_unique<ResultCommands>(host_.Object(), List());
+    return *commands_;
 }
 
 void ResultCommandsTest::AddRow(const std::wstring& relative) {
-    const std::wstring path = tree.Path(relative);
+    const std::wstring path = tree_.Path(relative);
     WIN32_FIND_DATAW entry = FileEntry(path.substr(path.rfind(L'\\') + 1));
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES) entry.dwFileAttributes = attributes;
@@ -72,7 +72,7 @@ void ResultCommandsTest::AddRow(const std::wstring& relative) {
 }
 
 void ResultCommandsTest::AddFileRow(const std::wstring& relative, std::string_view bytes) {
-    tree.AddFile(relative, bytes);
+    tree_.AddFile(relative, bytes);
     AddRow(relative);
 }
 
@@ -84,5 +84,5 @@ std::vector<std::wstring> ResultCommandsTest::RowNames() {
 }
 
 bool ResultCommandsTest::Stands(const std::wstring& relative) const {
-    return GetFileAttributesW(tree.Path(relative).c_str()) != INVALID_FILE_ATTRIBUTES;
+    return GetFileAttributesW(tree_.Path(relative).c_str()) != INVALID_FILE_ATTRIBUTES;
 }

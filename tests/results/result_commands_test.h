@@ -45,7 +45,7 @@ class ResultCommandsTest : public testing::Test {
     // The list is made at the first use, so that a test may choose the language before.
     ResultList& List();
     ResultCommands& Commands();
-    [[nodiscard]] HWND OwnerHandle() const { return host.Handle(); }
+    [[nodiscard]] HWND OwnerHandle() const { return host_.Handle(); }
 
     // A row for what stands at the path in the tree.
     void AddRow(const std::wstring& relative);
@@ -57,13 +57,13 @@ class ResultCommandsTest : public testing::Test {
 
     static ShellRecord& Shell();
 
-    TestWorld world;
-    HostWindow host;
-    TempTree tree;
+    TestWorld world_;
+    HostWindow host_;
+    TempTree tree_;
 
   private:
-    std::unique_ptr<ResultList> list;
-    std::unique_ptr<ResultCommands> commands;
-    ce::ShortcutCalls shortcutsBefore;
-    Replaced<decltype(ce::ShellCalls::getFileInfo)> kinds;
+    std::unique_ptr<ResultList> list_;
+    std::unique_ptr<ResultCommands> commands_;
+    ce::ShortcutCalls shortcutsBefore_;
+    Replaced<decltype(ce::ShellCalls::getFileInfo)> kinds_;
 };

@@ -18,10 +18,10 @@ DWORD_PTR CountQuestion(const wchar_t*, DWORD, SHFILEINFOW* info, UINT, UINT fla
 // What a list was sent, for as long as the object lives.
 class WatchedList {
   public:
-    explicit WatchedList(HWND listView) : list(listView) {
-        SetWindowSubclass(list, &Watch, 1, reinterpret_cast<DWORD_PTR>(this));
+    explicit WatchedList(HWND listView) : list_(listView) {
+        SetWindowSubclass(list_, &Watch, 1, reinterpret_cast<DWORD_PTR>(this));
     }
-    ~WatchedList() { RemoveWindowSubclass(list, &Watch, 1); }
+    ~WatchedList() { RemoveWindowSubclass(list_, &Watch, 1); }
     WatchedList(const WatchedList&) = delete;
     WatchedList& operator=(const WatchedList&) = delete;
 
@@ -43,7 +43,7 @@ class WatchedList {
         return DefSubclassProc(window, message, wParam, lParam);
     }
 
-    HWND list;
+    HWND list_;
 };
 
 }  // namespace
@@ -52,8 +52,8 @@ class ResultCosts : public ResultListTest {
   protected:
     ResultCosts() {
         shellQuestions.clear();
-        types.Add(L".qsaa", L"qsnote");
-        types.Add(L".qsab", L"qsnote");
+        types_.Add(L".qsaa", L"qsnote");
+        types_.Add(L".qsab", L"qsnote");
     }
     void ClickOnHeading(int column) {
         NMLISTVIEW clicked = {};
@@ -64,8 +64,8 @@ class ResultCosts : public ResultListTest {
         SendMessageW(GetParent(Handle()), WM_NOTIFY, clicked.hdr.idFrom, reinterpret_cast<LPARAM>(&clicked));
     }
 
-    RegisteredTypes types;
-    Replaced<decltype(ce::shellCalls.getFileInfo)> shell{ce::shellCalls.getFileInfo, &CountQuestion};
+    RegisteredTypes types_;
+    Replaced<decltype(ce::shellCalls.getFileInfo)> shell_{ce::shellCalls.getFileInfo, &CountQuestion};
 };
 
 TEST_F(ResultCosts, a_thousand_rows_ask_once_for_each_extensions_name_and_once_for_each_icon_of_a_type) {

@@ -19,13 +19,13 @@ class ResultListTest : public testing::Test {
     void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     ResultList& List() {
-        if (list == nullptr) {
+        if (list_ == nullptr) {
             PropertySet properties;
             properties.Set(property::Width, 220);
             properties.Set(property::Height, 150);
-            list = std::make_unique<ResultList>(&host.Object(), properties);
+            list_ = std::make_unique<ResultList>(&host_.Object(), properties);
         }
-        return *list;
+        return *list_;
     }
     HWND Handle() { return List().Handle(); }
 
@@ -50,10 +50,10 @@ class ResultListTest : public testing::Test {
         return TRUE;
     }
 
-    TestWorld world;
-    HostWindow host;
-    Replaced<decltype(ce::shellCalls.getFileInfo)> kinds{ce::shellCalls.getFileInfo, &KindOfFile};
-    Replaced<decltype(ce::systemCalls.fileTimeToLocalFileTime)> zone{ce::systemCalls.fileTimeToLocalFileTime,
-                                                                     &NineHoursLater};
-    std::unique_ptr<ResultList> list;
+    TestWorld world_;
+    HostWindow host_;
+    Replaced<decltype(ce::shellCalls.getFileInfo)> kinds_{ce::shellCalls.getFileInfo, &KindOfFile};
+    Replaced<decltype(ce::systemCalls.fileTimeToLocalFileTime)> zone_{ce::systemCalls.fileTimeToLocalFileTime,
+                                                                      &NineHoursLater};
+    std::unique_ptr<ResultList> list_;
 };

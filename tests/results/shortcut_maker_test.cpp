@@ -32,10 +32,10 @@ class ShortcutMaker : public testing::Test {
   protected:
     void SetUp() override { made.clear(); }
 
-    Replaced<decltype(ce::fileCalls.getFileAttributes)> attributes{ce::fileCalls.getFileAttributes,
-                                                                   &AttributesOfMade};
-    Replaced<decltype(ce::shellCalls.getFileInfo)> shell{ce::shellCalls.getFileInfo, &NotesAsDisplayName};
-    Replaced<decltype(ce::shortcutCalls.create)> create{
+    Replaced<decltype(ce::fileCalls.getFileAttributes)> attributes_{ce::fileCalls.getFileAttributes,
+                                                                    &AttributesOfMade};
+    Replaced<decltype(ce::shellCalls.getFileInfo)> shell_{ce::shellCalls.getFileInfo, &NotesAsDisplayName};
+    Replaced<decltype(ce::shortcutCalls.create)> create_{
         ce::shortcutCalls.create, [](const wchar_t* shortcut, const wchar_t* target) -> BOOL {
             made.push_back({shortcut, target});
             return TRUE;

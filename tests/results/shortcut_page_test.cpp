@@ -40,25 +40,25 @@ class ShortcutPageTest : public PropertiesTest {
         targetOfAll.clear();
     }
     void ShowPage(int button, const Doing& doing) {
-        ShowSheet(path, button, [&](const OpenSheet& sheet) {
+        ShowSheet(path_, button, [&](const OpenSheet& sheet) {
             sheet.TurnTo(Shortcut);
             doing(sheet);
         });
     }
     std::wstring SizeOfTarget(std::size_t bytes) {
-        targetOfAll = tree.AddFile(L"target.bin", std::string(bytes, 'x'));
+        targetOfAll = tree_.AddFile(L"target.bin", std::string(bytes, 'x'));
         std::wstring shown;
         ShowPage(IDCANCEL, [&](const OpenSheet& sheet) { shown = sheet.Text(11905); });
         return shown;
     }
     [[nodiscard]] std::vector<std::wstring> MadeAnewWith(const std::wstring& target) const {
-        return {L"delete " + path, L"create " + path + L" -> " + target};
+        return {L"delete " + path_, L"create " + path_ + L" -> " + target};
     }
 
-    std::wstring path = tree.AddFile(L"s.lnk", "no matter");
-    Replaced<decltype(ce::shortcutCalls.getTarget)> get{ce::shortcutCalls.getTarget, &TellTarget};
-    Replaced<decltype(ce::shortcutCalls.create)> create{ce::shortcutCalls.create, &NoteCreate};
-    Replaced<decltype(ce::fileCalls.deleteFile)> remove{ce::fileCalls.deleteFile, &NoteDelete};
+    std::wstring path_ = tree_.AddFile(L"s.lnk", "no matter");
+    Replaced<decltype(ce::shortcutCalls.getTarget)> get_{ce::shortcutCalls.getTarget, &TellTarget};
+    Replaced<decltype(ce::shortcutCalls.create)> create_{ce::shortcutCalls.create, &NoteCreate};
+    Replaced<decltype(ce::fileCalls.deleteFile)> remove_{ce::fileCalls.deleteFile, &NoteDelete};
 };
 
 TEST_F(ShortcutPageTest, stands_behind_the_general_page_of_a_shortcut_only) {
@@ -69,17 +69,17 @@ TEST_F(ShortcutPageTest, stands_behind_the_general_page_of_a_shortcut_only) {
     };
     const std::vector<std::wstring> two{L"General", L"Shortcut"};
     const std::vector<std::wstring> one{L"General"};
-    EXPECT_EQ(tabsOf(path), two);
-    EXPECT_EQ(tabsOf(tree.AddFile(L"t.LNK")), two);
-    EXPECT_EQ(tabsOf(tree.AddFile(L"a.txt")), one);
-    EXPECT_EQ(tabsOf(tree.AddFile(L"a.lnk.txt")), one);
+    EXPECT_EQ(tabsOf(path_), two);
+    EXPECT_EQ(tabsOf(tree_.AddFile(L"t.LNK")), two);
+    EXPECT_EQ(tabsOf(tree_.AddFile(L"a.txt")), one);
+    EXPECT_EQ(tabsOf(tree_.AddFile(L"a.lnk.txt")), one);
     EXPECT_EQ(tabsOf(L".lnk"), one);
     UseJapanese();
-    EXPECT_EQ(tabsOf(path), (std::vector<std::wstring>{L"全般", L"ｼｮｰﾄｶｯﾄ"}));
+    EXPECT_EQ(tabsOf(path_), (std::vector<std::wstring>{L"全般", L"ｼｮｰﾄｶｯﾄ"}));
 }
 
 TEST_F(ShortcutPageTest, goes_when_the_sheet_gets_the_path_of_another_file) {
-    FilePropertiesSheet sheet(&host.Object(), L"");
+    FilePropertiesSheet sheet(&host_.Object(), L"");
     EXPECT_FALSE(sheet.HasShortcutPage());
     sheet.SetPath(L"\\a.lnk");
     EXPECT_TRUE(sheet.HasShortcutPage());
@@ -90,11 +90,11 @@ TEST_F(ShortcutPageTest, goes_when_the_sheet_gets_the_path_of_another_file) {
 }
 
 TEST_F(ShortcutPageTest, shows_name_target_and_the_targets_type_size_and_time) {
-    const std::wstring target = tree.AddFile(L"my target.txt", std::string(2048, 'x'));
+    const std::wstring target = tree_.AddFile(L"my target.txt", std::string(2048, 'x'));
     SetWritten(target);
     targetOfAll = L'"' + target + L'"';
     SHFILEINFOW shortcutInfo = {};
-    SHGetFileInfoW(path.c_str(), 0, &shortcutInfo, sizeof shortcutInfo, SHGFI_DISPLAYNAME);
+    SHGetFileInfoW(path_.c_str(), 0, &shortcutInfo, sizeof shortcutInfo, SHGFI_DISPLAYNAME);
     SHFILEINFOW targetInfo = {};
     SHGetFileInfoW(target.c_str(), 0, &targetInfo, sizeof targetInfo, SHGFI_TYPENAME);
     ASSERT_NE(targetInfo.szTypeName[0], L'\0');
@@ -123,7 +123,7 @@ TEST_F(ShortcutPageTest, shows_whole_kilobytes_from_100) {
 }
 
 TEST_F(ShortcutPageTest, of_a_folder_as_target_hides_size_and_time) {
-    targetOfAll = tree.AddFolder(L"folder");
+    targetOfAll = tree_.AddFolder(L"folder");
     ShowPage(IDCANCEL, [&](const OpenSheet& sheet) {
         for (const int id : {11903, 11904, 11905, 11906})
             EXPECT_FALSE(sheet.IsShown(id)) << id;
@@ -135,7 +135,7 @@ TEST_F(ShortcutPageTest, of_a_folder_as_target_hides_size_and_time) {
 }
 
 TEST_F(ShortcutPageTest, of_a_missing_target_leaves_size_and_time_empty) {
-    targetOfAll = tree.Path(L"missing.txt") + L" one";
+    targetOfAll = tree_.Path(L"missing.txt") + L" one";
     ShowPage(IDCANCEL, [&](const OpenSheet& sheet) {
         EXPECT_EQ(sheet.Text(10701), targetOfAll);
         EXPECT_EQ(sheet.Text(11905), L"");
@@ -180,18 +180,18 @@ TEST_F(ShortcutPageTest, writes_the_text_as_it_was_typed) {
 TEST_F(ShortcutPageTest, cuts_a_text_that_is_too_long) {
     ShowPage(IDOK, [](const OpenSheet& sheet) { sheet.SetText(EDIT_TARGET, std::wstring(1000, L'n')); });
     ASSERT_EQ(done.size(), 2u);
-    EXPECT_EQ(done[1], L"create " + path + L" -> " + std::wstring(259, L'n'));
+    EXPECT_EQ(done[1], L"create " + path_ + L" -> " + std::wstring(259, L'n'));
 }
 
 TEST_F(ShortcutPageTest, that_was_not_turned_to_takes_no_part) {
     targetOfAll = L"\\a.txt";
-    EXPECT_FALSE(ShowSheet(path, IDOK));
+    EXPECT_FALSE(ShowSheet(path_, IDOK));
     EXPECT_TRUE(done.empty());
 }
 
 TEST_F(ShortcutPageTest, takes_part_once_it_was_turned_to) {
     targetOfAll = L"\\a.txt";
-    EXPECT_TRUE(ShowSheet(path, IDOK, [](const OpenSheet& sheet) {
+    EXPECT_TRUE(ShowSheet(path_, IDOK, [](const OpenSheet& sheet) {
         sheet.TurnTo(Shortcut);
         sheet.TurnTo(General);
     }));
@@ -202,7 +202,7 @@ TEST_F(ShortcutPageTest, that_is_cancelled_changes_nothing) {
     targetOfAll = L"\\a.txt";
     ShowPage(IDCANCEL, [](const OpenSheet& sheet) { sheet.SetText(EDIT_TARGET, L"\\b.txt"); });
     EXPECT_TRUE(done.empty());
-    EXPECT_EQ(BytesOf(path), "no matter");
+    EXPECT_EQ(BytesOf(path_), "no matter");
 }
 
 TEST_F(ShortcutPageTest, says_nothing_when_the_shortcut_cannot_be_made_anew) {
@@ -215,20 +215,20 @@ TEST_F(ShortcutPageTest, says_nothing_when_the_shortcut_cannot_be_made_anew) {
 // With the real shortcuts of the system.
 class RealShortcutPage : public PropertiesTest {
   protected:
-    std::wstring target = tree.AddFile(L"a.txt", std::string(10, 'x'));
-    std::wstring path = tree.Path(L"s.lnk");
+    std::wstring target_ = tree_.AddFile(L"a.txt", std::string(10, 'x'));
+    std::wstring path_ = tree_.Path(L"s.lnk");
     [[nodiscard]] std::wstring TargetNow() const {
         wchar_t text[MAX_PATH] = L"";
-        return ce::SHGetShortcutTarget(path.c_str(), text, MAX_PATH) ? text : L"(none)";
+        return ce::SHGetShortcutTarget(path_.c_str(), text, MAX_PATH) ? text : L"(none)";
     }
 };
 
 TEST_F(RealShortcutPage, points_the_shortcut_to_another_file) {
-    ASSERT_TRUE(ce::SHCreateShortcut(path.c_str(), target.c_str()));
-    const std::wstring other = L'"' + tree.AddFile(L"b c.txt") + L'"';
-    ShowSheet(path, IDOK, [&](const OpenSheet& sheet) {
+    ASSERT_TRUE(ce::SHCreateShortcut(path_.c_str(), target_.c_str()));
+    const std::wstring other = L'"' + tree_.AddFile(L"b c.txt") + L'"';
+    ShowSheet(path_, IDOK, [&](const OpenSheet& sheet) {
         sheet.TurnTo(Shortcut);
-        EXPECT_EQ(sheet.Text(EDIT_TARGET), target);
+        EXPECT_EQ(sheet.Text(EDIT_TARGET), target_);
         EXPECT_EQ(sheet.Text(STATIC_TARGET_SIZE), L"10 bytes");
         sheet.SetText(EDIT_TARGET, other);
     });
@@ -236,30 +236,30 @@ TEST_F(RealShortcutPage, points_the_shortcut_to_another_file) {
 }
 
 TEST_F(RealShortcutPage, of_a_text_shortcut_shows_its_target) {
-    tree.AddFile(L"s.lnk", "12#\\missing.txt");
-    ShowSheet(path, IDCANCEL, [&](const OpenSheet& sheet) {
+    tree_.AddFile(L"s.lnk", "12#\\missing.txt");
+    ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {
         sheet.TurnTo(Shortcut);
         EXPECT_EQ(sheet.Text(EDIT_TARGET), L"\\missing.txt");
     });
-    EXPECT_EQ(BytesOf(path), "12#\\missing.txt");
+    EXPECT_EQ(BytesOf(path_), "12#\\missing.txt");
 }
 
 TEST_F(RealShortcutPage, of_a_foreign_file_is_empty_and_survives) {
-    tree.AddFile(L"s.lnk", std::string(3000, '\x90'));
-    ShowSheet(path, IDCANCEL, [&](const OpenSheet& sheet) {
+    tree_.AddFile(L"s.lnk", std::string(3000, '\x90'));
+    ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {
         sheet.TurnTo(Shortcut);
         EXPECT_EQ(sheet.Text(EDIT_TARGET), L"");
     });
-    EXPECT_EQ(BytesOf(path), std::string(3000, '\x90'));
+    EXPECT_EQ(BytesOf(path_), std::string(3000, '\x90'));
 }
 
 TEST_F(RealShortcutPage, without_a_target_takes_the_shortcut_away) {
-    ASSERT_TRUE(ce::SHCreateShortcut(path.c_str(), target.c_str()));
-    ShowSheet(path, IDOK, [&](const OpenSheet& sheet) {
+    ASSERT_TRUE(ce::SHCreateShortcut(path_.c_str(), target_.c_str()));
+    ShowSheet(path_, IDOK, [&](const OpenSheet& sheet) {
         sheet.TurnTo(Shortcut);
         sheet.SetText(EDIT_TARGET, L"");
     });
     // The old one is deleted first, and nothing can be made of an empty text.
-    EXPECT_EQ(GetFileAttributesW(path.c_str()), INVALID_FILE_ATTRIBUTES);
-    EXPECT_EQ(BytesOf(target), std::string(10, 'x'));
+    EXPECT_EQ(GetFileAttributesW(path_.c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(BytesOf(target_), std::string(10, 'x'));
 }

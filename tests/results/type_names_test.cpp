@@ -41,11 +41,11 @@ class TypeNamesTest : public testing::Test {
     }
 
     std::wstring Of(const wchar_t* path, DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
-        return names.Of(path, attributes);
+        return names_.Of(path, attributes);
     }
 
-    Replaced<decltype(ce::shellCalls.getFileInfo)> shell{ce::shellCalls.getFileInfo, &AnswerByPath};
-    TypeNames names;
+    Replaced<decltype(ce::shellCalls.getFileInfo)> shell_{ce::shellCalls.getFileInfo, &AnswerByPath};
+    TypeNames names_;
 };
 
 }  // namespace

@@ -34,24 +34,24 @@ class SearchClearing : public testing::Test {
   protected:
     SearchClearing() {
         current = this;
-        window = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
-        folders.AddFile(L"\\", L"a.txt");
+        window_ = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
+        folders_.AddFile(L"\\", L"a.txt");
     }
-    ~SearchClearing() override { DestroyWindow(window); }
+    ~SearchClearing() override { DestroyWindow(window_); }
 
-    void Ask() { PostMessageW(window, Asked, 0, 0); }
-    void Search() { RunSearch(conditions, source, sink, progress); }
+    void Ask() { PostMessageW(window_, Asked, 0, 0); }
+    void Search() { RunSearch(conditions_, source_, sink_, progress_); }
 
-    FakeFolders folders;
-    AnsweredSource source;
-    SearchConditions conditions;
-    SlowSink sink;
-    ToldProgress progress;
-    int stepsLeftWhenAnswered = -1;
-    int answers = 0;
-    int answersWanted = 1;
-    bool stopWhenAnswered = false;
+    FakeFolders folders_;
+    AnsweredSource source_;
+    SearchConditions conditions_;
+    SlowSink sink_;
+    ToldProgress progress_;
+    int stepsLeftWhenAnswered_ = -1;
+    int answers_ = 0;
+    int answersWanted_ = 1;
+    bool stopWhenAnswered_ = false;
 
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -60,13 +60,13 @@ class SearchClearing : public testing::Test {
         return 0;
     }
     void Answer() {
-        if (stepsLeftWhenAnswered < 0) stepsLeftWhenAnswered = sink.stepsLeft;
-        if (stopWhenAnswered) progress.stop = true;
-        if (++answers < answersWanted) Ask();
+        if (stepsLeftWhenAnswered_ < 0) stepsLeftWhenAnswered_ = sink_.stepsLeft;
+        if (stopWhenAnswered_) progress_.stop = true;
+        if (++answers_ < answersWanted_) Ask();
     }
 
     static inline SearchClearing* current = nullptr;
-    HWND window = nullptr;
+    HWND window_ = nullptr;
 };
 
 }  // namespace
@@ -74,37 +74,37 @@ class SearchClearing : public testing::Test {
 TEST_F(SearchClearing, a_message_is_answered_before_the_next_step) {
     Ask();
     Search();
-    EXPECT_EQ(stepsLeftWhenAnswered, 9);
-    EXPECT_EQ(sink.paths.size(), 1u);
+    EXPECT_EQ(stepsLeftWhenAnswered_, 9);
+    EXPECT_EQ(sink_.paths.size(), 1u);
 }
 
 TEST_F(SearchClearing, an_abort_leaves_an_empty_sink_and_walks_no_folder) {
-    stopWhenAnswered = true;
+    stopWhenAnswered_ = true;
     Ask();
     Search();
-    EXPECT_EQ(stepsLeftWhenAnswered, 9);
-    EXPECT_EQ(sink.clears, 1);
-    EXPECT_TRUE(progress.folders.empty());
-    EXPECT_TRUE(sink.paths.empty());
+    EXPECT_EQ(stepsLeftWhenAnswered_, 9);
+    EXPECT_EQ(sink_.clears, 1);
+    EXPECT_TRUE(progress_.folders.empty());
+    EXPECT_TRUE(sink_.paths.empty());
 }
 
 TEST_F(SearchClearing, a_quit_ends_it_and_waits_for_the_loop_outside) {
     PostQuitMessage(7);
     Search();
-    EXPECT_EQ(sink.stepsLeft, 9);
-    EXPECT_TRUE(progress.folders.empty());
+    EXPECT_EQ(sink_.stepsLeft, 9);
+    EXPECT_TRUE(progress_.folders.empty());
     MSG message;
     ASSERT_FALSE(GetMessageW(&message, nullptr, 0, 0));
     EXPECT_EQ(message.wParam, 7u);
 }
 
 TEST_F(SearchClearing, a_window_that_always_has_something_to_do_does_not_hold_it_up) {
-    answersWanted = 100'000;
+    answersWanted_ = 100'000;
     Ask();
     Search();
-    EXPECT_EQ(sink.clears, 1);
-    EXPECT_LT(answers, 10'000);
-    answersWanted = 0;
+    EXPECT_EQ(sink_.clears, 1);
+    EXPECT_LT(answers_, 10'000);
+    answersWanted_ = 0;
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
         DispatchMessageW(&message);

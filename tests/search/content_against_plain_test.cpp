@@ -20,7 +20,7 @@ class ContentAgainstPlain : public testing::Test {
     ContentAgainstPlain() { SharedShiftTable().Clear(); }
     ~ContentAgainstPlain() override { GlobalsForStartUp().codeConversionAvailable = false; }
 
-    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine); }
+    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine_); }
 
     // The bytes of a text, or of a program; now and then one that reaches over several blocks.
     std::string SomeContent(const std::string& pattern) {
@@ -47,14 +47,14 @@ class ContentAgainstPlain : public testing::Test {
 
     void ExpectSameTable(int round) {
         for (int i = 0; i < ShiftTable::Entries; ++i) {
-            ASSERT_EQ(SharedShiftTable().EntryAt(i), find.Table()[static_cast<std::size_t>(i)])
+            ASSERT_EQ(SharedShiftTable().EntryAt(i), find_.Table()[static_cast<std::size_t>(i)])
                 << "entry " << i << ", round " << round;
         }
     }
 
-    std::mt19937 engine{11};
-    PlainFind find;
-    FakeFolders folders;
+    std::mt19937 engine_{11};
+    PlainFind find_;
+    FakeFolders folders_;
 };
 
 }  // namespace
@@ -77,14 +77,14 @@ TEST_F(ContentAgainstPlain, finds_the_same_and_leaves_the_same_table) {
         const bool doubleByteAware = UpTo(1) == 0;
         GlobalsForStartUp().codeConversionAvailable = doubleByteAware;
         const std::string content = SomeContent(pattern);
-        folders.SetContent(L"\\file", content);
+        folders_.SetContent(L"\\file", content);
 
         SearchConditions conditions;
         conditions.flags = SearchConditions::ContentString;
         if (folding) conditions.flags |= SearchConditions::IgnoreCase;
         std::snprintf(conditions.contentPattern, sizeof(conditions.contentPattern), "%s", pattern.c_str());
         const PlainContentAnswer plain =
-            PlainContentSearch(find, content, {pattern.data(), pattern.size(), folding, doubleByteAware});
+            PlainContentSearch(find_, content, {pattern.data(), pattern.size(), folding, doubleByteAware});
         for (const ScanWidth width : ScanWidthsHere()) {
             const ScanWidthInUse inUse(width);
             ASSERT_EQ(ContentMatches(conditions, L"\\file", WIN32_FIND_DATAW{}), plain.found)

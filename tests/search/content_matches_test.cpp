@@ -23,7 +23,7 @@ class ContentMatchesTest : public testing::Test {
     // Whether a file of these bytes is found by the pattern, folded as the filling of the conditions folds
     // it.
     bool Finds(std::uint16_t flags, const std::string& pattern, const std::string& bytes) {
-        const std::wstring path = tree.AddFile(L"file.txt", bytes);
+        const std::wstring path = tree_.AddFile(L"file.txt", bytes);
         return FindsAt(flags, pattern, path.c_str(), FILE_ATTRIBUTE_ARCHIVE);
     }
 
@@ -40,7 +40,7 @@ class ContentMatchesTest : public testing::Test {
         return ContentMatches(conditions, path, entry);
     }
 
-    TempTree tree;
+    TempTree tree_;
 };
 
 std::string Repeated(char byte, std::size_t count) {
@@ -141,17 +141,17 @@ TEST_F(ContentMatchesTest, reads_an_end_of_text_mark_as_a_byte_like_any_other) {
 }
 
 TEST_F(ContentMatchesTest, finds_nothing_in_a_folder) {
-    const std::wstring path = tree.AddFile(L"named as a folder", "abc");
+    const std::wstring path = tree_.AddFile(L"named as a folder", "abc");
     EXPECT_FALSE(FindsAt(Exact, "abc", path.c_str(), FILE_ATTRIBUTE_DIRECTORY));
     EXPECT_TRUE(FindsAt(Exact, "abc", path.c_str(), FILE_ATTRIBUTE_ARCHIVE));
 }
 
 TEST_F(ContentMatchesTest, finds_nothing_in_a_file_that_has_vanished) {
-    EXPECT_FALSE(FindsAt(Exact, "abc", tree.Path(L"gone").c_str(), FILE_ATTRIBUTE_ARCHIVE));
+    EXPECT_FALSE(FindsAt(Exact, "abc", tree_.Path(L"gone").c_str(), FILE_ATTRIBUTE_ARCHIVE));
 }
 
 TEST_F(ContentMatchesTest, finds_nothing_in_a_locked_file) {
-    const std::wstring path = tree.AddFile(L"locked", "abc");
+    const std::wstring path = tree_.AddFile(L"locked", "abc");
     const HANDLE lock =
         CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
@@ -161,7 +161,7 @@ TEST_F(ContentMatchesTest, finds_nothing_in_a_locked_file) {
 }
 
 TEST_F(ContentMatchesTest, lets_go_of_the_file) {
-    const std::wstring path = tree.AddFile(L"file", "abc\nabc\n");
+    const std::wstring path = tree_.AddFile(L"file", "abc\nabc\n");
     EXPECT_TRUE(FindsAt(Exact, "abc", path.c_str(), FILE_ATTRIBUTE_ARCHIVE));
     EXPECT_FALSE(FindsAt(Exact, "xyz", path.c_str(), FILE_ATTRIBUTE_ARCHIVE));
     const HANDLE alone = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);

@@ -1,18 +1,18 @@
 #include <gtest/gtest.h>
 
-#include "search/name_patterns.h"
 #include "base/object_list.h"
+#include "search/name_patterns.h"
 #include "tests/support/refused_memory.h"
 
 namespace {
 
 class DeletionNote final : public ListObject {
   public:
-    explicit DeletionNote(bool& deletedFlag) : deleted(deletedFlag) {}
-    ~DeletionNote() override { deleted = true; }
+    explicit DeletionNote(bool& deletedFlag) : deleted_(deletedFlag) {}
+    ~DeletionNote() override { deleted_ = true; }
 
   private:
-    bool& deleted;
+    bool& deleted_;
 };
 
 }  // namespace

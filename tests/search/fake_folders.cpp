@@ -28,7 +28,7 @@ FakeFolders::~FakeFolders() {
 }
 
 void FakeFolders::Add(const std::wstring& folder, const WIN32_FIND_DATAW& entry) {
-    folders[folder].push_back(entry);
+    folders_[folder].push_back(entry);
 }
 
 void FakeFolders::AddFile(const std::wstring& folder, const std::wstring& name, DWORD size) {
@@ -47,21 +47,21 @@ void FakeFolders::AddFolder(const std::wstring& folder, const std::wstring& name
 }
 
 void FakeFolders::SetWritten(const std::wstring& folder, const std::wstring& name, const FILETIME& time) {
-    for (WIN32_FIND_DATAW& entry : folders[folder]) {
+    for (WIN32_FIND_DATAW& entry : folders_[folder]) {
         if (name == entry.cFileName) entry.ftLastWriteTime = time;
     }
 }
 
 void FakeFolders::SetContent(const std::wstring& path, const std::string& bytes) {
-    contents[path] = bytes;
+    contents_[path] = bytes;
 }
 
 void FakeFolders::FailListing(const std::wstring& folder, DWORD code) {
-    failures[folder] = code;
+    failures_[folder] = code;
 }
 
 void FakeFolders::SetFolderLink(const std::wstring& path) {
-    links.push_back(path);
+    links_.push_back(path);
 }
 
 HANDLE FakeFolders::Start(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
@@ -71,12 +71,12 @@ HANDLE FakeFolders::Start(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
     const std::wstring folder = separator == 0 ? L"\\" : whole.substr(0, separator);
     const std::wstring name = whole.substr(separator + 1);
     SetLastError(ERROR_PATH_NOT_FOUND);
-    if (const auto failure = inForce->failures.find(folder); failure != inForce->failures.end()) {
+    if (const auto failure = inForce->failures_.find(folder); failure != inForce->failures_.end()) {
         SetLastError(failure->second);
         return INVALID_HANDLE_VALUE;
     }
-    const auto found = inForce->folders.find(folder);
-    if (found == inForce->folders.end()) return INVALID_HANDLE_VALUE;
+    const auto found = inForce->folders_.find(folder);
+    if (found == inForce->folders_.end()) return INVALID_HANDLE_VALUE;
 
     auto* const listing = new Listing;
     for (const WIN32_FIND_DATAW& entry : found->second) {
@@ -110,8 +110,8 @@ BOOL FakeFolders::End(HANDLE search) {
 
 std::FILE* FakeFolders::Open(const wchar_t* path) {
     inForce->opened.emplace_back(path);
-    const auto content = inForce->contents.find(path);
-    if (content == inForce->contents.end()) return nullptr;
+    const auto content = inForce->contents_.find(path);
+    if (content == inForce->contents_.end()) return nullptr;
     std::FILE* const file = std::tmpfile();
     if (file == nullptr) return nullptr;
     std::fwrite(content->second.data(), 1, content->second.size(), file);
@@ -120,5 +120,5 @@ std::FILE* FakeFolders::Open(const wchar_t* path) {
 }
 
 bool FakeFolders::IsLink(const wchar_t* path) {
-    return std::find(inForce->links.begin(), inForce->links.end(), path) != inForce->links.end();
+    return std::find(inForce->links_.begin(), inForce->links_.end(), path) != inForce->links_.end();
 }

@@ -43,14 +43,14 @@ class FakeFolders {
     static std::FILE* Open(const wchar_t* path);
     static bool IsLink(const wchar_t* path);
 
-    std::map<std::wstring, std::vector<WIN32_FIND_DATAW>> folders;
-    std::map<std::wstring, std::string> contents;
-    std::map<std::wstring, DWORD> failures;
-    std::vector<std::wstring> links;
+    std::map<std::wstring, std::vector<WIN32_FIND_DATAW>> folders_;
+    std::map<std::wstring, std::string> contents_;
+    std::map<std::wstring, DWORD> failures_;
+    std::vector<std::wstring> links_;
 
-    Replaced<decltype(ce::FileCalls::findFirstFile)> replacedStart{ce::fileCalls.findFirstFile, Start};
-    Replaced<decltype(ce::FileCalls::findNextFile)> replacedNext{ce::fileCalls.findNextFile, Next};
-    Replaced<decltype(ce::FileCalls::findClose)> replacedEnd{ce::fileCalls.findClose, End};
-    Replaced<decltype(ce::FileCalls::openForReading)> replacedOpen{ce::fileCalls.openForReading, Open};
-    Replaced<decltype(ce::FileCalls::isFolderLink)> replacedLink{ce::fileCalls.isFolderLink, IsLink};
+    Replaced<decltype(ce::FileCalls::findFirstFile)> replacedStart_{ce::fileCalls.findFirstFile, Start};
+    Replaced<decltype(ce::FileCalls::findNextFile)> replacedNext_{ce::fileCalls.findNextFile, Next};
+    Replaced<decltype(ce::FileCalls::findClose)> replacedEnd_{ce::fileCalls.findClose, End};
+    Replaced<decltype(ce::FileCalls::openForReading)> replacedOpen_{ce::fileCalls.openForReading, Open};
+    Replaced<decltype(ce::FileCalls::isFolderLink)> replacedLink_{ce::fileCalls.isFolderLink, IsLink};
 };

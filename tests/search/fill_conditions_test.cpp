@@ -87,243 +87,243 @@ class FillConditionsTest : public testing::Test {
   protected:
     FillConditionsTest() { ce::systemCalls.localFileTimeToFileTime = FromNineHoursEast; }
     ~FillConditionsTest() override {
-        ce::systemCalls = systemCallsBefore;
-        GlobalsForStartUp() = globalsBefore;
+        ce::systemCalls = systemCallsBefore_;
+        GlobalsForStartUp() = globalsBefore_;
     }
 
-    void Fill() { FillConditions(pages, conditions, texts); }
+    void Fill() { FillConditions(pages_, conditions_, texts_); }
 
-    FakePages pages;
-    SearchConditions conditions;
-    SearchTexts texts;
+    FakePages pages_;
+    SearchConditions conditions_;
+    SearchTexts texts_;
 
   private:
-    const ce::SystemCalls systemCallsBefore = ce::systemCalls;
-    const AppGlobals globalsBefore = Globals();
+    const ce::SystemCalls systemCallsBefore_ = ce::systemCalls;
+    const AppGlobals globalsBefore_ = Globals();
 };
 
 }  // namespace
 
 TEST_F(FillConditionsTest, pages_without_a_condition_leave_every_bit_clear) {
-    conditions.flags = 0xFFFF;
+    conditions_.flags = 0xFFFF;
     Fill();
-    EXPECT_EQ(conditions.flags, 0);
-    EXPECT_STREQ(texts.location, L"\\");
-    EXPECT_STREQ(texts.name, L"");
-    EXPECT_STREQ(texts.extensions, L"");
+    EXPECT_EQ(conditions_.flags, 0);
+    EXPECT_STREQ(texts_.location, L"\\");
+    EXPECT_STREQ(texts_.name, L"");
+    EXPECT_STREQ(texts_.extensions, L"");
 }
 
 TEST_F(FillConditionsTest, an_empty_location_is_the_root) {
-    wcscpy(texts.location, L"\\left from before");
+    wcscpy(texts_.location, L"\\left from before");
     Fill();
-    EXPECT_STREQ(texts.location, L"\\");
+    EXPECT_STREQ(texts_.location, L"\\");
 }
 
 TEST_F(FillConditionsTest, a_location_and_a_name_are_taken_as_they_are) {
-    pages.location = L"\\Missing folder";
-    pages.name = L" abc*";
+    pages_.location = L"\\Missing folder";
+    pages_.name = L" abc*";
     Fill();
-    EXPECT_STREQ(texts.location, L"\\Missing folder");
-    EXPECT_STREQ(texts.name, L" abc*");
+    EXPECT_STREQ(texts_.location, L"\\Missing folder");
+    EXPECT_STREQ(texts_.name, L" abc*");
 }
 
 TEST_F(FillConditionsTest, a_content_text_sets_its_bit_and_becomes_bytes) {
-    pages.content = L"a\u00E9\u65E5";
+    pages_.content = L"a\u00E9\u65E5";
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::ContentString);
-    EXPECT_STREQ(conditions.contentPattern, "a\xE9\xE5");
+    EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
+    EXPECT_STREQ(conditions_.contentPattern, "a\xE9\xE5");
 }
 
 TEST_F(FillConditionsTest, a_content_text_of_spaces_counts) {
-    pages.content = L"   ";
+    pages_.content = L"   ";
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::ContentString);
-    EXPECT_STREQ(conditions.contentPattern, "   ");
+    EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
+    EXPECT_STREQ(conditions_.contentPattern, "   ");
 }
 
 TEST_F(FillConditionsTest, a_content_text_that_converts_to_nothing_still_sets_its_bit) {
-    pages.content = L"\u0100abc";
+    pages_.content = L"\u0100abc";
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::ContentString);
-    EXPECT_STREQ(conditions.contentPattern, "");
+    EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
+    EXPECT_STREQ(conditions_.contentPattern, "");
 }
 
 TEST_F(FillConditionsTest, the_conversion_of_the_start_up_record_is_used_with_520_bytes) {
     GlobalsForStartUp().toMultiByte = WritesAbc;
-    pages.content = L"x";
+    pages_.content = L"x";
     Fill();
-    EXPECT_STREQ(conditions.contentPattern, "aBc");
+    EXPECT_STREQ(conditions_.contentPattern, "aBc");
 }
 
 TEST_F(FillConditionsTest, the_case_option_counts_as_unchecked_only_with_a_state_of_0) {
-    pages.content = L"abc";
+    pages_.content = L"abc";
     for (const std::uint32_t state : {std::uint32_t{MFS_CHECKED}, std::uint32_t{MFS_GRAYED}, 0x80000000U}) {
-        pages.caseState = state;
+        pages_.caseState = state;
         Fill();
-        EXPECT_EQ(conditions.flags, SearchConditions::ContentString) << state;
-        EXPECT_STREQ(conditions.contentPattern, "abc") << state;
+        EXPECT_EQ(conditions_.flags, SearchConditions::ContentString) << state;
+        EXPECT_STREQ(conditions_.contentPattern, "abc") << state;
     }
-    pages.caseState = 0;
+    pages_.caseState = 0;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::ContentString | SearchConditions::IgnoreCase);
-    EXPECT_STREQ(conditions.contentPattern, "ABC");
+    EXPECT_EQ(conditions_.flags, SearchConditions::ContentString | SearchConditions::IgnoreCase);
+    EXPECT_STREQ(conditions_.contentPattern, "ABC");
 }
 
 TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_conversion_library) {
     GlobalsForStartUp().toMultiByte = [](const wchar_t*, char* destination, int) {
         strcpy(destination, "a\x83\x61");
     };
-    pages.content = L"x";
-    pages.caseState = 0;
+    pages_.content = L"x";
+    pages_.caseState = 0;
     Fill();
-    EXPECT_STREQ(conditions.contentPattern, "A\x83\x41");
+    EXPECT_STREQ(conditions_.contentPattern, "A\x83\x41");
     GlobalsForStartUp().codeConversionAvailable = true;
     Fill();
-    EXPECT_STREQ(conditions.contentPattern, "A\x83\x61");
+    EXPECT_STREQ(conditions_.contentPattern, "A\x83\x61");
 }
 
 TEST_F(FillConditionsTest, an_older_pattern_is_folded_although_there_is_no_content_text) {
-    strcpy(conditions.contentPattern, "old");
-    pages.caseState = 0;
+    strcpy(conditions_.contentPattern, "old");
+    pages_.caseState = 0;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::IgnoreCase);
-    EXPECT_STREQ(conditions.contentPattern, "OLD");
+    EXPECT_EQ(conditions_.flags, SearchConditions::IgnoreCase);
+    EXPECT_STREQ(conditions_.contentPattern, "OLD");
 }
 
 TEST_F(FillConditionsTest, the_check_box_sets_sub_folders) {
-    pages.subFolders = true;
+    pages_.subFolders = true;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::SubFolders);
+    EXPECT_EQ(conditions_.flags, SearchConditions::SubFolders);
 }
 
 TEST_F(FillConditionsTest, the_ends_of_a_date_range_are_taken_as_local_times) {
-    pages.hasRange = true;
-    pages.range = BetweenDates({2002, 1, 0, 10, 5, 5, 5, 5}, {2002, 1, 0, 12, 5, 5, 5, 5});
+    pages_.hasRange = true;
+    pages_.range = BetweenDates({2002, 1, 0, 10, 5, 5, 5, 5}, {2002, 1, 0, 12, 5, 5, 5, 5});
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::DateRange);
+    EXPECT_EQ(conditions_.flags, SearchConditions::DateRange);
     // Midnight nine hours east of UTC is 15:00 UTC of the day before.
-    EXPECT_EQ(TicksOf(conditions.fromTime), UtcTicks({2002, 1, 0, 9, 15, 0, 0, 0}));
-    EXPECT_EQ(TicksOf(conditions.toTime), UtcTicks({2002, 1, 0, 11, 15, 0, 0, 0}));
+    EXPECT_EQ(TicksOf(conditions_.fromTime), UtcTicks({2002, 1, 0, 9, 15, 0, 0, 0}));
+    EXPECT_EQ(TicksOf(conditions_.toTime), UtcTicks({2002, 1, 0, 11, 15, 0, 0, 0}));
 }
 
 TEST_F(FillConditionsTest, between_a_day_and_itself_only_its_first_local_instant_passes) {
-    pages.hasRange = true;
-    pages.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
+    pages_.hasRange = true;
+    pages_.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
     Fill();
     const ULONGLONG midnight = UtcTicks({2002, 1, 0, 9, 15, 0, 0, 0});
     WIN32_FIND_DATAW entry = {};
     entry.ftLastWriteTime = TimeOf(midnight);
-    EXPECT_TRUE(PassesDateAndSize(conditions, entry));
+    EXPECT_TRUE(PassesDateAndSize(conditions_, entry));
     entry.ftLastWriteTime = TimeOf(midnight + 1);
-    EXPECT_FALSE(PassesDateAndSize(conditions, entry));
+    EXPECT_FALSE(PassesDateAndSize(conditions_, entry));
     entry.ftLastWriteTime = TimeOf(midnight - 1);
-    EXPECT_FALSE(PassesDateAndSize(conditions, entry));
+    EXPECT_FALSE(PassesDateAndSize(conditions_, entry));
 }
 
 TEST_F(FillConditionsTest, past_0_days_at_one_in_the_morning_nine_hours_east_ends_nine_hours_ago) {
     // 01:00 local of 10 January is 16:00 UTC of 9 January.
     const SYSTEMTIME nowUtc = {2002, 1, 3, 9, 16, 0, 0, 0};
-    pages.hasRange = true;
-    pages.range = PastDays(nowUtc, 0);
+    pages_.hasRange = true;
+    pages_.range = PastDays(nowUtc, 0);
     Fill();
     // From midnight of 9 January read as local, 15:00 UTC of 8 January.
-    EXPECT_EQ(TicksOf(conditions.fromTime), UtcTicks({2002, 1, 0, 8, 15, 0, 0, 0}));
-    EXPECT_EQ(TicksOf(conditions.toTime), UtcTicks(nowUtc) - 9 * HourTicks);
+    EXPECT_EQ(TicksOf(conditions_.fromTime), UtcTicks({2002, 1, 0, 8, 15, 0, 0, 0}));
+    EXPECT_EQ(TicksOf(conditions_.toTime), UtcTicks(nowUtc) - 9 * HourTicks);
 }
 
 TEST_F(FillConditionsTest, a_date_that_cannot_be_converted_is_not_noticed) {
     ce::systemCalls.localFileTimeToFileTime = [](const FILETIME*, FILETIME*) -> BOOL { return FALSE; };
-    conditions.fromTime = TimeOf(77);
-    pages.hasRange = true;
+    conditions_.fromTime = TimeOf(77);
+    pages_.hasRange = true;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::DateRange);
-    EXPECT_EQ(TicksOf(conditions.fromTime), 77U);
+    EXPECT_EQ(conditions_.flags, SearchConditions::DateRange);
+    EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
 }
 
 TEST_F(FillConditionsTest, without_a_range_the_older_times_stay_and_the_bit_is_clear) {
-    conditions.flags = SearchConditions::DateRange;
-    conditions.fromTime = TimeOf(77);
+    conditions_.flags = SearchConditions::DateRange;
+    conditions_.fromTime = TimeOf(77);
     Fill();
-    EXPECT_EQ(conditions.flags, 0);
-    EXPECT_EQ(TicksOf(conditions.fromTime), 77U);
+    EXPECT_EQ(conditions_.flags, 0);
+    EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
 }
 
 TEST_F(FillConditionsTest, any_type_but_the_first_sets_the_type_filter) {
     for (const int index : {1, 5, -1}) {
-        pages.typeIndex = index;
+        pages_.typeIndex = index;
         Fill();
-        EXPECT_EQ(conditions.flags, SearchConditions::TypeFilter) << index;
+        EXPECT_EQ(conditions_.flags, SearchConditions::TypeFilter) << index;
     }
 }
 
 TEST_F(FillConditionsTest, the_extensions_are_copied_whatever_the_type) {
-    pages.extensions = L".htm.html";
-    pages.typeIndex = 0;
+    pages_.extensions = L".htm.html";
+    pages_.typeIndex = 0;
     Fill();
-    EXPECT_EQ(conditions.flags, 0);
-    EXPECT_STREQ(texts.extensions, L".htm.html");
+    EXPECT_EQ(conditions_.flags, 0);
+    EXPECT_STREQ(texts_.extensions, L".htm.html");
 }
 
 TEST_F(FillConditionsTest, min_with_10_sets_size_above_and_10240_bytes) {
-    pages.sizeIndex = 1;
-    pages.sizePosition = 10;
+    pages_.sizeIndex = 1;
+    pages_.sizePosition = 10;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::SizeAbove);
-    EXPECT_EQ(conditions.sizeBound, 10240U);
+    EXPECT_EQ(conditions_.flags, SearchConditions::SizeAbove);
+    EXPECT_EQ(conditions_.sizeBound, 10240U);
 }
 
 TEST_F(FillConditionsTest, max_with_10_sets_size_below_and_10240_bytes) {
-    pages.sizeIndex = 2;
-    pages.sizePosition = 10;
+    pages_.sizeIndex = 2;
+    pages_.sizePosition = 10;
     Fill();
-    EXPECT_EQ(conditions.flags, SearchConditions::SizeBelow);
-    EXPECT_EQ(conditions.sizeBound, 10240U);
+    EXPECT_EQ(conditions_.flags, SearchConditions::SizeBelow);
+    EXPECT_EQ(conditions_.sizeBound, 10240U);
 }
 
 TEST_F(FillConditionsTest, the_empty_size_entry_writes_a_bound_of_0_and_no_selection_keeps_the_older_one) {
-    conditions.sizeBound = 77;
-    pages.sizeIndex = -1;
+    conditions_.sizeBound = 77;
+    pages_.sizeIndex = -1;
     Fill();
-    EXPECT_EQ(conditions.sizeBound, 77U);
-    pages.sizeIndex = 0;
+    EXPECT_EQ(conditions_.sizeBound, 77U);
+    pages_.sizeIndex = 0;
     Fill();
-    EXPECT_EQ(conditions.sizeBound, 0U);
-    EXPECT_EQ(conditions.flags, 0);
+    EXPECT_EQ(conditions_.sizeBound, 0U);
+    EXPECT_EQ(conditions_.flags, 0);
 }
 
 TEST_F(FillConditionsTest, all_conditions_stand_together) {
-    pages.content = L"x";
-    pages.caseState = 0;
-    pages.subFolders = true;
-    pages.hasRange = true;
-    pages.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
-    pages.typeIndex = 2;
-    pages.sizeIndex = 1;
+    pages_.content = L"x";
+    pages_.caseState = 0;
+    pages_.subFolders = true;
+    pages_.hasRange = true;
+    pages_.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
+    pages_.typeIndex = 2;
+    pages_.sizeIndex = 1;
     Fill();
-    EXPECT_EQ(conditions.flags, 0x1307);
+    EXPECT_EQ(conditions_.flags, 0x1307);
 }
 
 TEST_F(FillConditionsTest, texts_as_long_as_their_buffers_are_cut_not_overrun) {
     const std::wstring tooLong(400, L'x');
-    pages.location = tooLong;
-    pages.name = tooLong;
-    pages.content = tooLong;
-    pages.extensions = tooLong;
+    pages_.location = tooLong;
+    pages_.name = tooLong;
+    pages_.content = tooLong;
+    pages_.extensions = tooLong;
     Fill();
-    EXPECT_EQ(std::wcslen(texts.location), 259U);
-    EXPECT_EQ(std::wcslen(texts.name), 259U);
-    EXPECT_EQ(std::wcslen(texts.extensions), 259U);
-    EXPECT_EQ(std::string(conditions.contentPattern), std::string(260, 'x'));
+    EXPECT_EQ(std::wcslen(texts_.location), 259U);
+    EXPECT_EQ(std::wcslen(texts_.name), 259U);
+    EXPECT_EQ(std::wcslen(texts_.extensions), 259U);
+    EXPECT_EQ(std::string(conditions_.contentPattern), std::string(260, 'x'));
 }
 
 TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_conversion) {
     const std::string bytes = std::string(259, 'x') + 'y';
-    pages.content = std::wstring(bytes.begin(), bytes.end());
+    pages_.content = std::wstring(bytes.begin(), bytes.end());
     for (const ToMultiByteRoutine conversion :
          {&DefaultToMultiByte, &LibraryToMultiByte, &SystemToMultiByte}) {
         GlobalsForStartUp().toMultiByte = conversion;
         Fill();
-        EXPECT_EQ(bytes, conditions.contentPattern);
+        EXPECT_EQ(bytes, conditions_.contentPattern);
     }
 }
 
@@ -331,13 +331,13 @@ TEST_F(FillConditionsTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_l
     UseConversionLibrary([](unsigned short unit) -> unsigned short { return unit == L'あ' ? 0x82A0 : 0; },
                          nullptr);
     GlobalsForStartUp().toMultiByte = &LibraryToMultiByte;
-    pages.content = std::wstring(260, L'あ');
+    pages_.content = std::wstring(260, L'あ');
     Fill();
     UseConversionLibrary(nullptr, nullptr);
     // A pair of which only the first byte fits is cut there.
-    EXPECT_EQ(std::strlen(conditions.contentPattern), 519U);
+    EXPECT_EQ(std::strlen(conditions_.contentPattern), 519U);
     if (GetACP() != 932) return;
     GlobalsForStartUp().toMultiByte = &SystemToMultiByte;
     Fill();
-    EXPECT_EQ(std::strlen(conditions.contentPattern), 518U);
+    EXPECT_EQ(std::strlen(conditions_.contentPattern), 518U);
 }

@@ -21,9 +21,9 @@ constexpr char ByteChoices[] = {'a', 'b', 'c', '\n', '\x7F', '\x80', '\x81', '\x
 
 class Dice {
   public:
-    explicit Dice(unsigned seed) : engine(seed) {}
+    explicit Dice(unsigned seed) : engine_(seed) {}
 
-    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine); }
+    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine_); }
 
     // Mostly short, now and then longer than a name can be.
     int PatternLength() { return UpTo(39) == 0 ? UpTo(400) : 1 + UpTo(7); }
@@ -41,7 +41,7 @@ class Dice {
     }
 
   private:
-    std::mt19937 engine;
+    std::mt19937 engine_;
 };
 
 int FoundWide(const Units& text, const Units& pattern) {

@@ -26,9 +26,9 @@ std::string ExpectedOutcome(const std::string& stored, bool terminated, std::siz
 
 class RandomFiles {
   public:
-    explicit RandomFiles(unsigned seed) : engine(seed) {}
+    explicit RandomFiles(unsigned seed) : engine_(seed) {}
 
-    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine); }
+    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine_); }
 
     // Lines of any length up to `longest`, often of a length around `chunk`.
     std::string Next(int lines, int longest, int chunk) {
@@ -55,7 +55,7 @@ class RandomFiles {
         return static_cast<char>(byte == 10 && UpTo(7) != 0 ? 'a' : byte);
     }
 
-    std::mt19937 engine;
+    std::mt19937 engine_;
 };
 
 // Reads the whole file with both and compares line by line, past every "none" but for the end of the file.

@@ -12,23 +12,23 @@
 class MemoryByteSource : public ByteSource {
   public:
     explicit MemoryByteSource(std::string content, std::size_t mostPerBlock = BlockSize)
-        : bytes(std::move(content)), most(mostPerBlock) {}
+        : bytes_(std::move(content)), most_(mostPerBlock) {}
 
     std::size_t Fill(unsigned char* block, std::size_t size) override {
-        ++fills;
-        const std::size_t count = std::min({size, most, bytes.size() - given});
-        std::memcpy(block, bytes.data() + given, count);
-        given += count;
+        ++fills_;
+        const std::size_t count = std::min({size, most_, bytes_.size() - given_});
+        std::memcpy(block, bytes_.data() + given_, count);
+        given_ += count;
         return count;
     }
 
-    int FillCount() const { return fills; }
+    int FillCount() const { return fills_; }
 
   private:
-    std::string bytes;
-    std::size_t most;
-    std::size_t given = 0;
-    int fills = 0;
+    std::string bytes_;
+    std::size_t most_;
+    std::size_t given_ = 0;
+    int fills_ = 0;
 };
 
 // The source comes first, so that it is there when the reader is made.

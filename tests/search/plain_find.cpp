@@ -40,18 +40,18 @@ std::size_t ByteIndex(char byte) {
 int PlainFind::Wide(const std::vector<std::uint16_t>& text, const std::vector<std::uint16_t>& pattern) {
     const auto m = static_cast<std::int32_t>(pattern.size());
     for (std::size_t unit = 0; unit < 65536; ++unit)
-        table.at(unit) = m;
+        table_.at(unit) = m;
     for (std::int32_t i = 0; i <= m - 2; ++i)
-        table.at(pattern.at(static_cast<std::size_t>(i))) = m - 1 - i;
-    return Scan(text, pattern, [this](std::uint16_t unit) { return table.at(unit); });
+        table_.at(pattern.at(static_cast<std::size_t>(i))) = m - 1 - i;
+    return Scan(text, pattern, [this](std::uint16_t unit) { return table_.at(unit); });
 }
 
 int PlainFind::Bytes(const std::string& text, const std::string& pattern) {
     const auto m = static_cast<std::int32_t>(pattern.size());
     for (std::size_t index = 0; index < 256; ++index)
-        table.at(65536 + index) = m;
+        table_.at(65536 + index) = m;
     for (std::int32_t i = 0; i <= m - 2; ++i) {
-        table.at(ByteIndex(pattern.at(static_cast<std::size_t>(i)))) = m - 1 - i;
+        table_.at(ByteIndex(pattern.at(static_cast<std::size_t>(i)))) = m - 1 - i;
     }
-    return Scan(text, pattern, [this](char byte) { return table.at(ByteIndex(byte)); });
+    return Scan(text, pattern, [this](char byte) { return table_.at(ByteIndex(byte)); });
 }

@@ -16,8 +16,8 @@ class PlainFind {
     int Bytes(const std::string& text, const std::string& pattern);
 
     // All 65,536 + 256 entries, carried from call to call.
-    const std::vector<std::int32_t>& Table() const { return table; }
+    const std::vector<std::int32_t>& Table() const { return table_; }
 
   private:
-    std::vector<std::int32_t> table = std::vector<std::int32_t>(65536 + 256, 0);
+    std::vector<std::int32_t> table_ = std::vector<std::int32_t>(65536 + 256, 0);
 };

@@ -11,10 +11,10 @@
 
 class RandomFolders {
   public:
-    explicit RandomFolders(unsigned seed) : engine(seed) {}
+    explicit RandomFolders(unsigned seed) : engine_(seed) {}
 
     // A number from 0 up to this one.
-    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine); }
+    int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine_); }
 
     // Adds files, folders, links and folders that cannot be listed, this many levels below the folder.
     void Fill(FakeFolders& folders, const std::wstring& folder, int depth);
@@ -23,5 +23,5 @@ class RandomFolders {
     std::vector<const wchar_t*> SomePatterns();
 
   private:
-    std::mt19937 engine;
+    std::mt19937 engine_;
 };

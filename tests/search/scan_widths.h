@@ -15,11 +15,11 @@
 // The scan is of this width as long as the object lives.
 class ScanWidthInUse {
   public:
-    explicit ScanWidthInUse(ScanWidth width) : before(ContentScanWidth()) { SetContentScanWidth(width); }
-    ~ScanWidthInUse() { SetContentScanWidth(before); }
+    explicit ScanWidthInUse(ScanWidth width) : before_(ContentScanWidth()) { SetContentScanWidth(width); }
+    ~ScanWidthInUse() { SetContentScanWidth(before_); }
     ScanWidthInUse(const ScanWidthInUse&) = delete;
     ScanWidthInUse& operator=(const ScanWidthInUse&) = delete;
 
   private:
-    ScanWidth before;
+    ScanWidth before_;
 };

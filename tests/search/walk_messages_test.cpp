@@ -20,27 +20,27 @@ constexpr int SlowestFolder = 25;
 // One message at a time, and what became of it.
 class Visitor {
   public:
-    explicit Visitor(bool abortsTheWalk) : aborts(abortsTheWalk) {
+    explicit Visitor(bool abortsTheWalk) : aborts_(abortsTheWalk) {
         current = this;
-        window = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
+        window_ = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
     }
     Visitor(const Visitor&) = delete;
     Visitor& operator=(const Visitor&) = delete;
     ~Visitor() {
-        DestroyWindow(window);
+        DestroyWindow(window_);
         current = nullptr;
     }
 
     void Come() {
-        if (waiting || (aborts && posted > 0)) return;
-        waiting = PostMessageW(window, Asked, 0, 0) != FALSE;
-        since = GetTickCount64();
+        if (waiting_ || (aborts_ && posted > 0)) return;
+        waiting_ = PostMessageW(window_, Asked, 0, 0) != FALSE;
+        since_ = GetTickCount64();
         ++posted;
     }
 
-    [[nodiscard]] bool WaitsTooLong() const { return waiting && GetTickCount64() - since >= LongestWait; }
-    [[nodiscard]] bool HasAborted() const { return aborts && answered > 0; }
+    [[nodiscard]] bool WaitsTooLong() const { return waiting_ && GetTickCount64() - since_ >= LongestWait; }
+    [[nodiscard]] bool HasAborted() const { return aborts_ && answered > 0; }
 
     int posted = 0;
     int answered = 0;
@@ -48,23 +48,23 @@ class Visitor {
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
         if (message != Asked) return DefWindowProcW(handle, message, wParam, lParam);
-        current->waiting = false;
+        current->waiting_ = false;
         ++current->answered;
         return 0;
     }
 
     static inline Visitor* current = nullptr;
-    HWND window = nullptr;
-    const bool aborts;
-    bool waiting = false;
-    ULONGLONG since = 0;  // in milliseconds of GetTickCount64
+    HWND window_ = nullptr;
+    const bool aborts_;
+    bool waiting_ = false;
+    ULONGLONG since_ = 0;  // in milliseconds of GetTickCount64
 };
 
 // Folders that take their time, and between whose entries the visitor comes.
 class SlowFolders {
   public:
     SlowFolders(RandomFolders& folderRandom, Visitor& folderVisitor)
-        : random(folderRandom), visitor(folderVisitor) {
+        : random_(folderRandom), visitor_(folderVisitor) {
         current = this;
     }
     SlowFolders(const SlowFolders&) = delete;
@@ -75,59 +75,59 @@ class SlowFolders {
 
   private:
     static HANDLE Start(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
-        if (current->visitor.HasAborted()) ++current->listedAfterAbort;
+        if (current->visitor_.HasAborted()) ++current->listedAfterAbort;
         current->Delay(SlowestFolder);
-        return current->start.Original()(pattern, data);
+        return current->start_.Original()(pattern, data);
     }
     static BOOL Next(HANDLE search, WIN32_FIND_DATAW* data) {
         current->Delay(SlowestEntry);
-        return current->next.Original()(search, data);
+        return current->next_.Original()(search, data);
     }
     void Delay(int most) {
-        if (random.UpTo(3) == 0) visitor.Come();
-        Sleep(static_cast<DWORD>(random.UpTo(most)));
+        if (random_.UpTo(3) == 0) visitor_.Come();
+        Sleep(static_cast<DWORD>(random_.UpTo(most)));
     }
 
     static inline SlowFolders* current = nullptr;
-    RandomFolders& random;
-    Visitor& visitor;
-    Replaced<decltype(ce::FileCalls::findFirstFile)> start{ce::fileCalls.findFirstFile, Start};
-    Replaced<decltype(ce::FileCalls::findNextFile)> next{ce::fileCalls.findNextFile, Next};
+    RandomFolders& random_;
+    Visitor& visitor_;
+    Replaced<decltype(ce::FileCalls::findFirstFile)> start_{ce::fileCalls.findFirstFile, Start};
+    Replaced<decltype(ce::FileCalls::findNextFile)> next_{ce::fileCalls.findNextFile, Next};
 };
 
 // Asked by the walk after every look at the queue.
 class WatchingProgress final : public RecordingProgress {
   public:
-    explicit WatchingProgress(const Visitor& watched) : visitor(watched) {}
+    explicit WatchingProgress(const Visitor& watched) : visitor_(watched) {}
     bool StopRequested() override {
         static_cast<void>(RecordingProgress::StopRequested());
-        if (visitor.WaitsTooLong()) ++tooLong;
-        return visitor.HasAborted();
+        if (visitor_.WaitsTooLong()) ++tooLong;
+        return visitor_.HasAborted();
     }
 
     int tooLong = 0;
 
   private:
-    const Visitor& visitor;
+    const Visitor& visitor_;
 };
 
 // Folders of a seed, and what a walk finds in them.
 class Walks {
   public:
-    explicit Walks(unsigned seed) : random(seed) {
-        random.Fill(folders, L"\\", 3);
-        patterns = random.SomePatterns();
-        RecordedWalk plain(SearchConditions::SubFolders, patterns);
+    explicit Walks(unsigned seed) : random_(seed) {
+        random_.Fill(folders_, L"\\", 3);
+        patterns_ = random_.SomePatterns();
+        RecordedWalk plain(SearchConditions::SubFolders, patterns_);
         PlainWalkFolder(plain.walk, L"\\");
-        plainPaths = plain.sink.paths;
+        plainPaths_ = plain.sink.paths;
     }
 
-    [[nodiscard]] const std::vector<std::wstring>& PlainPaths() const { return plainPaths; }
+    [[nodiscard]] const std::vector<std::wstring>& PlainPaths() const { return plainPaths_; }
 
     std::vector<std::wstring> PathsWith(Visitor& visitor) {
-        SlowFolders slow(random, visitor);
+        SlowFolders slow(random_, visitor);
         WatchingProgress progress(visitor);
-        RecordedWalk recorded(SearchConditions::SubFolders, patterns);
+        RecordedWalk recorded(SearchConditions::SubFolders, patterns_);
         SearchWalk walk{recorded.conditions, recorded.patterns, L"", recorded.sink, progress};
         WalkFolder(walk, L"\\");
         EXPECT_EQ(progress.tooLong, 0);
@@ -136,10 +136,10 @@ class Walks {
     }
 
   private:
-    RandomFolders random;
-    FakeFolders folders;
-    std::vector<const wchar_t*> patterns;
-    std::vector<std::wstring> plainPaths;
+    RandomFolders random_;
+    FakeFolders folders_;
+    std::vector<const wchar_t*> patterns_;
+    std::vector<std::wstring> plainPaths_;
 };
 
 constexpr unsigned Seeds = 16;

@@ -37,13 +37,13 @@ bool IsDialog(HWND window) {
 
 }  // namespace
 
-AnsweredBoxes::AnsweredBoxes(std::initializer_list<int> wanted) : answers(wanted) {
+AnsweredBoxes::AnsweredBoxes(std::initializer_list<int> wanted) : answers_(wanted) {
     current = this;
-    hook = SetWindowsHookExW(WH_CBT, HookProcedure, nullptr, GetCurrentThreadId());
+    hook_ = SetWindowsHookExW(WH_CBT, HookProcedure, nullptr, GetCurrentThreadId());
 }
 
 AnsweredBoxes::~AnsweredBoxes() {
-    UnhookWindowsHookEx(hook);
+    UnhookWindowsHookEx(hook_);
     current = nullptr;
 }
 
@@ -60,13 +60,13 @@ LRESULT CALLBACK AnsweredBoxes::HookProcedure(int code, WPARAM wParam, LPARAM lP
 // A box is activated when its controls and texts are in place; the answer is posted, since it is not shown
 // yet.
 void AnsweredBoxes::Answer(HWND box) {
-    if (std::find(answered.begin(), answered.end(), box) != answered.end()) return;
-    const std::size_t next = std::min(answered.size(), answers.size() - 1);
-    answered.push_back(box);
+    if (std::find(answered_.begin(), answered_.end(), box) != answered_.end()) return;
+    const std::size_t next = std::min(answered_.size(), answers_.size() - 1);
+    answered_.push_back(box);
     SeenBox record;
     record.caption = TextOf(box);
     record.owner = GetWindow(box, GW_OWNER);
     EnumChildWindows(box, CollectControl, reinterpret_cast<LPARAM>(&record));
-    seen.push_back(record);
-    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answers[next]), 0);
+    seen_.push_back(record);
+    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answers_[next]), 0);
 }

@@ -27,7 +27,7 @@ class AnsweredBoxes {
     AnsweredBoxes(const AnsweredBoxes&) = delete;
     AnsweredBoxes& operator=(const AnsweredBoxes&) = delete;
 
-    [[nodiscard]] const std::vector<SeenBox>& Seen() const { return seen; }
+    [[nodiscard]] const std::vector<SeenBox>& Seen() const { return seen_; }
 
     // Whether the box showed this text, wherever.
     [[nodiscard]] static bool Shows(const SeenBox& box, const std::wstring& text);
@@ -36,8 +36,8 @@ class AnsweredBoxes {
     static LRESULT CALLBACK HookProcedure(int code, WPARAM wParam, LPARAM lParam);
     void Answer(HWND box);
 
-    std::vector<int> answers;
-    std::vector<HWND> answered;
-    std::vector<SeenBox> seen;
-    HHOOK hook = nullptr;
+    std::vector<int> answers_;
+    std::vector<HWND> answered_;
+    std::vector<SeenBox> seen_;
+    HHOOK hook_ = nullptr;
 };

@@ -15,16 +15,16 @@ LPARAM WithScanCode(int key, LPARAM flags) {
 }  // namespace
 
 HeldKeys::HeldKeys(std::initializer_list<int> keys) {
-    GetKeyboardState(before);
+    GetKeyboardState(before_);
     BYTE held[256];
-    CopyMemory(held, before, sizeof held);
+    CopyMemory(held, before_, sizeof held);
     for (const int key : keys)
         held[key] |= Down;
     SetKeyboardState(held);
 }
 
 HeldKeys::~HeldKeys() {
-    SetKeyboardState(before);
+    SetKeyboardState(before_);
 }
 
 MSG KeyDownMessage(HWND window, int key) {

@@ -16,7 +16,7 @@ class HeldKeys {
     HeldKeys& operator=(const HeldKeys&) = delete;
 
   private:
-    BYTE before[256] = {};
+    BYTE before_[256] = {};
 };
 
 // The message of a key going down.

@@ -53,24 +53,24 @@ std::wstring ProbePath() {
     throw DriverError("quorin_probe.dll is neither beside the driver nor in tests");
 }
 
-ProbeLink::ProbeLink(HWND mainWindow) : window(mainWindow) {
-    const DWORD thread = GetWindowThreadProcessId(window, &processId);
+ProbeLink::ProbeLink(HWND mainWindow) : window_(mainWindow) {
+    const DWORD thread = GetWindowThreadProcessId(window_, &processId_);
     if (thread == 0) throw DriverError("the main window is gone");
     wchar_t name[64];
-    wsprintfW(name, probe::SectionNameFormat, processId);
-    section =
+    wsprintfW(name, probe::SectionNameFormat, processId_);
+    section_ =
         CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(probe::Exchange), name);
-    void* view = section == nullptr ? nullptr : MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, 0);
-    exchange = static_cast<probe::Exchange*>(view);
+    void* view = section_ == nullptr ? nullptr : MapViewOfFile(section_, FILE_MAP_ALL_ACCESS, 0, 0, 0);
+    exchange_ = static_cast<probe::Exchange*>(view);
     try {
-        library = LoadProbe();
+        library_ = LoadProbe();
     } catch (...) {
         Close();
         throw;
     }
-    sentHook = InstallHook(WH_CALLWNDPROC, library, "ProbeSentMessage", thread);
-    takenHook = InstallHook(WH_GETMESSAGE, library, "ProbeTakenMessage", thread);
-    if (exchange == nullptr || sentHook == nullptr || takenHook == nullptr) {
+    sentHook_ = InstallHook(WH_CALLWNDPROC, library_, "ProbeSentMessage", thread);
+    takenHook_ = InstallHook(WH_GETMESSAGE, library_, "ProbeTakenMessage", thread);
+    if (exchange_ == nullptr || sentHook_ == nullptr || takenHook_ == nullptr) {
         Close();
         throw DriverError("the probe could not be brought into the program");
     }
@@ -81,38 +81,38 @@ ProbeLink::~ProbeLink() {
 }
 
 void ProbeLink::Close() {
-    if (sentHook != nullptr) UnhookWindowsHookEx(sentHook);
-    if (takenHook != nullptr) UnhookWindowsHookEx(takenHook);
-    if (exchange != nullptr) UnmapViewOfFile(exchange);
-    if (section != nullptr) CloseHandle(section);
-    if (library != nullptr) FreeLibrary(library);
+    if (sentHook_ != nullptr) UnhookWindowsHookEx(sentHook_);
+    if (takenHook_ != nullptr) UnhookWindowsHookEx(takenHook_);
+    if (exchange_ != nullptr) UnmapViewOfFile(exchange_);
+    if (section_ != nullptr) CloseHandle(section_);
+    if (library_ != nullptr) FreeLibrary(library_);
 }
 
 std::vector<Record> ProbeLink::Ask(probe::Question question, int first, int second, int third) {
-    exchange->question = question;
-    exchange->numbers[0] = first;
-    exchange->numbers[1] = second;
-    exchange->numbers[2] = third;
-    exchange->answered = FALSE;
+    exchange_->question = question;
+    exchange_->numbers[0] = first;
+    exchange_->numbers[1] = second;
+    exchange_->numbers[2] = third;
+    exchange_->answered = FALSE;
     static const UINT message = RegisterWindowMessageW(probe::QuestionMessageName);
     DWORD_PTR result = 0;
-    SendMessageTimeoutW(window, message, 0, 0, SMTO_NORMAL, StepDeadline, &result);
+    SendMessageTimeoutW(window_, message, 0, 0, SMTO_NORMAL, StepDeadline, &result);
     const std::string name = "question " + std::to_string(static_cast<DWORD>(question));
-    if (!exchange->answered) throw DriverError("the program did not answer the probe's " + name);
-    if (exchange->truncated) throw DriverError("the probe's answer was too long for " + name);
-    return SplitAnswer(*exchange);
+    if (!exchange_->answered) throw DriverError("the program did not answer the probe's " + name);
+    if (exchange_->truncated) throw DriverError("the probe's answer was too long for " + name);
+    return SplitAnswer(*exchange_);
 }
 
 HANDLE ProbeLink::NamedEvent(const wchar_t* format) const {
     wchar_t name[64];
-    wsprintfW(name, format, processId);
+    wsprintfW(name, format, processId_);
     return CreateEventW(nullptr, TRUE, FALSE, name);
 }
 
 void ProbeLink::WaitForQueue() {
     const HANDLE taken = NamedEvent(probe::SyncEventNameFormat);
     ResetEvent(taken);
-    PostMessageW(window, RegisterWindowMessageW(probe::SyncMessageName), 0, 0);
+    PostMessageW(window_, RegisterWindowMessageW(probe::SyncMessageName), 0, 0);
     const DWORD answer = WaitForSingleObject(taken, StepDeadline);
     CloseHandle(taken);
     if (answer != WAIT_OBJECT_0) throw DriverError("the program does not take messages from its queue");

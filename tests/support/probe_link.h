@@ -37,11 +37,11 @@ class ProbeLink {
     void Close();
     [[nodiscard]] HANDLE NamedEvent(const wchar_t* format) const;
 
-    HWND window;
-    DWORD processId = 0;
-    HMODULE library = nullptr;
-    HHOOK sentHook = nullptr;
-    HHOOK takenHook = nullptr;
-    HANDLE section = nullptr;
-    probe::Exchange* exchange = nullptr;
+    HWND window_;
+    DWORD processId_ = 0;
+    HMODULE library_ = nullptr;
+    HHOOK sentHook_ = nullptr;
+    HHOOK takenHook_ = nullptr;
+    HANDLE section_ = nullptr;
+    probe::Exchange* exchange_ = nullptr;
 };

@@ -23,13 +23,13 @@ BOOL CALLBACK TakePage(HWND window, LPARAM result) {
 }  // namespace
 
 void ProgramDriver::Start(const ProgramStart& start) {
-    program = std::make_unique<RunningProgram>();
-    program->Start(start);
+    program_ = std::make_unique<RunningProgram>();
+    program_->Start(start);
     WaitUntil("the main window", [this] {
-        window = program->MainWindow();
-        if (window == nullptr && !program->IsRunning())
+        window_ = program_->MainWindow();
+        if (window_ == nullptr && !program_->IsRunning())
             throw DriverError("the program ended before its window came");
-        return window != nullptr && IsWindowVisible(window);
+        return window_ != nullptr && IsWindowVisible(window_);
     });
     Connect();
 }
@@ -38,54 +38,54 @@ void ProgramDriver::Attach(DWORD milliseconds) {
     WaitUntil(
         "the main window",
         [this] {
-            window = FindWindowW(L"QuorinSearch", nullptr);
-            return window != nullptr && IsWindowVisible(window);
+            window_ = FindWindowW(L"QuorinSearch", nullptr);
+            return window_ != nullptr && IsWindowVisible(window_);
         },
         milliseconds);
-    program = std::make_unique<RunningProgram>();
-    program->Attach(window);
+    program_ = std::make_unique<RunningProgram>();
+    program_->Attach(window_);
     Connect();
 }
 
 // A window that is visible may still be under construction; it is ready when it takes posted messages and has
 // its last page, unless a search is being held.
 void ProgramDriver::Connect() {
-    link = std::make_unique<ProbeLink>(window);
+    link_ = std::make_unique<ProbeLink>(window_);
     if (Searching()) return;
-    link->WaitForQueue();
+    link_->WaitForQueue();
     WaitUntil("the pages", [this] {
         HWND pages[3] = {};
-        EnumChildWindows(window, TakePage, reinterpret_cast<LPARAM>(pages));
+        EnumChildWindows(window_, TakePage, reinterpret_cast<LPARAM>(pages));
         return pages[SizePage] != nullptr;
     });
 }
 
 DWORD ProgramDriver::Close() {
-    PostMessageW(window, WM_CLOSE, 0, 0);
+    PostMessageW(window_, WM_CLOSE, 0, 0);
     return WaitForEnd();
 }
 
 DWORD ProgramDriver::WaitForEnd() {
-    const std::optional<DWORD> code = program->ExitCode(StepDeadline);
+    const std::optional<DWORD> code = program_->ExitCode(StepDeadline);
     if (!code) throw DriverError("the program does not end");
-    link.reset();
+    link_.reset();
     return *code;
 }
 
 void ProgramDriver::Kill() {
-    if (program != nullptr) program->Kill();
-    link.reset();
+    if (program_ != nullptr) program_->Kill();
+    link_.reset();
 }
 
 HWND ProgramDriver::ControlWindow(int page, int id) {
     HWND pages[3] = {};
     if (page >= 0) {
-        EnumChildWindows(window, TakePage, reinterpret_cast<LPARAM>(pages));
+        EnumChildWindows(window_, TakePage, reinterpret_cast<LPARAM>(pages));
         const HWND control = GetDlgItem(pages[page], id);
         if (control != nullptr) return control;
     } else {
         HWND dialog = nullptr;
-        EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), TakeDialogWithFolder,
+        EnumThreadWindows(GetWindowThreadProcessId(window_, nullptr), TakeDialogWithFolder,
                           reinterpret_cast<LPARAM>(&dialog));
         const HWND control = GetDlgItem(dialog, id);
         if (control != nullptr) return control;
@@ -114,16 +114,16 @@ void ProgramDriver::Click(int page, int id) {
 
 void ProgramDriver::ClickToOpen(int page, int id) {
     PostMessageW(ControlWindow(page, id), BM_CLICK, 0, 0);
-    WaitUntil("a dialog", [this] { return GetLastActivePopup(window) != window; });
-    link->WaitForQueue();
+    WaitUntil("a dialog", [this] { return GetLastActivePopup(window_) != window_; });
+    link_->WaitForQueue();
 }
 
 void ProgramDriver::CancelDialog() {
-    const HWND dialog = GetLastActivePopup(window);
-    if (dialog == window) throw DriverError("there is no dialog to cancel");
+    const HWND dialog = GetLastActivePopup(window_);
+    if (dialog == window_) throw DriverError("there is no dialog to cancel");
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
     WaitUntil("the dialog to close", [&] { return !IsWindow(dialog); });
-    link->WaitForQueue();
+    link_->WaitForQueue();
 }
 
 void ProgramDriver::SelectEntry(int page, int id, int index) {
@@ -135,28 +135,28 @@ void ProgramDriver::SetSpin(int page, int id, int position) {
 }
 
 void ProgramDriver::SetDate(int page, int id, int yearMonthDay) {
-    link->Ask(probe::Question::SetPicker, page, id, yearMonthDay);
+    link_->Ask(probe::Question::SetPicker, page, id, yearMonthDay);
 }
 
 void ProgramDriver::ShowPage(int page) {
     const RECT tab = Tabs().at(static_cast<std::size_t>(page)).rectangle;
-    const HWND control = FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr);
+    const HWND control = FindWindowExW(window_, nullptr, WC_TABCONTROLW, nullptr);
     POINT centre = {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2};
     ScreenToClient(control, &centre);
     const LPARAM place = MAKELPARAM(centre.x, centre.y);
     PostMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, place);
     PostMessageW(control, WM_LBUTTONUP, 0, place);
     WaitUntil("page " + std::to_string(page), [&] { return CurrentPage() == page; });
-    link->WaitForQueue();
+    link_->WaitForQueue();
 }
 
 void ProgramDriver::SendMenuCommand(UINT command) {
-    PostMessageW(window, WM_COMMAND, command, 0);
-    link->WaitForQueue();
+    PostMessageW(window_, WM_COMMAND, command, 0);
+    link_->WaitForQueue();
 }
 
 void ProgramDriver::PostFind() {
-    PostMessageW(window, WM_COMMAND, COMMAND_FIND, 0);
+    PostMessageW(window_, WM_COMMAND, COMMAND_FIND, 0);
 }
 
 void ProgramDriver::BeginFind() {
@@ -179,24 +179,24 @@ bool ProgramDriver::FindAndHoldAwake(int rows, DWORD longest) {
 }
 
 bool ProgramDriver::FindAndHold(int rows, DWORD longest, bool staysAwake) {
-    link->Ask(probe::Question::ArmHold, rows, static_cast<int>(longest), staysAwake ? 1 : 0);
+    link_->Ask(probe::Question::ArmHold, rows, static_cast<int>(longest), staysAwake ? 1 : 0);
     BeginFind();
     bool held = false;
     WaitUntil("the search to be held", [&] {
-        held = link->WaitForHold(0);
+        held = link_->WaitForHold(0);
         return held || !Searching();
     });
     return held;
 }
 
 void ProgramDriver::Release() {
-    link->ReleaseHold();
+    link_->ReleaseHold();
 }
 
 void ProgramDriver::WaitForEndOfSearch(DWORD milliseconds) {
     WaitUntil(
         "the end of the search", [this] { return !Searching(); }, milliseconds);
-    link->WaitForQueue();
+    link_->WaitForQueue();
 }
 
 void ProgramDriver::PressAbort() {
@@ -206,30 +206,30 @@ void ProgramDriver::PressAbort() {
 }
 
 void ProgramDriver::BringForward() {
-    if (GetForegroundWindow() != window) SetForegroundWindow(window);
-    WaitUntil("the main window in front", [this] { return GetForegroundWindow() == window; });
+    if (GetForegroundWindow() != window_) SetForegroundWindow(window_);
+    WaitUntil("the main window in front", [this] { return GetForegroundWindow() == window_; });
 }
 
 void ProgramDriver::FocusControl(int page, int id) {
     BringForward();
-    link->Ask(probe::Question::SetFocus, page, id);
+    link_->Ask(probe::Question::SetFocus, page, id);
     WaitUntil("the focus on control " + std::to_string(id), [&] { return HasFocus(page, id); });
 }
 
 void ProgramDriver::FocusTab() {
     BringForward();
-    link->Ask(probe::Question::SetFocus, 0, 0);
+    link_->Ask(probe::Question::SetFocus, 0, 0);
     WaitUntil("the focus on the tabs", [&] { return TabHasFocus(); });
 }
 
 void ProgramDriver::SelectRow(int row, bool select) {
-    link->Ask(probe::Question::SelectRow, row, select ? 1 : 0);
+    link_->Ask(probe::Question::SelectRow, row, select ? 1 : 0);
 }
 
 void ProgramDriver::SelectTreeItem(int place) {
-    link->Ask(probe::Question::SelectItem, place);
+    link_->Ask(probe::Question::SelectItem, place);
 }
 
 void ProgramDriver::Repaint() {
-    link->Ask(probe::Question::Repaint);
+    link_->Ask(probe::Question::Repaint);
 }

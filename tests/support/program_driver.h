@@ -36,8 +36,8 @@ class ProgramDriver {
     // The exit code of a program that is ending by itself.
     DWORD WaitForEnd();
     void Kill();
-    [[nodiscard]] bool IsRunning() const { return program != nullptr && program->IsRunning(); }
-    [[nodiscard]] HWND Window() const { return window; }
+    [[nodiscard]] bool IsRunning() const { return program_ != nullptr && program_->IsRunning(); }
+    [[nodiscard]] HWND Window() const { return window_; }
 
     // Conditions, through the controls' own messages.
     void Fill(const NameConditions& conditions);
@@ -76,7 +76,7 @@ class ProgramDriver {
     void FocusControl(int page, int id);
     void FocusTab();
     void SelectRow(int row, bool select = true);
-    void WaitForQueue() { link->WaitForQueue(); }
+    void WaitForQueue() { link_->WaitForQueue(); }
     void Repaint();
     // The item at this place of Tree().
     void SelectTreeItem(int place);
@@ -113,7 +113,7 @@ class ProgramDriver {
     void Connect();
     [[nodiscard]] HWND ControlWindow(int page, int id);
 
-    std::unique_ptr<RunningProgram> program;
-    std::unique_ptr<ProbeLink> link;
-    HWND window = nullptr;
+    std::unique_ptr<RunningProgram> program_;
+    std::unique_ptr<ProbeLink> link_;
+    HWND window_ = nullptr;
 };

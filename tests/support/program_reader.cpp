@@ -10,10 +10,10 @@ namespace {
 // Takes a record's fields one after another; a missing field is a broken probe.
 class Fields {
   public:
-    explicit Fields(const Record& fields) : record(fields) {}
+    explicit Fields(const Record& fields) : record_(fields) {}
 
-    std::wstring Text() { return record.at(next++); }
-    long long Number() { return std::stoll(record.at(next++)); }
+    std::wstring Text() { return record_.at(next_++); }
+    long long Number() { return std::stoll(record_.at(next_++)); }
     int Int() { return static_cast<int>(Number()); }
     UINT Unsigned() { return static_cast<UINT>(Number()); }
     WORD Word() { return static_cast<WORD>(Number()); }
@@ -26,11 +26,11 @@ class Fields {
         rectangle.bottom = Int();
         return rectangle;
     }
-    [[nodiscard]] bool More() const { return next < record.size(); }
+    [[nodiscard]] bool More() const { return next_ < record_.size(); }
 
   private:
-    const Record& record;
-    std::size_t next = 0;
+    const Record& record_;
+    std::size_t next_ = 0;
 };
 
 // Rows are asked for in pieces, so that a long list fits the section.
@@ -59,12 +59,12 @@ const Record& Only(const std::vector<Record>& records, const char* what) {
 }  // namespace
 
 int ProgramDriver::SearchesBegun() {
-    const auto records = link->Ask(probe::Question::Counters);
+    const auto records = link_->Ask(probe::Question::Counters);
     return Fields(Only(records, "counters")).Int();
 }
 
 bool ProgramDriver::Searching() {
-    const auto records = link->Ask(probe::Question::Counters);
+    const auto records = link_->Ask(probe::Question::Counters);
     Fields fields(Only(records, "counters"));
     const int begun = fields.Int();
     return begun != fields.Int();
@@ -73,7 +73,7 @@ bool ProgramDriver::Searching() {
 std::vector<RowState> ProgramDriver::Rows() {
     std::vector<RowState> rows;
     for (;;) {
-        const auto records = link->Ask(probe::Question::Rows, static_cast<int>(rows.size()), RowsAtATime);
+        const auto records = link_->Ask(probe::Question::Rows, static_cast<int>(rows.size()), RowsAtATime);
         for (const Record& record : records)
             rows.push_back(ToRow(record));
         if (records.size() < RowsAtATime) return rows;
@@ -97,7 +97,7 @@ std::vector<std::wstring> ProgramDriver::RowNames() {
 }
 
 ListState ProgramDriver::List() {
-    const auto records = link->Ask(probe::Question::List);
+    const auto records = link_->Ask(probe::Question::List);
     Fields fields(Only(records, "list"));
     ListState list;
     list.count = fields.Int();
@@ -111,7 +111,7 @@ ListState ProgramDriver::List() {
 
 std::vector<ColumnState> ProgramDriver::Columns() {
     std::vector<ColumnState> columns;
-    for (const Record& record : link->Ask(probe::Question::Columns)) {
+    for (const Record& record : link_->Ask(probe::Question::Columns)) {
         Fields fields(record);
         ColumnState column;
         column.heading = fields.Text();
@@ -125,7 +125,7 @@ std::vector<ColumnState> ProgramDriver::Columns() {
 
 std::vector<MenuItemState> ProgramDriver::Menu() {
     std::vector<MenuItemState> items;
-    for (const Record& record : link->Ask(probe::Question::Menu)) {
+    for (const Record& record : link_->Ask(probe::Question::Menu)) {
         Fields fields(record);
         MenuItemState item;
         item.depth = fields.Int();
@@ -148,7 +148,7 @@ MenuItemState ProgramDriver::MenuItem(UINT id) {
 
 std::vector<ButtonState> ProgramDriver::Bar() {
     std::vector<ButtonState> buttons;
-    for (const Record& record : link->Ask(probe::Question::Bar)) {
+    for (const Record& record : link_->Ask(probe::Question::Bar)) {
         Fields fields(record);
         ButtonState button;
         button.command = fields.Int();
@@ -164,7 +164,7 @@ std::vector<ButtonState> ProgramDriver::Bar() {
 
 std::vector<TabState> ProgramDriver::Tabs() {
     std::vector<TabState> tabs;
-    for (const Record& record : link->Ask(probe::Question::Tabs)) {
+    for (const Record& record : link_->Ask(probe::Question::Tabs)) {
         Fields fields(record);
         TabState tab;
         tab.caption = fields.Text();
@@ -185,7 +185,7 @@ int ProgramDriver::CurrentPage() {
 
 ControlState ProgramDriver::Control(int page, int id) {
     ControlState control;
-    const auto records = link->Ask(probe::Question::Control, page, id);
+    const auto records = link_->Ask(probe::Question::Control, page, id);
     if (records.empty()) return control;
     Fields fields(records.front());
     control.exists = true;
@@ -201,7 +201,7 @@ ControlState ProgramDriver::Control(int page, int id) {
 }
 
 ComboState ProgramDriver::Combo(int page, int id) {
-    const auto records = link->Ask(probe::Question::Combo, page, id);
+    const auto records = link_->Ask(probe::Question::Combo, page, id);
     ComboState combo;
     combo.selected = Fields(Only(records, "combo box")).Int();
     for (std::size_t entry = 1; entry < records.size(); ++entry)
@@ -210,7 +210,7 @@ ComboState ProgramDriver::Combo(int page, int id) {
 }
 
 PickerState ProgramDriver::Picker(int page, int id) {
-    const auto records = link->Ask(probe::Question::Picker, page, id);
+    const auto records = link_->Ask(probe::Question::Picker, page, id);
     Fields fields(Only(records, "date picker"));
     PickerState picker;
     picker.text = fields.Text();
@@ -224,7 +224,7 @@ PickerState ProgramDriver::Picker(int page, int id) {
 }
 
 SpinState ProgramDriver::Spin(int page, int id) {
-    const auto records = link->Ask(probe::Question::Spin, page, id);
+    const auto records = link_->Ask(probe::Question::Spin, page, id);
     Fields fields(Only(records, "spin"));
     SpinState spin;
     spin.lower = fields.Int();
@@ -236,7 +236,7 @@ SpinState ProgramDriver::Spin(int page, int id) {
 
 std::vector<TreeItemState> ProgramDriver::Tree() {
     std::vector<TreeItemState> items;
-    for (const Record& record : link->Ask(probe::Question::Tree)) {
+    for (const Record& record : link_->Ask(probe::Question::Tree)) {
         Fields fields(record);
         TreeItemState item;
         item.depth = fields.Int();
@@ -251,7 +251,7 @@ std::vector<TreeItemState> ProgramDriver::Tree() {
 
 std::vector<DialogState> ProgramDriver::Dialogs() {
     std::vector<DialogState> dialogs;
-    for (const Record& record : link->Ask(probe::Question::Dialogs)) {
+    for (const Record& record : link_->Ask(probe::Question::Dialogs)) {
         Fields fields(record);
         DialogState dialog;
         dialog.caption = fields.Text();
@@ -276,7 +276,7 @@ std::optional<DialogState> ProgramDriver::FindingDialog() {
 
 std::wstring ProgramDriver::FocusPath() {
     std::wstring path;
-    for (const Record& record : link->Ask(probe::Question::Focus)) {
+    for (const Record& record : link_->Ask(probe::Question::Focus)) {
         Fields fields(record);
         std::wstring name = fields.Text();
         for (wchar_t& unit : name)

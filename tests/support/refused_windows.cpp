@@ -17,11 +17,11 @@ RefusedWindows::RefusedWindows(int first, int last) {
     asked = 0;
     firstRefused = first;
     lastRefused = last;
-    hook = SetWindowsHookExW(WH_CBT, WatchCreations, nullptr, GetCurrentThreadId());
+    hook_ = SetWindowsHookExW(WH_CBT, WatchCreations, nullptr, GetCurrentThreadId());
 }
 
 RefusedWindows::~RefusedWindows() {
-    UnhookWindowsHookEx(hook);
+    UnhookWindowsHookEx(hook_);
 }
 
 bool RefusedWindows::HasRefused() const {

@@ -24,5 +24,5 @@ class RefusedWindows {
     [[nodiscard]] bool HasRefused() const;
 
   private:
-    HHOOK hook;
+    HHOOK hook_;
 };

@@ -8,17 +8,17 @@
 template <typename Call>
 class Replaced {
   public:
-    Replaced(Call& inForce, std::type_identity_t<Call> replacement) : slot(inForce), before(inForce) {
-        slot = replacement;
+    Replaced(Call& inForce, std::type_identity_t<Call> replacement) : slot_(inForce), before_(inForce) {
+        slot_ = replacement;
     }
     Replaced(const Replaced&) = delete;
     Replaced& operator=(const Replaced&) = delete;
-    ~Replaced() { slot = before; }
+    ~Replaced() { slot_ = before_; }
 
     // What the replacement stands for.
-    [[nodiscard]] Call Original() const { return before; }
+    [[nodiscard]] Call Original() const { return before_; }
 
   private:
-    Call& slot;
-    Call before;
+    Call& slot_;
+    Call before_;
 };

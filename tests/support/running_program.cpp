@@ -8,24 +8,24 @@ constexpr DWORD LongestLoading = 10000;
 }
 
 RunningProgram::~RunningProgram() {
-    if (job != nullptr) Kill();
-    if (process != nullptr) CloseHandle(process);
-    if (job != nullptr) CloseHandle(job);
+    if (job_ != nullptr) Kill();
+    if (process_ != nullptr) CloseHandle(process_);
+    if (job_ != nullptr) CloseHandle(job_);
 }
 
 void RunningProgram::Start(const ProgramStart& start) {
     // Wine starts its desktop's process when a program first needs it. It must not be a child of this
     // program, in whose job it would end with it and leave all later programs without a desktop.
     GetDesktopWindow();
-    job = CreateJobObjectW(nullptr, nullptr);
+    job_ = CreateJobObjectW(nullptr, nullptr);
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
     limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
-    SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    SetInformationJobObject(job_, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
 
     const PROCESS_INFORMATION started = CreateSuspended(start);
-    process = started.hProcess;
-    processId = started.dwProcessId;
-    AssignProcessToJobObject(job, process);
+    process_ = started.hProcess;
+    processId_ = started.dwProcessId;
+    AssignProcessToJobObject(job_, process_);
     if (!start.probePath.empty()) BringLibrary(start.probePath);
     ResumeThread(started.hThread);
     CloseHandle(started.hThread);
@@ -55,12 +55,12 @@ PROCESS_INFORMATION RunningProgram::CreateSuspended(const ProgramStart& start) {
 // A thread of the process loads it while the program's own one waits for its beginning.
 void RunningProgram::BringLibrary(const std::wstring& path) const {
     const SIZE_T size = (path.size() + 1) * sizeof(wchar_t);
-    void* const name = VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    void* const name = VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     const auto load = reinterpret_cast<LPTHREAD_START_ROUTINE>(
         GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "LoadLibraryW"));
     HANDLE thread = nullptr;
-    if (name != nullptr && WriteProcessMemory(process, name, path.c_str(), size, nullptr))
-        thread = CreateRemoteThread(process, nullptr, 0, load, name, 0, nullptr);
+    if (name != nullptr && WriteProcessMemory(process_, name, path.c_str(), size, nullptr))
+        thread = CreateRemoteThread(process_, nullptr, 0, load, name, 0, nullptr);
     DWORD loaded = 0;
     if (thread != nullptr && WaitForSingleObject(thread, LongestLoading) == WAIT_OBJECT_0)
         GetExitCodeThread(thread, &loaded);
@@ -69,26 +69,26 @@ void RunningProgram::BringLibrary(const std::wstring& path) const {
 }
 
 void RunningProgram::Attach(HWND mainWindow) {
-    GetWindowThreadProcessId(mainWindow, &processId);
-    process = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, processId);
-    if (process == nullptr) throw DriverError("the program's process cannot be opened");
+    GetWindowThreadProcessId(mainWindow, &processId_);
+    process_ = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, processId_);
+    if (process_ == nullptr) throw DriverError("the program's process cannot be opened");
 }
 
 std::optional<DWORD> RunningProgram::ExitCode(DWORD milliseconds) const {
     DWORD code = 0;
-    if (WaitForSingleObject(process, milliseconds) != WAIT_OBJECT_0) return std::nullopt;
-    GetExitCodeProcess(process, &code);
+    if (WaitForSingleObject(process_, milliseconds) != WAIT_OBJECT_0) return std::nullopt;
+    GetExitCodeProcess(process_, &code);
     return code;
 }
 
 bool RunningProgram::IsRunning() const {
-    return process != nullptr && WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+    return process_ != nullptr && WaitForSingleObject(process_, 0) == WAIT_TIMEOUT;
 }
 
 void RunningProgram::Kill() {
     if (!IsRunning()) return;
-    TerminateProcess(process, 0xDEAD);
-    WaitForSingleObject(process, 5000);
+    TerminateProcess(process_, 0xDEAD);
+    WaitForSingleObject(process_, 5000);
 }
 
 HWND RunningProgram::MainWindow() const {
@@ -96,7 +96,7 @@ HWND RunningProgram::MainWindow() const {
          window = FindWindowExW(nullptr, window, L"QuorinSearch", nullptr)) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == processId) return window;
+        if (owner == processId_) return window;
     }
     return nullptr;
 }

@@ -35,7 +35,7 @@ class RunningProgram {
     [[nodiscard]] bool IsRunning() const;
     void Kill();
 
-    [[nodiscard]] DWORD ProcessId() const { return processId; }
+    [[nodiscard]] DWORD ProcessId() const { return processId_; }
 
     // The main window of this process, or null.
     [[nodiscard]] HWND MainWindow() const;
@@ -44,7 +44,7 @@ class RunningProgram {
     static PROCESS_INFORMATION CreateSuspended(const ProgramStart& start);
     void BringLibrary(const std::wstring& path) const;
 
-    HANDLE process = nullptr;
-    HANDLE job = nullptr;
-    DWORD processId = 0;
+    HANDLE process_ = nullptr;
+    HANDLE job_ = nullptr;
+    DWORD processId_ = 0;
 };

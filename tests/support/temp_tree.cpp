@@ -72,30 +72,30 @@ TempTree::TempTree() {
     static int made = 0;
     wchar_t temporary[MAX_PATH];
     GetTempPathW(MAX_PATH, temporary);
-    root = std::wstring(temporary) + L"qs" + std::to_wstring(GetCurrentProcessId()) + L"_" +
-           std::to_wstring(made++);
-    EXPECT_TRUE(CreateDirectoryW(root.c_str(), nullptr)) << "error " << GetLastError();
+    root_ = std::wstring(temporary) + L"qs" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+            std::to_wstring(made++);
+    EXPECT_TRUE(CreateDirectoryW(root_.c_str(), nullptr)) << "error " << GetLastError();
 }
 
 TempTree::~TempTree() {
-    for (const std::wstring& relative : hostMade) {
+    for (const std::wstring& relative : hostMade_) {
         std::wstring hostName = relative;
         std::replace(hostName.begin(), hostName.end(), L'\\', L'/');
-        RunHostShell(root, L"rm -r '" + hostName + L"'");
+        RunHostShell(root_, L"rm -r '" + hostName + L"'");
         const std::wstring path = Literal(Path(relative));
         EXPECT_TRUE(WaitFor([&] { return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES; }));
     }
     const auto deleted = [this] {
-        DeleteTree(Literal(root));
-        return GetFileAttributesW(root.c_str()) == INVALID_FILE_ATTRIBUTES;
+        DeleteTree(Literal(root_));
+        return GetFileAttributesW(root_.c_str()) == INVALID_FILE_ATTRIBUTES;
     };
     // A link that leads nowhere any more is gone later than the system says.
-    EXPECT_TRUE(deleted() || (!hostMade.empty() && WaitFor(deleted)))
+    EXPECT_TRUE(deleted() || (!hostMade_.empty() && WaitFor(deleted)))
         << "the test's folder could not be deleted";
 }
 
 std::wstring TempTree::Path(std::wstring_view relative) const {
-    return relative.empty() ? root : root + L"\\" + std::wstring(relative);
+    return relative.empty() ? root_ : root_ + L"\\" + std::wstring(relative);
 }
 
 std::wstring TempTree::AddFolder(std::wstring_view relative) {
@@ -154,8 +154,8 @@ bool TempTree::AddHostLink(std::wstring_view relative, std::wstring_view target)
     std::wstring hostName(relative);
     for (std::wstring* hostPath : {&hostTarget, &hostName})
         std::replace(hostPath->begin(), hostPath->end(), L'\\', L'/');
-    if (!RunHostShell(root, L"ln -s '" + hostTarget + L"' '" + hostName + L"'")) return false;
-    hostMade.emplace_back(relative);
+    if (!RunHostShell(root_, L"ln -s '" + hostTarget + L"' '" + hostName + L"'")) return false;
+    hostMade_.emplace_back(relative);
     return true;
 }
 
@@ -164,11 +164,11 @@ void TempTree::AddNumberedFiles(std::wstring_view folder, int count) {
     const std::wstring last = std::to_wstring(count - 1);
     const std::wstring done = Path(L"all made");
     // Listing the folder meanwhile would only hold the host up.
-    if (RunHostShell(root, L"seq -f '" + std::wstring(folder) + L"/file %.0f.txt' 0 " + last +
-                               L" | xargs -d '\\n' touch && touch 'all made'")) {
+    if (RunHostShell(root_, L"seq -f '" + std::wstring(folder) + L"/file %.0f.txt' 0 " + last +
+                                L" | xargs -d '\\n' touch && touch 'all made'")) {
         EXPECT_TRUE(WaitFor([&] { return GetFileAttributesW(done.c_str()) != INVALID_FILE_ATTRIBUTES; }));
         EXPECT_TRUE(DeleteFileW(done.c_str()));
-        hostMade.push_back(std::wstring(folder));
+        hostMade_.push_back(std::wstring(folder));
         return;
     }
     for (int i = 0; i < count; ++i) {

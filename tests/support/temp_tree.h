@@ -17,7 +17,7 @@ class TempTree {
     TempTree& operator=(const TempTree&) = delete;
     ~TempTree();
 
-    [[nodiscard]] const std::wstring& Root() const { return root; }
+    [[nodiscard]] const std::wstring& Root() const { return root_; }
     // The path of what stands at `relative`, with "\" between the names.
     [[nodiscard]] std::wstring Path(std::wstring_view relative) const;
 
@@ -38,9 +38,9 @@ class TempTree {
   private:
     bool AddHostLink(std::wstring_view relative, std::wstring_view target);
 
-    std::wstring root;
+    std::wstring root_;
     // Relative: what the host made and has to delete.
-    std::vector<std::wstring> hostMade;
+    std::vector<std::wstring> hostMade_;
 };
 
 // The path in the form in which the system takes it unit by unit.

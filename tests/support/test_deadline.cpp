@@ -12,15 +12,15 @@ namespace {
 
 class TestDeadline : public testing::EmptyTestEventListener {
   public:
-    explicit TestDeadline(int secondsPerTest) : seconds(secondsPerTest), watcher([this] { Watch(); }) {}
+    explicit TestDeadline(int secondsPerTest) : seconds_(secondsPerTest), watcher_([this] { Watch(); }) {}
 
     ~TestDeadline() override {
         {
-            const std::lock_guard lock(mutex);
-            ended = true;
+            const std::lock_guard lock(mutex_);
+            ended_ = true;
         }
-        changed.notify_one();
-        watcher.join();
+        changed_.notify_one();
+        watcher_.join();
     }
 
     void OnTestSuiteStart(const testing::TestSuite& suite) override {
@@ -37,22 +37,22 @@ class TestDeadline : public testing::EmptyTestEventListener {
   private:
     void SetRunning(const std::string& name) {
         {
-            const std::lock_guard lock(mutex);
-            running = name;
-            ++step;
+            const std::lock_guard lock(mutex_);
+            running_ = name;
+            ++step_;
         }
-        changed.notify_one();
+        changed_.notify_one();
     }
 
     // Each change of what is running starts the clock anew.
     void Watch() {
-        std::unique_lock lock(mutex);
-        while (!ended) {
-            const unsigned long seenStep = step;
-            const auto moved = [&] { return ended || step != seenStep; };
-            if (running.empty()) {
-                changed.wait(lock, moved);
-            } else if (!changed.wait_for(lock, std::chrono::seconds(seconds), moved)) {
+        std::unique_lock lock(mutex_);
+        while (!ended_) {
+            const unsigned long seenStep = step_;
+            const auto moved = [&] { return ended_ || step_ != seenStep; };
+            if (running_.empty()) {
+                changed_.wait(lock, moved);
+            } else if (!changed_.wait_for(lock, std::chrono::seconds(seconds_), moved)) {
                 GiveUp();
             }
         }
@@ -60,18 +60,18 @@ class TestDeadline : public testing::EmptyTestEventListener {
 
     [[noreturn]] void GiveUp() {
         std::printf("[  FAILED  ] %s (still running after %d s, the test program ends here)\n",
-                    running.c_str(), seconds);
+                    running_.c_str(), seconds_);
         std::fflush(stdout);
         std::_Exit(3);
     }
 
-    int seconds;
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::string running;
-    unsigned long step = 0;
-    bool ended = false;
-    std::thread watcher;  // last, since it reads the others
+    int seconds_;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::string running_;
+    unsigned long step_ = 0;
+    bool ended_ = false;
+    std::thread watcher_;  // last, since it reads the others
 };
 
 }  // namespace

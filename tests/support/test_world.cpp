@@ -15,7 +15,7 @@ PropertySet& DescribeHost(PropertySet& properties) {
 
 }  // namespace
 
-TestWorld::TestWorld(UiLanguage language) : before(Globals()), application(L"QuorinSearch", 0, nullptr) {
+TestWorld::TestWorld(UiLanguage language) : before_(Globals()), application_(L"QuorinSearch", 0, nullptr) {
     AppGlobals& globals = GlobalsForStartUp();
     globals.instance = GetModuleHandleW(nullptr);
     globals.showCommand = SW_SHOWNORMAL;
@@ -26,7 +26,7 @@ TestWorld::TestWorld(UiLanguage language) : before(Globals()), application(L"Quo
 }
 
 TestWorld::~TestWorld() {
-    GlobalsForStartUp() = before;
+    GlobalsForStartUp() = before_;
 }
 
-HostWindow::HostWindow() : window(nullptr, L"", DescribeHost(properties)) {}
+HostWindow::HostWindow() : window_(nullptr, L"", DescribeHost(properties_)) {}

@@ -15,11 +15,11 @@ class TestWorld {
     TestWorld(const TestWorld&) = delete;
     TestWorld& operator=(const TestWorld&) = delete;
 
-    [[nodiscard]] Application& TheApplication() { return application; }
+    [[nodiscard]] Application& TheApplication() { return application_; }
 
   private:
-    AppGlobals before;
-    Application application;
+    AppGlobals before_;
+    Application application_;
 };
 
 // A visible top-level window of 230 x 280 pixels.
@@ -27,10 +27,10 @@ class HostWindow {
   public:
     HostWindow();
 
-    [[nodiscard]] ContainerWindow& Object() { return window; }
-    [[nodiscard]] HWND Handle() const { return window.Handle(); }
+    [[nodiscard]] ContainerWindow& Object() { return window_; }
+    [[nodiscard]] HWND Handle() const { return window_.Handle(); }
 
   private:
-    PropertySet properties;
-    ContainerWindow window;
+    PropertySet properties_;
+    ContainerWindow window_;
 };

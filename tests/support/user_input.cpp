@@ -170,19 +170,19 @@ namespace {
 class ClickHistory {
   public:
     void KeepApart(POINT point) const {
-        const bool isNear = std::abs(point.x - lastPoint.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
-                            std::abs(point.y - lastPoint.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
-        const DWORD since = GetTickCount() - lastTime;
+        const bool isNear = std::abs(point.x - lastPoint_.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                            std::abs(point.y - lastPoint_.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+        const DWORD since = GetTickCount() - lastTime_;
         if (isNear && since <= GetDoubleClickTime()) Sleep(GetDoubleClickTime() - since + 2 * MousePause);
     }
     void Note(POINT point) {
-        lastPoint = point;
-        lastTime = GetTickCount();
+        lastPoint_ = point;
+        lastTime_ = GetTickCount();
     }
 
   private:
-    POINT lastPoint = {};
-    DWORD lastTime = 0;
+    POINT lastPoint_ = {};
+    DWORD lastTime_ = 0;
 };
 
 }  // namespace

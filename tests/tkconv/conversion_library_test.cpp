@@ -22,30 +22,30 @@ std::wstring LibraryPath() {
 class ConversionLibrary : public testing::Test {
   protected:
     void SetUp() override {
-        library = LoadLibraryW(LibraryPath().c_str());
-        ASSERT_NE(library, nullptr) << "TKCONV.DLL is not beside the program";
-        toShiftJis = reinterpret_cast<decltype(toShiftJis)>(GetProcAddress(library, "unicode2sjis"));
-        fromShiftJis = reinterpret_cast<decltype(fromShiftJis)>(GetProcAddress(library, "sjis2unicode"));
-        fromJis = reinterpret_cast<decltype(fromJis)>(GetProcAddress(library, "jis2unicode"));
-        ASSERT_NE(toShiftJis, nullptr);
-        ASSERT_NE(fromShiftJis, nullptr);
-        ASSERT_NE(fromJis, nullptr);
+        library_ = LoadLibraryW(LibraryPath().c_str());
+        ASSERT_NE(library_, nullptr) << "TKCONV.DLL is not beside the program";
+        toShiftJis_ = reinterpret_cast<decltype(toShiftJis_)>(GetProcAddress(library_, "unicode2sjis"));
+        fromShiftJis_ = reinterpret_cast<decltype(fromShiftJis_)>(GetProcAddress(library_, "sjis2unicode"));
+        fromJis_ = reinterpret_cast<decltype(fromJis_)>(GetProcAddress(library_, "jis2unicode"));
+        ASSERT_NE(toShiftJis_, nullptr);
+        ASSERT_NE(fromShiftJis_, nullptr);
+        ASSERT_NE(fromJis_, nullptr);
     }
     void TearDown() override {
-        if (library != nullptr) FreeLibrary(library);
+        if (library_ != nullptr) FreeLibrary(library_);
     }
 
     unsigned int FromShiftJisCode(unsigned int code) const {
-        return fromShiftJis(static_cast<unsigned char>(code >> 8), static_cast<unsigned char>(code & 0xFF));
+        return fromShiftJis_(static_cast<unsigned char>(code >> 8), static_cast<unsigned char>(code & 0xFF));
     }
     unsigned int FromJisCode(unsigned int code) const {
-        return fromJis(static_cast<unsigned char>(code >> 8), static_cast<unsigned char>(code & 0xFF));
+        return fromJis_(static_cast<unsigned char>(code >> 8), static_cast<unsigned char>(code & 0xFF));
     }
 
-    HMODULE library = nullptr;
-    decltype(&unicode2sjis) toShiftJis = nullptr;
-    decltype(&sjis2unicode) fromShiftJis = nullptr;
-    decltype(&jis2unicode) fromJis = nullptr;
+    HMODULE library_ = nullptr;
+    decltype(&unicode2sjis) toShiftJis_ = nullptr;
+    decltype(&sjis2unicode) fromShiftJis_ = nullptr;
+    decltype(&jis2unicode) fromJis_ = nullptr;
 };
 
 struct Pair {
@@ -78,62 +78,62 @@ constexpr Pair DoubleBytes[] = {
 
 TEST_F(ConversionLibrary, double_byte_characters_convert_both_ways) {
     for (const Pair& pair : DoubleBytes) {
-        EXPECT_EQ(toShiftJis(pair.unit), pair.code) << std::hex << pair.unit;
+        EXPECT_EQ(toShiftJis_(pair.unit), pair.code) << std::hex << pair.unit;
         EXPECT_EQ(FromShiftJisCode(pair.code), pair.unit) << std::hex << pair.code;
     }
 }
 
 TEST_F(ConversionLibrary, ascii_is_its_own_code) {
     for (unsigned short unit = 1; unit < 0x80; ++unit)
-        EXPECT_EQ(toShiftJis(unit), unit);
+        EXPECT_EQ(toShiftJis_(unit), unit);
 }
 
 TEST_F(ConversionLibrary, the_backslash_is_single_byte_5c) {
-    EXPECT_EQ(toShiftJis(L'\\'), 0x5C);
+    EXPECT_EQ(toShiftJis_(L'\\'), 0x5C);
 }
 
 TEST_F(ConversionLibrary, half_width_katakana_are_single_bytes) {
-    EXPECT_EQ(toShiftJis(0xFF8A), 0xCA);  // ﾊ
-    EXPECT_EQ(toShiftJis(0xFF9D), 0xDD);  // ﾝ
-    EXPECT_EQ(toShiftJis(0xFF76), 0xB6);  // ｶ
-    EXPECT_EQ(toShiftJis(0xFF78), 0xB8);  // ｸ
+    EXPECT_EQ(toShiftJis_(0xFF8A), 0xCA);  // ﾊ
+    EXPECT_EQ(toShiftJis_(0xFF9D), 0xDD);  // ﾝ
+    EXPECT_EQ(toShiftJis_(0xFF76), 0xB6);  // ｶ
+    EXPECT_EQ(toShiftJis_(0xFF78), 0xB8);  // ｸ
     for (unsigned short code = 0xA1; code <= 0xDF; ++code)
-        EXPECT_EQ(toShiftJis(static_cast<unsigned short>(0xFF61 + code - 0xA1)), code);
+        EXPECT_EQ(toShiftJis_(static_cast<unsigned short>(0xFF61 + code - 0xA1)), code);
 }
 
 TEST_F(ConversionLibrary, the_first_c1_control_is_the_code_pages_own_byte_80) {
-    EXPECT_EQ(toShiftJis(0x80), 0x80);
+    EXPECT_EQ(toShiftJis_(0x80), 0x80);
 }
 
 TEST_F(ConversionLibrary, the_other_c1_controls_have_no_code) {
     for (unsigned short unit = 0x81; unit <= 0x9F; ++unit)
-        EXPECT_EQ(toShiftJis(unit), 0) << std::hex << unit;
+        EXPECT_EQ(toShiftJis_(unit), 0) << std::hex << unit;
 }
 
 TEST_F(ConversionLibrary, a_unit_that_the_code_page_lacks_has_no_code) {
-    EXPECT_EQ(toShiftJis(0x0000), 0);
-    EXPECT_EQ(toShiftJis(0x20AC), 0);  // the euro sign
-    EXPECT_EQ(toShiftJis(0x0E01), 0);  // a Thai letter
-    EXPECT_EQ(toShiftJis(0xAC00), 0);  // a Korean syllable
-    EXPECT_EQ(toShiftJis(0xFFFF), 0);
+    EXPECT_EQ(toShiftJis_(0x0000), 0);
+    EXPECT_EQ(toShiftJis_(0x20AC), 0);  // the euro sign
+    EXPECT_EQ(toShiftJis_(0x0E01), 0);  // a Thai letter
+    EXPECT_EQ(toShiftJis_(0xAC00), 0);  // a Korean syllable
+    EXPECT_EQ(toShiftJis_(0xFFFF), 0);
 }
 
 TEST_F(ConversionLibrary, a_letter_that_only_looks_alike_is_not_taken) {
-    EXPECT_EQ(toShiftJis(0x00E9), 0);  // é is not e
-    EXPECT_EQ(toShiftJis(0x00A5), 0);  // the yen sign is not the backslash
-    EXPECT_EQ(toShiftJis(0x00A9), 0);  // © is not c
-    EXPECT_EQ(toShiftJis(0x203E), 0);  // the overline is not the tilde
+    EXPECT_EQ(toShiftJis_(0x00E9), 0);  // é is not e
+    EXPECT_EQ(toShiftJis_(0x00A5), 0);  // the yen sign is not the backslash
+    EXPECT_EQ(toShiftJis_(0x00A9), 0);  // © is not c
+    EXPECT_EQ(toShiftJis_(0x203E), 0);  // the overline is not the tilde
 }
 
 TEST_F(ConversionLibrary, a_surrogate_has_no_code) {
     for (unsigned int unit = 0xD800; unit <= 0xDFFF; ++unit)
-        EXPECT_EQ(toShiftJis(static_cast<unsigned short>(unit)), 0) << std::hex << unit;
+        EXPECT_EQ(toShiftJis_(static_cast<unsigned short>(unit)), 0) << std::hex << unit;
 }
 
 TEST_F(ConversionLibrary, every_code_leads_back_to_its_unit) {
     unsigned int doubleBytes = 0;
     for (unsigned int unit = 0; unit <= 0xFFFF; ++unit) {
-        const unsigned int code = toShiftJis(static_cast<unsigned short>(unit));
+        const unsigned int code = toShiftJis_(static_cast<unsigned short>(unit));
         if (code <= 0xFF) continue;
         ++doubleBytes;
         EXPECT_EQ(FromShiftJisCode(code), unit) << std::hex << code;

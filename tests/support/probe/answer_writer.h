@@ -10,9 +10,9 @@ namespace probe {
 
 class AnswerWriter {
   public:
-    explicit AnswerWriter(Exchange& exchange) : target(exchange) {
-        target.length = 0;
-        target.truncated = FALSE;
+    explicit AnswerWriter(Exchange& exchange) : target_(exchange) {
+        target_.length = 0;
+        target_.truncated = FALSE;
     }
 
     AnswerWriter& Text(const wchar_t* text) {
@@ -37,14 +37,14 @@ class AnswerWriter {
 
   private:
     void Put(wchar_t unit) {
-        if (target.length < AnswerCapacity) {
-            target.answer[target.length++] = unit;
+        if (target_.length < AnswerCapacity) {
+            target_.answer[target_.length++] = unit;
         } else {
-            target.truncated = TRUE;
+            target_.truncated = TRUE;
         }
     }
 
-    Exchange& target;
+    Exchange& target_;
 };
 
 }  // namespace probe
