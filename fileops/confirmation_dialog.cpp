@@ -33,9 +33,8 @@ const wchar_t* MultipleFileReplaceTemplate() {
     return InLanguage(L"EConfirmMultipleFileReplaceDialog_E", L"EConfirmMultipleFileReplaceDialog_J");
 }
 
-ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const wchar_t* name, QuestionRoutine fillRoutine,
-                                       const void* fillArgument)
-    : Dialog(owner, TemplateProperties(name)), fill_(fillRoutine), argument_(fillArgument) {
+ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const Question& question)
+    : Dialog(owner, TemplateProperties(question.TemplateName())), question_(question) {
     OnInitialise(this, &ConfirmationDialog::OnFill);
     for (const UINT answer : Answers)
         OnCommand(answer, this, &ConfirmationDialog::OnAnswer, answer);
@@ -65,7 +64,7 @@ LRESULT ConfirmationDialog::OnFill(EventArguments&) {
     HICON before[FileIcons];
     for (int i = 0; i < FileIcons; ++i)
         before[i] = IconIn(Handle(), FileIconStatics[i]);
-    fill_(Handle(), argument_);
+    question_.Fill(Handle());
     for (int i = 0; i < FileIcons; ++i) {
         const HICON now = IconIn(Handle(), FileIconStatics[i]);
         fileIcons_[i] = now != before[i] ? now : nullptr;
@@ -95,7 +94,6 @@ LRESULT ConfirmationDialog::OnAnswer(EventArguments& arguments) {
     return 0;
 }
 
-ConfirmResult AskQuestion(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                          const void* argument) {
-    return ConfirmationDialog(owner, templateName, fill, argument).Ask();
+ConfirmResult AskQuestion(WindowObject* owner, const Question& question) {
+    return ConfirmationDialog(owner, question).Ask();
 }

@@ -1,16 +1,41 @@
 #pragma once
 
-// The questions asked before something is deleted or replaced: one modal dialog from one of four templates,
-// with a routine that fills it when it is initialised.
+// The dialog in which a question is asked before something is deleted or replaced: modal, from one of four
+// templates, filled when it is initialised.
 
 #include "framework/dialog.h"
 
 // The id of the button that ended the dialog.
 enum class ConfirmResult { Cancel = 2, Yes = 6, No = 7, YesToAll = 20 };
 
-// Fills title, icon and texts; the argument is what the caller gave. Another icon that it puts in the place
-// of a file's is the dialog's to free.
-using QuestionRoutine = void (*)(HWND dialog, const void* argument);
+// A template, and the routine that fills it: title, icon and texts. Another icon that the routine puts in the
+// place of a file's is the dialog's to free. Template name and subject are kept, not copied.
+class Question {
+  public:
+    template <class Subject>
+    Question(const wchar_t* templateName, void (*fill)(HWND dialog, const Subject* subject),
+             const Subject* subject)
+        : templateName_(templateName),
+          fill_(reinterpret_cast<ErasedRoutine>(fill)),
+          subject_(subject),
+          call_(&Call<Subject>) {}
+
+    [[nodiscard]] const wchar_t* TemplateName() const { return templateName_; }
+    void Fill(HWND dialog) const { call_(fill_, dialog, subject_); }
+
+  private:
+    using ErasedRoutine = void (*)();
+
+    template <class Subject>
+    static void Call(ErasedRoutine fill, HWND dialog, const void* subject) {
+        reinterpret_cast<void (*)(HWND, const Subject*)>(fill)(dialog, static_cast<const Subject*>(subject));
+    }
+
+    const wchar_t* templateName_;
+    ErasedRoutine fill_;
+    const void* subject_;
+    void (*call_)(ErasedRoutine fill, HWND dialog, const void* subject);
+};
 
 // The templates, in the user's language.
 [[nodiscard]] const wchar_t* YesNoTemplate();                // a single file delete
@@ -20,10 +45,8 @@ using QuestionRoutine = void (*)(HWND dialog, const void* argument);
 
 class ConfirmationDialog : public Dialog {
   public:
-    // The owner's window owns the dialog. The argument has to live until the dialog is over.
-    ConfirmationDialog(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                       const void* argument);
-
+    // The owner's window owns the dialog.
+    ConfirmationDialog(WindowObject* owner, const Question& question);
     ~ConfirmationDialog() override;
 
     // The window that takes the input when the question has been answered, instead of its owner.
@@ -44,8 +67,7 @@ class ConfirmationDialog : public Dialog {
     LRESULT OnAnswer(EventArguments& arguments);
     void FreeFileIcons();
 
-    QuestionRoutine fill_;
-    const void* argument_;
+    Question question_;
     bool answered_ = false;
     HWND successor_ = nullptr;
     // Of the existing and the new file, from the shell; null where the template's own is shown.
@@ -53,5 +75,4 @@ class ConfirmationDialog : public Dialog {
 };
 
 // Builds the question, asks it and destroys it.
-[[nodiscard]] ConfirmResult AskQuestion(WindowObject* owner, const wchar_t* templateName,
-                                        QuestionRoutine fill, const void* argument);
+[[nodiscard]] ConfirmResult AskQuestion(WindowObject* owner, const Question& question);

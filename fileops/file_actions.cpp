@@ -1,8 +1,10 @@
 #include "fileops/file_actions.h"
 
+#include <cwchar>
 #include <span>
 
 #include "base/language.h"
+#include "fileops/file_facts.h"
 #include "framework/message_boxes.h"
 #include "platform/windows_ce.h"
 
@@ -11,8 +13,7 @@ namespace {
 // What a failure code is called. A "%s" in the text is the first path given to the call.
 struct FailureText {
     DWORD code;
-    const wchar_t* english;
-    const wchar_t* japanese;
+    TextPair text;
 };
 using FailureTexts = std::span<const FailureText>;
 
@@ -47,13 +48,19 @@ constexpr FailureText RemoveDirectoryTexts[] = {
 // Reports the last error: by its own text, or by the other one with its number.
 bool Report(HWND owner, const wchar_t* path, FailureTexts texts, const wchar_t* anyOther) {
     const DWORD code = GetLastError();
-    for (const FailureText& text : texts) {
-        if (text.code != code) continue;
-        ShowError(owner, InLanguage(text.english, text.japanese), path);
+    for (const FailureText& failure : texts) {
+        if (failure.code != code) continue;
+        ShowError(owner, failure.text.Text(), path);
         return false;
     }
     ShowError(owner, anyOther, static_cast<int>(code));
     return false;
+}
+
+// The folder itself; those above it stand.
+bool CreateIfMissing(HWND owner, const wchar_t* folder) {
+    if (PathExists(folder)) return IsFolder(folder);
+    return CreateDirectoryOrReport(owner, folder, nullptr);
 }
 
 }  // namespace
@@ -82,4 +89,23 @@ bool SetAttributesOrReport(HWND owner, const wchar_t* path, DWORD attributes) {
 bool RemoveDirectoryOrReport(HWND owner, const wchar_t* path) {
     return ce::RemoveDirectoryW(path) ||
            Report(owner, path, RemoveDirectoryTexts, L"Error RemoveDirectory %d");
+}
+
+bool CreateFolderPath(HWND owner, const wchar_t* path) {
+    if (PathExists(path)) return IsFolder(path);
+    if (std::wcslen(path) >= MAX_PATH) return false;
+
+    // The name of another machine, a drive or nothing stands before the first separator: not to be made.
+    const bool isOnAnotherMachine = std::wcsncmp(path, L"\\\\", 2) == 0;
+    const wchar_t* separator = std::wcschr(isOnAnotherMachine ? path + 2 : path, L'\\');
+    if (separator == nullptr) return false;
+
+    wchar_t prefix[MAX_PATH];
+    while ((separator = std::wcschr(separator + 1, L'\\')) != nullptr) {
+        const auto units = static_cast<std::size_t>(separator - path);
+        std::wmemcpy(prefix, path, units);
+        prefix[units] = L'\0';
+        if (!CreateIfMissing(owner, prefix)) return false;
+    }
+    return CreateDirectoryOrReport(owner, path, nullptr);
 }

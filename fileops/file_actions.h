@@ -12,3 +12,8 @@ bool CopyFileOrReport(HWND owner, const wchar_t* from, const wchar_t* to, bool f
 bool CreateDirectoryOrReport(HWND owner, const wchar_t* path, SECURITY_ATTRIBUTES* security);
 bool SetAttributesOrReport(HWND owner, const wchar_t* path, DWORD attributes);
 bool RemoveDirectoryOrReport(HWND owner, const wchar_t* path);
+
+// Makes what is missing of the path. A folder that cannot be made is reported in one box, owned by the
+// window, and the answer is false; so it is, without a word, where a file stands in the way and for a path
+// without a separator.
+[[nodiscard]] bool CreateFolderPath(HWND owner, const wchar_t* path);

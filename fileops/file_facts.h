@@ -1,10 +1,21 @@
 #pragma once
 
-// What the questions need to know of files.
+// What the operations and the questions need to know of files.
 
 #include "platform/system_types.h"
 
 constexpr int FileDetailsCapacity = 600;
+
+// What stands at a path. A link to a folder is none itself: what it holds stands elsewhere.
+enum class PathKind { Nothing, File, Folder, LinkToFolder };
+
+// By one look at the attributes; Nothing when they cannot be read.
+[[nodiscard]] PathKind KindOf(const wchar_t* path);
+
+[[nodiscard]] bool PathExists(const wchar_t* path);
+
+// A folder or a link to one.
+[[nodiscard]] bool IsFolder(const wchar_t* path);
 
 // Whether the text ends in ".exe" or ".com", in any case, and has something before that.
 [[nodiscard]] bool IsProgramFile(const wchar_t* text);

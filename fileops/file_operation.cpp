@@ -5,20 +5,12 @@
 #include <new>
 
 #include "base/language.h"
-#include "fileops/inside_source.h"
 #include "framework/control.h"
 #include "framework/dialog_template.h"
 #include "framework/message_boxes.h"
 #include "resources/resource_ids.h"
 
 namespace {
-
-struct TextPair {
-    const wchar_t* english;
-    const wchar_t* japanese;
-
-    [[nodiscard]] const wchar_t* Text() const { return InLanguage(english, japanese); }
-};
 
 constexpr TextPair SourceIsInside = {L"Source to destination is recursive", L"送り側と受け側が同じです"};
 

@@ -12,8 +12,8 @@
 #include <cstdint>
 
 #include "base/object_list.h"
-#include "fileops/confirmation_dialog.h"
-#include "fileops/path_extension.h"
+#include "fileops/operation_paths.h"
+#include "fileops/question_texts.h"
 
 enum class FileOperationKind : std::uint32_t { Copy, Update, Exclude, Move, Delete };
 
@@ -92,7 +92,10 @@ class FileOperation : public Dialog {
 
     [[nodiscard]] bool BeginFile(const wchar_t* source, const wchar_t* target);
     [[nodiscard]] ConfirmResult AskFileReplace(const wchar_t* source, const wchar_t* target);
-    [[nodiscard]] ConfirmResult AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument);
+    [[nodiscard]] ConfirmResult AskInRun(const Question& question);
+    [[nodiscard]] Answers AnswersOffered() const {
+        return multiple ? Answers::YesAllNoCancel : Answers::YesNo;
+    }
 
     std::unique_ptr<ObjectList> sources_;
     PathBuffer destination_ = L"";

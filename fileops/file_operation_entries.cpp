@@ -3,10 +3,8 @@
 #include "base/folder_entries.h"
 #include "base/skipped_names.h"
 #include "fileops/file_actions.h"
+#include "fileops/file_facts.h"
 #include "fileops/file_operation.h"
-#include "fileops/folder_path.h"
-#include "fileops/path_kind.h"
-#include "fileops/question_texts.h"
 
 // Everything that an entered folder lists.
 constexpr const wchar_t* EveryEntry = L"*.*";
@@ -104,7 +102,7 @@ bool FileOperation::EachEntry(const wchar_t* walked, PathBuffer& source, PathBuf
 // questions about its files only.
 FileOperation::FolderStep FileOperation::PrepareFolder(const wchar_t* folder) {
     if (!IsFolder(folder)) return CreateFolderPath(Handle(), folder) ? FolderStep::Enter : FolderStep::End;
-    switch (AskInRun(YesAllNoCancelTemplate(), &FillFolderReplaceText, folder)) {
+    switch (AskInRun(ReplaceFolderQuestion(folder))) {
         case ConfirmResult::Yes:
         case ConfirmResult::YesToAll:
             return FolderStep::Enter;
@@ -118,6 +116,6 @@ FileOperation::FolderStep FileOperation::PrepareFolder(const wchar_t* folder) {
 // Here No ends the run as well, unlike everywhere else.
 bool FileOperation::AskFolderDelete(const wchar_t* folder) {
     if (!confirm) return true;
-    const ConfirmResult answer = AskInRun(YesAllNoCancelTemplate(), &FillFolderDeleteText, folder);
+    const ConfirmResult answer = AskInRun(DeleteFolderQuestion(folder));
     return answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll;
 }

@@ -5,8 +5,6 @@
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
 #include "fileops/file_operation.h"
-#include "fileops/path_kind.h"
-#include "fileops/question_texts.h"
 #include "platform/same_file.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
@@ -65,8 +63,7 @@ bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
 bool FileOperation::DeleteOneFile(const wchar_t* path) {
     if (!BeginFile(path, L"")) return false;
     if (confirm) {
-        const ConfirmResult answer =
-            AskInRun(multiple ? YesAllNoCancelTemplate() : YesNoTemplate(), &FillFileDeleteText, path);
+        const ConfirmResult answer = AskInRun(DeleteFileQuestion(path, AnswersOffered()));
         if (answer == ConfirmResult::No) return true;
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
     }
@@ -89,15 +86,14 @@ bool FileOperation::BeginFile(const wchar_t* source, const wchar_t* target) {
 
 ConfirmResult FileOperation::AskFileReplace(const wchar_t* source, const wchar_t* target) {
     const ReplacePaths paths = {source, target};
-    return AskInRun(multiple ? MultipleFileReplaceTemplate() : FileReplaceTemplate(), &FillFileReplaceText,
-                    &paths);
+    return AskInRun(ReplaceFileQuestion(paths, AnswersOffered()));
 }
 
 // The question is the main window's, so it is here that the progress dialog is kept from taking input
 // meanwhile.
-ConfirmResult FileOperation::AskInRun(const wchar_t* question, QuestionRoutine fill, const void* argument) {
+ConfirmResult FileOperation::AskInRun(const Question& question) {
     EnableWindow(Handle(), FALSE);
-    ConfirmationDialog dialog(Parent(), question, fill, argument);
+    ConfirmationDialog dialog(Parent(), question);
     dialog.LeaveInputTo(Handle());
     const ConfirmResult answer = dialog.Ask();
     // A question that could not be made has not done that.

@@ -3,21 +3,16 @@
 #include <iterator>
 
 #include "base/app_globals.h"
-#include "base/language.h"
-#include "fileops/file_facts.h"
 #include "base/format_text.h"
+#include "base/language.h"
+#include "base/split_path.h"
+#include "fileops/file_facts.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
-#include "base/split_path.h"
 
 namespace {
 
 constexpr UINT ShellIconFlags = SHGFI_ICON | SHGFI_DISPLAYNAME | SHGFI_TYPENAME;
-
-struct TextPair {
-    const wchar_t* english;
-    const wchar_t* japanese;
-};
 
 constexpr TextPair DeleteReadOnly = {
     L"The file '%s' is a read-only file. Are you sure you want to delete it?",
@@ -62,7 +57,7 @@ constexpr TextPair ReplaceFolder = {
 
 void SetText(HWND dialog, int id, const TextPair& text, const wchar_t* name) {
     wchar_t question[MAX_PATH + 400];
-    FormatText(question, std::size(question), InLanguage(text.english, text.japanese), name);
+    FormatText(question, std::size(question), text.Text(), name);
     SetDlgItemTextW(dialog, id, question);
 }
 
@@ -106,33 +101,50 @@ const TextPair& FileReplaceText(const wchar_t* existing) {
 
 }  // namespace
 
-void FillFolderDeleteText(HWND dialog, const void* folderPath) {
+void FillFolderDeleteText(HWND dialog, const wchar_t* folderPath) {
     SetTitle(dialog, L"Confirm Folder Delete", L"ﾌｫﾙﾀﾞの削除の確認");
     SetProgramIcon(dialog, ICON_DELETE);
-    SetText(dialog, STATIC_QUESTION, DeleteFolder, SplitPath(static_cast<const wchar_t*>(folderPath)).name);
+    SetText(dialog, STATIC_QUESTION, DeleteFolder, SplitPath(folderPath).name);
 }
 
-void FillFileDeleteText(HWND dialog, const void* filePath) {
+void FillFileDeleteText(HWND dialog, const wchar_t* filePath) {
     SetTitle(dialog, L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認");
     SetProgramIcon(dialog, ICON_DELETE);
-    const PathParts parts = SplitPath(static_cast<const wchar_t*>(filePath));
+    const PathParts parts = SplitPath(filePath);
     SetText(dialog, STATIC_QUESTION, FileDeleteText(parts.folder), parts.name);
 }
 
-void FillFileReplaceText(HWND dialog, const void* replacePaths) {
-    const auto& paths = *static_cast<const ReplacePaths*>(replacePaths);
-    if (paths.existingFile != nullptr) {
-        SetText(dialog, STATIC_QUESTION, FileReplaceText(paths.existingFile),
-                SplitPath(paths.existingFile).name);
+void FillFileReplaceText(HWND dialog, const ReplacePaths* paths) {
+    if (paths->existingFile != nullptr) {
+        SetText(dialog, STATIC_QUESTION, FileReplaceText(paths->existingFile),
+                SplitPath(paths->existingFile).name);
     }
-    ShowFile(dialog, STATIC_EXISTING_DETAILS, STATIC_EXISTING_ICON, paths.existingFile);
-    ShowFile(dialog, STATIC_NEW_DETAILS, STATIC_NEW_ICON, paths.newFile);
+    ShowFile(dialog, STATIC_EXISTING_DETAILS, STATIC_EXISTING_ICON, paths->existingFile);
+    ShowFile(dialog, STATIC_NEW_DETAILS, STATIC_NEW_ICON, paths->newFile);
 }
 
-void FillFolderReplaceText(HWND dialog, const void* folderPath) {
+void FillFolderReplaceText(HWND dialog, const wchar_t* folderPath) {
     SetTitle(dialog, L"Confirm Folder Replace", L"ﾌｫﾙﾀﾞの置換の確認");
     SetProgramIcon(dialog, ICON_REPLACE);
-    SetText(dialog, STATIC_QUESTION, ReplaceFolder, static_cast<const wchar_t*>(folderPath));
+    SetText(dialog, STATIC_QUESTION, ReplaceFolder, folderPath);
     // The template's own Japanese label means to delete all.
     SetDlgItemTextW(dialog, BUTTON_YES_TO_ALL, InLanguage(L"Yes to &All", L"すべて上書き(&A)"));
+}
+
+Question DeleteFileQuestion(const wchar_t* path, Answers answers) {
+    return {answers == Answers::YesNo ? YesNoTemplate() : YesAllNoCancelTemplate(), &FillFileDeleteText,
+            path};
+}
+
+Question DeleteFolderQuestion(const wchar_t* path) {
+    return {YesAllNoCancelTemplate(), &FillFolderDeleteText, path};
+}
+
+Question ReplaceFileQuestion(const ReplacePaths& paths, Answers answers) {
+    return {answers == Answers::YesNo ? FileReplaceTemplate() : MultipleFileReplaceTemplate(),
+            &FillFileReplaceText, &paths};
+}
+
+Question ReplaceFolderQuestion(const wchar_t* path) {
+    return {YesAllNoCancelTemplate(), &FillFolderReplaceText, path};
 }

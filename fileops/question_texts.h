@@ -1,21 +1,27 @@
 #pragma once
 
-// What the questions say. Each routine takes the dialog's window and its argument (QuestionRoutine), sets the
-// title and fills icon and texts.
+// The questions that the program asks, and what they say.
 
-#include "platform/system_types.h"
+#include "fileops/confirmation_dialog.h"
 
-// The argument of FillFileReplaceText; either path may be null.
+// Either path may be null.
 struct ReplacePaths {
     const wchar_t* newFile;
     const wchar_t* existingFile;
 };
 
-// Argument: the folder's path.
-void FillFolderDeleteText(HWND dialog, const void* folderPath);
-// Argument: the file's path.
-void FillFileDeleteText(HWND dialog, const void* filePath);
-// Argument: a ReplacePaths.
-void FillFileReplaceText(HWND dialog, const void* replacePaths);
-// Argument: the existing folder's path.
-void FillFolderReplaceText(HWND dialog, const void* folderPath);
+// The buttons of a question about a file. One file of many also offers Yes to All and Cancel.
+enum class Answers { YesNo, YesAllNoCancel };
+
+// What is given has to live until the question is answered.
+[[nodiscard]] Question DeleteFileQuestion(const wchar_t* path, Answers answers);
+[[nodiscard]] Question DeleteFolderQuestion(const wchar_t* path);
+[[nodiscard]] Question ReplaceFileQuestion(const ReplacePaths& paths, Answers answers);
+// About the existing folder.
+[[nodiscard]] Question ReplaceFolderQuestion(const wchar_t* path);
+
+// The routines of these questions. Each sets the title and fills icon and texts.
+void FillFileDeleteText(HWND dialog, const wchar_t* filePath);
+void FillFolderDeleteText(HWND dialog, const wchar_t* folderPath);
+void FillFileReplaceText(HWND dialog, const ReplacePaths* paths);
+void FillFolderReplaceText(HWND dialog, const wchar_t* folderPath);

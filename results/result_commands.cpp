@@ -64,7 +64,7 @@ void ResultCommands::Delete() {
     wchar_t path[MAX_PATH];
     const int row = list_.SelectedPath(path);
     if (row < 0) return;
-    if (AskQuestion(&owner_, YesNoTemplate(), &FillFileDeleteText, path) != ConfirmResult::Yes) return;
+    if (AskQuestion(&owner_, DeleteFileQuestion(path, Answers::YesNo)) != ConfirmResult::Yes) return;
     if (DeleteFileOrReport(owner_.Handle(), path)) list_.DeleteRow(row);
 }
 

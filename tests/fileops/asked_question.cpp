@@ -5,8 +5,7 @@
 namespace {
 
 struct Asking {
-    QuestionRoutine fill;
-    const void* argument;
+    const Question* question;
     const std::function<void(HWND)>* doing;
     ShownQuestion* shown;
 };
@@ -21,10 +20,9 @@ HICON IconOf(HWND dialog, int id) {
     return reinterpret_cast<HICON>(SendDlgItemMessageW(dialog, id, STM_GETIMAGE, IMAGE_ICON, 0));
 }
 
-void FillAndLook(HWND dialog, const void* argument) {
-    const Asking& asking = *static_cast<const Asking*>(argument);
-    asking.fill(dialog, asking.argument);
-    ShownQuestion& shown = *asking.shown;
+void FillAndLook(HWND dialog, const Asking* asking) {
+    asking->question->Fill(dialog);
+    ShownQuestion& shown = *asking->shown;
     shown.window = dialog;
     shown.owner = GetWindow(dialog, GW_OWNER);
     shown.title = TextOf(dialog);
@@ -35,21 +33,19 @@ void FillAndLook(HWND dialog, const void* argument) {
     shown.icon = IconOf(dialog, STATIC_ICON);
     shown.existingIcon = IconOf(dialog, STATIC_EXISTING_ICON);
     shown.newIcon = IconOf(dialog, STATIC_NEW_ICON);
-    (*asking.doing)(dialog);
+    (*asking->doing)(dialog);
 }
 
 }  // namespace
 
-AskedQuestion Ask(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                  const void* argument, const std::function<void(HWND)>& doing) {
+AskedQuestion Ask(WindowObject* owner, const Question& question, const std::function<void(HWND)>& doing) {
     AskedQuestion asked;
-    const Asking asking = {fill, argument, &doing, &asked.shown};
-    asked.result = AskQuestion(owner, templateName, FillAndLook, &asking);
+    const Asking asking = {&question, &doing, &asked.shown};
+    asked.result = AskQuestion(owner, {question.TemplateName(), FillAndLook, &asking});
     return asked;
 }
 
-AskedQuestion AskAndClick(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                          const void* argument, int button) {
-    return Ask(owner, templateName, fill, argument,
+AskedQuestion AskAndClick(WindowObject* owner, const Question& question, int button) {
+    return Ask(owner, question,
                [button](HWND dialog) { PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0); });
 }

@@ -27,9 +27,8 @@ struct AskedQuestion {
 };
 
 // The user's doing is started before the dialog is shown: post it.
-[[nodiscard]] AskedQuestion Ask(WindowObject* owner, const wchar_t* templateName, QuestionRoutine fill,
-                                const void* argument, const std::function<void(HWND dialog)>& doing);
+[[nodiscard]] AskedQuestion Ask(WindowObject* owner, const Question& question,
+                                const std::function<void(HWND dialog)>& doing);
 
 // The same, answered with the button.
-[[nodiscard]] AskedQuestion AskAndClick(WindowObject* owner, const wchar_t* templateName,
-                                        QuestionRoutine fill, const void* argument, int button = IDNO);
+[[nodiscard]] AskedQuestion AskAndClick(WindowObject* owner, const Question& question, int button = IDNO);

@@ -33,16 +33,20 @@ const TemplateOfLanguages Templates[] = {
      {6, 20, 7, 2}},
 };
 
+void AnswerWithYes(HWND dialog, const wchar_t*) {
+    PostMessageW(dialog, WM_COMMAND, IDYES, 0);
+}
+
 }  // namespace
 
 class ConfirmationDialogTest : public testing::Test {
   protected:
     AskedQuestion AskWithKey(const wchar_t* templateName, WPARAM key) {
-        return Ask(&host_.Object(), templateName, FillFileDeleteText, Path,
+        return Ask(&host_.Object(), {templateName, FillFileDeleteText, Path},
                    [key](HWND dialog) { PostMessageW(dialog, WM_KEYDOWN, key, 1); });
     }
     ConfirmResult AnswerOfCommand(int command) {
-        return Ask(&host_.Object(), YesNoTemplate(), FillFileDeleteText, Path,
+        return Ask(&host_.Object(), {YesNoTemplate(), FillFileDeleteText, Path},
                    [command](HWND dialog) {
                        PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(command), 0);
                    })
@@ -67,7 +71,7 @@ TEST_F(ConfirmationDialogTest, every_button_of_every_template_is_an_answer) {
         for (const wchar_t* const name : {entry.english, entry.japanese}) {
             for (const int button : entry.buttons) {
                 const AskedQuestion asked =
-                    AskAndClick(&host_.Object(), name, FillFileDeleteText, Path, button);
+                    AskAndClick(&host_.Object(), {name, FillFileDeleteText, Path}, button);
                 EXPECT_EQ(static_cast<int>(asked.result), button) << std::string(name, name + wcslen(name));
             }
         }
@@ -90,7 +94,7 @@ TEST_F(ConfirmationDialogTest, enter_says_yes) {
 }
 
 TEST_F(ConfirmationDialogTest, its_owner_is_the_given_window_and_it_is_gone_afterwards) {
-    const AskedQuestion asked = AskAndClick(&host_.Object(), YesNoTemplate(), FillFileDeleteText, Path);
+    const AskedQuestion asked = AskAndClick(&host_.Object(), {YesNoTemplate(), FillFileDeleteText, Path});
     EXPECT_EQ(asked.shown.owner, host_.Handle());
     ASSERT_NE(asked.shown.window, nullptr);
     EXPECT_FALSE(IsWindow(asked.shown.window));
@@ -98,16 +102,14 @@ TEST_F(ConfirmationDialogTest, its_owner_is_the_given_window_and_it_is_gone_afte
 }
 
 TEST_F(ConfirmationDialogTest, can_be_asked_again) {
-    ConfirmationDialog dialog(
-        &host_.Object(), YesNoTemplate(),
-        [](HWND window, const void*) { PostMessageW(window, WM_COMMAND, IDYES, 0); }, nullptr);
+    ConfirmationDialog dialog(&host_.Object(), {YesNoTemplate(), AnswerWithYes, Path});
     EXPECT_EQ(dialog.Ask(), ConfirmResult::Yes);
     EXPECT_EQ(dialog.Ask(), ConfirmResult::Yes);
 }
 
 TEST_F(ConfirmationDialogTest, the_programs_end_cancels_it_and_still_comes) {
     const AskedQuestion asked =
-        Ask(&host_.Object(), YesNoTemplate(), FillFileDeleteText, Path, [](HWND) { PostQuitMessage(3); });
+        Ask(&host_.Object(), {YesNoTemplate(), FillFileDeleteText, Path}, [](HWND) { PostQuitMessage(3); });
     EXPECT_EQ(asked.result, ConfirmResult::Cancel);
     MSG message = {};
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
@@ -115,6 +117,6 @@ TEST_F(ConfirmationDialogTest, the_programs_end_cancels_it_and_still_comes) {
 }
 
 TEST_F(ConfirmationDialogTest, without_its_template_it_counts_as_cancelled) {
-    EXPECT_EQ(AskQuestion(&host_.Object(), L"EMissingDialog", FillFileDeleteText, Path),
+    EXPECT_EQ(AskQuestion(&host_.Object(), {L"EMissingDialog", FillFileDeleteText, Path}),
               ConfirmResult::Cancel);
 }

@@ -1,4 +1,4 @@
-#include "fileops/folder_path.h"
+#include "fileops/file_actions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "fileops/path_extension.h"
+#include "fileops/operation_paths.h"
 
 #include <gtest/gtest.h>
 

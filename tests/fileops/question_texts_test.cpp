@@ -83,8 +83,9 @@ class QuestionTexts : public testing::Test {
   protected:
     static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
 
-    ShownQuestion Shown(const wchar_t* templateName, QuestionRoutine fill, const std::wstring& path) {
-        return AskAndClick(&host_.Object(), templateName, fill, path.c_str()).shown;
+    ShownQuestion Shown(const wchar_t* templateName, void (*fill)(HWND, const wchar_t*),
+                        const std::wstring& path) {
+        return AskAndClick(&host_.Object(), {templateName, fill, path.c_str()}).shown;
     }
 
   private:

@@ -80,7 +80,7 @@ class FileReplaceQuestion : public testing::Test {
 
     ShownQuestion Shown(const wchar_t* templateName, const wchar_t* newFile, const wchar_t* existingFile) {
         const ReplacePaths paths = {newFile, existingFile};
-        return AskAndClick(&host_.Object(), templateName, FillFileReplaceText, &paths).shown;
+        return AskAndClick(&host_.Object(), {templateName, FillFileReplaceText, &paths}).shown;
     }
 
     TestWorld world_;
@@ -142,7 +142,7 @@ TEST_F(FileReplaceQuestion, frees_the_shells_icons_when_it_is_over) {
     const ReplacePaths paths = {replacing_.c_str(), existing_.c_str()};
     bool aliveWhileShown = false;
     const AskedQuestion asked =
-        Ask(&host_.Object(), FileReplaceTemplate(), FillFileReplaceText, &paths, [&](HWND dialog) {
+        Ask(&host_.Object(), {FileReplaceTemplate(), FillFileReplaceText, &paths}, [&](HWND dialog) {
             aliveWhileShown = IsIconAlive(iconQuestions[0].answer) && IsIconAlive(iconQuestions[1].answer);
             PostMessageW(dialog, WM_COMMAND, IDYES, 0);
         });

@@ -52,8 +52,9 @@ class QuestionLayout : public testing::TestWithParam<LayoutCase> {
     [[nodiscard]] std::wstring Name() const { return GetParam().Pick(LongEnglishName, LongJapaneseName); }
 
     // Asks as the program does, and looks.
-    void Ask(const wchar_t* english, const wchar_t* japanese, void (*fill)(HWND, const void*),
-             const void* argument, const wchar_t* partOfText) {
+    template <class Subject>
+    void Ask(const wchar_t* english, const wchar_t* japanese, void (*fill)(HWND, const Subject*),
+             const Subject* argument, const wchar_t* partOfText) {
         DialogWindow dialog(GetParam().Pick(english, japanese), GetParam().screen, GetParam().language);
         ASSERT_NE(dialog.Handle(), nullptr);
         fill(dialog.Handle(), argument);

@@ -1,4 +1,4 @@
-#include "fileops/inside_source.h"
+#include "fileops/operation_paths.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,10 @@
-#include "fileops/path_extension.h"
+#include "fileops/operation_paths.h"
 
 #include <cwchar>
 
 #include "base/join_path.h"
 #include "base/split_path.h"
+#include "platform/name_wildcard.h"
 
 PathExtension::PathExtension(PathBuffer& path) : extended_(path), length_(std::wcslen(path)) {}
 
@@ -26,4 +27,17 @@ PathExtension PathExtension::ByNameOf(const wchar_t* other, PathBuffer& path) {
 
 PathExtension PathExtension::ByNothing(PathBuffer& path) {
     return PathExtension(path);
+}
+
+bool IsInsideSource(const wchar_t* source, const wchar_t* destination) {
+    const PathParts parts = SplitPath(source);
+    const std::size_t folderLength = std::wcslen(parts.folder);
+    const std::size_t destinationLength = std::wcslen(destination);
+    if (destinationLength == folderLength && NamesTheSame(parts.folder, destination, folderLength))
+        return true;
+
+    const std::size_t sourceLength = std::wcslen(source);
+    if (destinationLength < sourceLength || !NamesTheSame(destination, source, sourceLength)) return false;
+    const wchar_t following = destination[sourceLength];
+    return following == L'\0' || following == L'\\' || following == L'/';
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-// A path that is longer by a name for as long as this object lives. A walk keeps one buffer for each of its
-// paths whatever its depth; a buffer per level would not fit on the stack of a deep tree.
+// How the operations work with the texts of paths.
 
 #include <cstddef>
 
@@ -9,6 +8,8 @@
 
 using PathBuffer = wchar_t[MAX_PATH];
 
+// A path that is longer by a name for as long as this object lives. A walk keeps one buffer for each of its
+// paths whatever its depth; a buffer per level would not fit on the stack of a deep tree.
 class PathExtension {
   public:
     // The name may not lie in the path.
@@ -33,3 +34,8 @@ class PathExtension {
     std::size_t length_;
     bool fits_ = true;
 };
+
+// The overlap test that keeps a folder from being copied into itself: whether the source already lies in the
+// destination folder, or the destination is the source or lies inside it. By the texts of the two paths, in
+// any letter case, as the file system compares names. "\a" does not hold "\ab".
+[[nodiscard]] bool IsInsideSource(const wchar_t* source, const wchar_t* destination);
