@@ -3,7 +3,6 @@
 #include <cwchar>
 
 #include "base/language.h"
-#include "framework/control.h"
 #include "framework/dialog_template.h"
 
 namespace {
@@ -29,48 +28,23 @@ PropertySet TemplateAndFlags() {
 
 }  // namespace
 
-AbortDialog::AbortDialog(WindowObject* parentObject) : Dialog(parentObject, TemplateAndFlags()) {}
+AbortDialog::AbortDialog(WindowObject* parent) : JobDialog(parent, TemplateAndFlags(), IDCANCEL) {}
 
 INT_PTR AbortDialog::RunModal() {
-    running_ = true;
-    jobStarted_ = false;
     lastShown_ = 0;
     folderPending_ = false;
-    const INT_PTR result = Dialog::RunModal();
-    running_ = false;
-    button_.reset();
-    return result;
+    return JobDialog::RunModal();
 }
 
 LRESULT AbortDialog::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
-    button_ = std::make_unique<Control>(this, DialogItem(*this, IDCANCEL), L"Button");
-    button_->Subclass();
-    button_->OnMessage(WM_KEYDOWN, this, &AbortDialog::OnButtonKey);
     SetUpShell(FullScreenFlags(), DialogBar::Cancel);
     Centre();
-    ShowWindow(Handle(), SW_SHOW);
-    UpdateWindow(Handle());
-    PostMessageW(Handle(), WM_COMMAND, COMMAND_RUN, 0);
+    ShowAndStart();
     return 1;
 }
 
-LRESULT AbortDialog::OnWmCommand(MessageRecord& record) {
-    const int command = LOWORD(record.wParam);
-    if (command == IDCANCEL) {
-        Abort();
-        return 0;
-    }
-    // Once only: a second command that arrives in the middle of the job starts nothing.
-    if (command == COMMAND_RUN && record.lParam == 0 && !jobStarted_) {
-        RunJob(record);
-        return 0;
-    }
-    return Dialog::OnWmCommand(record);
-}
-
-void AbortDialog::RunJob(MessageRecord& record) {
-    jobStarted_ = true;
+void AbortDialog::DoJob(MessageRecord& record) {
     abortRequested_ = false;
     RaiseEvent(event::DialogRun, COMMAND_RUN, 0, record);
     DropKeys();
@@ -82,12 +56,9 @@ void AbortDialog::Abort() {
     End(ResultCancel);
 }
 
-// The search pumps messages without the dialog's keyboard rules, so the button itself knows the key that
-// presses it. Not Enter: it starts searches, and pressed once too often it would end one.
-LRESULT AbortDialog::OnButtonKey(MessageRecord& record) {
-    if (record.wParam != VK_ESCAPE) return button_->DefaultProcessing(record);
-    Abort();
-    return 0;
+// Not Enter: it starts searches, and pressed once too often it would end one.
+bool AbortDialog::StopsBy(const MessageRecord& key) const {
+    return key.wParam == VK_ESCAPE;
 }
 
 void AbortDialog::EnterFolder(const wchar_t* folder) {

@@ -3,11 +3,11 @@
 // The "Finding..." dialog: it runs the search as its own job, shows the folder that is being walked and
 // offers Abort.
 
-#include "framework/dialog.h"
+#include "framework/job_dialog.h"
 #include "resources/resource_ids.h"
 #include "search/search_progress.h"
 
-class AbortDialog : public Dialog, public SearchProgress {
+class AbortDialog : public JobDialog, public SearchProgress {
   public:
     explicit AbortDialog(WindowObject* parent);
 
@@ -16,9 +16,6 @@ class AbortDialog : public Dialog, public SearchProgress {
     void OnRun(Target* target, LRESULT (Target::*method)(EventArguments&)) {
         OnEvent(event::DialogRun, COMMAND_RUN, target, method);
     }
-
-    // Whether the dialog is on the screen or still on its way out of its job.
-    [[nodiscard]] bool IsRunning() const { return running_; }
 
     INT_PTR RunModal() override;
 
@@ -32,17 +29,14 @@ class AbortDialog : public Dialog, public SearchProgress {
 
   protected:
     LRESULT OnInitDialog(MessageRecord& record) override;
-    LRESULT OnWmCommand(MessageRecord& record) override;
+    void DoJob(MessageRecord& record) override;
+    void RequestStop() override { Abort(); }
+    [[nodiscard]] bool StopsBy(const MessageRecord& key) const override;
 
   private:
-    LRESULT OnButtonKey(MessageRecord& record);
-    void RunJob(MessageRecord& record);
     void ShowFolder();
 
-    std::unique_ptr<WindowObject> button_;
     bool abortRequested_ = false;
-    bool running_ = false;
-    bool jobStarted_ = false;
     bool folderPending_ = false;
     ULONGLONG lastShown_ = 0;  // in milliseconds of GetTickCount64
     wchar_t folderText_[MAX_PATH] = L"";

@@ -5,7 +5,6 @@
 #include <new>
 
 #include "base/language.h"
-#include "framework/control.h"
 #include "framework/dialog_template.h"
 #include "framework/message_boxes.h"
 #include "resources/resource_ids.h"
@@ -63,9 +62,8 @@ bool CopyPath(PathBuffer& destination, const wchar_t* path) {
 
 }  // namespace
 
-FileOperation::FileOperation(WindowObject* parentObject)
-    : Dialog(parentObject, TemplateProperties(InLanguage(L"EFileOpDialog_E", L"EFileOpDialog_J"))) {
-    OnCommand(COMMAND_RUN, this, &FileOperation::OnRun);
+FileOperation::FileOperation(WindowObject* parent)
+    : JobDialog(parent, TemplateProperties(InLanguage(L"EFileOpDialog_E", L"EFileOpDialog_J")), BUTTON_STOP) {
     OnCommand(BUTTON_STOP, this, &FileOperation::OnStop);
     OnMessage(WM_CLOSE, this, &FileOperation::OnWmClose);
 }
@@ -93,53 +91,38 @@ bool FileOperation::SetDestination(const wchar_t* path) {
 }
 
 INT_PTR FileOperation::RunModal() {
-    if (running_) return -1;
-    running_ = true;
-    runBegun_ = false;
+    if (IsRunning()) return -1;
     closeParentAfterwards_ = false;
-    const INT_PTR result = Dialog::RunModal();
-    stopButton_.reset();
-    running_ = false;
+    const INT_PTR result = JobDialog::RunModal();
     if (closeParentAfterwards_) PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
     // Also when the window went under with its owner, or with the program's end before the run began.
-    return runBegun_ || result != -1 ? ResultOk : -1;
+    return HasBegun() || result != -1 ? ResultOk : -1;
 }
 
 void FileOperation::StopAndCloseParent() {
     closeParentAfterwards_ = true;
-    StopOrLeave();
+    RequestStop();
     const HWND front = ce::InputWindowOf(Handle());
     if (front != Handle()) PostMessageW(front, WM_CLOSE, 0, 0);
 }
 
 LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
-    const LRESULT result = Dialog::OnInitDialog(record);
-    stopButton_ = std::make_unique<Control>(this, DialogItem(*this, BUTTON_STOP), L"Button");
-    stopButton_->Subclass();
-    stopButton_->OnMessage(WM_KEYDOWN, this, &FileOperation::OnButtonKey);
-    ShowWindow(Handle(), SW_SHOWNORMAL);
-    UpdateWindow(Handle());
-    PostMessageW(Handle(), WM_COMMAND, COMMAND_RUN, 0);
+    const LRESULT result = JobDialog::OnInitDialog(record);
+    ShowAndStart();
     return result;
-}
-
-LRESULT FileOperation::OnWmCommand(MessageRecord& record) {
-    if (LOWORD(record.wParam) != IDCANCEL) return Dialog::OnWmCommand(record);
-    StopOrLeave();
-    return 0;
 }
 
 // The system would post a Cancel, which came a file later.
 LRESULT FileOperation::OnWmClose(MessageRecord&) {
-    StopOrLeave();
+    RequestStop();
     return 1;
 }
 
 // The bar's Cancel and the closing of a window are ways to stop; the dialog goes when the run has unwound. A
 // run that has not begun would forget the stop, so the dialog goes at once.
-void FileOperation::StopOrLeave() {
+void FileOperation::RequestStop() {
     Stop();
-    if (!runBegun_) End(ResultOk);
+    if (!HasBegun()) End(ResultOk);
 }
 
 LRESULT FileOperation::OnStop(EventArguments&) {
@@ -147,28 +130,20 @@ LRESULT FileOperation::OnStop(EventArguments&) {
     return 0;
 }
 
-// A run pumps messages without the dialog's keyboard rules, so the button itself knows the keys that press
-// it. One that is still down from the answer to a question only repeats itself and stops nothing.
-LRESULT FileOperation::OnButtonKey(MessageRecord& record) {
-    if (record.wParam != VK_RETURN && record.wParam != VK_ESCAPE)
-        return stopButton_->DefaultProcessing(record);
-    if ((HIWORD(record.lParam) & KF_REPEAT) == 0) Stop();
-    return 0;
+// A key that is still down from the answer to a question only repeats itself and stops nothing.
+bool FileOperation::StopsBy(const MessageRecord& key) const {
+    return (key.wParam == VK_RETURN || key.wParam == VK_ESCAPE) && (HIWORD(key.lParam) & KF_REPEAT) == 0;
 }
 
 // Activated from outside while a question or an error box is open.
 LRESULT FileOperation::OnWmActivate(MessageRecord& record) {
     if (LOWORD(record.wParam) != WA_INACTIVE && ce::PassActivationOn(Handle())) return 1;
-    return Dialog::OnWmActivate(record);
+    return JobDialog::OnWmActivate(record);
 }
 
-LRESULT FileOperation::OnRun(EventArguments&) {
-    // Once only: a second command that arrives in the middle of the run starts nothing.
-    if (runBegun_) return 0;
-    runBegun_ = true;
+void FileOperation::DoJob(MessageRecord&) {
     RunFileOperation();
     End(ResultOk);
-    return 0;
 }
 
 void FileOperation::RunFileOperation() {

@@ -14,10 +14,11 @@
 #include "base/object_list.h"
 #include "fileops/operation_paths.h"
 #include "fileops/question_texts.h"
+#include "framework/job_dialog.h"
 
 enum class FileOperationKind : std::uint32_t { Copy, Update, Exclude, Move, Delete };
 
-class FileOperation : public Dialog {
+class FileOperation : public JobDialog {
   public:
     // Takes its template in the user's language. The parent's window owns the dialog and the questions.
     explicit FileOperation(WindowObject* parent);
@@ -41,8 +42,6 @@ class FileOperation : public Dialog {
     // Returns ResultOk whatever happened, and -1 when the template is missing or a run is under way. The
     // fields and the list may not be changed meanwhile.
     INT_PTR RunModal() override;
-    // From the dialog's creation until RunModal is about to return.
-    [[nodiscard]] bool IsRunning() const { return running_; }
 
     // What the Stop button does: the run ends before the next file. What was done stays done.
     void Stop() { abortRequested_ = true; }
@@ -52,17 +51,16 @@ class FileOperation : public Dialog {
 
   protected:
     LRESULT OnInitDialog(MessageRecord& record) override;
-    LRESULT OnWmCommand(MessageRecord& record) override;
     LRESULT OnWmActivate(MessageRecord& record) override;
+    void DoJob(MessageRecord& record) override;
+    void RequestStop() override;
+    [[nodiscard]] bool StopsBy(const MessageRecord& key) const override;
 
   private:
     enum class FolderStep { Enter, Skip, End };
 
     LRESULT OnStop(EventArguments& arguments);
-    LRESULT OnRun(EventArguments& arguments);
     LRESULT OnWmClose(MessageRecord& record);
-    LRESULT OnButtonKey(MessageRecord& record);
-    void StopOrLeave();
 
     void RunFileOperation();
     [[nodiscard]] bool ProcessSource(const wchar_t* path);
@@ -103,8 +101,5 @@ class FileOperation : public Dialog {
     // Of folders below the item of the list that is copied or moved.
     std::int32_t depth_ = 0;
 
-    bool running_ = false;
-    bool runBegun_ = false;
     bool closeParentAfterwards_ = false;
-    std::unique_ptr<WindowObject> stopButton_;
 };
