@@ -12,6 +12,7 @@
 #include "tests/support/program_driver.h"
 #include "tests/support/user_input.h"
 #include "tests/support/utf8.h"
+#include "tools/tour/hand_steps.h"
 
 namespace {
 
@@ -20,12 +21,22 @@ constexpr char Usage[] =
     "  wait-window SECONDS          waits for the main window\n"
     "  fill [--name TEXT] [--contains TEXT] [--location TEXT] [--subfolders 0|1]\n"
     "  page NUMBER                  shows a condition page: 0 name, 1 date, 2 the other\n"
+    "  click PAGE ID                clicks a control of a page\n"
+    "  drop PAGE ID                 opens the list of a combo box or the calendar of a date picker\n"
+    "  menu NUMBER                  opens a menu: 1 File, 2 View, 3 Option\n"
+    "  escape                       closes the menu or list that is open\n"
     "  find [--hold [ROWS]]         starts a search; holds it once the list has ROWS rows (0)\n"
     "  release                      lets the held search go on\n"
     "  wait-done [SECONDS]          waits for the end of the search (60)\n"
     "  rows                         prints the rows: path, size, type and time, separated by tabs\n"
     "  state                        prints what the main window shows, one item a line\n"
     "  command NUMBER               sends a menu command\n"
+    "  select NAME                  selects the row of this file\n"
+    "  rename NAME                  begins to rename the selected row and types the name\n"
+    "  press-enter                  presses Enter\n"
+    "  wait-dialog [ID]             waits for a dialog, or for one that has this control\n"
+    "  turn NUMBER ID               turns the open sheet to the page with this number, which has this "
+    "control\n"
     "  sort NUMBER                  clicks the heading of a column: 0 name, 1 folder\n"
     "  browse                       opens the folder browser\n"
     "  cancel                       cancels the dialog that is open\n"
@@ -123,40 +134,18 @@ void PrintState(ProgramDriver& driver) {
     if (finding) Print(L"finding " + finding->caption);
 }
 
-void Run(const Words& words) {
-    if (words.empty()) throw UsageError();
-    const std::wstring& step = words[0];
-    ProgramDriver driver;
-    if (step == L"wait-window") {
-        if (words.size() != 2) throw UsageError();
-        driver.Attach(static_cast<DWORD>(ToNumber(words[1])) * 1000);
-        return;
-    }
-    if (step == L"close-screen") {
-        PostMessageW(GetDesktopWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
-        return;
-    }
-    driver.Attach(AttachDeadline);
-    if (step == L"fill") {
-        Fill(driver, words);
-    } else if (step == L"page" && words.size() == 2) {
-        const int page = ToNumber(words[1]);
-        if (page > SizePage) throw UsageError();
-        driver.ShowPage(page);
-    } else if (step == L"find") {
-        Find(driver, words);
-    } else if (step == L"release") {
+// The steps that need no number and no word.
+bool RunPlainStep(ProgramDriver& driver, const std::wstring& step) {
+    if (step == L"release") {
         driver.Release();
-    } else if (step == L"wait-done") {
-        driver.WaitForEndOfSearch(static_cast<DWORD>(NumberAt(words, 1, 60)) * 1000);
     } else if (step == L"rows") {
         PrintRows(driver);
     } else if (step == L"state") {
         PrintState(driver);
-    } else if (step == L"command" && words.size() == 2) {
-        driver.SendMenuCommand(static_cast<UINT>(ToNumber(words[1])));
-    } else if (step == L"sort" && words.size() == 2) {
-        Sort(driver, ToNumber(words[1]));
+    } else if (step == L"escape") {
+        PressEscape();
+    } else if (step == L"press-enter") {
+        PressEnter();
     } else if (step == L"browse") {
         driver.ClickToOpen(NamePage, BUTTON_BROWSE);
     } else if (step == L"cancel") {
@@ -165,7 +154,75 @@ void Run(const Words& words) {
         const DWORD code = driver.Close();
         if (code != 0) throw DriverError("the program ended with exit code " + std::to_string(code));
     } else {
+        return false;
+    }
+    return true;
+}
+
+void RunStepWithOneWord(ProgramDriver& driver, const std::wstring& step, const std::wstring& word) {
+    if (step == L"page") {
+        const int page = ToNumber(word);
+        if (page > SizePage) throw UsageError();
+        driver.ShowPage(page);
+    } else if (step == L"command") {
+        driver.SendMenuCommand(static_cast<UINT>(ToNumber(word)));
+    } else if (step == L"sort") {
+        Sort(driver, ToNumber(word));
+    } else if (step == L"menu") {
+        const int menu = ToNumber(word);
+        if (menu < 1 || menu > 3) throw UsageError();
+        OpenMenu(driver, menu);
+    } else if (step == L"select") {
+        SelectRowOf(driver, word);
+    } else if (step == L"rename") {
+        TypeNewName(driver, word);
+    } else {
         throw UsageError();
+    }
+}
+
+void RunStepWithTwoNumbers(ProgramDriver& driver, const std::wstring& step, int first, int second) {
+    if (step == L"click") {
+        ClickControl(driver, first, second);
+    } else if (step == L"drop") {
+        OpenDropDown(driver, first, second);
+    } else if (step == L"turn") {
+        TurnSheet(driver, first, second);
+    } else {
+        throw UsageError();
+    }
+}
+
+void RunStep(ProgramDriver& driver, const Words& words) {
+    const std::wstring& step = words[0];
+    if (step == L"fill") {
+        Fill(driver, words);
+    } else if (step == L"find") {
+        Find(driver, words);
+    } else if (step == L"wait-done") {
+        driver.WaitForEndOfSearch(static_cast<DWORD>(NumberAt(words, 1, 60)) * 1000);
+    } else if (step == L"wait-dialog") {
+        AwaitDialog(driver, NumberAt(words, 1, 0));
+    } else if (words.size() == 3) {
+        RunStepWithTwoNumbers(driver, step, ToNumber(words[1]), ToNumber(words[2]));
+    } else if (words.size() == 2) {
+        RunStepWithOneWord(driver, step, words[1]);
+    } else if (!RunPlainStep(driver, step)) {
+        throw UsageError();
+    }
+}
+
+void Run(const Words& words) {
+    if (words.empty()) throw UsageError();
+    ProgramDriver driver;
+    if (words[0] == L"wait-window") {
+        if (words.size() != 2) throw UsageError();
+        driver.Attach(static_cast<DWORD>(ToNumber(words[1])) * 1000);
+    } else if (words[0] == L"close-screen") {
+        PostMessageW(GetDesktopWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    } else {
+        driver.Attach(AttachDeadline);
+        RunStep(driver, words);
     }
 }
 
