@@ -11,13 +11,13 @@ done
 write_script() {
     cat >"$scratch/open_window" <<TEXT
 set -euo pipefail
-root='$root'
+root=$(printf %q "$root")
 for part in common setup build screen prefix world tour; do source "\$root/tools/lib/\$part.sh"; done
 prefixDir='$scratch/worlds'
 conditions=()
 arm_cleanups
-with_lock setup 3600 make_base_prefixes
-with_lock ends-test 2 show_window '$scratch/device' en 240x320
+prepare_wine
+with_lock ends-test 2 "it is open" show_window '$scratch/device' en 240x320
 TEXT
 }
 

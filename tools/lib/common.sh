@@ -3,24 +3,103 @@
 # What every script here uses: where things are, how to speak, how to clean up, how to wait no longer than
 # a deadline. Sourced by ./run and ./test, which set `root` to the top of the source tree first.
 
-# Everything that the scripts make goes here, and nowhere else but to the system's packages.
-buildDir=$root/build
+# The source tree by a name that all tools can bear. The resource compiler hands its paths to a shell without quoting,
+# the build tools separate words at blanks and semicolons, and Wine takes paths for its own: so a tree whose path has
+# other letters than these is worked on by way of a link, which has the same name in every run.
+name_plain_root() {
+    local LC_ALL=C
+    plainRoot=$root
+    [[ $root != *[!A-Za-z0-9/._-]* ]] || plainRoot=/tmp/quorinsearch-$EUID-$(printf '%s' "$root" | sha256sum | head -c 16)
+}
+name_plain_root
+
+# Everything that the scripts make goes here. Outside are only the system's packages, and that link.
+buildDir=$plainRoot/build
+
+# Whether a line of progress is on the terminal at the moment.
+progressShown=no
 
 # say TEXT...: a line of progress. Standard output is kept for results.
 say() {
+    end_progress
     printf '%s\n' "$*" >&2
 }
 
 # fail TEXT...: ends the script with status 1 and one clear line.
 fail() {
+    end_progress
     printf '%s: %s\n' "${0##*/}" "$*" >&2
     exit 1
 }
 
 # usage_error TEXT...: ends the script with status 2, for what the caller typed wrongly.
 usage_error() {
-    printf '%s: %s (see %s --help)\n' "${0##*/}" "$*" "$0" >&2
+    printf '%s: %s (see %s --help)\n' "${0##*/}" "$*" "$(in_shell_quotes "$0")" >&2
     exit 2
+}
+
+# has_terminal: is somebody watching?
+has_terminal() {
+    [[ -t 2 ]]
+}
+
+# progress TEXT...: on a terminal, a line that the next one overwrites; nothing at all elsewhere. Blanks instead of
+# control codes take away what was there, for the sake of terminals that know none.
+progress() {
+    local width=0
+    has_terminal || return 0
+    width=$(stty size <&2 2>/dev/null) || width=0
+    width=${width#* }
+    ((width > 1)) || width=80
+    progressShown=$((width - 1))
+    printf '\r%-*.*s' "$progressShown" "$progressShown" "$*" >&2
+}
+
+# end_progress: takes it off again.
+end_progress() {
+    [[ $progressShown != no ]] || return 0
+    printf '\r%*s\r' "$progressShown" '' >&2
+    progressShown=no
+}
+
+# with_clock TEXT COMMAND WORD...: for what takes long and tells nothing: on a terminal the seconds are counted.
+with_clock() {
+    local text=$1 clock='' status=0
+    shift
+    if has_terminal; then
+        run_clock "$text" &
+        clock=$!
+        at_exit end_process "$clock"
+    fi
+    "$@" || status=$?
+    if [[ -n $clock ]]; then
+        end_process "$clock"
+        progress ''
+        end_progress
+    fi
+    return "$status"
+}
+
+run_clock() {
+    local began=$SECONDS
+    while sleep 1; do
+        progress "$1: $((SECONDS - began)) s"
+    done
+}
+
+# in_shell_quotes TEXT: the text as it can be pasted behind a prompt.
+in_shell_quotes() {
+    if [[ $1 == *[[:space:][:cntrl:]\'\"\\\$\&\;\(\)\<\>\|\*\?\[\]\#\~\`\!\{\}]* ]]; then
+        printf "'%s'" "${1//\'/\'\\\'\'}"
+    else
+        printf '%s' "$1"
+    fi
+}
+
+# path_from_here PATH: the path as it can be opened from where the user is: short below that folder, whole
+# elsewhere.
+path_from_here() {
+    in_shell_quotes "$(realpath -m --relative-base=. -- "$1")"
 }
 
 cleanups=()
@@ -82,17 +161,40 @@ end_tree() {
     done
 }
 
-# with_lock NAME SECONDS COMMAND WORD...: one at a time in this source tree; fails when it waits too long. What
-# the command starts does not inherit the lock, so that a left-over process cannot keep it.
+# make_plain_root: the link is made again when the machine has lost it.
+make_plain_root() {
+    [[ $plainRoot != "$root" ]] || return 0
+    [[ -L $plainRoot ]] || ln -s "$root" "$plainRoot" || fail "could not make the link $plainRoot"
+    # Anybody may put something there.
+    [[ $plainRoot -ef $root && $(stat -c %u "$plainRoot") == "$EUID" ]] || fail "$plainRoot is in the way"
+}
+
+# make_build_folder: everything that is made needs it.
+make_build_folder() {
+    make_plain_root
+    mkdir -p "$buildDir" 2>/dev/null || true
+    [[ -d $buildDir && -w $buildDir ]] ||
+        fail "no permission to write in $(path_from_here "$root"), where QuorinSearch is built"
+}
+
+# with_lock NAME SECONDS BUSY COMMAND WORD...: one at a time in this source tree. When another one is at it, BUSY says
+# so in the user's words; after so many seconds that ends the script. What the command starts does not inherit the
+# lock, so that a left-over process cannot keep it.
 with_lock() {
-    local name=$1 seconds=$2 descriptor=$((20 + lockDepth))
-    shift 2
-    mkdir -p "$buildDir"
+    local name=$1 seconds=$2 busy=$3 descriptor=$((20 + lockDepth))
+    shift 3
+    make_build_folder
     eval "exec $descriptor>\"\$buildDir/.\$name.lock\""
-    flock -w "$seconds" "$descriptor" ||
-        fail "another run in this folder holds build/.$name.lock; try again when it has ended"
+    await_lock "$descriptor" "$seconds" "$busy"
     lockDepth=$((lockDepth + 1))
     eval "\"\$@\" $descriptor>&-"
     lockDepth=$((lockDepth - 1))
     eval "exec $descriptor>&-"
+}
+
+await_lock() {
+    flock -n "$1" && return
+    # A moment is nothing to speak of.
+    (($2 <= 5)) || say "waiting: $3"
+    flock -w "$2" "$1" || fail "$3"
 }

@@ -87,19 +87,28 @@ prepare_bases() (
     rm -f "$1"/*/dosdevices/{z:,com*,lpt*} "$1"/*/wineserver
 )
 
+prepare_bases_logged() {
+    prepare_bases "$1" >"$buildDir/wineboot.log" 2>&1
+}
+
 # make_base_prefixes: does nothing when they stand. One that was interrupted leaves nothing that counts.
 make_base_prefixes() {
     local unfinished
     [[ $(cat "$basePrefix/stamp" 2>/dev/null) == "$(base_stamp)" ]] && return 0
-    say "preparing Wine (once)"
+    say "preparing Wine for English and Japanese (once)"
     mkdir -p "$prefixDir"
     rm -rf "$basePrefix" "$prefixDir"/unfinished.*
     unfinished=$(mktemp -d "$prefixDir/unfinished.XXXXXX")
     mkdir "$unfinished/en"
-    prepare_bases "$unfinished" >"$buildDir/wineboot.log" 2>&1 ||
-        fail "Wine's prefix could not be made; see build/wineboot.log"
+    with_clock "preparing Wine" prepare_bases_logged "$unfinished" ||
+        fail "Wine could not be prepared; what it said is in $(path_from_here "$buildDir/wineboot.log")"
     base_stamp >"$unfinished/stamp"
     mv -T "$unfinished" "$basePrefix"
+}
+
+# prepare_wine: one at a time.
+prepare_wine() {
+    with_lock setup 3600 "another ./run or ./test in this folder is preparing Wine" make_base_prefixes
 }
 
 # make_world FOLDER LANGUAGE SCREEN: a fresh prefix for that language and screen size.

@@ -14,9 +14,13 @@ open_desktop() {
     wait_until 60 desktop_is_open || fail "Wine's desktop did not open"
 }
 
-# start_program DEVICE: starts QuorinSearch with the folder's root as `\`. Sets programPid.
+# start_program DEVICE [PROGRAM WORD...]: starts QuorinSearch, or another program, with the folder's root as `\`. Sets
+# programPid.
 start_program() {
-    (cd "$1" && exec setsid "$wine" 'P:\quorinsearch.exe') </dev/null >"$buildDir/program.log" 2>&1 &
+    local device=$1
+    shift
+    (($# > 0)) || set -- 'P:\quorinsearch.exe'
+    (cd "$device" && exec setsid "$wine" "$@") </dev/null >"$buildDir/program.log" 2>&1 &
     programPid=$!
 }
 
@@ -34,25 +38,50 @@ await_program() {
     wait "$programPid" || programStatus=$?
 }
 
-# show_window DEVICE LANGUAGE SCREEN: opens the program on the user's display and returns when it has ended. The
-# world is kept from run to run, so that the program remembers what it was asked.
+searchDeadline=600
+
+# What the driver prints and says in one step. Wine speaks into the terminal that a program has, in control codes, so
+# that it gets none.
+stepOutput=$buildDir/.step.$$
+
+# drive STEP WORD...: one step of the driver, which has a deadline of its own; this one is for a driver that hangs.
+# Waited for in the background, so that a signal ends the script at once. The folder that it starts in is one that
+# Wine knows, or it would complain.
+drive() {
+    (cd "$buildDir/release" && exec timeout -k 5 "$((searchDeadline + 30))" "$wine" 'P:\quorin_driver.exe' "$@") \
+        </dev/null >"$stepOutput.printed" 2>"$stepOutput.said" &
+    wait "$!" || fail "the step '$1' failed: $(driver_words)"
+    cat "$stepOutput.printed"
+}
+
+# driver_words: the driver's own words on what failed, or all that was said when there are none.
+driver_words() {
+    local words
+    words=$(tr -d '\r' <"$stepOutput.said" | sed -n 's/^quorin_driver: //p')
+    printf '%s' "${words:-$(tail -n 3 "$stepOutput.said")}"
+}
+
+# keep_world WORLD LANGUAGE SCREEN: made once, so that the program remembers from run to run what it was asked.
+keep_world() {
+    local stamp=$1/stamp
+    [[ $(cat "$stamp" 2>/dev/null) != "$(cat "$basePrefix/stamp")" ]] || return 0
+    make_world "$1" "$2" "$3"
+    cp "$basePrefix/stamp" "$stamp"
+}
+
+# show_window DEVICE LANGUAGE SCREEN: opens the program on the user's display and returns when it has ended.
 show_window() {
     local world=$prefixDir/run-$2-$3
-    local stamp=$world/stamp
-    if [[ $(cat "$stamp" 2>/dev/null) != "$(cat "$basePrefix/stamp")" ]]; then
-        make_world "$world" "$2" "$3"
-        cp "$basePrefix/stamp" "$stamp"
-    fi
+    keep_world "$world" "$2" "$3"
     map_drives "$world" "$1"
     wine_environment "$world" "$2"
+    at_exit rm -f "$stepOutput.printed" "$stepOutput.said"
     at_exit stop_wine
     open_desktop "$3"
     start_program "$1"
     at_exit close_program
-    if ((${#conditions[@]} > 0)); then
-        drive wait-window 60
-        fill_conditions
-    fi
+    drive wait-window 60
+    ((${#conditions[@]} == 0)) || drive fill "${conditions[@]}"
     say "QuorinSearch is open; this ends when its window is closed"
     programStatus=0
     wait "$programPid" || programStatus=$?
