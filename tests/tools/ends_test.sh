@@ -37,6 +37,7 @@ open_window() {
     set +m
     at_exit end_process "$scriptPid"
     wait_until 60 program_is_open || fail "the window did not open: $(<"$scratch/said")"
+    at_exit rm -f "$stepOutput.printed" "$stepOutput.said"
     wine_environment "$scratch/worlds/run-en-240x320" en
     drive wait-window 60
 }

@@ -3,52 +3,7 @@
 # the pictures and the page that are left.
 # shellcheck disable=SC1091,SC2034,SC2154,SC2317 # tests are called by name, variables are shared
 source "$(dirname "${BASH_SOURCE[0]}")/expect.sh"
-
-tourDir=$root/build/tour
-
-# tour OPTION...: the paths found, sorted, without a trailing line end.
-tour() {
-    bash "$root/run" "$@" >"$scratch/rows" 2>"$scratch/said" </dev/null || {
-        cat "$scratch/said"
-        exit 1
-    }
-    cut -f 1 "$scratch/rows" | LC_ALL=C sort
-}
-
-lines() {
-    printf '%s\n' "$@"
-}
-
-# from_page PATH: what stands there in the page, which is read as XML.
-from_page() {
-    xmllint --xpath "$1" "$tourDir/index.html"
-}
-
-steps=(start name-page calendar date-page etc-page type-list finding results file-menu view-menu option-menu)
-rowSteps=(sorted delete-question properties)
-lastSteps=(browser about rename error shortcut replace-question)
-
-# expect_page SCREEN STEP...: the page shows exactly these pictures, each with a line of its own, of the screen's size,
-# with something in it and unlike every other.
-expect_page() {
-    local screen=$1 number=0 step file texts
-    shift
-    expect_equal 'what is wrong with the page as XML' '' "$(xmllint --noout "$tourDir/index.html" 2>&1)"
-    expect_equal 'what is wrong with the page as HTML' '' "$(xmllint --html --noout "$tourDir/index.html" 2>&1)"
-    expect_equal 'pictures of the page' $# "$(from_page 'count(//*[local-name()="img"])')"
-    for step; do
-        number=$((number + 1))
-        file=$(printf '%02d-%s.png' "$number" "$step")
-        expect_equal "picture $number" "$file" "$(from_page "string((//*[local-name()='img'])[$number]/@src)")"
-        expect_match "line $number" "$number. [A-Z]*." "$(from_page "string((//*[local-name()='div'])[$number]/*[local-name()='p'])")"
-        expect_equal "size of $file" "$screen" "$(identify -format '%wx%h' "$tourDir/$file")"
-        expect_that "$file has more than one colour" test "$(identify -format '%k' "$tourDir/$file")" -gt 4
-    done
-    expect_equal 'files' "$(printf '%s\n' "$tourDir"/*.png | wc -l)" $#
-    expect_equal 'pictures that are there twice' '' "$(identify -format '%#\n' "$tourDir"/*.png | sort | uniq -d)"
-    texts=$(from_page '//*[local-name()="img"]/@alt' | sort)
-    expect_equal 'lines that are there twice' '' "$(uniq -d <<<"$texts")"
-}
+source "$(dirname "${BASH_SOURCE[0]}")/tour_page.sh"
 
 # On a terminal, where a Wine that can see it would speak into it.
 test_without_conditions_every_text_file_of_the_sample_device_is_found() {
@@ -75,24 +30,8 @@ test_without_conditions_every_text_file_of_the_sample_device_is_found() {
     shown=$(tr -d '\r' <"$scratch/shown" | sed -n '/^ *starting/,$p')
     expect_equal 'what the terminal shows' "$(lines 'starting QuorinSearch' searching 'rows found: 14' \
         "the pictures: $(cd "$root" && realpath --relative-base="$OLDPWD" build/tour/index.html)")" "$shown"
-    expect_page 240x320 "${steps[@]}" "${rowSteps[@]}" "${lastSteps[@]}"
-}
-
-test_a_display_that_cannot_be_reached_leads_to_the_tour_and_no_rows_are_an_answer() {
-    expect_equal 'paths' '' "$(DISPLAY=:250 tour --japanese --contains 予算)"
-    expect_match 'words' "*the display ':250' cannot be reached, so this is the tour*" "$(<"$scratch/said")"
-    expect_that 'no rows are told' grep -qx 'rows found: 0' "$scratch/said"
-    expect_page 240x320 "${steps[@]}" "${lastSteps[@]}"
-    expect_match 'the page tells its world' '*Japanese, 240 x 320 pixels*Rows found: 0.*' "$(<"$tourDir/index.html")"
-}
-
-test_shift_jis_text_is_found_on_an_english_system() {
-    expect_equal 'paths' '\My Documents\日本語\会議メモ.txt' \
-        "$(DISPLAY='' tour --handheld --contains=予算 --location='\My Documents' --subfolders)"
-    expect_match 'words' '*there is no display to open a window on (DISPLAY is not set), so this is the tour*' \
-        "$(<"$scratch/said")"
-    expect_page 640x240 "${steps[@]}" "${rowSteps[@]}" "${lastSteps[@]}"
-    expect_match 'the page tells its world' '*English, 640 x 240 pixels*Rows found: 1.*' "$(<"$tourDir/index.html")"
+    expect_page 240x320 "${steps[@]}" sorted "${rowSteps[@]}" "${lastSteps[@]}"
+    expect_browser_shows 240x320
 }
 
 # all_of FOLDER: names, times and bytes.
@@ -112,7 +51,7 @@ test_a_folder_of_the_user_is_the_root_and_stays_as_it_is() {
     expect_equal 'the folder' "$before" "$(all_of .)"
     page=$(sed -n 's/^the pictures: //p' "$scratch/said")
     expect_that 'the page can be opened from here' bash -c "test -s $page"
-    expect_page 640x240 "${steps[@]}" "${rowSteps[@]}" "${lastSteps[@]}"
+    expect_page 640x240 "${steps[@]}" sorted "${rowSteps[@]}" "${lastSteps[@]}"
 }
 
 run_test_functions Tour

@@ -34,17 +34,23 @@ start_screen() {
     rm -f "$numberFile"
 }
 
-# take_picture FILE: the whole screen as PNG, once it stands still: programs paint a moment after they are asked. The
-# tools get no name of a file, since they read more into it than the place where it is.
+# take_shot FILE: the screen as it is now. The tools get no name of a file, since they read more into it than the place
+# where it is.
+take_shot() {
+    timeout 30 import -window root ppm:- </dev/null 2>/dev/null >"$1" || fail "could not take a picture of the screen"
+}
+
+# take_picture FILE: the whole screen as PNG, once it stands still: programs paint a moment after they are asked.
 take_picture() {
-    local before='' now
-    local deadline=$((SECONDS + 6))
-    while true; do
-        sleep 0.4
-        timeout 30 import -window root png:- </dev/null 2>/dev/null >"$1" || fail "could not take the picture $1"
-        now=$(identify -format '%#' png:- <"$1")
-        [[ $now != "$before" ]] || return 0
-        ((SECONDS < deadline)) || return 0
-        before=$now
+    local shot=$1.shot deadline=$((SECONDS + 6))
+    sleep 0.2
+    take_shot "$shot"
+    while sleep 0.3; do
+        take_shot "$shot.next"
+        ! cmp -s "$shot" "$shot.next" || break
+        ((SECONDS < deadline)) || break
+        mv -f "$shot.next" "$shot"
     done
+    convert ppm:- png:- <"$shot" >"$1"
+    rm -f "$shot" "$shot.next"
 }

@@ -29,9 +29,7 @@ tour_pages() {
     picture start "The window as it opens: conditions above, rows below."
     drive fill "${conditions[@]}"
     picture name-page "What to look for: a part of the name or a pattern, a text in the file, a folder."
-    drive page "$datePage"
-    drive click "$datePage" "$between"
-    drive drop "$datePage" "$fromDate"
+    drive page "$datePage" , click "$datePage" "$between" , drop "$datePage" "$fromDate"
     picture calendar "When the file was changed, with a calendar for each day."
     drive click "$datePage" "$anyTime"
     picture date-page "Files of any time, or of the last days."
@@ -39,8 +37,7 @@ tour_pages() {
     picture etc-page "The file's type and size."
     drive drop "$etcPage" "$fileType"
     picture type-list "The types that the device knows."
-    drive escape
-    drive page 0
+    drive escape , page 0
 }
 
 # The search itself, stopped once in the middle to look at its dialog.
@@ -48,31 +45,29 @@ tour_search() {
     say "searching"
     drive find --hold
     picture finding "During the search: the folder at hand, and a way to abort."
-    drive release
-    drive wait-done "$searchDeadline"
+    drive release , wait-done "$searchDeadline"
     picture results "The rows found."
 }
 
 tour_menus() {
     drive menu 1
     picture file-menu "What can be done with the selected row."
-    drive escape
-    drive menu 2
+    drive escape , menu 2
     picture view-menu "How the rows are shown, and the About box."
-    drive escape
-    drive menu 3
+    drive escape , menu 3
     picture option-menu "Letter case in texts, and a new set of conditions."
     drive escape
 }
 
 # What can be done with the first row, as far as it changes nothing.
 tour_row() {
-    drive sort 0
-    picture sorted "A tap on a heading sorts the rows by it, another one the other way round."
+    if (($(wc -l <"$tourDir/rows.txt") > 1)); then
+        drive sort 0
+        picture sorted "A tap on a heading sorts the rows by it, another one the other way round."
+    fi
     drive command "$deleteCommand"
     picture delete-question "Nothing is deleted without a question."
-    drive cancel
-    drive command "$propertiesCommand"
+    drive cancel , command "$propertiesCommand"
     picture properties "The properties of a file."
     drive cancel
 }
@@ -80,8 +75,7 @@ tour_row() {
 tour_dialogs() {
     drive browse
     picture browser "The folder to start in, chosen from a tree."
-    drive cancel
-    drive command "$aboutCommand"
+    drive cancel , command "$aboutCommand"
     picture about "The About box tells the memory that is left."
     drive cancel
 }
@@ -124,23 +118,13 @@ put_letters() {
 # tour_files DEVICE: renaming, which another file's name prevents, and a shortcut's target.
 tour_files() {
     start_program "$1"
-    drive wait-window 60
-    drive fill --name "$letter" --contains '' --location '\My Documents\Tour' --subfolders 0
-    drive find
-    drive wait-done
-    drive select "$letter.txt"
-    drive rename "$otherLetter.txt"
+    drive wait-window 60 , fill --name "$letter" --contains '' --location '\My Documents\Tour' --subfolders 0 , \
+        find , wait-done , select "$letter.txt" , rename "$otherLetter.txt"
     picture rename "A file is renamed in its row."
-    drive press-enter
     # The system's reason first, then what it means.
-    drive wait-dialog
-    drive cancel
-    drive wait-dialog
+    drive press-enter , wait-dialog , cancel , wait-dialog
     picture error "What cannot be done is told: another file has that name."
-    drive cancel
-    drive select "$letter.lnk"
-    drive command "$propertiesCommand"
-    drive turn 1 "$targetOfShortcut"
+    drive cancel , select "$letter.lnk" , command "$propertiesCommand" , turn 1 "$targetOfShortcut"
     picture shortcut "A shortcut's properties tell its target as well."
     drive cancel
     end_tour_program
@@ -149,8 +133,7 @@ tour_files() {
 # tour_operation DEVICE: a copy that meets an older file.
 tour_operation() {
     start_program "$1" 'P:\quorin_operation.exe' "\\My Documents\\Tour\\$letter.txt" '\Storage Card\Tour'
-    drive wait-window 60
-    drive wait-dialog "$yesToAll"
+    drive wait-window 60 , wait-dialog "$yesToAll"
     picture replace-question "A file operation in progress asks before it replaces a file."
     drive cancel
     end_tour_program
@@ -170,7 +153,7 @@ page_start() {
 <style>
 body { font-family: sans-serif; margin: 2em; background: #f4f4f0; color: #222; }
 .step { display: inline-block; vertical-align: top; margin: 0 1.5em 2em 0; width: $((2 * ${2%x*}))px; max-width: 100%; }
-.step p { margin: 0 0 0.5em 0; }
+.step p { margin: 0.3em 0 0 0; }
 .step img { max-width: 100%; height: auto; image-rendering: pixelated; box-shadow: 0 0 0 1px #888; }
 </style>
 </head>
@@ -189,8 +172,8 @@ page_steps() {
     local file text number=0
     while IFS=$'\t' read -r file text; do
         number=$((number + 1))
-        printf '<div class="step">\n<p>%d. %s</p>\n<img src="%s" width="%d" height="%d" alt="%s" />\n</div>\n' \
-            "$number" "$text" "$file" "$((2 * ${1%x*}))" "$((2 * ${1#*x}))" "$text"
+        printf '<div class="step">\n<img src="%s" width="%d" height="%d" alt="%s" />\n<p>%d. %s</p>\n</div>\n' \
+            "$file" "$((2 * ${1%x*}))" "$((2 * ${1#*x}))" "$text" "$number" "$text"
     done <"$tourDir/pictures.txt"
 }
 

@@ -1,9 +1,11 @@
-// Drives the running program for a script, one step a call. Every step has a deadline; a step that fails
-// says on standard error what it waited for. Status: 0 done, 1 failed, 2 not understood.
+// Drives the running program for a script, one step a call or several, with commas between them. Every step
+// has a deadline; a step that fails says on standard error what it waited for. Status: 0 done, 1 failed, 2
+// not understood.
 
 #include <fcntl.h>
 #include <io.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -17,7 +19,7 @@
 namespace {
 
 constexpr char Usage[] =
-    "usage: quorin_driver STEP\n"
+    "usage: quorin_driver STEP [, STEP]...\n"
     "  wait-window SECONDS          waits for the main window\n"
     "  fill [--name TEXT] [--contains TEXT] [--location TEXT] [--subfolders 0|1]\n"
     "  page NUMBER                  shows a condition page: 0 name, 1 date, 2 the other\n"
@@ -212,8 +214,7 @@ void RunStep(ProgramDriver& driver, const Words& words) {
     }
 }
 
-void Run(const Words& words) {
-    if (words.empty()) throw UsageError();
+void RunOnly(const Words& words) {
     ProgramDriver driver;
     if (words[0] == L"wait-window") {
         if (words.size() != 2) throw UsageError();
@@ -223,6 +224,17 @@ void Run(const Words& words) {
     } else {
         driver.Attach(AttachDeadline);
         RunStep(driver, words);
+    }
+}
+
+void Run(const Words& words) {
+    auto begin = words.begin();
+    while (true) {
+        const auto end = std::find(begin, words.end(), L",");
+        if (begin == end) throw UsageError();
+        RunOnly(Words(begin, end));
+        if (end == words.end()) return;
+        begin = end + 1;
     }
 }
 
