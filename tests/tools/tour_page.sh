@@ -25,6 +25,14 @@ steps=(start name-page calendar date-page etc-page type-list finding results fil
 rowSteps=(delete-question properties)
 lastSteps=(browser about rename error shortcut replace-question)
 
+# expect_apart STEP STEP: the two pictures differ over more than a button that the pointer lights up.
+expect_apart() {
+    local width height
+    read -r width height < <(convert "$tourDir"/*-"$1".png "$tourDir"/*-"$2".png \
+        -compose difference -composite -trim -format '%w %h' info:)
+    expect_that "$1 differs from $2: over $width x $height pixels" test "$((width >= 50 && height >= 40))" = 1
+}
+
 # expect_page SCREEN STEP...: the page shows exactly these pictures, each with a line of its own, of the screen's size,
 # with something in it and unlike every other.
 expect_page() {
@@ -43,6 +51,12 @@ expect_page() {
     done
     expect_equal 'files' "$(printf '%s\n' "$tourDir"/*.png | wc -l)" $#
     expect_equal 'pictures that are there twice' '' "$(identify -format '%#\n' "$tourDir"/*.png | sort | uniq -d)"
+    expect_apart calendar date-page
+    expect_apart type-list etc-page
+    for step in finding file-menu view-menu option-menu browser about; do
+        expect_apart "$step" results
+    done
+    expect_apart error rename
     texts=$(from_page '//*[local-name()="img"]/@alt' | sort)
     expect_equal 'lines that are there twice' '' "$(uniq -d <<<"$texts")"
 }
