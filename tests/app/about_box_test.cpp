@@ -70,7 +70,7 @@ TEST_F(AboutBoxTest, shows_the_products_strings) {
     Box().CreateModeless();
     EXPECT_EQ(Title(), L"About");
     EXPECT_EQ(TextOf(STATIC_PRODUCT_NAME), L"QuorinSearch");
-    EXPECT_EQ(TextOf(STATIC_VERSION), L"Version 0.90");
+    EXPECT_EQ(TextOf(STATIC_VERSION), L"Version " QUORIN_VERSION);
     for (const int id : {STATIC_LEGAL_NOTICE, STATIC_CONTACT_1, STATIC_CONTACT_2}) {
         wchar_t expected[260] = L"";
         const UINT string = id == STATIC_LEGAL_NOTICE ? STRING_LEGAL_NOTICE

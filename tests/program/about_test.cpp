@@ -74,7 +74,7 @@ TEST_F(About, shows_product_version_notice_and_contacts) {
     EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Caption());
     EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Text(STATIC_TITLE));
     EXPECT_EQ(L"QuorinSearch", about.Text(STATIC_PRODUCT_NAME));
-    EXPECT_EQ(L"Version 0.90", about.Text(STATIC_VERSION));
+    EXPECT_EQ(L"Version " QUORIN_VERSION, about.Text(STATIC_VERSION));
     EXPECT_NE(std::wstring::npos, about.Text(STATIC_LEGAL_NOTICE).find(L"QuorinSoft"));
     EXPECT_FALSE(about.Text(STATIC_CONTACT_1).empty());
     EXPECT_FALSE(about.Text(STATIC_CONTACT_2).empty());

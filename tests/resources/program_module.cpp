@@ -2,30 +2,31 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 namespace {
 
 HMODULE LoadProgram() {
-#ifdef QUORIN_READS_THE_PROGRAM
-    wchar_t self[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, self, MAX_PATH);
-    std::wstring folder(self);
-    for (int level = 0; level < 2; ++level)
-        folder.resize(folder.find_last_of(L'\\'));
-    const std::wstring path = folder + L"\\quorinsearch.exe";
-    const HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const HMODULE module = LoadLibraryExW(ProgramPath().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (module == nullptr) {
-        std::fprintf(stderr, "%ls cannot be read\n", path.c_str());
+        std::fprintf(stderr, "%ls cannot be read\n", ProgramPath().c_str());
         std::exit(1);
     }
     return module;
-#else
-    return GetModuleHandleW(nullptr);
-#endif
 }
 
 }  // namespace
+
+std::wstring ProgramPath() {
+    wchar_t self[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, self, MAX_PATH);
+    std::wstring path(self);
+#ifdef QUORIN_READS_THE_PROGRAM
+    for (int level = 0; level < 2; ++level)
+        path.resize(path.find_last_of(L'\\'));
+    path += L"\\quorinsearch.exe";
+#endif
+    return path;
+}
 
 HMODULE ProgramModule() {
     static const HMODULE module = LoadProgram();

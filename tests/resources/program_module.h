@@ -4,7 +4,11 @@
 
 #include <windows.h>
 
+#include <string>
 #include <vector>
+
+// Where it stands.
+std::wstring ProgramPath();
 
 // Never null: a program that cannot be loaded ends the test run with a message.
 HMODULE ProgramModule();

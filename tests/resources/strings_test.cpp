@@ -15,7 +15,7 @@ std::wstring StringOf(unsigned int id) {
 
 TEST(Strings, the_product_and_its_version_are_named) {
     EXPECT_EQ(StringOf(101), L"QuorinSearch");
-    EXPECT_EQ(StringOf(102), L"Version 0.90");
+    EXPECT_EQ(StringOf(102), L"Version " QUORIN_VERSION);
 }
 
 TEST(Strings, the_legal_notice_and_both_contact_lines_are_there) {
