@@ -87,6 +87,12 @@ void ExpectSameScan(const Bytes& bytes, const std::string& pattern, bool folding
 
 }  // namespace
 
+#ifdef __x86_64__
+TEST(ContentScan, knows_the_wide_registers_that_the_compilers_own_question_finds) {
+    EXPECT_EQ(CanScan(ScanWidth::Bytes32), __builtin_cpu_supports("avx2") != 0);
+}
+#endif
+
 TEST(ContentScan, starts_with_the_widest_registers_that_the_processor_has) {
     EXPECT_EQ(ContentScanWidth(), ScanWidthsHere().back());
 }
