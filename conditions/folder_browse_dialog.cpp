@@ -15,7 +15,11 @@
 namespace {
 
 constexpr int ImageSize = 16;
-constexpr int TreeIcons[] = {ICON_DEVICE, ICON_FOLDER, ICON_OPEN_FOLDER};
+
+// The root is the device itself, which looks as its name in RootDisplayName says.
+int RootIcon() {
+    return Globals().pocketPc ? ICON_DEVICE : ICON_HANDHELD;
+}
 
 }  // namespace
 
@@ -86,7 +90,7 @@ void FolderBrowseDialog::StretchTree() {
 void FolderBrowseDialog::LoadImages() {
     if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
     folderImages_ = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
-    for (const int id : TreeIcons) {
+    for (const int id : {RootIcon(), ICON_FOLDER, ICON_OPEN_FOLDER}) {
         const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
                                                         ImageSize, ImageSize, LR_DEFAULTCOLOR));
         ImageList_ReplaceIcon(folderImages_, -1, icon);

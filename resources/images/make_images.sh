@@ -2,4 +2,4 @@
 # Makes the icons and dialog_bar.bmp from the pixel maps in source/. The results are kept in the tree, so
 # the build needs no drawing tool.
 set -eu
-exec python3 "$(dirname "$0")/source/make_images.py"
+exec python3 -B "$(dirname "$0")/source/make_images.py"

@@ -81,19 +81,23 @@ TEST_F(FolderBrowse, the_heading_ends_above_the_title_line) {
     }
 }
 
-TEST_F(FolderBrowse, the_images_are_the_device_a_folder_and_an_open_folder) {
-    FolderBrowseDialog dialog(Host(), L"Select Folder");
-    Run(dialog, [](HWND window) {
-        const auto images =
-            reinterpret_cast<HIMAGELIST>(SendMessageW(TreeIn(window), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
-        int index = 0;
-        for (const int id : {ICON_DEVICE, ICON_FOLDER, ICON_OPEN_FOLDER})
-            EXPECT_EQ(PictureOf(IconOfResource(id)),
-                      PictureOf(ImageList_GetIcon(images, index++, ILD_NORMAL)))
-                << id;
-        EXPECT_NE(PictureOf(IconOfResource(ICON_FOLDER)), PictureOf(IconOfResource(ICON_OPEN_FOLDER)));
-        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-    });
+TEST_F(FolderBrowse, the_images_are_the_kind_of_device_a_folder_and_an_open_folder) {
+    for (const bool pocketPc : {true, false}) {
+        GlobalsForStartUp().pocketPc = pocketPc;
+        FolderBrowseDialog dialog(Host(), L"Select Folder");
+        Run(dialog, [pocketPc](HWND window) {
+            const auto images =
+                reinterpret_cast<HIMAGELIST>(SendMessageW(TreeIn(window), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+            int index = 0;
+            for (const int id : {pocketPc ? ICON_DEVICE : ICON_HANDHELD, ICON_FOLDER, ICON_OPEN_FOLDER})
+                EXPECT_EQ(PictureOf(IconOfResource(id)),
+                          PictureOf(ImageList_GetIcon(images, index++, ILD_NORMAL)))
+                    << id;
+            PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        });
+    }
+    EXPECT_NE(PictureOf(IconOfResource(ICON_DEVICE)), PictureOf(IconOfResource(ICON_HANDHELD)));
+    EXPECT_NE(PictureOf(IconOfResource(ICON_FOLDER)), PictureOf(IconOfResource(ICON_OPEN_FOLDER)));
 }
 
 TEST_F(FolderBrowse, the_tree_draws_nothing_while_it_is_filled_and_again_afterwards) {

@@ -8,7 +8,9 @@
 
 namespace {
 
-constexpr int Icons[] = {101, 10000, 10001, 10002, 10003, 10004, 10005, 10006, 10011, 10022, 10032};
+constexpr int Icons[] = {101, 10000, 10001, 10002, 10003, 10004, 10005, 10006, 10007, 10011, 10022, 10032};
+constexpr int Sizes[] = {16, 32, 48};
+constexpr int Program = 101;
 constexpr int ShortcutMark = 10006;
 constexpr COLORREF White = RGB(255, 255, 255);
 // None of the drawings has it.
@@ -49,23 +51,39 @@ class DrawnIcon {
     HGDIOBJ before_;
 };
 
-TEST(Images, every_icon_holds_a_small_and_a_large_picture) {
-    for (const int id : Icons) {
-        SCOPED_TRACE(id);
-        const std::vector<unsigned char> group = ResourceBytes(MAKEINTRESOURCEW(id), RT_GROUP_ICON);
-        ASSERT_GE(group.size(), 6u);
-        const std::size_t count = group[4];
-        ASSERT_EQ(group.size(), 6 + 14 * count);
-        std::set<int> sizes;
-        for (std::size_t index = 0; index < count; ++index)
-            sizes.insert(group[6 + 14 * index]);
-        EXPECT_EQ(sizes, (std::set<int>{16, 32}));
+// The edges of the pictures in an icon.
+std::set<int> SizesIn(int id) {
+    const std::vector<unsigned char> group = ResourceBytes(MAKEINTRESOURCEW(id), RT_GROUP_ICON);
+    std::set<int> sizes;
+    for (std::size_t entry = 6; entry + 14 <= group.size(); entry += 14) {
+        EXPECT_EQ(group[entry], group[entry + 1]);
+        // A byte is too small for 256.
+        sizes.insert(group[entry] != 0 ? group[entry] : 256);
     }
+    return sizes;
+}
+
+TEST(Images, every_icon_holds_a_picture_for_each_size_of_the_device_and_the_desktop) {
+    for (const int id : Icons) {
+        if (id == Program) continue;
+        EXPECT_EQ(SizesIn(id), (std::set<int>{16, 32, 48})) << id;
+    }
+}
+
+TEST(Images, the_programs_own_icon_holds_a_picture_for_the_desktops_largest_size_as_well) {
+    EXPECT_EQ(SizesIn(Program), (std::set<int>{16, 32, 48, 256}));
+    const DrawnIcon icon(Program, 256, Background);
+    EXPECT_EQ(icon.At(255, 0), Background);
+    EXPECT_EQ(icon.At(0, 255), Background);
+    // The sheet, its edge and the glass.
+    EXPECT_EQ(icon.At(40, 30), White);
+    EXPECT_EQ(icon.At(23, 100), RGB(0, 0, 0x80));
+    EXPECT_EQ(icon.At(140, 140), RGB(0, 255, 255));
 }
 
 TEST(Images, every_icon_is_transparent_around_its_drawing) {
     for (const int id : Icons)
-        for (const int size : {16, 32}) {
+        for (const int size : Sizes) {
             SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(size));
             const DrawnIcon icon(id, size, Background);
             EXPECT_EQ(icon.At(size - 1, 0), Background);
@@ -80,7 +98,7 @@ TEST(Images, every_icon_is_transparent_around_its_drawing) {
 
 TEST(Images, every_icon_is_clear_on_white) {
     for (const int id : Icons)
-        for (const int size : {16, 32}) {
+        for (const int size : Sizes) {
             SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(size));
             const DrawnIcon icon(id, size, White);
             int dark = 0;
@@ -94,7 +112,7 @@ TEST(Images, every_icon_is_clear_on_white) {
 }
 
 TEST(Images, no_two_icons_look_the_same) {
-    for (const int size : {16, 32})
+    for (const int size : Sizes)
         for (const int first : Icons)
             for (const int second : Icons) {
                 if (first >= second) continue;
@@ -110,7 +128,7 @@ TEST(Images, no_two_icons_look_the_same) {
 
 // It is laid over a file's icon, of which most has to stay visible.
 TEST(Images, the_shortcut_mark_stands_in_the_lower_left_corner_alone) {
-    for (const int size : {16, 32}) {
+    for (const int size : Sizes) {
         const DrawnIcon mark(ShortcutMark, size, Background);
         EXPECT_NE(mark.At(0, size - 1), Background);
         for (int y = 0; y < size; ++y)
