@@ -19,6 +19,8 @@ neededPackages=(
     x11-utils                  # xdpyinfo: is the display there?
     imagemagick                # pictures of the screen
     libxml2-utils              # xmllint: the tests read the tour's page with it
+    cmark-gfm                  # the package's page for users
+    zip                        # the package
 )
 
 wine=/usr/lib/wine/wine64
