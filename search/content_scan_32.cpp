@@ -8,7 +8,11 @@
 #ifdef __x86_64__
 #include <immintrin.h>
 // For the functions from here to the end of the file, and for no function that other files share.
+#ifdef __clang__
+#pragma clang attribute push(__attribute__((target("avx2"))), apply_to = function)
+#else
 #pragma GCC target("avx2")
+#endif
 #endif
 
 #include "search/content_scan_loop.h"
@@ -16,3 +20,7 @@
 ContentScan ContentScan32(bool folding) {
     return folding ? &RegisterScan<32, true>::Next : &RegisterScan<32, false>::Next;
 }
+
+#if defined(__x86_64__) && defined(__clang__)
+#pragma clang attribute pop
+#endif

@@ -1,5 +1,6 @@
 #include "tests/search/plain_find.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace {
@@ -37,7 +38,14 @@ std::size_t ByteIndex(char byte) {
 
 }  // namespace
 
+// Searches of bytes alone leave most of the table as it was.
+void PlainFind::Clear() {
+    std::fill(table_.begin() + (hasSearchedUnits_ ? 0 : 65536 - 128), table_.end(), 0);
+    hasSearchedUnits_ = false;
+}
+
 int PlainFind::Wide(const std::vector<std::uint16_t>& text, const std::vector<std::uint16_t>& pattern) {
+    hasSearchedUnits_ = true;
     const auto m = static_cast<std::int32_t>(pattern.size());
     for (std::size_t unit = 0; unit < 65536; ++unit)
         table_.at(unit) = m;

@@ -113,16 +113,19 @@ make_japanese_locale() {
         fail "could not make the locale $japaneseLocale; see $(path_from_here "$buildDir/setup.log")"
 }
 
-# set_up_machine: after it, everything that the other scripts call is there; ends the script otherwise.
-set_up_machine() {
+install_missing_packages() {
     local missing
     command -v dpkg-query >/dev/null || fail "the set-up knows Debian only; what it would install: ${neededPackages[*]}"
     missing=$(missing_packages)
-    if [[ -n $missing ]]; then
-        can_be_root || fail "packages are missing; run as root: apt-get install --no-install-recommends $missing"
-        # shellcheck disable=SC2086 # a list of words on purpose
-        install_packages $missing
-    fi
+    [[ -n $missing ]] || return 0
+    can_be_root || fail "packages are missing; run as root: apt-get install --no-install-recommends $missing"
+    # shellcheck disable=SC2086 # a list of words on purpose
+    install_packages $missing
+}
+
+# set_up_machine: after it, everything that the other scripts call is there; ends the script otherwise.
+set_up_machine() {
+    install_missing_packages
     has_japanese_locale || make_japanese_locale
     [[ -x $wine && -x $wineServer ]] || fail "Wine is not where Debian's package puts it ($wine)"
 }
