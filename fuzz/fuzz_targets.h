@@ -5,8 +5,17 @@
 
 #include "fuzz/fuzz_input.h"
 
+void FuzzCommandLines(FuzzInput& input);
+void FuzzContainers(FuzzInput& input);
 void FuzzContentSearch(FuzzInput& input);
+void FuzzDates(FuzzInput& input);
 void FuzzLineReaders(FuzzInput& input);
+void FuzzMenuBars(FuzzInput& input);
+void FuzzNames(FuzzInput& input);
+void FuzzPaths(FuzzInput& input);
+void FuzzShortcuts(FuzzInput& input);
+void FuzzSizes(FuzzInput& input);
+void FuzzTextConversion(FuzzInput& input);
 
 struct FuzzTarget {
     // The name of the source and of the corpus.
@@ -15,6 +24,15 @@ struct FuzzTarget {
 };
 
 inline constexpr FuzzTarget FuzzTargets[] = {
+    {"command_lines", FuzzCommandLines},
+    {"containers", FuzzContainers},
     {"content_search", FuzzContentSearch},
+    {"dates", FuzzDates},
     {"line_readers", FuzzLineReaders},
+    {"menu_bars", FuzzMenuBars},
+    {"names", FuzzNames},
+    {"paths", FuzzPaths},
+    {"shortcuts", FuzzShortcuts},
+    {"sizes", FuzzSizes},
+    {"text_conversion", FuzzTextConversion},
 };

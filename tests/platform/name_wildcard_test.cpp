@@ -5,6 +5,8 @@
 #include <random>
 #include <string>
 
+#include "tests/platform/plain_wildcard.h"
+
 namespace {
 
 struct Case {
@@ -17,26 +19,6 @@ void Check(const Case& expected) {
     EXPECT_EQ(MatchesWildcard(expected.name, expected.pattern), expected.matches)
         << testing::PrintToString(std::wstring(expected.name)) << " against "
         << testing::PrintToString(std::wstring(expected.pattern));
-}
-
-// The written rule, one unit of the pattern at a time.
-bool MatchesUnits(const std::wstring& name, const std::wstring& pattern) {
-    if (pattern.empty()) return name.empty();
-    const std::wstring rest = pattern.substr(1);
-    if (pattern[0] == L'*') {
-        for (std::size_t taken = 0; taken <= name.size(); ++taken) {
-            if (MatchesUnits(name.substr(taken), rest)) return true;
-        }
-        return false;
-    }
-    if (name.empty()) return false;
-    const auto fold = [](wchar_t unit) { return unit >= L'a' && unit <= L'z' ? unit - 32 : unit; };
-    if (pattern[0] != L'?' && fold(pattern[0]) != fold(name[0])) return false;
-    return MatchesUnits(name.substr(1), rest);
-}
-
-bool MatchesPlainly(const std::wstring& name, const std::wstring& pattern) {
-    return pattern == L"*.*" || MatchesUnits(name, pattern);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/search/plain_calendar.h"
+
 namespace {
 
 SYSTEMTIME Date(int year, int month, int day) {
@@ -17,31 +19,6 @@ testing::AssertionResult IsDate(const SYSTEMTIME& date, int year, int month, int
     return testing::AssertionFailure() << date.wYear << "-" << date.wMonth << "-" << date.wDay
                                        << " instead of " << year << "-" << month << "-" << day;
 }
-
-// A calendar that knows nothing but which day follows which.
-struct Day {
-    int year = 1, month = 1, day = 1;
-
-    bool InLeapYear() const {
-        if (year <= 1582) return year % 4 == 0;
-        return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    }
-    int MonthLength() const {
-        if (month == 2) return InLeapYear() ? 29 : 28;
-        return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
-    }
-    void Advance() {
-        if (year == 1582 && month == 10 && day == 4) {
-            day = 15;
-        } else if (day < MonthLength()) {
-            ++day;
-        } else {
-            day = 1;
-            month = month % 12 + 1;
-            if (month == 1) ++year;
-        }
-    }
-};
 
 }  // namespace
 
@@ -147,7 +124,7 @@ TEST(Calendar, writing_a_date_leaves_the_other_fields_alone) {
 }
 
 TEST(Calendar, every_day_up_to_the_year_3000_has_the_number_after_the_day_before_and_comes_back) {
-    Day day;
+    PlainDay day;
     for (int number = 1; day.year <= 3000; ++number, day.Advance()) {
         ASSERT_EQ(DaysFromDate(Date(day.year, day.month, day.day)), number)
             << day.year << "-" << day.month << "-" << day.day;
