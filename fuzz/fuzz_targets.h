@@ -13,6 +13,7 @@ void FuzzLineReaders(FuzzInput& input);
 void FuzzMenuBars(FuzzInput& input);
 void FuzzNames(FuzzInput& input);
 void FuzzPaths(FuzzInput& input);
+void FuzzRegistryValues(FuzzInput& input);
 void FuzzShortcuts(FuzzInput& input);
 void FuzzSizes(FuzzInput& input);
 void FuzzTextConversion(FuzzInput& input);
@@ -32,6 +33,7 @@ inline constexpr FuzzTarget FuzzTargets[] = {
     {"menu_bars", FuzzMenuBars},
     {"names", FuzzNames},
     {"paths", FuzzPaths},
+    {"registry_values", FuzzRegistryValues},
     {"shortcuts", FuzzShortcuts},
     {"sizes", FuzzSizes},
     {"text_conversion", FuzzTextConversion},

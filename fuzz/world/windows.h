@@ -16,3 +16,42 @@ int WideCharToMultiByte(UINT codePage, DWORD flags, const wchar_t* units, int un
                         int byteCount, const char* unknown, BOOL* replaced);
 int MultiByteToWideChar(UINT codePage, DWORD flags, const char* bytes, int byteCount, wchar_t* units,
                         int unitCount);
+
+using HKEY = struct MadeUpKey*;
+using REGSAM = DWORD;
+struct SECURITY_ATTRIBUTES;
+
+#define FILE_ATTRIBUTE_REPARSE_POINT 0x400
+
+#define ERROR_SUCCESS 0
+#define ERROR_FILE_NOT_FOUND 2
+#define ERROR_ACCESS_DENIED 5
+#define ERROR_INVALID_PARAMETER 87
+#define ERROR_MORE_DATA 234
+
+// The registry (made_up_registry.h).
+#define KEY_READ 0x20019
+#define KEY_ALL_ACCESS 0xF003F
+#define REG_NONE 0
+#define REG_SZ 1
+#define REG_EXPAND_SZ 2
+#define REG_BINARY 3
+#define REG_DWORD 4
+#define REG_MULTI_SZ 7
+
+LONG RegOpenKeyExW(HKEY root, const wchar_t* path, DWORD options, REGSAM access, HKEY* key);
+LONG RegCreateKeyExW(HKEY root, const wchar_t* path, DWORD reserved, wchar_t* className, DWORD options,
+                     REGSAM access, SECURITY_ATTRIBUTES* security, HKEY* key, DWORD* disposition);
+LONG RegQueryValueExW(HKEY key, const wchar_t* name, DWORD* reserved, DWORD* type, BYTE* data, DWORD* size);
+LONG RegSetValueExW(HKEY key, const wchar_t* name, DWORD reserved, DWORD type, const BYTE* data, DWORD size);
+LONG RegDeleteTreeW(HKEY root, const wchar_t* path);
+LONG RegCloseKey(HKEY key);
+int lstrcmpiW(const wchar_t* first, const wchar_t* second);
+
+// A combo box (conditions/history_combo.h of this folder).
+#define CB_GETCOUNT 0x0146
+#define CB_GETLBTEXT 0x0148
+#define CB_GETLBTEXTLEN 0x0149
+#define CB_RESETCONTENT 0x014B
+
+LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
