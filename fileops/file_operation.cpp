@@ -44,10 +44,6 @@ const OperationTexts* TextsOf(FileOperationKind kind) {
     return index < std::size(AllTexts) ? &AllTexts[index] : nullptr;
 }
 
-bool IsSeparator(wchar_t unit) {
-    return unit == L'\\' || unit == L'/';
-}
-
 // Without separators at the end, which no later comparison or joining expects; a root keeps its own.
 bool CopyPath(PathBuffer& destination, const wchar_t* path) {
     std::size_t units = wcsnlen(path, MAX_PATH);

@@ -6,6 +6,10 @@
 #include "base/split_path.h"
 #include "platform/name_wildcard.h"
 
+bool IsSeparator(wchar_t unit) {
+    return unit == L'\\' || unit == L'/';
+}
+
 PathExtension::PathExtension(PathBuffer& path) : extended_(path), length_(std::wcslen(path)) {}
 
 PathExtension::PathExtension(PathBuffer& path, const wchar_t* name) : PathExtension(path) {
@@ -38,6 +42,8 @@ bool IsInsideSource(const wchar_t* source, const wchar_t* destination) {
 
     const std::size_t sourceLength = std::wcslen(source);
     if (destinationLength < sourceLength || !NamesTheSame(destination, source, sourceLength)) return false;
+    // Everything on it lies inside a root, which ends in its separator.
+    if (sourceLength > 0 && IsSeparator(source[sourceLength - 1])) return true;
     const wchar_t following = destination[sourceLength];
-    return following == L'\0' || following == L'\\' || following == L'/';
+    return following == L'\0' || IsSeparator(following);
 }

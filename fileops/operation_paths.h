@@ -8,6 +8,8 @@
 
 using PathBuffer = wchar_t[MAX_PATH];
 
+[[nodiscard]] bool IsSeparator(wchar_t unit);
+
 // A path that is longer by a name for as long as this object lives. A walk keeps one buffer for each of its
 // paths whatever its depth; a buffer per level would not fit on the stack of a deep tree.
 class PathExtension {

@@ -11,7 +11,7 @@
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
 #include "results/string_hash_table.h"
-#include "search/object_list.h"
+#include "base/object_list.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Searches of file contents, one after the other over one shift table, against the plain search line by line:
 // the same answer from scans of every width, and the same table afterwards.
 
-#include "app/app_globals.h"
+#include "base/app_globals.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/world/made_up_files.h"
 #include "search/byte_source.h"

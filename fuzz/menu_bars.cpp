@@ -4,7 +4,7 @@
 
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
-#include "platform/menu_bar_layout.h"
+#include "platform/desktop/menu_bar_layout.h"
 
 namespace {
 

@@ -2,13 +2,12 @@
 
 #include <cwchar>
 
-#include "fileops/inside_source.h"
-#include "fileops/path_extension.h"
+#include "fileops/operation_paths.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
-#include "platform/literal_path.h"
-#include "search/join_path.h"
-#include "search/split_path.h"
+#include "platform/desktop/literal_path.h"
+#include "base/join_path.h"
+#include "base/split_path.h"
 #include "tests/platform/plain_wildcard.h"
 
 namespace {
@@ -91,8 +90,10 @@ void Overlap(FuzzInput& input) {
     const std::wstring foldedDestination = Folded(destination);
     const bool heldBy = foldedDestination == Folded(SplitPlainly(source).folder.substr(0, Longest));
     const bool begins = foldedDestination.compare(0, source.size(), foldedSource) == 0;
-    const bool inside =
-        begins && (destination.size() == source.size() || IsSeparator(destination[source.size()]));
+    const bool isRoot = !source.empty() && IsSeparator(source.back());
+    const bool ends =
+        destination.size() == source.size() || (begins && IsSeparator(destination[source.size()]));
+    const bool inside = begins && (isRoot || ends);
     Require(IsInsideSource(ExactText<wchar_t>(source).Get(), ExactText<wchar_t>(destination).Get()) ==
                 (heldBy || inside),
             "paths overlap as by the plain rule");

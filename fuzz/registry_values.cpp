@@ -7,7 +7,7 @@
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
 #include "fuzz/world/made_up_registry.h"
-#include "platform/registry_key.h"
+#include "base/registry_key.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
-#include "platform/shell_link_file.h"
+#include "platform/desktop/shell_link_file.h"
 #include "results/shortcut_target.h"
 
 namespace {

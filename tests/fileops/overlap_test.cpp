@@ -24,6 +24,9 @@ const OverlapCase OverlapCases[] = {
     {"inside_itself_in_another_case", L"\\a", L"\\A\\x", true},
     {"inside_itself_by_a_slash", L"\\a", L"\\a/x", true},
     {"deep_inside_itself", L"\\a", L"\\a\\b\\c\\d", true},
+    {"inside_a_root", L"\\", L"\\a\\x", true},
+    {"inside_the_root_of_a_drive", L"D:\\", L"d:\\a", true},
+    {"root_of_another_drive", L"D:\\", L"E:\\a", false},
     {"destination_shorter_than_itself", L"\\a\\bcd", L"\\a\\b", false},
 #ifdef _WIN32
     {"itself_in_another_case_of_german", L"\\Ärger", L"\\ärger", true},

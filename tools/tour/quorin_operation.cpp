@@ -8,7 +8,7 @@
 #include <shellapi.h>
 
 #include "app/main_window.h"
-#include "app/product.h"
+#include "base/product.h"
 #include "app/run.h"
 #include "app/start_up.h"
 
