@@ -9,6 +9,7 @@ void FuzzCommandLines(FuzzInput& input);
 void FuzzContainers(FuzzInput& input);
 void FuzzContentSearch(FuzzInput& input);
 void FuzzDates(FuzzInput& input);
+void FuzzFileOperations(FuzzInput& input);
 void FuzzLineReaders(FuzzInput& input);
 void FuzzMenuBars(FuzzInput& input);
 void FuzzNames(FuzzInput& input);
@@ -29,6 +30,7 @@ inline constexpr FuzzTarget FuzzTargets[] = {
     {"containers", FuzzContainers},
     {"content_search", FuzzContentSearch},
     {"dates", FuzzDates},
+    {"file_operations", FuzzFileOperations},
     {"line_readers", FuzzLineReaders},
     {"menu_bars", FuzzMenuBars},
     {"names", FuzzNames},

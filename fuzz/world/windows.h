@@ -21,13 +21,31 @@ using HKEY = struct MadeUpKey*;
 using REGSAM = DWORD;
 struct SECURITY_ATTRIBUTES;
 
+using INT_PTR = std::intptr_t;
+
+#define FILE_ATTRIBUTE_READONLY 0x1
+#define FILE_ATTRIBUTE_ARCHIVE 0x20
+#define FILE_ATTRIBUTE_NORMAL 0x80
 #define FILE_ATTRIBUTE_REPARSE_POINT 0x400
+#define INVALID_FILE_ATTRIBUTES 0xFFFFFFFF
+#define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(-1))
 
 #define ERROR_SUCCESS 0
 #define ERROR_FILE_NOT_FOUND 2
+#define ERROR_PATH_NOT_FOUND 3
 #define ERROR_ACCESS_DENIED 5
+#define ERROR_NO_MORE_FILES 18
+#define ERROR_CRC 23
+#define ERROR_SHARING_VIOLATION 32
 #define ERROR_INVALID_PARAMETER 87
+#define ERROR_DISK_FULL 112
+#define ERROR_DIR_NOT_EMPTY 145
+#define ERROR_ALREADY_EXISTS 183
 #define ERROR_MORE_DATA 234
+#define ERROR_USER_MAPPED_FILE 1224
+
+DWORD GetLastError();
+void SetLastError(DWORD error);
 
 // The registry (made_up_registry.h).
 #define KEY_READ 0x20019
@@ -55,3 +73,48 @@ int lstrcmpiW(const wchar_t* first, const wchar_t* second);
 #define CB_RESETCONTENT 0x014B
 
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Windows, of which there are none.
+#define WM_CLOSE 0x0010
+#define WM_KEYDOWN 0x0100
+#define WM_COMMAND 0x0111
+#define WA_INACTIVE 0
+#define IDCANCEL 2
+#define VK_RETURN 0x0D
+#define VK_ESCAPE 0x1B
+#define KF_REPEAT 0x4000
+#define SW_SHOWNORMAL 1
+#define LOWORD(word) (static_cast<WORD>(word))
+#define HIWORD(word) (static_cast<WORD>((word) >> 16))
+
+inline BOOL ShowWindow(HWND, int) {
+    return TRUE;
+}
+inline BOOL UpdateWindow(HWND) {
+    return TRUE;
+}
+inline BOOL EnableWindow(HWND, BOOL) {
+    return FALSE;
+}
+inline BOOL SetWindowTextW(HWND, const wchar_t*) {
+    return TRUE;
+}
+inline BOOL SetDlgItemTextW(HWND, int, const wchar_t*) {
+    return TRUE;
+}
+inline BOOL PostMessageW(HWND, UINT, WPARAM, LPARAM) {
+    return TRUE;
+}
+
+// Seconds since 1980, whose days are taken for a day of January each: the order is all that counts.
+inline BOOL FileTimeToSystemTime(const FILETIME* time, SYSTEMTIME* moment) {
+    const DWORD seconds = time->dwLowDateTime;
+    *moment = {};
+    moment->wYear = 1980;
+    moment->wMonth = 1;
+    moment->wDay = static_cast<WORD>(1 + seconds / 86400 % 31);
+    moment->wHour = static_cast<WORD>(seconds / 3600 % 24);
+    moment->wMinute = static_cast<WORD>(seconds / 60 % 60);
+    moment->wSecond = static_cast<WORD>(seconds % 60);
+    return TRUE;
+}
