@@ -1,7 +1,7 @@
 #pragma once
 
 // The calendar that a date picker drops. The handheld keeps it on its screen; the desktop's hangs it below
-// the picker, in letters that make it wider than 240 pixels.
+// the picker, in letters that make it wider than 240 pixels. Wine's takes the keyboard and knows no key.
 
 #include "platform/system_types.h"
 
@@ -16,13 +16,26 @@ class DroppedCalendar {
     DroppedCalendar& operator=(const DroppedCalendar&) = delete;
 
     // To be called when the picker says that its calendar is open (DTN_DROPDOWN): gives it letters with which
-    // it is no wider and no higher than the work area, and puts it there beside the picker.
-    void Fit(HWND picker);
+    // it is no wider and no higher than the work area, and puts it there beside the picker. Enter in it takes
+    // the day that is marked, Esc gives the picker the date back that it has now; the focus returns to the
+    // picker with both.
+    void Fit(HWND droppingPicker);
 
   private:
-    void ShrinkLetters(HWND picker, HWND calendar);
+    static LRESULT CALLBACK TakeKeys(HWND calendar, UINT message, WPARAM wParam, LPARAM lParam);
+
+    void ShrinkLetters(HWND calendar);
+    void WatchKeys(HWND calendar);
+    // False for a key that means nothing here.
+    bool OnKey(HWND calendar, WPARAM key) const;
+    void TakeMarkedDay(HWND calendar) const;
+    void GiveUp(HWND calendar) const;
 
     HFONT font_ = nullptr;
+    // Of the last drop.
+    HWND picker_ = nullptr;
+    SYSTEMTIME dateBefore_{};
+    DWORD validity_ = 0;
 };
 
 }  // namespace ce

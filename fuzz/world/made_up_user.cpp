@@ -1,8 +1,8 @@
 #include "made_up_user.h"
 
-#include "fileops/message_boxes.h"
+#include "framework/message_boxes.h"
 #include "fileops/question_texts.h"
-#include "search/pump_one_message.h"
+#include "base/pump_one_message.h"
 
 namespace {
 

@@ -12,6 +12,11 @@ namespace {
 constexpr LONG LargestLetters = 12;
 constexpr LONG SmallestLetters = 7;
 
+// Of the class that all calendars have.
+WNDPROC calendarProcedure = nullptr;
+// Only one calendar can be open.
+const DroppedCalendar* lastDropped = nullptr;
+
 SIZE SizeOf(const RECT& place) {
     return {place.right - place.left, place.bottom - place.top};
 }
@@ -46,30 +51,90 @@ HFONT FontOfHeight(LONG height) {
     return CreateFontIndirectW(&font);
 }
 
+// As the picker and the calendar send it themselves.
+void Notify(HWND receiver, HWND sender, NMHDR& header, UINT code) {
+    header.hwndFrom = sender;
+    header.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID(sender));
+    header.code = code;
+    SendMessageW(receiver, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+}
+
 }  // namespace
 
 DroppedCalendar::~DroppedCalendar() {
+    if (lastDropped == this) lastDropped = nullptr;
     if (font_ != nullptr) DeleteObject(font_);
 }
 
-void DroppedCalendar::ShrinkLetters(HWND picker, HWND calendar) {
+void DroppedCalendar::ShrinkLetters(HWND calendar) {
     for (LONG height = LargestLetters; height >= SmallestLetters && !FitsArea(NeededBy(calendar)); --height) {
         const HFONT smaller = FontOfHeight(height);
         if (smaller == nullptr) return;
-        SendMessageW(picker, DTM_SETMCFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
+        SendMessageW(picker_, DTM_SETMCFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
         if (font_ != nullptr) DeleteObject(font_);
         font_ = smaller;
     }
 }
 
-void DroppedCalendar::Fit(HWND picker) {
-    const auto calendar = reinterpret_cast<HWND>(SendMessageW(picker, DTM_GETMONTHCAL, 0, 0));
+void DroppedCalendar::Fit(HWND droppingPicker) {
+    const auto calendar = reinterpret_cast<HWND>(SendMessageW(droppingPicker, DTM_GETMONTHCAL, 0, 0));
     if (calendar == nullptr) return;
-    ShrinkLetters(picker, calendar);
+    picker_ = droppingPicker;
+    ShrinkLetters(calendar);
     const SIZE size = NeededBy(calendar);
-    const RECT place = DropDownPlacement(PlaceOf(picker), size.cx, size.cy, ScreenArea());
+    const RECT place = DropDownPlacement(PlaceOf(picker_), size.cx, size.cy, ScreenArea());
     SetWindowPos(calendar, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+    WatchKeys(calendar);
+}
+
+// For as long as the calendar exists: the picker keeps it from drop to drop.
+void DroppedCalendar::WatchKeys(HWND calendar) {
+    lastDropped = this;
+    const LRESULT answer =
+        SendMessageW(picker_, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&dateBefore_));
+    validity_ = static_cast<DWORD>(answer);
+    if (GetWindowLongPtrW(calendar, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&TakeKeys)) return;
+    calendarProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(calendar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&TakeKeys)));
+}
+
+LRESULT CALLBACK DroppedCalendar::TakeKeys(HWND calendar, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_KEYDOWN && lastDropped != nullptr && lastDropped->OnKey(calendar, wParam)) return 0;
+    return CallWindowProcW(calendarProcedure, calendar, message, wParam, lParam);
+}
+
+bool DroppedCalendar::OnKey(HWND calendar, WPARAM key) const {
+    switch (key) {
+        case VK_RETURN:
+            TakeMarkedDay(calendar);
+            break;
+        case VK_ESCAPE:
+            GiveUp(calendar);
+            break;
+        default:
+            return false;
+    }
+    SetFocus(picker_);
+    return true;
+}
+
+// What the calendar says of a click on a day. The picker takes the day, closes the calendar and tells its
+// parent of both.
+void DroppedCalendar::TakeMarkedDay(HWND calendar) const {
+    NMSELCHANGE selection{};
+    SendMessageW(calendar, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&selection.stSelStart));
+    Notify(picker_, calendar, selection.nmhdr, static_cast<UINT>(MCN_SELECT));
+}
+
+// Wine does not know the message that closes a calendar.
+void DroppedCalendar::GiveUp(HWND calendar) const {
+    SendMessageW(picker_, DTM_SETSYSTEMTIME, validity_, reinterpret_cast<LPARAM>(&dateBefore_));
+    SendMessageW(picker_, DTM_CLOSEMONTHCAL, 0, 0);
+    if (!IsWindowVisible(calendar)) return;
+    ShowWindow(calendar, SW_HIDE);
+    NMHDR closed{};
+    Notify(GetParent(picker_), picker_, closed, static_cast<UINT>(DTN_CLOSEUP));
 }
 
 }  // namespace ce

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "platform/windows_ce.h"
 #include "tests/support/replaced_calls.h"
 
@@ -18,15 +20,22 @@ int MetricsOfScreen(int index) {
 struct Opening {
     ce::DroppedCalendar* calendar;
     RECT place;
+    HWND month = nullptr;
+    std::vector<UINT> told;  // by the picker after the drop
 };
 Opening* opening = nullptr;
 
 LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-    if (message == WM_NOTIFY && opening != nullptr && header->code == static_cast<UINT>(DTN_DROPDOWN)) {
-        opening->calendar->Fit(header->hwndFrom);
-        const auto month = reinterpret_cast<HWND>(SendMessageW(header->hwndFrom, DTM_GETMONTHCAL, 0, 0));
-        GetWindowRect(month, &opening->place);
+    if (message == WM_NOTIFY && opening != nullptr) {
+        if (header->code == static_cast<UINT>(DTN_DROPDOWN)) {
+            opening->calendar->Fit(header->hwndFrom);
+            opening->month = reinterpret_cast<HWND>(SendMessageW(header->hwndFrom, DTM_GETMONTHCAL, 0, 0));
+            GetWindowRect(opening->month, &opening->place);
+        } else if (header->code == static_cast<UINT>(DTN_CLOSEUP) ||
+                   header->code == static_cast<UINT>(DTN_DATETIMECHANGE)) {
+            opening->told.push_back(header->code);
+        }
     }
     return DefWindowProcW(window, message, wParam, lParam);
 }
@@ -44,16 +53,31 @@ class DroppedCalendar : public testing::Test {
 
     // Where the calendar lies that a picker at this place drops.
     RECT PlaceOfCalendar(int left, int top) {
-        const HWND picker = CreateWindowExW(0, DATETIMEPICK_CLASSW, L"", WS_CHILD | WS_VISIBLE, left, top,
-                                            110, 20, parent_, nullptr, nullptr, nullptr);
+        const HWND picker = CreatePicker(left, top);
         ce::DroppedCalendar calendar;
-        Opening dropped = {&calendar, {}};
+        Opening dropped = {&calendar, {}, nullptr, {}};
         opening = &dropped;
-        SendMessageW(picker, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(102, 10));
-        SendMessageW(picker, WM_LBUTTONUP, 0, MAKELPARAM(102, 10));
+        Drop(picker);
         opening = nullptr;
         DestroyWindow(picker);
         return dropped.place;
+    }
+    HWND CreatePicker(int left, int top) {
+        return CreateWindowExW(0, DATETIMEPICK_CLASSW, L"", WS_CHILD | WS_VISIBLE, left, top, 110, 20,
+                               parent_, nullptr, nullptr, nullptr);
+    }
+    static void Drop(HWND picker) {
+        SendMessageW(picker, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(102, 10));
+        SendMessageW(picker, WM_LBUTTONUP, 0, MAKELPARAM(102, 10));
+    }
+    static WORD DayOf(HWND picker) {
+        SYSTEMTIME date = {};
+        SendMessageW(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&date));
+        return date.wDay;
+    }
+    static void SetDay(HWND window, UINT message, WORD day) {
+        const SYSTEMTIME date = {2002, 6, 0, day, 0, 0, 0, 0};
+        SendMessageW(window, message, 0, reinterpret_cast<LPARAM>(&date));
     }
 
   private:
@@ -85,4 +109,45 @@ TEST_F(DroppedCalendar, leaves_its_picker_free_where_there_is_room) {
     EXPECT_LE(PlaceOfCalendar(90, 500).bottom, 500);
     screen = {640, 240};
     EXPECT_GE(PlaceOfCalendar(90, 100).left, 200);
+}
+
+// Also where the picker shows each marked day at once, as Windows does.
+TEST_F(DroppedCalendar, gives_the_picker_its_date_back_at_escape) {
+    screen = {480, 640};
+    const HWND picker = CreatePicker(90, 100);
+    ce::DroppedCalendar calendar;
+    Opening dropped = {&calendar, {}, nullptr, {}};
+    opening = &dropped;
+    for (int time = 0; time < 2; ++time) {
+        dropped.told.clear();
+        SetDay(picker, DTM_SETSYSTEMTIME, 15);
+        Drop(picker);
+        SetDay(picker, DTM_SETSYSTEMTIME, 20);
+        SendMessageW(dropped.month, WM_KEYDOWN, VK_ESCAPE, 0);
+        EXPECT_FALSE(IsWindowVisible(dropped.month));
+        EXPECT_EQ(DayOf(picker), 15);
+        EXPECT_EQ(dropped.told, std::vector<UINT>{static_cast<UINT>(DTN_CLOSEUP)});
+        EXPECT_EQ(GetFocus(), picker);
+    }
+    opening = nullptr;
+    DestroyWindow(picker);
+}
+
+TEST_F(DroppedCalendar, gives_the_picker_the_marked_day_at_enter) {
+    screen = {480, 640};
+    const HWND picker = CreatePicker(90, 100);
+    ce::DroppedCalendar calendar;
+    Opening dropped = {&calendar, {}, nullptr, {}};
+    opening = &dropped;
+    SetDay(picker, DTM_SETSYSTEMTIME, 15);
+    Drop(picker);
+    SetDay(dropped.month, MCM_SETCURSEL, 20);
+    SendMessageW(dropped.month, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_FALSE(IsWindowVisible(dropped.month));
+    EXPECT_EQ(DayOf(picker), 20);
+    EXPECT_EQ(dropped.told,
+              (std::vector<UINT>{static_cast<UINT>(DTN_DATETIMECHANGE), static_cast<UINT>(DTN_CLOSEUP)}));
+    EXPECT_EQ(GetFocus(), picker);
+    opening = nullptr;
+    DestroyWindow(picker);
 }
