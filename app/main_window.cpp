@@ -36,6 +36,7 @@ MainWindow::MainWindow(const wchar_t* title, PropertySet& properties, Applicatio
     OnMessage(WM_CLOSE, this, &MainWindow::OnWmClose);
     OnMessage(WM_ENDSESSION, this, &MainWindow::OnWmEndSession);
     OnMessage(WM_TIMER, this, &MainWindow::OnWmTimer);
+    OnMessage(WM_INITMENUPOPUP, this, &MainWindow::OnWmInitMenuPopup);
     SetInitialMenuState();
     const RECT area = LayoutRectangle();
     CreateTabControl(area);
@@ -146,6 +147,11 @@ LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
     if (record.wParam != CompletionTimer) return DefaultProcessing(record);
     CompleteParts();
     return 0;
+}
+
+LRESULT MainWindow::OnWmInitMenuPopup(MessageRecord& record) {
+    if (results != nullptr) results->OvertakeClick();
+    return DefaultProcessing(record);
 }
 
 ConditionPage* MainWindow::Page(int index) const {

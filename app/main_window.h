@@ -55,6 +55,7 @@ class MainWindow : public ApplicationView {
     LRESULT OnWmClose(MessageRecord& record);
     LRESULT OnWmEndSession(MessageRecord& record);
     LRESULT OnWmTimer(MessageRecord& record);
+    LRESULT OnWmInitMenuPopup(MessageRecord& record);
     LRESULT OnMenuCommand(EventArguments& arguments);
     LRESULT OnPageChanged(EventArguments& arguments);
     LRESULT OnResultDoubleClick(EventArguments& arguments);

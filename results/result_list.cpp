@@ -63,6 +63,8 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
     OnNotification(event::ColumnClick, this, &ResultList::OnColumnClick);
     OnNotification(event::BeginLabelEdit, this, &ResultList::OnBeginNameEdit);
     Subclass();
+    OnMessage(WM_LBUTTONDOWN, this, &ResultList::OnLeftButtonDown);
+    OnMessage(WM_KILLFOCUS, this, &ResultList::OnFocusLost);
     OnMessage(WM_KEYDOWN, this, &ResultList::OnKeyDown);
     OnMessage(WM_SYSKEYDOWN, this, &ResultList::OnSystemKeyDown);
     OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemCharacter);
@@ -276,10 +278,13 @@ void ResultList::EditName(int row) {
     RECT bounds{LVIR_BOUNDS, 0, 0, 0};
     SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
     if (bounds.left < 0) SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(bounds.left), 0);
+    editingByCommand_ = true;
     SendMessageW(Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+    editingByCommand_ = false;
 }
 
 void ResultList::EndEditing() {
+    OvertakeClick();
     if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) == 0) return;
     SetFocus(Handle());
     // Where the focus could not be moved the editing is given up.
@@ -291,14 +296,31 @@ int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
     return editedNumber_ ? RowWithNumber(*editedNumber_) : edited.item.iItem;
 }
 
-// A click on the selected row's name begins an editing half a second later, whatever has been opened
-// meanwhile.
 LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
-    if (filling_ || !IsWindowEnabled(ParentHandle())) return TRUE;
+    if (!MayBeEdited()) return TRUE;
     editedNumber_ = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
     const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
     if (edit != nullptr) nameEdit_.reset(new (std::nothrow) NameEdit(this, edit));
     return FALSE;
+}
+
+bool ResultList::MayBeEdited() const {
+    if (filling_ || !IsWindowEnabled(ParentHandle())) return false;
+    return editingByCommand_ || editingClick_ != EditingClick::Overtaken;
+}
+
+LRESULT ResultList::OnLeftButtonDown(MessageRecord& record) {
+    editingClick_ = EditingClick::Awaited;
+    return DefaultProcessing(record);
+}
+
+LRESULT ResultList::OnFocusLost(MessageRecord& record) {
+    OvertakeClick();
+    return DefaultProcessing(record);
+}
+
+void ResultList::OvertakeClick() {
+    if (editingClick_ == EditingClick::Awaited) editingClick_ = EditingClick::Overtaken;
 }
 
 bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const {
@@ -333,6 +355,7 @@ LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
 }
 
 LRESULT ResultList::OnKeyDown(MessageRecord& record) {
+    OvertakeClick();
     // A key that is held is one press: a file is opened once.
     const bool isRepeated = (record.lParam & KeyWasDown) != 0;
     if (record.wParam == VK_RETURN && isRepeated) return 0;
@@ -365,6 +388,7 @@ void ResultList::SortByKey(int column) {
 
 // The handheld's list reports Enter with Alt held like any key; the desktop's keeps it to itself.
 LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
+    OvertakeClick();
     if (record.wParam != VK_RETURN) return DefaultProcessing(record);
     if ((record.lParam & KeyWasDown) != 0) return 0;
     NMLVKEYDOWN key{};

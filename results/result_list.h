@@ -59,6 +59,10 @@ class ResultList : public ListView, public MatchSink {
     // this returns. Whatever moves, removes or acts on rows calls it first, for the list keeps no more of an
     // editing than the place of its row.
     void EndEditing();
+    // The person goes on to something else, as to a menu: a click on the selected name, which begins an
+    // editing half a second later, does so no more. What runs in the list itself or ends an editing implies
+    // it.
+    void OvertakeClick();
     // The row whose editing began, wherever it is by now; -1 when it is gone. The one that the list reports,
     // when it did not tell of the beginning.
     [[nodiscard]] int EditedRow(const NMLVDISPINFOW& edited) const;
@@ -69,11 +73,17 @@ class ResultList : public ListView, public MatchSink {
     void SetView(DWORD view);
 
   private:
+    // Of the last click.
+    enum class EditingClick { None, Awaited, Overtaken };
+
     void UseDialogFont();
     void InsertColumns();
     LRESULT CallControl(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
+    [[nodiscard]] bool MayBeEdited() const;
+    LRESULT OnLeftButtonDown(MessageRecord& record);
+    LRESULT OnFocusLost(MessageRecord& record);
     LRESULT OnKeyDown(MessageRecord& record);
     bool ScrollByKey(WPARAM key);
     void SortByKey(int column);
@@ -90,6 +100,8 @@ class ResultList : public ListView, public MatchSink {
     std::unique_ptr<ResultHeading> heading_;
     std::unique_ptr<NameEdit> nameEdit_;  // of the last editing; null before the first
     std::optional<LPARAM> editedNumber_;  // of the row whose name is being edited
+    EditingClick editingClick_ = EditingClick::None;
+    bool editingByCommand_ = false;
     HFONT font_ = nullptr;
     bool filling_ = false;
     bool rowsPending_ = false;

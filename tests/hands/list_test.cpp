@@ -3,6 +3,9 @@
 
 #include <commctrl.h>
 
+#include <functional>
+#include <utility>
+
 #include "tests/hands/hands_test.h"
 
 // Longer than two clicks of a double click are apart.
@@ -158,6 +161,41 @@ TEST_F(ListInHands, a_second_click_on_a_name_edits_it_but_not_behind_a_dialog) {
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
     EXPECT_EQ(nullptr, Edit());
+}
+
+TEST_F(ListInHands, a_click_on_the_selected_name_edits_nothing_after_a_key_a_menu_or_a_search) {
+    const std::pair<const char*, std::function<void()>> overtaking[] = {
+        {"a key", [] { PressKey(VK_RIGHT); }},
+        {"a key for the menus", [] { PressKey(VK_F10); }},
+        {"an open menu", [this] { OpenMenuByPointer(FileMenu); }},
+        {"a closed menu",
+         [this] {
+             OpenMenuByPointer(FileMenu);
+             CloseMenus();
+         }},
+        {"a search", [this] { Find(); }},
+        {"a dialog",
+         [this] {
+             PressKey(VK_F1);
+             const HWND about = Dialog().Window();
+             PressKey(VK_ESCAPE);
+             WaitUntil("the About box to close", [about] { return !IsWindow(about); });
+         }},
+        {"the file being opened", [] { PressKey(VK_RETURN); }},
+    };
+    SelectRow(L"a.qsa");
+    for (const auto& [name, act] : overtaking) {
+        Program().BringForward();
+        ClickAt(PlaceOf(L"a.qsa"));
+        act();
+        Sleep(Pause);
+        EXPECT_EQ(nullptr, Edit()) << name;
+        CloseMenus();
+        Sleep(Pause);
+        EXPECT_EQ(nullptr, Edit()) << name << ", later";
+        if (HasFailure()) return;
+        SelectRow(L"a.qsa");
+    }
 }
 
 TEST_F(ListInHands, escape_after_a_look_into_a_menu_still_gives_the_editing_up) {

@@ -70,6 +70,7 @@ const StopWay StopWays[] = {
     {"enter", [](HWND) { PressKey(VK_RETURN); }},
     {"escape", [](HWND) { PressKey(VK_ESCAPE); }},
     {"space", [](HWND) { PressKey(VK_SPACE); }},
+    {"alt_f4", [](HWND) { PressKey(VK_F4, {VK_MENU}); }},
     {"cross", [](HWND progress) { ClickAt(CancelOf(progress)); }},
 };
 
