@@ -66,7 +66,7 @@ apply_device_look() {
     timeout -k 10 120 "$wine" regedit /S 'C:\device_look.reg' </dev/null || return 1
     stop_wine
     rm -f "$1/drive_c/device_look.reg"
-    grep -q '^"QuorinSearch"="240x320"' "$1/user.reg" && grep -q '^"Tahoma"=.*"ipag.ttf,IPAGothic' "$1/system.reg"
+    grep -q '^"QuorinSearch"="240x320"' "$1/user.reg" && grep -q '^"Tahoma"=.*"ipagp.ttf,IPAPGothic' "$1/system.reg"
 }
 
 # copy_of_prefix SOURCE TARGET: hard links for what never changes, true copies of what Wine writes in place.
