@@ -4,13 +4,16 @@
 # runs (a language, a screen size, a purpose) is a copy of it that shares the system's files by hard links and
 # costs next to nothing. The user's own ~/.wine is never looked at.
 
+# shellcheck source=tools/lib/device_types.sh
+source "$root/tools/lib/device_types.sh"
+
 prefixDir=$buildDir/wine
 basePrefix=$prefixDir/base
 
 # What the base prefix was made from: another text here has it made again.
 base_stamp() {
     printf '%s\n' "$basePrefix" "$(dpkg-query -W -f='${Version}' wine64)"
-    cat "$root/tools/lib/prefix.sh" "$root/tools/lib/device_look.reg" | sha256sum
+    cat "$root"/tools/lib/{prefix.sh,device_look.reg,device_types.sh} | sha256sum
 }
 
 # On a screen without settings of its own, the system's drawing looks for them in the home at every choice of a
@@ -63,10 +66,12 @@ apply_device_look() {
     start_screen 240x320
     at_exit stop_wine
     cp "$root/tools/lib/device_look.reg" "$1/drive_c/device_look.reg"
-    timeout -k 10 120 "$wine" regedit /S 'C:\device_look.reg' </dev/null || return 1
+    write_device_types "$2" "$1/drive_c/device_types.reg"
+    timeout -k 10 120 "$wine" regedit /S 'C:\device_look.reg' 'C:\device_types.reg' </dev/null || return 1
     stop_wine
-    rm -f "$1/drive_c/device_look.reg"
-    grep -q '^"QuorinSearch"="240x320"' "$1/user.reg" && grep -q '^"Tahoma"=.*"ipagp.ttf,IPAPGothic' "$1/system.reg"
+    rm -f "$1/drive_c"/device_{look,types}.reg
+    grep -q '^"QuorinSearch"="240x320"' "$1/user.reg" && grep -q '^"Tahoma"=.*"ipagp.ttf,IPAPGothic' "$1/system.reg" &&
+        grep -qF '[Software\\Classes\\.txt]' "$1/system.reg"
 }
 
 # copy_of_prefix SOURCE TARGET: hard links for what never changes, true copies of what Wine writes in place.
