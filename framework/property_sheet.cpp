@@ -12,7 +12,7 @@ namespace {
 // Told once the sheet's window stands: it is brought to the middle of its owner and onto the screen.
 int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED) return 0;
-    CutSheetToScreen(sheet);
+    FitSheetToScreen(sheet);
     RECT own{};
     RECT parent{};
     GetWindowRect(sheet, &own);

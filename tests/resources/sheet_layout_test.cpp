@@ -11,6 +11,7 @@
 #include <prsht.h>
 
 #include "framework/sheet_fit.h"
+#include "platform/screen_area.h"
 #include "tests/resources/dialog_window.h"
 #include "tests/resources/page_window.h"
 #include "tests/resources/program_module.h"
@@ -34,7 +35,7 @@ HPROPSHEETPAGE MakePage(const wchar_t* templateName) {
 }
 
 int CALLBACK CutOnInitialisation(HWND sheet, UINT message, LPARAM) {
-    if (message == PSCB_INITIALIZED) CutSheetToScreen(sheet);
+    if (message == PSCB_INITIALIZED) FitSheetToScreen(sheet);
     return 0;
 }
 
@@ -122,6 +123,13 @@ TEST_P(SheetLayout, the_sheet_fits_the_screen_with_its_page_and_both_buttons) {
         EXPECT_LE(button.bottom, client.bottom);
         EXPECT_GE(button.top, pagePlace.bottom);
     }
+}
+
+TEST_P(SheetLayout, the_sheet_covers_the_screen_of_a_pocket_pc_alone) {
+    RECT place = {};
+    GetWindowRect(sheet, &place);
+    const RECT screen = ce::ScreenArea();
+    EXPECT_EQ(EqualRect(&place, &screen) != FALSE, GetParam().screen == Screen::Pocket);
 }
 
 TEST_P(SheetLayout, every_control_is_inside_the_page) {
