@@ -1,45 +1,16 @@
 #include "results/file_page.h"
 
-#include <algorithm>
+#include <prsht.h>
 
 #include "framework/control.h"
 #include "framework/dialog_template.h"
+#include "framework/page_fit.h"
 #include "resources/resource_ids.h"
 
-namespace {
-
-// In pixels: between a label and what stands behind it, and behind the last letter.
-constexpr LONG Gap = 3;
-constexpr LONG Margin = 6;
-
-LONG TextWidth(HWND control) {
-    wchar_t text[128] = L"";
-    const int length = GetWindowTextW(control, text, 128);
-    HDC surface = GetDC(control);
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0));
-    HGDIOBJ before = font != nullptr ? SelectObject(surface, font) : nullptr;
-    SIZE size{};
-    GetTextExtentPoint32W(surface, text, length, &size);
-    if (before != nullptr) SelectObject(surface, before);
-    ReleaseDC(control, surface);
-    return size.cx;
-}
-
-RECT PlaceIn(HWND page, HWND control) {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-void SetPlace(HWND control, const RECT& place) {
-    MoveWindow(control, place.left, place.top, place.right - place.left, place.bottom - place.top, TRUE);
-}
-
-}  // namespace
-
 FilePage::FilePage(WindowObject* parentObject, const wchar_t* title, const wchar_t* templateToUse)
-    : PropertySheetPage(parentObject, title, TemplateProperties(templateToUse)) {}
+    : PropertySheetPage(parentObject, title, TemplateProperties(templateToUse)) {
+    OnEvent(event::DrawItem, STATIC_DISPLAY_NAME, this, &FilePage::OnDrawName);
+}
 
 SHFILEINFOW FilePage::ShowFile(UINT alsoAsked) {
     SHFILEINFOW info{};
@@ -55,23 +26,41 @@ void FilePage::HideControls(std::span<const int> ids) {
         ShowWindow(DialogItem(*this, id), SW_HIDE);
 }
 
-void FilePage::ShowSize(int labelId, int sizeId, const wchar_t* text) {
-    const HWND label = DialogItem(*this, labelId);
-    const HWND size = DialogItem(*this, sizeId);
-    SetWindowTextW(size, text);
-    RECT sizePlace = PlaceIn(Handle(), size);
-    const LONG wanted = sizePlace.right - TextWidth(size) - Margin;
-    if (wanted >= sizePlace.left) return;
-    RECT labelPlace = PlaceIn(Handle(), label);
-    labelPlace.right = labelPlace.left + TextWidth(label);
-    sizePlace.left = std::max(wanted, labelPlace.right + Gap);
-    SetPlace(label, labelPlace);
-    SetPlace(size, sizePlace);
+// Only then has the sheet given the page its size.
+LRESULT FilePage::OnWmNotify(MessageRecord& record) {
+    const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
+    if (header != nullptr && header->code == static_cast<UINT>(PSN_SETACTIVE)) LayOut();
+    return PropertySheetPage::OnWmNotify(record);
+}
+
+void FilePage::LayOut() {
+    WidenToRightEdge(Handle(), STATIC_DISPLAY_NAME);
+    GrowDown(Handle(), STATIC_DISPLAY_NAME);
+    AlignBehindLabels(Handle(), Values());
+    const int name[] = {STATIC_DISPLAY_NAME};
+    tips_.Remove();
+    tips_.Add(Handle(), name);
+    tips_.Add(Handle(), Values());
+}
+
+// A static puts dots behind texts of one line only.
+LRESULT FilePage::OnDrawName(EventArguments& arguments) {
+    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(arguments.argument);
+    wchar_t name[MAX_PATH] = L"";
+    const int length = GetWindowTextW(item.hwndItem, name, MAX_PATH);
+    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = letters != nullptr ? SelectObject(item.hDC, letters) : nullptr;
+    RECT area = item.rcItem;
+    FillRect(item.hDC, &area, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    DrawTextW(item.hDC, name, length, &area, DT_WORDBREAK | DT_EDITCONTROL | DT_END_ELLIPSIS | DT_NOPREFIX);
+    if (before != nullptr) SelectObject(item.hDC, before);
+    return 0;
 }
 
 // A static does not free its icon.
 LRESULT FilePage::OnWmDestroy(MessageRecord& record) {
     const LRESULT icon = SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, 0);
     if (icon != 0) DestroyIcon(reinterpret_cast<HICON>(icon));
+    tips_.Remove();
     return PropertySheetPage::OnWmDestroy(record);
 }

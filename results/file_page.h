@@ -5,6 +5,7 @@
 #include <span>
 
 #include "framework/property_sheet.h"
+#include "framework/whole_text_tips.h"
 
 class FilePage : public PropertySheetPage {
   public:
@@ -22,14 +23,20 @@ class FilePage : public PropertySheetPage {
     // Shows the file's icon and display name; the answer holds what else was asked for.
     SHFILEINFOW ShowFile(UINT alsoAsked = 0);
     void HideControls(std::span<const int> ids);
-    // Shows a size behind its label. A size too long for its place takes the room that the label leaves.
-    void ShowSize(int labelId, int sizeId, const wchar_t* text);
+    // The texts of one line, each right behind its label in the template.
+    [[nodiscard]] virtual std::span<const int> Values() const = 0;
+    // Gives the texts the room that the sheet leaves them.
+    virtual void LayOut();
 
+    LRESULT OnWmNotify(MessageRecord& record) override;
     LRESULT OnWmDestroy(MessageRecord& record) override;
 
     void MarkChanged() { changed_ = true; }
 
   private:
+    LRESULT OnDrawName(EventArguments& arguments);
+
+    WholeTextTips tips_;
     bool changed_ = false;
     const wchar_t* path_ = L"";
 };

@@ -31,6 +31,8 @@ constexpr DWORD ChangeableAttributes =
 constexpr int FileOnlyItems[] = {LABEL_SIZE,    LABEL_MODIFIED, LABEL_ATTRIBUTES, CHECK_READ_ONLY,
                                  CHECK_ARCHIVE, CHECK_HIDDEN,   CHECK_SYSTEM};
 
+constexpr int LabelledTexts[] = {STATIC_TYPE, STATIC_LOCATION, STATIC_SIZE, STATIC_MODIFIED};
+
 }  // namespace
 
 GeneralPage::GeneralPage(WindowObject* parentObject)
@@ -55,7 +57,7 @@ void GeneralPage::SetUpControls() {
     }
     wchar_t text[FileDetailsCapacity];
     FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
-    ShowSize(LABEL_SIZE, STATIC_SIZE, text);
+    SetDlgItemTextW(Handle(), STATIC_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_MODIFIED, text);
 }
@@ -69,6 +71,10 @@ void GeneralPage::ShowLocation() {
         location = root;
     }
     SetDlgItemTextW(Handle(), STATIC_LOCATION, location.c_str());
+}
+
+std::span<const int> GeneralPage::Values() const {
+    return LabelledTexts;
 }
 
 LRESULT GeneralPage::OnApplyChanges(EventArguments&) {

@@ -10,6 +10,7 @@ class GeneralPage : public FilePage {
 
   protected:
     void SetUpControls() override;
+    [[nodiscard]] std::span<const int> Values() const override;
 
   private:
     LRESULT OnApplyChanges(EventArguments& arguments);

@@ -5,6 +5,7 @@
 #include "base/language.h"
 #include "fileops/file_facts.h"
 #include "base/format_text.h"
+#include "framework/page_fit.h"
 #include "resources/resource_ids.h"
 #include "results/shortcut_target.h"
 
@@ -15,6 +16,8 @@ constexpr DWORD BytesInKilobyte = 1024;
 // What a folder as target has no value for.
 constexpr int FileOnlyItems[] = {LABEL_TARGET_SIZE, LABEL_TARGET_MODIFIED, STATIC_TARGET_SIZE,
                                  STATIC_TARGET_MODIFIED};
+
+constexpr int LabelledTexts[] = {STATIC_TARGET_TYPE, STATIC_TARGET_SIZE, STATIC_TARGET_MODIFIED};
 
 }  // namespace
 
@@ -50,9 +53,18 @@ void ShortcutPage::ShowTarget(const wchar_t* target) {
     } else {
         FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
     }
-    ShowSize(LABEL_TARGET_SIZE, STATIC_TARGET_SIZE, text);
+    SetDlgItemTextW(Handle(), STATIC_TARGET_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_TARGET_MODIFIED, text);
+}
+
+std::span<const int> ShortcutPage::Values() const {
+    return LabelledTexts;
+}
+
+void ShortcutPage::LayOut() {
+    FilePage::LayOut();
+    WidenToRightEdge(Handle(), EDIT_TARGET);
 }
 
 // The shortcut is written anew on every apply, edited or not, and the text as it was typed.

@@ -10,6 +10,8 @@ class ShortcutPage : public FilePage {
 
   protected:
     void SetUpControls() override;
+    [[nodiscard]] std::span<const int> Values() const override;
+    void LayOut() override;
 
   private:
     LRESULT OnApplyChanges(EventArguments& arguments);

@@ -1,0 +1,175 @@
+#include "framework/page_fit.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "platform/windows_ce.h"
+
+namespace {
+
+constexpr LONG RightMargin = 3;
+constexpr LONG GapBehindLabel = 5;
+// Where a text needs the room.
+constexpr LONG SmallestGap = 2;
+// The last letter may lean over.
+constexpr LONG LeaningLetter = 1;
+// Placing a combo box costs a start some milliseconds, which are not to be had for a few pixels.
+constexpr LONG WorthWidening = 8;
+
+RECT PlaceOf(HWND control) {
+    RECT place{};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+void Place(HWND control, const RECT& place) {
+    SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+LONG RightEdgeOf(HWND page) {
+    RECT area{};
+    GetClientRect(page, &area);
+    return area.right - RightMargin;
+}
+
+bool IsComboBox(HWND control) {
+    wchar_t name[16] = L"";
+    ce::GetClassNameW(control, name, static_cast<int>(std::size(name)));
+    return lstrcmpiW(name, L"ComboBox") == 0;
+}
+
+// The height that a combo box is given is that of its open list.
+LONG HeightToGive(HWND control, const RECT& place) {
+    RECT open{};
+    const bool hasList = IsComboBox(control) && SendMessageW(control, CB_GETDROPPEDCONTROLRECT, 0,
+                                                             reinterpret_cast<LPARAM>(&open)) != 0;
+    return hasList ? open.bottom - open.top : place.bottom - place.top;
+}
+
+bool IsOneLine(HWND control) {
+    return (GetWindowLongPtrW(control, GWL_STYLE) & SS_ELLIPSISMASK) != 0;
+}
+
+// What the static's text takes: on one line, or broken at the given width.
+SIZE TextSize(HWND control, LONG width, UINT lines) {
+    wchar_t text[1024] = L"";
+    const int length = GetWindowTextW(control, text, static_cast<int>(std::size(text)));
+    const HDC surface = GetDC(control);
+    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = font != nullptr ? SelectObject(surface, font) : nullptr;
+    RECT area{0, 0, width, 0};
+    DrawTextW(surface, text, length, &area, lines | DT_CALCRECT | DT_NOPREFIX);
+    if (before != nullptr) SelectObject(surface, before);
+    ReleaseDC(control, surface);
+    return {area.right, area.bottom};
+}
+
+LONG WidthOnOneLine(HWND control) {
+    return TextSize(control, 0, DT_SINGLELINE).cx + LeaningLetter;
+}
+
+LONG HeightInLines(HWND control) {
+    return TextSize(control, PlaceOf(control).right - PlaceOf(control).left, DT_WORDBREAK | DT_EDITCONTROL)
+        .cy;
+}
+
+HWND LabelOf(HWND page, int id) {
+    const HWND control = GetDlgItem(page, id);
+    return control != nullptr ? GetWindow(control, GW_HWNDPREV) : nullptr;
+}
+
+LONG EndOfLabel(HWND label) {
+    return PlaceOf(label).left + WidthOnOneLine(label);
+}
+
+void AlignBehindLabel(HWND value, HWND label, LONG column, LONG right) {
+    RECT labelPlace = PlaceOf(label);
+    labelPlace.right = EndOfLabel(label);
+    Place(label, labelPlace);
+    RECT place = PlaceOf(value);
+    const LONG needed = right - WidthOnOneLine(value);
+    const LONG leftmost = labelPlace.right + SmallestGap;
+    place.left = needed < column && needed >= leftmost ? needed : column;
+    place.right = right;
+    Place(value, place);
+}
+
+bool IsShown(HWND control) {
+    return (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+LONG LowestShown(HWND page) {
+    LONG lowest = 0;
+    for (HWND control = GetWindow(page, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        if (IsShown(control)) lowest = std::max(lowest, PlaceOf(control).bottom);
+    }
+    return lowest;
+}
+
+void MoveDown(HWND page, LONG line, LONG distance) {
+    for (HWND control = GetWindow(page, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+        RECT place = PlaceOf(control);
+        if (place.top < line) continue;
+        OffsetRect(&place, 0, distance);
+        Place(control, place);
+    }
+}
+
+}  // namespace
+
+void WidenToRightEdge(HWND page, int id) {
+    const HWND control = GetDlgItem(page, id);
+    if (control == nullptr) return;
+    RECT place = PlaceOf(control);
+    const LONG growth = RightEdgeOf(page) - place.right;
+    if (growth >= 0 && growth < WorthWidening) return;
+    place.right += growth;
+    place.bottom = place.top + HeightToGive(control, place);
+    Place(control, place);
+}
+
+void MoveToRightEdge(HWND page, int id) {
+    const HWND control = GetDlgItem(page, id);
+    if (control == nullptr) return;
+    RECT place = PlaceOf(control);
+    if (RightEdgeOf(page) - place.right < WorthWidening) return;
+    OffsetRect(&place, RightEdgeOf(page) - place.right, 0);
+    Place(control, place);
+}
+
+void AlignBehindLabels(HWND page, std::span<const int> ids) {
+    LONG column = 0;
+    for (const int id : ids) {
+        if (const HWND label = LabelOf(page, id))
+            column = std::max(column, EndOfLabel(label) + GapBehindLabel);
+    }
+    for (const int id : ids) {
+        const HWND label = LabelOf(page, id);
+        if (label != nullptr) AlignBehindLabel(GetDlgItem(page, id), label, column, RightEdgeOf(page));
+    }
+}
+
+void GrowDown(HWND page, int id) {
+    const HWND control = GetDlgItem(page, id);
+    if (control == nullptr) return;
+    RECT area{};
+    GetClientRect(page, &area);
+    RECT place = PlaceOf(control);
+    const LONG wanted = HeightInLines(control) - (place.bottom - place.top);
+    const LONG growth = std::min(wanted, area.bottom - LowestShown(page));
+    if (growth <= 0) return;
+    MoveDown(page, place.bottom, growth);
+    place.bottom += growth;
+    Place(control, place);
+}
+
+bool IsTextWhole(HWND control) {
+    RECT area{};
+    GetClientRect(control, &area);
+    if (IsOneLine(control)) return TextSize(control, 0, DT_SINGLELINE).cx <= area.right;
+    return HeightInLines(control) <= area.bottom;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+// Fits the controls of a page to the room that its tab control gives it. The templates are made for the
+// narrowest screen; a wider or higher page has room to spare.
+
+#include <span>
+
+#include "platform/system_types.h"
+
+// Gives the control all that is on its right, up to a small margin from the page's edge.
+void WidenToRightEdge(HWND page, int id);
+
+// Moves the control there.
+void MoveToRightEdge(HWND page, int id);
+
+// Puts texts of one line, each of which has its label right before it in the order of the controls, into one
+// column behind the widest label, and widens them to the page's edge. A text too long for that takes what its
+// own label leaves.
+void AlignBehindLabels(HWND page, std::span<const int> ids);
+
+// Gives a text that is broken into lines the height that it needs, as far as what is below it can move down.
+void GrowDown(HWND page, int id);
+
+// Whether the static's text is shown without dots: on one line or, with any other style, broken into lines.
+[[nodiscard]] bool IsTextWhole(HWND control);
