@@ -7,6 +7,11 @@ LRESULT ConditionPage::OnInitDialog(MessageRecord& record) {
     return 0;
 }
 
+void ConditionPage::Move(int x, int y, int width, int height) {
+    Dialog::Move(x, y, width, height);
+    LayOut();
+}
+
 LRESULT ConditionPage::OnWmCommand(MessageRecord& record) {
     const bool isCancel = record.lParam == 0 && LOWORD(record.wParam) == IDCANCEL;
     return isCancel ? 0 : Dialog::OnWmCommand(record);

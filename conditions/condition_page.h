@@ -14,12 +14,17 @@ class ConditionPage : public Dialog {
     // "New condition".
     virtual void Reset() = 0;
 
+    // Gives the page its place, and its fields what a wide screen has more.
+    void Move(int x, int y, int width, int height) override;
+
   protected:
     ConditionPage(WindowObject* parentObject, const PropertySet& properties)
         : Dialog(parentObject, properties) {}
 
     // Wraps the controls and gives them their first contents.
     virtual void SetUpControls() = 0;
+    // Widens the fields; the templates are made for the narrowest screen.
+    virtual void LayOut() {}
     LRESULT OnInitDialog(MessageRecord& record) override;
     // A page cannot be cancelled.
     LRESULT OnWmCommand(MessageRecord& record) override;

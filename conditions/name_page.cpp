@@ -8,6 +8,7 @@
 #include "base/registry_key.h"
 #include "conditions/folder_browse_dialog.h"
 #include "conditions/search_history.h"
+#include "framework/page_fit.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"
 
@@ -51,6 +52,12 @@ void NamePage::SetUpControls() {
     content_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInContent);
 
     OnCommand(BUTTON_BROWSE, this, &NamePage::OnBrowse);
+}
+
+void NamePage::LayOut() {
+    for (const int field : {COMBO_NAME, EDIT_CONTENT, COMBO_LOCATION})
+        WidenToRightEdge(Handle(), field);
+    MoveToRightEdge(Handle(), BUTTON_BROWSE);
 }
 
 void NamePage::Reset() {

@@ -27,6 +27,7 @@ class NamePage : public ConditionPage {
 
   protected:
     void SetUpControls() override;
+    void LayOut() override;
 
   private:
     LRESULT OnEnterInCombo(EventArguments& arguments);

@@ -3,6 +3,7 @@
 #include <cwchar>
 
 #include "base/language.h"
+#include "framework/page_fit.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -21,6 +22,11 @@ void SizePage::SetUpControls() {
     SendToItem(SPIN_KILOBYTES, UDM_SETRANGE, 0, MAKELPARAM(LargestKilobytes, 0));
     FillFileTypes();
     Reset();
+}
+
+// Numbers need no more than they have.
+void SizePage::LayOut() {
+    WidenToRightEdge(Handle(), COMBO_FILE_TYPE);
 }
 
 void SizePage::FillFileTypes() {

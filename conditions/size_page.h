@@ -21,6 +21,7 @@ class SizePage : public ConditionPage {
 
   protected:
     void SetUpControls() override;
+    void LayOut() override;
 
   private:
     void FillFileTypes();
