@@ -182,6 +182,21 @@ TEST_F(DatePageTest, past_days_enables_the_days_alone) {
     ExpectEnabled(false, true);
 }
 
+// The page has none by itself; a program may give it some.
+TEST_F(DatePageTest, past_days_disable_controls_with_the_size_pages_ids) {
+    OpenPage();
+    for (const int id : {EDIT_KILOBYTES, SPIN_KILOBYTES}) {
+        ASSERT_EQ(Item(id), nullptr);
+        CreateWindowExW(0, L"Edit", L"", WS_CHILD, 0, 0, 20, 12, page_->Handle(),
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+        ASSERT_TRUE(IsEnabled(id)) << id;
+    }
+    Click(RADIO_BETWEEN);
+    EXPECT_TRUE(IsEnabled(EDIT_KILOBYTES) && IsEnabled(SPIN_KILOBYTES));
+    Click(RADIO_PAST);
+    EXPECT_FALSE(IsEnabled(EDIT_KILOBYTES) || IsEnabled(SPIN_KILOBYTES));
+}
+
 TEST_F(DatePageTest, every_way_from_one_choice_to_another_enables_what_the_last_one_needs) {
     OpenPage();
     const int radios[] = {RADIO_ALL_FILES, RADIO_BETWEEN, RADIO_PAST};

@@ -122,6 +122,12 @@ TEST_F(ApplicationViews, leave_26_pixels_at_the_bottom_to_the_bar) {
     EXPECT_EQ(InParent(view.MenuBar()->Handle()).top, area.bottom);
 }
 
+TEST_F(ApplicationViews, leave_26_pixels_at_the_bottom_without_a_bar_as_well) {
+    const TestView view(ViewProperties());
+    ASSERT_EQ(view.MenuBar(), nullptr);
+    EXPECT_EQ(view.LayoutRectangle().bottom, 180 - BarHeight);
+}
+
 TEST_F(ApplicationViews, pass_a_new_size_on_to_the_bar_and_leave_the_children_alone) {
     PropertySet properties = ViewProperties();
     properties.Set(property::MenuBar, VIEW_MENU_BAR);

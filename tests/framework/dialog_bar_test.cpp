@@ -66,6 +66,15 @@ TEST_F(DialogBars, hold_cancel_and_ok) {
     EXPECT_EQ(LabelOf(bar, IDOK), L"OK");
 }
 
+TEST_F(DialogBars, have_english_labels_on_a_japanese_surface_as_well) {
+    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    TestDialog dialog(L"Plain_E");
+    dialog.CreateModeless();
+    ASSERT_NE(dialog.MenuBar(), nullptr);
+    EXPECT_EQ(LabelOf(dialog.MenuBar(), IDCANCEL), L"Cancel");
+    EXPECT_EQ(LabelOf(dialog.MenuBar(), IDOK), L"OK");
+}
+
 TEST_F(DialogBars, may_hold_cancel_alone) {
     TestDialog dialog(L"Plain_E");
     dialog.bar = DialogBar::Cancel;
