@@ -1,6 +1,6 @@
 #include "search/byte_reader.h"
 
-// The room behind the page's start stays uninitialised on purpose.
+// The room behind the page's start stays uninitialised.
 ByteReader::ByteReader(ByteSource& byteSource)  // NOLINT(cppcoreguidelines-pro-type-member-init)
     : source_(byteSource),
       blockStart_(room_ +

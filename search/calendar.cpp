@@ -26,7 +26,7 @@ bool IsLeapYear(int year) {
 bool IsValidDate(const SYSTEMTIME& date) {
     if (date.wMonth < 1 || date.wMonth > 12) return false;
     if (date.wYear < 1) return false;
-    // Deliberately without a look at the day: 31 February 2000 is valid.
+    // QUIRK: leap-year-takes-any-day. 31 February 2000 is valid.
     if (IsLeapYear(date.wYear)) return true;
     return date.wDay >= 1 && date.wDay <= CommonMonths[date.wMonth];
 }

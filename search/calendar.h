@@ -9,7 +9,7 @@
 
 [[nodiscard]] bool IsLeapYear(int year);
 
-// Looks at year, month and day. In a leap year any day passes, deliberately.
+// Looks at year, month and day. In a leap year any day passes.
 [[nodiscard]] bool IsValidDate(const SYSTEMTIME& date);
 
 // The day's number, or -1 for an invalid date.

@@ -17,12 +17,13 @@ const char* ReadLine(const SearchConditions& conditions, ByteReader& reader) {
     return ReadLineUpper(line, LineReaderSize, reader, Globals().codeConversionAvailable);
 }
 
-// A line counts up to its first NUL only, and a reader's none ends the file even where it has more.
+// A reader's null ends the file even where it has more.
 bool ALineContains(ByteSource& source, const SearchConditions& conditions) {
     const char* const pattern = conditions.contentPattern;
     const auto patternLength = static_cast<int>(std::strlen(pattern));
     ByteReader reader(source);
     while (const char* const line = ReadLine(conditions, reader)) {
+        // QUIRK: nul-hides-the-rest-of-its-line
         const auto lineLength = static_cast<int>(std::strlen(line));
         if (FindBytes(line, lineLength, pattern, patternLength) != nullptr) return true;
     }

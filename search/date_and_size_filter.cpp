@@ -5,8 +5,9 @@ bool PassesDateAndSize(const SearchConditions& conditions, const WIN32_FIND_DATA
         if (CompareFileTime(&entry.ftLastWriteTime, &conditions.fromTime) < 0) return false;
         if (CompareFileTime(&entry.ftLastWriteTime, &conditions.toTime) > 0) return false;
     }
-    // The high 32 bits of the size are ignored.
+    // QUIRK: sizes-have-32-bits
     const std::uint32_t size = entry.nFileSizeLow;
+    // QUIRK: bounds-are-strict
     if (conditions.Has(SearchConditions::SizeAbove) && size <= conditions.sizeBound) return false;
     if (conditions.Has(SearchConditions::SizeBelow) && size >= conditions.sizeBound) return false;
     return true;

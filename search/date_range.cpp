@@ -16,13 +16,13 @@ void ClearTimeOfDay(SYSTEMTIME& time) {
 DateRange BetweenDates(const SYSTEMTIME& first, const SYSTEMTIME& second) {
     DateRange range{first, second};
     ClearTimeOfDay(range.first);
+    // QUIRK: second-day-is-outside
     ClearTimeOfDay(range.second);
     return range;
 }
 
 DateRange PastDays(const SYSTEMTIME& nowUtc, std::uint32_t days) {
-    // Counting back and the spin's error word may leave the numbers of the calendar; the subtraction then
-    // wraps.
+    // QUIRK: spin-error-word-counts. It may lead out of the calendar's numbers; the subtraction then wraps.
     const auto today = static_cast<std::uint32_t>(DaysFromDate(nowUtc));
     DateRange range{nowUtc, nowUtc};
     DateFromDays(static_cast<std::int32_t>(today - days), range.first);

@@ -11,8 +11,7 @@ struct DateRange {
     SYSTEMTIME second = {};
 };
 
-// Both dates at the first instant of their day: what is modified during the second day is outside,
-// deliberately.
+// Both dates at the first instant of their day: what is modified during the second day is outside.
 [[nodiscard]] DateRange BetweenDates(const SYSTEMTIME& first, const SYSTEMTIME& second);
 
 // From the start of the UTC date `days` days back to now. The days are the spin's whole answer, error word

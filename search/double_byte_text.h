@@ -2,7 +2,8 @@
 
 // Shift-JIS in the content search: which bytes start a character of two, and folding that leaves those alone.
 
-// True for 0x81 to 0x9F and 0xE0 to 0xFD. 0xFD is no lead byte of Shift-JIS, but deliberately counts as one.
+// True for 0x81 to 0x9F and 0xE0 to 0xFD.
+// QUIRK: fd-is-a-lead-byte. Shift-JIS ends at 0xFC.
 constexpr bool IsLeadByte(unsigned char byte) {
     return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFD);
 }

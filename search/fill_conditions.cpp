@@ -7,8 +7,8 @@
 
 namespace {
 
-// Both ends of a range are taken as local times, also the one that "Past" counts from the UTC clock:
-// deliberate.
+// QUIRK: utc-read-as-local. Both ends of a range are taken as local times, also those that "Past" counts from
+// the UTC clock.
 void StoreAsUtc(const SYSTEMTIME& local, FILETIME& utc) {
     FILETIME localTime = {};
     SystemTimeToFileTime(&local, &localTime);
@@ -18,7 +18,7 @@ void StoreAsUtc(const SYSTEMTIME& local, FILETIME& utc) {
 void FillContentPattern(const ConditionSource& source, SearchConditions& conditions) {
     wchar_t content[ContentTextSize] = {};
     source.ContentText(content);
-    // Emptiness is tested, not blankness.
+    // QUIRK: blanks-are-content
     if (content[0] == L'\0') return;
     conditions.flags |= SearchConditions::ContentString;
     const ToMultiByteRoutine chosen = Globals().toMultiByte;
@@ -51,6 +51,7 @@ void FillSizeBound(const ConditionSource& source, SearchConditions& conditions) 
 
 void FillConditions(const ConditionSource& source, SearchConditions& conditions, SearchTexts& texts) {
     conditions.flags = 0;
+    // QUIRK: location-is-not-checked
     source.LocationText(texts.location);
     if (texts.location[0] == L'\0') {
         texts.location[0] = L'\\';
@@ -58,7 +59,7 @@ void FillConditions(const ConditionSource& source, SearchConditions& conditions,
     }
     source.NameText(texts.name);
     FillContentPattern(source, conditions);
-    // The state word is tested whole: an item that is greyed and not checked counts as checked.
+    // QUIRK: greyed-case-item-counts-as-checked. The state word is tested whole.
     if (source.CaseOptionState() == 0) conditions.flags |= SearchConditions::IgnoreCase;
     if (source.SubFoldersChecked()) conditions.flags |= SearchConditions::SubFolders;
     FillDateRange(source, conditions);

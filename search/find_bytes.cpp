@@ -3,7 +3,7 @@
 #include "search/find_with_shifts.h"
 
 void PrepareFindBytes(const char* pattern, int patternLength) {
-    // Deliberately leaves the entries of the bytes 0x80 to 0xFF as they are.
+    // QUIRK: shared-shift-table. The entries of the bytes 0x80 to 0xFF are left alone.
     SharedShiftTable().FillBytes(patternLength);
     SetShifts<char, &ShiftTable::SetByte>(pattern, patternLength);
 }

@@ -25,10 +25,11 @@ char (&SharedLineBuffer())[LineBufferSize] {
 
 char* ReadLineExact(char* buffer, int size, ByteReader& reader) {
     int stored = 0;
+    // QUIRK: long-lines-are-cut
     for (int step = 0; step < size - 1; ++step) {
         const int byte = reader.Next();
         if (byte == EndOfFile) break;
-        // Dropped, but its step counts: so a chunk of nothing but these ends the scan of the file.
+        // QUIRK: dropped-carriage-return-counts. A chunk of nothing but these ends the scan of the file.
         if (byte == CarriageReturn) continue;
         buffer[stored++] = static_cast<char>(byte);
         if (byte == LineFeed) break;
@@ -40,12 +41,13 @@ char* ReadLineUpper(char* buffer, int size, ByteReader& reader, bool doubleByteA
     int stored = 0;
     for (int step = 0; step < size - 2; ++step) {
         const int next = reader.Next();
-        // The line feed is not stored: an empty line looks like the end of the file, deliberately.
+        // QUIRK: folding-stops-at-empty-line. The line feed is not stored, so such a line stores nothing.
         if (next == EndOfFile || next == LineFeed) break;
         if (next == CarriageReturn) continue;
         const auto byte = static_cast<unsigned char>(next);
         if (doubleByteAware && IsLeadByte(byte)) {
             const int trail = reader.Next();
+            // QUIRK: lead-byte-at-the-end-is-lost
             if (trail == EndOfFile) break;
             buffer[stored++] = static_cast<char>(byte);
             buffer[stored++] = static_cast<char>(trail);

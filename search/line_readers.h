@@ -21,6 +21,5 @@ static_assert(LineBufferSize == 8189);
 // Reads at most size - 2 characters, up to a line feed, which is not stored, and stores them in upper case.
 // The buffer holds at least 2 * (size - 2) + 1 bytes (one byte when size is 1 or 2) and is terminated. When
 // doubleByteAware is set, a lead byte and the byte behind it are one character and stored unchanged. Null
-// when no byte was stored: at the end, and for an empty line, at which a case-folding search deliberately
-// stops.
+// when no byte was stored: at the end, and for an empty line, at which a case-folding search stops.
 [[nodiscard]] char* ReadLineUpper(char* buffer, int size, ByteReader& reader, bool doubleByteAware);

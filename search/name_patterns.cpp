@@ -7,7 +7,7 @@
 namespace {
 
 void AppendPattern(ObjectList& patterns, StringObject* pattern) {
-    // A pattern that could not be allocated stands in the list as a null item, which ends the walk over it.
+    // QUIRK: null-pattern-ends-the-list. A pattern that could not be allocated is appended as a null item.
     if (!patterns.Append(pattern)) delete pattern;
 }
 
@@ -28,7 +28,9 @@ StringObject* ExtensionPattern(const wchar_t* extension) {
 const wchar_t* BuildNamePatterns(const SearchConditions& conditions, const wchar_t* nameText,
                                  wchar_t* extensions, ObjectList& patterns) {
     constexpr const wchar_t* NoSubstring = L"";
+    // QUIRK: type-ignores-name. The name text is not looked at here.
     if (conditions.Has(SearchConditions::TypeFilter)) {
+        // QUIRK: last-extension-first. QUIRK: type-without-extension-finds-nothing.
         while (wchar_t* const dot = std::wcsrchr(extensions, L'.')) {
             AppendPattern(patterns, ExtensionPattern(dot));
             *dot = L'\0';
@@ -36,9 +38,11 @@ const wchar_t* BuildNamePatterns(const SearchConditions& conditions, const wchar
         return NoSubstring;
     }
     if (std::wcspbrk(nameText, L"*?") != nullptr) {
+        // QUIRK: patterns-are-not-split
         AppendPattern(patterns, StringObject::Create(nameText));
         return NoSubstring;
     }
     AppendPattern(patterns, StringObject::Create(L"*.*"));
+    // QUIRK: plain-name-minds-case. The substring is compared exactly, a pattern is not.
     return nameText;
 }

@@ -1,9 +1,10 @@
 #pragma once
 
-// The shifts of FindWide and FindBytes, in one array shared by both on purpose: 65,536 entries, one for each
-// UTF-16 unit, and directly behind them 256 for bytes. A byte is taken as a signed number, so that the bytes
-// 0x80 to 0xFF use the last 128 entries of the part for units. What an earlier search left there decides
-// which matches are found after such a byte; that is deliberate.
+// The shifts of FindWide and FindBytes, in one array: 65,536 entries, one for each UTF-16 unit, and directly
+// behind them 256 for bytes.
+// QUIRK: shared-shift-table. A byte is taken as a signed number, so that the bytes 0x80 to 0xFF use the last
+// 128 entries of the part for units. What an earlier search left there decides which matches are found after
+// such a byte.
 
 #include <cstdint>
 

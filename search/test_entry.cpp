@@ -29,6 +29,7 @@ bool TestEntry(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& 
     if (!PassesDateAndSize(walk.conditions, entry)) return true;
     if (!NamePasses(entry.cFileName, walk.nameSubstring)) return true;
     wchar_t fullPath[MAX_PATH];
+    // QUIRK: long-paths-are-passed-over
     if (!JoinPath(fullPath, folder, entry.cFileName)) return true;
     if (walk.conditions.Has(SearchConditions::ContentString)) {
         if (IsLongFile(entry)) walk.progress.BeforeLongFile();

@@ -28,6 +28,7 @@ void DefaultToMultiByte(const wchar_t* source, char* destination, int destinatio
     if (destinationSize <= 0) return;
     int stored = 0;
     for (; *source != L'\0' && stored < destinationSize - 1; ++source) {
+        // QUIRK: low-bytes-without-library
         destination[stored++] = static_cast<char>(static_cast<unsigned char>(*source));
         // A unit like U+0100 has the low byte 0 and ends the text.
         if (destination[stored - 1] == '\0') return;
@@ -59,6 +60,7 @@ void LibraryToMultiByte(const wchar_t* source, char* destination, int destinatio
     for (; *source != L'\0' && stored < destinationSize - 1; ++source) {
         unsigned short code = libraryUnicodeToSjis(static_cast<unsigned short>(*source));
         if (code == 0) code = '?';
+        // QUIRK: half-a-character-at-the-cut. The first byte of a code may be the last one that fits.
         if (code > 0xFF) destination[stored++] = static_cast<char>(code >> 8);
         if (stored < destinationSize - 1) destination[stored++] = static_cast<char>(code & 0xFF);
     }

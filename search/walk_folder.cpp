@@ -36,7 +36,8 @@ const wchar_t* TextOf(const ListObject* pattern) {
     return static_cast<const StringObject*>(pattern)->Text();
 }
 
-// A pattern with a separator or a drive in it looks into another folder than the one that is walked.
+// QUIRK: name-may-hold-a-path. A pattern with a separator or a drive in it looks into another folder than the
+// one that is walked.
 bool PatternsStayInFolder(ObjectList& patterns) {
     for (const ListObject* item = patterns.First(); item != nullptr; item = patterns.Next()) {
         if (std::wcspbrk(TextOf(item), L"\\/:") != nullptr) return false;
@@ -56,7 +57,7 @@ bool MatchesLaterPattern(ObjectList& patterns, const wchar_t* name) {
     return false;
 }
 
-// A link to a folder is an entry like any other, but what it leads to stands elsewhere.
+// QUIRK: links-are-not-entered. A link to a folder is an entry like any other, but its target is elsewhere.
 bool IsFolderToEnter(const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
     if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return false;
     wchar_t path[MAX_PATH];
@@ -114,6 +115,7 @@ bool TestListedMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* p
 }
 
 // The patterns from the list's cursor on; kept is null when their matches have to be listed.
+// QUIRK: entry-once-a-pattern
 bool TestPatterns(SearchWalk& walk, const wchar_t* folder, const ListObject* pattern, ObjectList* kept) {
     for (; pattern != nullptr; pattern = walk.patterns.Next()) {
         const wchar_t* const text = TextOf(pattern);
