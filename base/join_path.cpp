@@ -8,7 +8,7 @@ bool JoinPath(wchar_t (&destination)[MAX_PATH], const wchar_t* folder, const wch
     const std::size_t nameLength = std::wcslen(name);
     const bool nameHasDrive = nameLength >= 2 && name[1] == L':';
     const bool folderIsOpen = folderLength > 0 && folder[folderLength - 1] != L'\\';
-    // An empty name gets the separator too, and a name with a drive still stands behind the folder.
+    // QUIRK: drive-joins-without-separator. QUIRK: empty-name-joins-with-separator.
     const std::size_t separator = folderIsOpen && !nameHasDrive ? 1 : 0;
 
     if (folderLength + separator + nameLength >= MAX_PATH) {

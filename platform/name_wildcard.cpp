@@ -33,6 +33,7 @@ bool NamesTheSame(const wchar_t* one, const wchar_t* other, std::size_t units) {
 
 bool MatchesEveryName(const wchar_t* pattern) {
     if (pattern[0] != L'*') return false;
+    // QUIRK: star-dot-star-is-every-name
     return pattern[1] == L'\0' || (pattern[1] == L'.' && pattern[2] == L'*' && pattern[3] == L'\0');
 }
 

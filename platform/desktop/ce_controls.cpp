@@ -72,6 +72,7 @@ DWORD ce::SpinPosition(HWND spin) {
     wchar_t text[TextCapacity] = L"";
     GetWindowTextW(buddy, text, static_cast<int>(std::size(text)));
     WORD position = 0;
+    // QUIRK: typed-numbers-are-not-clamped
     if (PositionIn(text, position)) return position;
     return LOWORD(answer) | NoNumber;
 }

@@ -39,6 +39,7 @@ const wchar_t* NamePartOf(const wchar_t* pattern) {
 // system's file name with a separator in it, or one that starts like a drive, would lead to some other file.
 bool IsEntry(const wchar_t* name) {
     if (name[0] == L'.' && (name[1] == L'\0' || (name[1] == L'.' && name[2] == L'\0'))) return false;
+    // QUIRK: drive-like-names-are-left-out
     return name[1] != L':' && std::wcspbrk(name, L"\\/") == nullptr;
 }
 
