@@ -5,7 +5,7 @@
 
 namespace {
 
-// Lower bound 1 in the high word, upper bound 999 in the low word; kept as this very number.
+// QUIRK: days-range-66535. Lower bound 1 in the high word, upper bound 999 in the low word.
 constexpr LPARAM DaysRange = 66535;
 
 constexpr WORD MonthsBack = 3;
@@ -35,7 +35,7 @@ DatePage::DatePage(WindowObject* parentObject)
 }
 
 void DatePage::SetUpControls() {
-    // Three letters for the year, as the handheld is given it.
+    // QUIRK: year-of-three-letters. The handheld's picker shows four digits for them.
     for (const int picker : {PICKER_FROM, PICKER_TO})
         ce::SetPickerFormat(Item(picker), L"yyy/MM/dd");
     SendToItem(SPIN_DAYS, UDM_SETRANGE, 0, DaysRange);
@@ -52,8 +52,9 @@ void DatePage::Reset() {
 
 void DatePage::SetPickersFromClock() {
     SYSTEMTIME now{};
+    // QUIRK: pickers-start-in-utc
     ce::GetSystemTime(&now);
-    // A day that the earlier month lacks is for the picker to refuse.
+    // QUIRK: three-months-earlier-keeps-the-day. One that the month lacks is for the picker to refuse.
     const SYSTEMTIME earlier = ThreeMonthsEarlier(now);
     SendToItem(PICKER_TO, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&now));
     SendToItem(PICKER_FROM, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&earlier));
@@ -77,7 +78,7 @@ LRESULT DatePage::OnPast(EventArguments&) {
     if (!IsChecked(RADIO_PAST)) return 0;
     EnablePickers(false);
     EnableDays(true);
-    // The size page's ids, which this page lacks: without effect, and kept.
+    // QUIRK: past-disables-size-controls. This page lacks them.
     EnableWindow(Item(EDIT_KILOBYTES), FALSE);
     EnableWindow(Item(SPIN_KILOBYTES), FALSE);
     return 0;
@@ -108,7 +109,7 @@ bool DatePage::DateRangeChosen(DateRange& range) const {
         ce::GetSystemTime(&now);
         range = PastDays(now, ce::SpinPosition(Item(SPIN_DAYS)));
     }
-    // With nothing checked, which never happens, the range stays unset.
+    // QUIRK: nothing-checked-is-a-range. It stays unset.
     return true;
 }
 

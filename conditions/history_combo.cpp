@@ -23,10 +23,11 @@ HistoryCombo::HistoryCombo(WindowObject* parentObject, HWND existing, const Prop
 bool HistoryCombo::AddToHistory(const wchar_t* text) {
     if (refuseEmpty_ && text[0] == L'\0') return false;
     const auto textParameter = reinterpret_cast<LPARAM>(text);
-    // Deliberately an entry that only begins with the text: adding \Data removes \Data\Old. The search starts
-    // after entry 0, which is looked at last.
+    // QUIRK: history-forgets-by-beginning. An entry that begins with the text goes: adding \Data removes
+    // \Data\Old. QUIRK: top-entry-is-looked-at-last. The search starts behind entry 0.
     const int older = ce::FindComboEntry(Handle(), 0, text);
     if (older != CB_ERR) SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(older), 0);
+    // QUIRK: maximum-of-9-keeps-10. The entry with this index goes, which only a list of ten has.
     if (SendMessageW(Handle(), CB_GETCOUNT, 0, 0) + 1 >= maximum_) {
         SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(maximum_), 0);
     }

@@ -61,6 +61,7 @@ void NamePage::LayOut() {
 }
 
 void NamePage::Reset() {
+    // QUIRK: new-condition-keeps-content
     SetWindowTextW(Item(COMBO_NAME), L"");
     SetWindowTextW(Item(COMBO_LOCATION), L"");
 }
@@ -102,6 +103,7 @@ LRESULT NamePage::OnEnterInCombo(EventArguments& arguments) {
     HistoryCombo& combo = arguments.extra == COMBO_NAME ? *name_ : *location_;
     wchar_t text[MAX_PATH] = L"";
     GetWindowTextW(combo.Handle(), text, MAX_PATH);
+    // QUIRK: find-button-adds-no-history. Only Enter in a field does.
     combo.AddToHistory(text);
     StartSearch();
     return 0;

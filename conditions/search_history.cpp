@@ -8,7 +8,7 @@
 
 namespace {
 
-// One fewer than the combo holds, deliberately: the newest of ten saved entries is not read back.
+// QUIRK: newest-of-ten-is-not-read-back. One fewer than the combo holds.
 constexpr int MostLoadedEntries = 9;
 
 constexpr int EntryCapacity = MAX_PATH;
@@ -45,6 +45,7 @@ bool SaveHistory(const HistoryCombo& combo, HKEY root, const wchar_t* path) {
     RegistryKey key(root);
     if (!key.Create(path)) return false;
     const auto count = static_cast<int>(SendMessageW(combo.Handle(), CB_GETCOUNT, 0, 0));
+    // QUIRK: longer-history-stays-stored. Values from the count on are left alone.
     for (int n = 0; n < count; ++n) {
         wchar_t text[EntryCapacity];
         ReadEntry(combo, static_cast<WPARAM>(count - 1 - n), text);

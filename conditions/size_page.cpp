@@ -47,7 +47,7 @@ void SizePage::Reset() {
     SendToItem(COMBO_FILE_TYPE, CB_SETCURSEL, 0);
     SendToItem(COMBO_FILE_SIZE, CB_SETCURSEL, 0);
     SetWindowTextW(Item(EDIT_KILOBYTES), L"");
-    // Sent to the edit rather than to the spin, so it changes nothing and the edit stays empty; kept.
+    // QUIRK: size-reset-asks-the-edit. Not the spin, so it changes nothing and the edit stays empty.
     SendToItem(EDIT_KILOBYTES, UDM_SETPOS, 0, 0);
 }
 
