@@ -68,6 +68,7 @@ class ImageList {
 
 bool EndsIn(const std::wstring& path, const wchar_t* suffix) {
     const std::size_t length = std::wcslen(suffix);
+    // QUIRK: ending-alone-is-no-file-type
     return path.size() > length && path.compare(path.size() - length, length, suffix) == 0;
 }
 

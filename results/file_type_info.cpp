@@ -6,7 +6,7 @@
 
 namespace {
 
-// The name of the value that is read, deliberately not the unnamed one.
+// QUIRK: type-value-named-default. Not the unnamed value.
 constexpr const wchar_t* DefaultValue = L"Default";
 
 constexpr DWORD TextBytes = 520;

@@ -47,13 +47,14 @@ void FileTypeTable::Build(Shared& table) {
         }
         if (name[0] != L'.') continue;
         CharLowerW(name);
-        // Applications have icons of their own.
+        // QUIRK: exe-is-no-type. Applications have icons of their own.
         if (std::wcscmp(name, L".exe") != 0) AddExtension(table, name);
     }
 }
 
 void FileTypeTable::AddExtension(Shared& table, const wchar_t* extension) {
     auto info = std::make_unique<FileTypeInfo>(ReadFileTypeInfo(extension));
+    // QUIRK: untyped-extensions-are-one-type. They have the empty key.
     auto* known = reinterpret_cast<FileTypeInfo*>(table.byTypeKey.Lookup(info->typeKey.c_str()));
     if (known != nullptr) {
         known->extensions += extension;

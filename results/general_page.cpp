@@ -56,6 +56,7 @@ void GeneralPage::SetUpControls() {
         }
     }
     wchar_t text[FileDetailsCapacity];
+    // QUIRK: general-page-knows-no-bytes
     FormatSizeDetails(data.nFileSizeLow, text, std::size(text));
     SetDlgItemTextW(Handle(), STATIC_SIZE, text);
     FormatTimeDetails(data.ftLastWriteTime, text, std::size(text));
@@ -79,7 +80,7 @@ std::span<const int> GeneralPage::Values() const {
 
 LRESULT GeneralPage::OnApplyChanges(EventArguments&) {
     const DWORD attributes = ce::GetFileAttributesW(Path());
-    // A folder with any other attribute is written like a file.
+    // QUIRK: plain-folder-keeps-its-attributes. One with any other attribute is written like a file.
     if (attributes == INVALID_FILE_ATTRIBUTES || attributes == FILE_ATTRIBUTE_DIRECTORY) return 0;
     DWORD chosen = 0;
     for (const AttributeBox& box : AttributeBoxes) {

@@ -30,6 +30,7 @@ void OpenShortcut(const wchar_t* path) {
     wchar_t target[TargetCapacity];
     if (!ce::SHGetShortcutTarget(path, target, TargetCapacity)) return;
     const ShortcutTarget parts = SplitTarget(target);
+    // QUIRK: folders-do-not-open
     if (HasAttribute(parts.program, FILE_ATTRIBUTE_DIRECTORY)) return;
     Execute(nullptr, parts.program, parts.arguments);
 }
@@ -56,6 +57,7 @@ void ResultCommands::Open() {
 void ResultCommands::AddToStartMenu() {
     wchar_t path[MAX_PATH];
     if (list_.SelectedPath(path) < 0) return;
+    // QUIRK: start-menu-folder-follows-the-program
     MakeShortcut(path, InLanguage(L"\\Windows\\Start Menu\\Programs", L"\\Windows\\ｽﾀｰﾄ ﾒﾆｭｰ\\ﾌﾟﾛｸﾞﾗﾑ"),
                  ShortcutForm::Plain);
 }
@@ -64,6 +66,7 @@ void ResultCommands::Delete() {
     wchar_t path[MAX_PATH];
     const int row = list_.SelectedPath(path);
     if (row < 0) return;
+    // QUIRK: delete-fails-on-folders. They are not treated apart.
     if (AskQuestion(&owner_, DeleteFileQuestion(path, Answers::YesNo)) != ConfirmResult::Yes) return;
     if (DeleteFileOrReport(owner_.Handle(), path)) list_.DeleteRow(row);
 }
@@ -85,9 +88,12 @@ void ResultCommands::EndRename(const NMLVDISPINFOW& edited) {
     list_.ReadCell(row, ResultColumn::Folder, folder);
     list_.ReadCell(row, ResultColumn::Name, oldName);
     if (!JoinPath(oldPath, folder, oldName)) return;
+    // QUIRK: rename-may-move. The name goes to the system as it was typed.
     if (MoveFileOrReport(owner_.Handle(), oldPath, NewPath(folder, newName.c_str()).c_str())) {
+        // QUIRK: rename-leaves-type-and-icon. Only the name follows the file.
         list_.SetCell(row, ResultColumn::Name, newName.c_str());
     } else {
+        // QUIRK: failed-rename-shows-two-boxes. The move has told why.
         ShowError(owner_.Handle(), InLanguage(L"Can't rename the file", L"名前の変更に失敗しました"));
     }
 }

@@ -160,7 +160,9 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
     LoadIcons();
     LVITEMW item{};
     item.mask = LVIF_IMAGE | LVIF_PARAM;
+    // QUIRK: new-rows-are-not-sorted. Each goes to the end, whatever the column of the last sort.
     item.iItem = static_cast<int>(CallControl(LVM_GETITEMCOUNT, 0, 0));
+    // QUIRK: row-numbers-keep-their-gaps. Never numbered anew.
     item.lParam = item.iItem;
     item.iImage = iconCache_ != nullptr
                       ? iconCache_->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
@@ -252,6 +254,7 @@ int ResultList::SelectedPath(wchar_t (&path)[MAX_PATH]) const {
     if (row < 0) return -1;
     wchar_t name[MAX_PATH];
     wchar_t joined[MAX_PATH];
+    // QUIRK: path-comes-from-the-cells
     ReadCell(row, ResultColumn::Folder, joined);
     ReadCell(row, ResultColumn::Name, name);
     // A path that did not fit was never listed, but a cell can be renamed.

@@ -93,6 +93,7 @@ class ResultList : public ListView, public MatchSink {
     void DeleteLastRows(int rows);
 
     // The column of the last sort, by its number; a negative one would mean the order of finding.
+    // QUIRK: first-click-sorts-z-to-a. An empty list counts as sorted by name, upwards.
     int sortColumn_ = 0;
     bool sortAscending_ = true;
     std::unique_ptr<FileIconCache> iconCache_;  // null before LoadIcons, or without memory for it

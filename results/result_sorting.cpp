@@ -105,7 +105,7 @@ void Arrange(HWND list, PFNLVCOMPARE compare, const void* parameter) {
 }  // namespace
 
 void SortRows(HWND list, int column, bool ascending) {
-    // By the order of finding; the direction is not applied.
+    // QUIRK: order-of-finding-has-no-direction
     if (column < 0) {
         Arrange(list, &CompareRows, nullptr);
         return;

@@ -27,6 +27,7 @@ const wchar_t* DateText(const SYSTEMTIME& local) {
     static wchar_t lastText[RowTextCapacity];
     if (lastText[0] != L'\0' && IsSameDay(local, lastDay)) return lastText;
     lastText[0] = L'\0';
+    // QUIRK: year-99-sorts-after-02. The cell is what is sorted by.
     GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"yy'/'MM'/'dd", lastText, FormatRoom);
     lastDay = local;
     return lastText;
@@ -54,7 +55,9 @@ void TimeText(const SYSTEMTIME& local, wchar_t (&text)[9]) {
 }  // namespace
 
 void FormatResultSize(DWORD lowSize, wchar_t (&text)[RowTextCapacity]) {
+    // QUIRK: two-gigabytes-read-negative
     const auto size = static_cast<std::int32_t>(lowSize);
+    // QUIRK: shown-sizes-are-cut-off
     if (size >= Megabyte) {
         FormatText(text, std::size(text), L"%dM", size / Megabyte);
     } else if (size >= Kilobyte) {

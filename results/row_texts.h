@@ -7,7 +7,7 @@
 // Room for any of the texts below.
 constexpr int RowTextCapacity = 256;
 
-// The low 32 bits of a size, taken as a signed number on purpose: whole megabytes from 1,048,576, whole
+// The low 32 bits of a size, taken as a signed number: whole megabytes from 1,048,576, whole
 // kilobytes from 1,024, else bytes ("5M", "12K", "517"). Truncates, never rounds.
 void FormatResultSize(DWORD lowSize, wchar_t (&text)[RowTextCapacity]);
 

@@ -67,7 +67,7 @@ void ShortcutPage::LayOut() {
     WidenToRightEdge(Handle(), EDIT_TARGET);
 }
 
-// The shortcut is written anew on every apply, edited or not, and the text as it was typed.
+// QUIRK: shortcut-is-always-rewritten. Edited or not, and the text as it was typed.
 LRESULT ShortcutPage::OnApplyChanges(EventArguments&) {
     wchar_t target[MAX_PATH] = L"";
     GetDlgItemTextW(Handle(), EDIT_TARGET, target, MAX_PATH);

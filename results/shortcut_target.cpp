@@ -4,6 +4,7 @@
 
 namespace {
 
+// QUIRK: ending-alone-is-no-file-type
 constexpr std::size_t ShortestShortcut = 5;
 
 bool IsBlank(wchar_t unit) {
@@ -40,6 +41,7 @@ ShortcutTarget SplitTarget(const wchar_t* target) {
     int length = 0;
     for (; *rest != L'\0' && length < 2 * TargetCapacity - 2; ++rest) {
         parts.arguments[length++] = *rest;
+        // QUIRK: argument-quotes-are-doubled
         if (*rest == L'"') parts.arguments[length++] = L'"';
     }
     parts.arguments[length] = L'\0';

@@ -13,6 +13,7 @@ std::int32_t ShiftLeft(std::int32_t number, int bits) {
 
 }  // namespace
 
+// QUIRK: sizes-sort-as-shown
 std::int32_t ParseShownSize(const wchar_t* text) {
     const auto number = static_cast<std::int32_t>(std::wcstol(text, nullptr, 10));
     const wchar_t* unit = std::wcspbrk(text, L"KM");
@@ -24,7 +25,7 @@ int CompareSizes(std::int32_t first, std::int32_t second) {
     return first > second ? 1 : first < second ? -1 : 0;
 }
 
-// Only the letters of English, as in the C library's default locale.
+// QUIRK: sort-folds-english-letters. As the C library's default locale does.
 void FoldForComparison(wchar_t* text) {
     for (; *text != L'\0'; ++text) {
         if (*text >= L'A' && *text <= L'Z') *text = static_cast<wchar_t>(*text + (L'a' - L'A'));

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-// A cell is compared by its first 127 units.
+// QUIRK: sort-reads-127-units. A cell is compared by its first 127 units.
 constexpr int SortTextCapacity = 128;
 
 // The bytes that a Size cell stands for ("12K" is 12,288); 0 for a folder's empty cell.
