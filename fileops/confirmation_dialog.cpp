@@ -7,6 +7,7 @@
 
 namespace {
 
+// QUIRK: tick-is-no-yes. The bar's OK answers 1.
 constexpr UINT Answers[] = {1, 3, 4, 5, 6, 7, 20};
 
 constexpr int FileIconStatics[] = {STATIC_EXISTING_ICON, STATIC_NEW_ICON};

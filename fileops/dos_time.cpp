@@ -12,6 +12,7 @@ int Compare(unsigned first, unsigned second) {
 }  // namespace
 
 DosTime PackDosTime(const SYSTEMTIME& moment) {
+    // QUIRK: years-have-seven-bits. QUIRK: times-have-steps-of-two-seconds.
     const unsigned year = (moment.wYear - FirstYear) % Years;
     return {static_cast<std::uint16_t>(year * 512 + moment.wMonth * 32u + moment.wDay),
             static_cast<std::uint16_t>(moment.wHour * 2048u + moment.wMinute * 32u + moment.wSecond / 2u)};

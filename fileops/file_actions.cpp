@@ -22,12 +22,13 @@ constexpr DWORD ErrorSwapError = 999;
 
 constexpr FailureText DeleteTexts[] = {{ERROR_ACCESS_DENIED, L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"}};
 
+// QUIRK: full-disk-has-three-wordings. Here, in CopyTexts and in CreateDirectoryTexts.
 constexpr FailureText MoveTexts[] = {
     {ERROR_SHARING_VIOLATION, L"%s is in use", L"%s は使用中です"},
     {ERROR_DISK_FULL, L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです"},
 };
 
-// A third wording for the full disk, and another meaning of code 87 in Japanese: both intended.
+// QUIRK: wrong-parameter-reads-damaged. In Japanese.
 constexpr FailureText CopyTexts[] = {
     {ERROR_DISK_FULL, L"The disk is full", L"ﾃﾞｨｽｸがいっぱいです"},
     {ERROR_CRC, L"CRC ERROR %s", L"CRCｴﾗｰ %s"},
@@ -53,6 +54,7 @@ bool Report(HWND owner, const wchar_t* path, FailureTexts texts, const wchar_t* 
         ShowError(owner, failure.text.Text(), path);
         return false;
     }
+    // QUIRK: numbered-errors-are-english
     ShowError(owner, anyOther, static_cast<int>(code));
     return false;
 }
@@ -74,6 +76,7 @@ bool MoveFileOrReport(HWND owner, const wchar_t* from, const wchar_t* to) {
 }
 
 bool CopyFileOrReport(HWND owner, const wchar_t* from, const wchar_t* to, bool failIfExists) {
+    // QUIRK: in-use-names-the-source
     return ce::CopyFileW(from, to, failIfExists) || Report(owner, from, CopyTexts, L"Error CopyFile %d");
 }
 
@@ -92,6 +95,7 @@ bool RemoveDirectoryOrReport(HWND owner, const wchar_t* path) {
 }
 
 bool CreateFolderPath(HWND owner, const wchar_t* path) {
+    // QUIRK: file-in-a-folders-place-is-silent
     if (PathExists(path)) return IsFolder(path);
     if (std::wcslen(path) >= MAX_PATH) return false;
 

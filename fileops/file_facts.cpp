@@ -12,6 +12,7 @@ constexpr DWORD BytesInKilobyte = 1024;
 // From here on the tenths of a kilobyte are not worth showing.
 constexpr DWORD WholeKilobytesFrom = 102400;
 
+// QUIRK: ending-alone-is-no-file-type
 constexpr std::size_t ShortestProgramName = 5;
 
 }  // namespace
@@ -54,6 +55,7 @@ bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data) {
 void FormatSizeDetails(DWORD lowSize, wchar_t* text, std::size_t capacity) {
     const DWORD kilobytes = lowSize / BytesInKilobyte;
     const DWORD rest = lowSize % BytesInKilobyte;
+    // QUIRK: two-gigabytes-read-negative. The formats know no unsigned number.
     if (lowSize - rest >= WholeKilobytesFrom) {
         FormatText(text, capacity, L"%dKB (%d bytes)", kilobytes, lowSize);
     } else {

@@ -11,6 +11,7 @@
 
 namespace {
 
+// QUIRK: one-text-for-two-overlaps
 constexpr TextPair SourceIsInside = {L"Source to destination is recursive", L"送り側と受け側が同じです"};
 
 // What the dialog says during an operation.
@@ -28,7 +29,7 @@ constexpr OperationTexts AllTexts[] = {
     {{L"File Update Progress", L"ﾌｧｲﾙのｱｯﾌﾟﾃﾞｰﾄ中"},
      {L"Source file:", L"ｱｯﾌﾟﾃﾞｰﾄ元"},
      {L"Destination file:", L"ｱｯﾌﾟﾃﾞｰﾄ先"}},
-    // The English label of the destination has no colon here, on purpose.
+    // QUIRK: exclude-label-has-no-colon. That of the destination, in English.
     {{L"File Exclude Progress", L"ﾌｧｲﾙの排除中"},
      {L"Source file:", L"排除元"},
      {L"Destination file", L"排除先"}},
@@ -151,6 +152,7 @@ void FileOperation::RunFileOperation() {
     const std::uint32_t count = sources_ != nullptr ? sources_->Count() : 0;
     for (std::uint32_t i = 0; i < count; ++i) {
         const wchar_t* const source = static_cast<const StringObject*>(sources_->ItemAt(i))->Text();
+        // QUIRK: overlap-stops-updates-too
         if (operation != FileOperationKind::Delete && IsInsideSource(source, destination_)) {
             ShowError(Handle(), SourceIsInside.Text());
             return;

@@ -25,7 +25,7 @@ bool FileOperation::CopyEntry(PathBuffer& source, PathBuffer& target) {
     return EachEntry(source, source, target, &FileOperation::CopyEntry);
 }
 
-// Unlike a copy: a folder is merged into the target itself, whatever its name, and without a question.
+// QUIRK: update-merges-into-the-destination. Whatever the folder's name, and without a question.
 bool FileOperation::UpdateEntry(PathBuffer& source, PathBuffer& target) {
     const PathKind kind = KindOf(source);
     if (kind == PathKind::LinkToFolder) return true;
@@ -34,11 +34,11 @@ bool FileOperation::UpdateEntry(PathBuffer& source, PathBuffer& target) {
     return EachEntry(source, source, target, &FileOperation::UpdateEntry);
 }
 
-// Walks over the target, not over the source. A file in it always exists, so none is ever deleted: on
-// purpose.
+// QUIRK: exclude-removes-no-file. Walks over the target, not over the source: a file in it always exists.
 bool FileOperation::ExcludeEntry(PathBuffer& source, PathBuffer& target) {
     const PathKind kind = KindOf(target);
     if (kind == PathKind::File) return true;
+    // QUIRK: excluding-from-nothing-fails
     if (kind == PathKind::Nothing) return DeleteEntry(target);
     if (IsFolder(source)) {
         return kind == PathKind::LinkToFolder ||
@@ -98,8 +98,7 @@ bool FileOperation::EachEntry(const wchar_t* walked, PathBuffer& source, PathBuf
     return true;
 }
 
-// A folder that stands is asked about even when nothing else is any more; Yes to All then silences the
-// questions about its files only.
+// QUIRK: folders-are-asked-about-after-yes-to-all. It silences the questions about files only.
 FileOperation::FolderStep FileOperation::PrepareFolder(const wchar_t* folder) {
     if (!IsFolder(folder)) return CreateFolderPath(Handle(), folder) ? FolderStep::Enter : FolderStep::End;
     switch (AskInRun(ReplaceFolderQuestion(folder))) {
@@ -113,7 +112,7 @@ FileOperation::FolderStep FileOperation::PrepareFolder(const wchar_t* folder) {
     }
 }
 
-// Here No ends the run as well, unlike everywhere else.
+// QUIRK: no-ends-an-exclusion. Everywhere else it skips one entry.
 bool FileOperation::AskFolderDelete(const wchar_t* folder) {
     if (!confirm) return true;
     const ConfirmResult answer = AskInRun(DeleteFolderQuestion(folder));

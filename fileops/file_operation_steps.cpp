@@ -30,6 +30,7 @@ bool FileOperation::CopyOneFile(const wchar_t* source, const wchar_t* target) {
 bool FileOperation::CopyOneFileIfNewer(const wchar_t* source, const wchar_t* target) {
     if (!BeginFile(source, target)) return false;
     DosTime sourceTime, targetTime;
+    // QUIRK: missing-source-ends-an-update-silently
     if (!GetLastWriteTime(source, sourceTime)) return false;
     if (GetLastWriteTime(target, targetTime) && CompareDosTimes(sourceTime, targetTime) < 1) return true;
     return ReplaceByCopy(source, target);
@@ -46,8 +47,8 @@ bool FileOperation::ReplaceByCopy(const wchar_t* source, const wchar_t* target) 
     return CopyFileOrReport(Handle(), source, target, false);
 }
 
-// An existing target is deleted only after a question. Without one it is left alone and the move fails,
-// unlike a copy: on purpose.
+// QUIRK: unasked-moves-replace-nothing. An existing target is deleted only after a question. Without one it
+// is left alone and the move fails, unlike a copy.
 bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
     if (!BeginFile(source, target)) return false;
     if (confirm && PathExists(target)) {
@@ -55,6 +56,7 @@ bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
         if (answer == ConfirmResult::No) return true;
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
         // Two paths may lead to one file; with the target the source would be gone.
+        // QUIRK: moves-go-on-after-a-failed-delete
         if (!IsSameFile(source, target)) DeleteFileOrReport(Handle(), target);
     }
     return MoveFileOrReport(Handle(), source, target);
@@ -67,6 +69,7 @@ bool FileOperation::DeleteOneFile(const wchar_t* path) {
         if (answer == ConfirmResult::No) return true;
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
     }
+    // QUIRK: attributes-are-reset-silently-before-a-delete
     ce::SetFileAttributesW(path, FILE_ATTRIBUTE_NORMAL);
     return DeleteFileOrReport(Handle(), path);
 }
@@ -89,8 +92,8 @@ ConfirmResult FileOperation::AskFileReplace(const wchar_t* source, const wchar_t
     return AskInRun(ReplaceFileQuestion(paths, AnswersOffered()));
 }
 
-// The question is the main window's, so it is here that the progress dialog is kept from taking input
-// meanwhile.
+// QUIRK: questions-belong-to-the-main-window. So it is here that the progress dialog is kept from taking
+// input meanwhile.
 ConfirmResult FileOperation::AskInRun(const Question& question) {
     EnableWindow(Handle(), FALSE);
     ConfirmationDialog dialog(Parent(), question);
@@ -98,6 +101,7 @@ ConfirmResult FileOperation::AskInRun(const Question& question) {
     const ConfirmResult answer = dialog.Ask();
     // A question that could not be made has not done that.
     EnableWindow(Handle(), TRUE);
+    // QUIRK: yes-to-all-outlasts-the-run. Nothing sets it again.
     if (answer == ConfirmResult::YesToAll) confirm = false;
     if (answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll) {
         UpdateWindow(ParentHandle());

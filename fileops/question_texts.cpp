@@ -24,7 +24,7 @@ constexpr TextPair DeleteProgram = {
     L"ﾌｧｲﾙ '%s' "
     L"はﾌﾟﾛｸﾞﾗﾑです。\n\n削除すると、このﾌﾟﾛｸﾞﾗﾑは実行できなくなり、また一部の文書は編集できなくなります。"
     L"\n削除してもよろしいですか?"};
-// The English text ends without a question, unlike the Japanese one; both stay.
+// QUIRK: system-file-text-asks-nothing. In English.
 constexpr TextPair DeleteSystem = {
     L"The file '%s' is a system file.\n\nIf you remove it, your computer or one of your programs may no "
     L"longer "
@@ -47,6 +47,7 @@ constexpr TextPair ReplaceOther = {
     L"This folder already contains a file called '%s'.",
     L"このﾌｫﾙﾀﾞには既に %s というﾌｧｲﾙが存在します。現在あるﾌｧｲﾙを、新しいﾌｧｲﾙで上書きしますか?"};
 
+// QUIRK: copies-ask-about-moving
 constexpr TextPair ReplaceFolder = {
     L"This folder already contains a folder called '%s'.\n\nIf the files in the existing folder have the "
     L"same "
@@ -84,8 +85,7 @@ void ShowFile(HWND dialog, int detailsId, int iconId, const wchar_t* path) {
     if (info.hIcon != nullptr) SetIcon(dialog, iconId, info.hIcon);
 }
 
-// The tests are made on the folder that holds the file, not on the file itself: that is how the program
-// behaves, and it is kept.
+// QUIRK: delete-question-looks-at-the-folder. At the one that holds the file, not at the file itself.
 const TextPair& FileDeleteText(const wchar_t* folder) {
     if (HasAttribute(folder, FILE_ATTRIBUTE_READONLY)) return DeleteReadOnly;
     if (IsProgramFile(folder)) return DeleteProgram;
@@ -127,7 +127,7 @@ void FillFolderReplaceText(HWND dialog, const wchar_t* folderPath) {
     SetTitle(dialog, L"Confirm Folder Replace", L"ﾌｫﾙﾀﾞの置換の確認");
     SetProgramIcon(dialog, ICON_REPLACE);
     SetText(dialog, STATIC_QUESTION, ReplaceFolder, folderPath);
-    // The template's own Japanese label means to delete all.
+    // QUIRK: yes-to-all-is-renamed. The template's own Japanese label means to delete all.
     SetDlgItemTextW(dialog, BUTTON_YES_TO_ALL, InLanguage(L"Yes to &All", L"すべて上書き(&A)"));
 }
 
