@@ -101,6 +101,7 @@ RECT ApplicationView::LayoutRectangle() const {
         LONG& edge = rebar_->IsAtTop() ? area.top : area.bottom;
         edge += rebar_->IsAtTop() ? rebar_->BarHeight() : -rebar_->BarHeight();
     }
+    // QUIRK: bar-space-without-a-bar
     area.bottom -= ce::MenuBarHeight;
     // Nothing is left of one that is smaller than its bars, as when it is minimised.
     area.bottom = std::max(area.bottom, area.top);
@@ -127,7 +128,7 @@ LRESULT ApplicationView::OnWmHelp(MessageRecord&) {
     return 1;
 }
 
-// The children stay where they are: a view is laid out once, when it is made.
+// QUIRK: new-size-moves-no-children. A view is laid out once, when it is made.
 LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
     for (const WindowObject* bar : {menuBar_.get(), static_cast<WindowObject*>(statusBar_.get())}) {
         if (bar != nullptr) SendMessageW(bar->Handle(), record.message, record.wParam, record.lParam);

@@ -18,7 +18,7 @@ constexpr int CommandBarHeight = 22;
 constexpr int ButtonImageSize = 16;
 constexpr UINT BandSpace = 2;
 
-// The place on a screen of 240 x 320, directly above the menu bar or the rebar; kept on every screen.
+// QUIRK: status-bar-at-248. The place on a screen of 240 x 320, directly above the menu bar or the rebar.
 constexpr int StatusBarY = 248;
 constexpr int StatusBarYAboveRebar = 224;
 constexpr int StatusBarWidth = 240;

@@ -9,6 +9,7 @@ constexpr LONG SmallScreenWidth = 240;
 // The parent's rectangle as far as the soft input panel leaves it free.
 RECT FreeAreaOf(const RECT& parent, LONG screenWidth, LONG screenHeight) {
     RECT area = parent;
+    // QUIRK: input-panel-space-stays-free
     if (screenWidth <= SmallScreenWidth) area.bottom = std::min(area.bottom, screenHeight - InputPanelSpace);
     return area;
 }

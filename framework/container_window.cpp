@@ -54,6 +54,7 @@ LRESULT ContainerWindow::OnWmCommand(MessageRecord& record) {
         RaiseEvent(event::Command, command, 0, record);
         return record.result;
     }
+    // QUIRK: unknown-codes-are-clicks
     const EventCode code = TranslateNativeCode(object->NativeCodes(), CommandCodeOf(record));
     if (code == event::RaiseAsCommand) {
         RaiseEvent(event::Command, command, 0, record);

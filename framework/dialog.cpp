@@ -268,6 +268,7 @@ void Dialog::CreateMenuBar(DialogBar bar) {
     if (bar == DialogBar::None || !ce::SHCreateMenuBar(&info)) return;
     menuBar_ = info.hwndMB;
 
+    // QUIRK: bar-labels-are-english
     static const wchar_t* const labels[] = {L"Cancel", L"OK"};
     SendMessageW(menuBar_, ce::ToolBarSetToolTips, std::size(labels), reinterpret_cast<LPARAM>(labels));
     TBBUTTON buttons[] = {{0, IDCANCEL, TBSTATE_ENABLED, BTNS_BUTTON, {}, 0, -1},
@@ -310,6 +311,7 @@ LRESULT Dialog::OnWmCtlColorStatic(MessageRecord& record) {
         SetBkMode(context, TRANSPARENT);
         SetTextColor(context, ce::GetSysColor(static_cast<int>(ce::SystemColorFlag | COLOR_HIGHLIGHT)));
     }
+    // QUIRK: statics-are-white
     return reinterpret_cast<LRESULT>(WhiteBrush());
 }
 

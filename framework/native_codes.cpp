@@ -121,7 +121,8 @@ constexpr ControlClass ControlClasses[] = {
     {L"Button", ButtonCodes},
     {L"ReBarWindow32", RebarCodes},
     {L"msctls_updown32", UpDownCodes},
-    {L"combobox", ComboBoxCodes},  // in lower case and compared exactly, on purpose
+    // QUIRK: combobox-in-lower-case. Names are compared exactly.
+    {L"combobox", ComboBoxCodes},
     {L"SysDateTimePick32", DatePickerCodes},
     {L"SysHeader32", HeaderCodes},
     {L"SysIPAddress32", {}},  // translates nothing

@@ -19,7 +19,7 @@ using NativeCodeTable = std::span<const NativeCode>;
                                             EventCode missing = event::Command);
 
 // The table of a window class, by its exact spelling; empty for an unknown class. The combo box stands in
-// lower case, unlike the others, and is not known by any other spelling: that is deliberate.
+// lower case, unlike the others, and is not known by any other spelling (combobox-in-lower-case).
 [[nodiscard]] NativeCodeTable NativeCodesOfClass(const wchar_t* className);
 
 // What every window translates itself before it asks the control: the notifications common to all classes.

@@ -25,6 +25,7 @@ void PropertySet::Add(PropertyKey key, PropertyValue value) {
     if (IsStyleKey(key)) {
         Set(key, value);
     } else {
+        // QUIRK: added-properties-replace-nothing. The first pair with a key is the one that is read.
         Append(key, value);
     }
 }
@@ -53,6 +54,7 @@ int PropertySet::IndexOf(PropertyKey key) const {
 }
 
 void PropertySet::Append(PropertyKey key, PropertyValue value) {
+    // QUIRK: fifty-first-property-is-dropped
     if (count_ == Capacity) return;
     pairs_[static_cast<std::size_t>(count_++)] = {key, value};
 }

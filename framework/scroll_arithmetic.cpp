@@ -24,15 +24,16 @@ int ScrolledViewPosition(const ScrollState& bar, ScrollRequest request, int thum
     const Wide position = bar.position;
     const Wide last = LengthOf(bar.range) - bar.page + 1;
     switch (request) {
+        // QUIRK: scroll-line-is-one-pixel
         case ScrollRequest::LineUp:
             return Narrowed(std::max<Wide>(position - 1, 0));
         case ScrollRequest::LineDown:
             return Narrowed(std::min(position + 1, last));
         case ScrollRequest::PageUp:
-            // One more than a page, deliberately.
+            // QUIRK: page-up-goes-one-further
             return Narrowed(std::max<Wide>(position - bar.page - 1, 0));
         case ScrollRequest::PageDown:
-            // Not kept below the last position, deliberately: the bar sees to it.
+            // QUIRK: page-down-is-not-clamped. The bar keeps to its range.
             return Narrowed(position + bar.page);
         case ScrollRequest::ThumbPosition:
             return thumb;
@@ -56,7 +57,7 @@ int ScrolledControlPosition(const ScrollState& bar, ScrollRequest request, Scrol
             return Narrowed(std::max<Wide>(position - line, 0));
         case ScrollRequest::LineDown:
             return Narrowed(std::min(position + line, last));
-        // One line more than a page in both directions, deliberately.
+        // QUIRK: control-pages-go-a-line-further
         case ScrollRequest::PageUp:
             return Narrowed(std::max<Wide>(position - pageAndLine, 0));
         case ScrollRequest::PageDown:
@@ -76,7 +77,7 @@ ScrollRange HorizontalScrollRange(int contentWidth, int areaWidth) {
     return {0, Narrowed(std::max<Wide>(Wide{contentWidth} - areaWidth, 0))};
 }
 
-// Deliberately not kept above 0, unlike the horizontal one: a bar takes such a range as an empty one.
+// QUIRK: vertical-range-below-0. The horizontal one is not: a bar takes such a range as an empty one.
 ScrollRange VerticalScrollRange(int contentHeight, int areaHeight) {
     return {0, Narrowed(Wide{contentHeight} - areaHeight)};
 }

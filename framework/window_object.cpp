@@ -14,7 +14,7 @@ namespace {
 
 constexpr int ClassNameCapacity = 128;
 
-// The name is odd, but classes made without one are known by it.
+// QUIRK: class-named-value
 constexpr const wchar_t* DefaultClassName = L"Value";
 
 DWORD StyleOf(const PropertySet& properties, PropertyKey key) {
@@ -69,6 +69,7 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
         reinterpret_cast<HMENU>(properties.Get(property::ControlId)), Globals().instance,
         reinterpret_cast<void*>(properties.Get(property::CreationParameter)));
     if (window == nullptr) {
+        // QUIRK: failed-window-is-not-fatal
         ShowFatal(ParentHandle(), L"CreateWindow(%s:%s)", className, title != nullptr ? title : L"");
         return;
     }
@@ -206,7 +207,7 @@ void WindowObject::Enable() {
     ShowWindow(handle_, SW_SHOW);
 }
 
-// Hidden and shown again so that it repaints disabled.
+// QUIRK: disabling-hides-first. So it repaints disabled.
 void WindowObject::Disable() {
     ShowWindow(handle_, SW_HIDE);
     EnableWindow(handle_, FALSE);
