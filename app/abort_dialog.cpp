@@ -56,7 +56,7 @@ void AbortDialog::Abort() {
     End(ResultCancel);
 }
 
-// Not Enter: it starts searches, and pressed once too often it would end one.
+// QUIRK: enter-aborts-no-search. Enter starts searches, and pressed once too often it would end one.
 bool AbortDialog::StopsBy(const MessageRecord& key) const {
     return key.wParam == VK_ESCAPE;
 }

@@ -133,8 +133,8 @@ LRESULT AboutBox::OnOk(EventArguments&) {
     return 0;
 }
 
-// The box's own way, for an owner that binds none of its own: it asks first, and closes the owner whether the
-// keys could be removed or not.
+// For an owner that binds no routine of its own: it asks first.
+// QUIRK: about-box-closes-its-owner-anyway. Whether the keys could be removed or not.
 LRESULT AboutBox::OnUninstall(EventArguments&) {
     if (productKey_.empty()) return 0;
     if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK)

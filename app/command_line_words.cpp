@@ -37,6 +37,7 @@ CommandLineWords::~CommandLineWords() {
 }
 
 void CommandLineWords::Split() {
+    // QUIRK: words-are-split-and-ignored
     wchar_t* at = SkipBlanks(text_);
     while (*at != L'\0' && count_ < MostWords) {
         const bool quoted = *at == L'"';

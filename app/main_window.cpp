@@ -67,7 +67,7 @@ void MainWindow::AddBarButtons() {
 void MainWindow::CreateDialogs() {
     aboutBox_ = std::make_unique<AboutBox>(this);
     aboutBox_->SetRegistryKeys(MakerRegistryKey, ProductRegistryKey);
-    // Bound later than the box's own routine, so this one is found first.
+    // QUIRK: uninstall-asks-nothing. Bound later than the box's own routine, so this one is found first.
     aboutBox_->OnCommand(BUTTON_UNINSTALL, this, &MainWindow::OnUninstall);
     fileOperation_ = std::make_unique<FileOperation>(this);
     abortDialog_ = std::make_unique<AbortDialog>(this);
@@ -76,7 +76,7 @@ void MainWindow::CreateDialogs() {
 
 void MainWindow::SetInitialMenuState() {
     EnableResultCommands(false);
-    // The commands 40201 to 40203 and 40207 stand in no menu; their marks change nothing and are kept.
+    // QUIRK: marks-on-missing-items. No menu has the commands 40201 to 40203 and 40207.
     CheckMenuRadioItem(Menu(), COMMAND_VIEW_BAR_FIRST, COMMAND_VIEW_BAR_LAST, COMMAND_VIEW_BAR_FIRST,
                        MF_BYCOMMAND);
     CheckMenuRadioItem(Menu(), COMMAND_LARGE_ICON, COMMAND_DETAILS, COMMAND_DETAILS, MF_BYCOMMAND);
@@ -265,6 +265,7 @@ LRESULT MainWindow::OnUninstall(EventArguments&) {
     aboutBox_->End(Dialog::ResultCancel);
     UpdateWindow(Handle());
     if (!RemoveRegistryKeys(HKEY_CURRENT_USER, MakerRegistryKey, ProductRegistryKey)) {
+        // QUIRK: uninstall-fail
         ShowError(Handle(), InLanguage(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!"));
         return 0;
     }

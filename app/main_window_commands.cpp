@@ -62,7 +62,7 @@ void MainWindow::RunCommand(UINT command) {
     }
 }
 
-// "Save Result" and the command 40207 are routed here like the others, and do nothing.
+// QUIRK: save-result-does-nothing. It is routed here like the others, and so is the command 40207.
 void MainWindow::RunResultCommand(UINT command) {
     switch (command) {
         case COMMAND_OPEN:
@@ -105,8 +105,8 @@ LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
     return 0;
 }
 
-// Whoever presses Enter several times to start a search does not mean the file that has just been found: each
-// press that follows the last one so fast belongs to them.
+// QUIRK: late-enter-opens-nothing. Whoever presses Enter several times to start a search does not mean the
+// file that has just been found: each press that follows the last one so fast belongs to them.
 bool MainWindow::BelongsToSearch(ULONGLONG now) {
     if (now >= searchKeysEnd_) return false;
     searchKeysEnd_ = now + GetDoubleClickTime();

@@ -48,6 +48,7 @@ bool StorageCardLine(int index, wchar_t (&line)[MemoryLineCapacity]) {
     line[0] = L'\0';
     wchar_t name[MAX_PATH];
     ce::FreeAndTotal bytes;
+    // QUIRK: card-is-named-as-listed
     if (!ce::storageCalls.storageCard(index, name) || !ce::storageCalls.diskSpace(name, bytes)) return false;
     FormatMemoryLine(name, bytes, line);
     return true;

@@ -68,12 +68,14 @@ HWND FindRunningCopy() {
 void ProbePlatform(AppGlobals& globals) {
     globals.screenWidth = ce::GetSystemMetrics(SM_CXSCREEN);
     globals.screenHeight = ce::GetSystemMetrics(SM_CYSCREEN);
+    // QUIRK: screen-makes-a-pocket-pc
     globals.pocketPc = ShellHasInputPanel() || (globals.screenWidth == PocketPcScreenWidth &&
                                                 globals.screenHeight == PocketPcScreenHeight);
 }
 
 void DecideLanguage(AppGlobals& globals) {
     bool japanese = PRIMARYLANGID(ce::GetSystemDefaultLangID()) == LANG_JAPANESE;
+    // QUIRK: japanese-system-folds-trail-bytes. With the system's own conversion it stays false.
     globals.codeConversionAvailable = false;
     if (japanese) {
         globals.toMultiByte = &SystemToMultiByte;
@@ -81,7 +83,7 @@ void DecideLanguage(AppGlobals& globals) {
     } else {
         InstallConversionLibrary(globals);
     }
-    // Only now, deliberately: the conversion stays that of the system's own language.
+    // QUIRK: conversion-stays-the-systems. Only now, when it has been chosen.
     if (IsLanguageSwapped()) japanese = !japanese;
     globals.uiLanguage = japanese ? UiLanguage::Japanese : UiLanguage::English;
     globals.menuLanguage = globals.uiLanguage;

@@ -13,6 +13,7 @@ bool HasSubKey(HKEY root, const wchar_t* path) {
 
 LONG DeleteRegistryKey(HKEY root, const wchar_t* path) {
     const LONG error = ce::RegDeleteKeyW(root, path);
+    // QUIRK: wrong-parameter-counts-as-removed
     return error == ERROR_INVALID_PARAMETER ? ERROR_SUCCESS : error;
 }
 
