@@ -150,7 +150,7 @@ LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
 }
 
 LRESULT MainWindow::OnWmInitMenuPopup(MessageRecord& record) {
-    if (results != nullptr) results->OvertakeClick();
+    if (results_ != nullptr) results_->OvertakeClick();
     return DefaultProcessing(record);
 }
 

@@ -127,7 +127,7 @@ TEST_P(SheetLayout, the_sheet_fits_the_screen_with_its_page_and_both_buttons) {
 
 TEST_P(SheetLayout, the_sheet_covers_the_screen_of_a_pocket_pc_alone) {
     RECT place = {};
-    GetWindowRect(sheet, &place);
+    GetWindowRect(sheet_, &place);
     const RECT screen = ce::ScreenArea();
     EXPECT_EQ(EqualRect(&place, &screen) != FALSE, GetParam().screen == Screen::Pocket);
 }

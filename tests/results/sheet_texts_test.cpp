@@ -125,7 +125,7 @@ TEST_F(SheetTexts, stand_in_a_column_that_no_label_touches) {
 
 TEST_F(SheetTexts, reach_the_edge_of_the_page) {
     constexpr LONG Margin = 8;
-    InBothLanguages(tree.AddFile(L"a.txt", "text"), [](const OpenSheet& sheet) {
+    InBothLanguages(tree_.AddFile(L"a.txt", "text"), [](const OpenSheet& sheet) {
         const LONG edge = PageArea(sheet).right;
         for (const int id :
              {STATIC_DISPLAY_NAME, STATIC_TYPE, STATIC_LOCATION, STATIC_SIZE, STATIC_MODIFIED}) {
@@ -137,7 +137,7 @@ TEST_F(SheetTexts, reach_the_edge_of_the_page) {
 
 TEST_F(SheetTexts, that_are_long_names_take_the_lines_that_the_page_has_left) {
     const bool isHigh = GetSystemMetrics(SM_CYSCREEN) >= 320;
-    InBothLanguages(tree.AddFile(std::wstring(60, L'長') + L".txt"), [&](const OpenSheet& sheet) {
+    InBothLanguages(tree_.AddFile(std::wstring(60, L'長') + L".txt"), [&](const OpenSheet& sheet) {
         ExpectInsidePage(sheet);
         ExpectNothingCovered(sheet);
         const RECT place = sheet.Place(STATIC_DISPLAY_NAME);
@@ -149,27 +149,27 @@ TEST_F(SheetTexts, that_are_long_names_take_the_lines_that_the_page_has_left) {
 
 TEST_F(SheetTexts, that_are_cut_are_whole_in_a_tooltip) {
     const std::wstring folder = L"a folder with a name of some length";
-    const std::wstring path = tree.AddFile(folder + L"\\" + std::wstring(150, L'W') + L".txt");
+    const std::wstring path = tree_.AddFile(folder + L"\\" + std::wstring(150, L'W') + L".txt");
     SHFILEINFOW info = {};
     SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, SHGFI_DISPLAYNAME);
     InBothLanguages(path, [&](const OpenSheet& sheet) {
         ExpectInsidePage(sheet);
         ExpectNothingCovered(sheet);
         EXPECT_EQ(TipOf(sheet, STATIC_DISPLAY_NAME), info.szDisplayName);
-        EXPECT_EQ(TipOf(sheet, STATIC_LOCATION), tree.Path(folder));
+        EXPECT_EQ(TipOf(sheet, STATIC_LOCATION), tree_.Path(folder));
         EXPECT_EQ(sheet.Text(STATIC_DISPLAY_NAME), info.szDisplayName);
     });
 }
 
 TEST_F(SheetTexts, that_are_whole_have_no_tooltip) {
-    InBothLanguages(tree.AddFile(L"a.txt", "text"), [](const OpenSheet& sheet) {
+    InBothLanguages(tree_.AddFile(L"a.txt", "text"), [](const OpenSheet& sheet) {
         for (const int id : {STATIC_DISPLAY_NAME, STATIC_TYPE, STATIC_SIZE, STATIC_MODIFIED})
             EXPECT_EQ(TipOf(sheet, id), L"") << id;
     });
 }
 
 TEST_F(SheetTexts, of_a_shortcut_reach_the_edge_as_well) {
-    const std::wstring path = tree.AddFile(L"a.lnk", "13#\"C:\\windows\"");
+    const std::wstring path = tree_.AddFile(L"a.lnk", "13#\"C:\\windows\"");
     InBothLanguages(path, [](const OpenSheet& sheet) {
         sheet.TurnTo(1);
         ExpectInsidePage(sheet);
