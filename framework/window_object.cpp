@@ -123,8 +123,12 @@ void WindowObject::Forget(const WindowObject* gone) {
     if (messages_ != nullptr) messages_->RemoveTarget(gone);
 }
 
+// A control that could not be entered in the map stays as it is: its messages would find no object, and no
+// procedure of its own.
 void WindowObject::Subclass() {
     if (savedProcedure_ != nullptr || handle_ == nullptr) return;
+    const WindowMap* const map = Application::Windows();
+    if (map != nullptr && map->Find(handle_) == nullptr) return;
     savedProcedure_ = ReplaceProcedure(handle_, &FrameworkWindowProcedure);
 }
 

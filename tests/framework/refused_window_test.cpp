@@ -97,4 +97,21 @@ TEST_F(RefusedDialogs, leave_a_control_that_cannot_be_subclassed_as_it_was) {
     EXPECT_EQ(edit.DefaultProcessing(record), 5);
 }
 
+TEST_F(RefusedDialogs, leave_a_control_that_cannot_be_entered_in_the_map_as_it_was) {
+    TestWindow window;
+    const HWND edit =
+        CreateWindowExW(0, L"Edit", L"", WS_CHILD, 0, 0, 50, 20, window.Handle(), nullptr, nullptr, nullptr);
+    std::unique_ptr<Control> wrapper;
+    {
+        const RefusedMemory refused = RefusedMemory::Only(1);
+        wrapper = std::make_unique<Control>(&window, edit, L"Edit", Ownership::Wrapped);
+    }
+    ASSERT_EQ(Application::Windows()->Find(edit), nullptr);
+    wrapper->Subclass();
+    SetWindowTextW(edit, L"words");
+    EXPECT_EQ(GetWindowTextLengthW(edit), 5);
+    wrapper.reset();
+    EXPECT_EQ(GetWindowTextLengthW(edit), 5);
+}
+
 }  // namespace
