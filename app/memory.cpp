@@ -1,6 +1,7 @@
 // The program's memory, and what the C++ library does where it would throw. The program is compiled without
-// exceptions: where memory gives out and the asker does not look, it ends. The library's own versions would
-// bring the whole machinery of exceptions along, a third of the program's size, to end in the same way.
+// exceptions: where memory gives out, an asker that looks is told, and one that does not is given of a
+// reserve. When that is used up as well the program ends. The library's own versions would bring the whole
+// machinery of exceptions along, a third of the program's size, to end in the same way.
 
 #include <cstdlib>
 #include <new>
@@ -20,10 +21,23 @@ void* Allocate(std::size_t size) {
     return std::malloc(size != 0 ? size : 1);
 }
 
-void* AllocateOrEnd(std::size_t size) {
+// Enough for the dialogs and paths of a person who makes room and closes the program.
+constexpr std::size_t ReserveSize = 64 * 1024;
+
+void* reserve = nullptr;
+
+void* AllocateFromReserve(std::size_t size) {
+    std::free(reserve);
+    reserve = nullptr;
     void* const memory = Allocate(size);
     if (memory == nullptr) EndProgram();
     return memory;
+}
+
+void* AllocateOrEnd(std::size_t size) {
+    if (reserve == nullptr) reserve = Allocate(ReserveSize);
+    void* const memory = Allocate(size);
+    return memory != nullptr ? memory : AllocateFromReserve(size);
 }
 
 }  // namespace

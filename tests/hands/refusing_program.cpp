@@ -57,6 +57,7 @@ RefusingProgram::RefusingProgram() {
     refusals_ = static_cast<probe::Refusals*>(
         MapViewOfFile(section_, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(probe::Refusals)));
     if (refusals_ == nullptr) throw DriverError("there is no section for the refusals");
+    refusals_->ownerId = GetCurrentProcessId();
     SetEnvironmentVariableW(probe::RefusalsVariable, name.c_str());
 }
 
@@ -72,6 +73,13 @@ void RefusingProgram::Refuse(LONG number) {
     refusals_->asked = 0;
     refusals_->name[0] = L'\0';
     refusals_->refused = number;
+}
+
+void RefusingProgram::RefuseMemory(LONG divisor, LONG remainder) {
+    refusals_->divisor = 0;
+    refusals_->piecesAsked = 0;
+    refusals_->remainder = remainder;
+    refusals_->divisor = divisor;
 }
 
 void RefusingProgram::Start(const std::wstring& workingFolder) {

@@ -19,6 +19,11 @@ class RefusingProgram {
 
     // The creations are counted from now on, and the one with this number, from 1, fails; 0 for none.
     void Refuse(LONG number);
+    // The program's own pieces of memory are counted from now on, and every one fails whose number, divided
+    // by the divisor, leaves the remainder; a divisor of 0 for none.
+    void RefuseMemory(LONG divisor, LONG remainder = 0);
+    // The pieces asked for since.
+    [[nodiscard]] LONG PiecesAsked() const { return refusals->piecesAsked; }
     // What was refused since: a window's class, or a word for anything else; empty for nothing yet.
     [[nodiscard]] std::wstring Refused() const { return refusals_->name; }
 

@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <cstdlib>
+
 #include "tests/support/probe/imported_calls.h"
 
 namespace probe {
@@ -10,6 +12,7 @@ namespace {
 
 Refusals* refusals = nullptr;
 HHOOK creationHook = nullptr;
+bool countsMemory = false;
 
 // Counts the creation; true when it is the one that fails.
 bool Refuse(const wchar_t* name) {
@@ -79,6 +82,19 @@ HRSRC WINAPI FindTemplate(HMODULE module, const wchar_t* name, const wchar_t* ki
     return Refuse(L"template") ? nullptr : FindResourceW(module, name, kind);
 }
 
+// The program's first call. What the compiler's own start-up asks for before it, it does not look at.
+BOOL WINAPI BeginCountingMemory(DWORD mode, DWORD* before) {
+    countsMemory = true;
+    return SetThreadErrorMode(mode, before);
+}
+
+void* MakeMemory(std::size_t size) {
+    if (!countsMemory) return std::malloc(size);
+    const LONG number = InterlockedIncrement(&refusals->piecesAsked);
+    const LONG divisor = refusals->divisor;
+    return divisor != 0 && number % divisor == refusals->remainder ? nullptr : std::malloc(size);
+}
+
 template <typename Call>
 void Replace(const char* name, Call replacement) {
     ReplaceImportedCall(name, reinterpret_cast<void*>(replacement));
@@ -96,6 +112,8 @@ void ReplaceCreations() {
     Replace("ImageList_Create", &MakeImageList);
     Replace("CreatePropertySheetPageW", &MakeSheetPage);
     Replace("FindResourceW", &FindTemplate);
+    Replace("SetThreadErrorMode", &BeginCountingMemory);
+    Replace("malloc", &MakeMemory);
 }
 
 }  // namespace
@@ -107,7 +125,7 @@ void PrepareRefusals() {
     if (section == nullptr) return;
     refusals = static_cast<Refusals*>(MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(Refusals)));
     CloseHandle(section);
-    if (refusals != nullptr) ReplaceCreations();
+    if (refusals != nullptr && refusals->ownerId != GetCurrentProcessId()) ReplaceCreations();
 }
 
 }  // namespace probe
