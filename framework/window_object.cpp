@@ -68,12 +68,14 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
         NumberOf(properties, property::Width), NumberOf(properties, property::Height), ParentHandle(),
         reinterpret_cast<HMENU>(properties.Get(property::ControlId)), Globals().instance,
         reinterpret_cast<void*>(properties.Get(property::CreationParameter)));
-    if (window == nullptr) {
+    if (window == nullptr || !Attach(window)) {
+        handle_ = nullptr;
+        // One that is in no map would take no message and never tell of its end.
+        if (window != nullptr) DestroyWindow(window);
         // QUIRK: failed-window-is-not-fatal
         ShowFatal(ParentHandle(), L"CreateWindow(%s:%s)", className, title != nullptr ? title : L"");
         return;
     }
-    Attach(window);
     ownsHandle_ = true;
 }
 
