@@ -23,7 +23,7 @@ class RefusingProgram {
     // by the divisor, leaves the remainder; a divisor of 0 for none.
     void RefuseMemory(LONG divisor, LONG remainder = 0);
     // The pieces asked for since.
-    [[nodiscard]] LONG PiecesAsked() const { return refusals->piecesAsked; }
+    [[nodiscard]] LONG PiecesAsked() const { return refusals_->piecesAsked; }
     // What was refused since: a window's class, or a word for anything else; empty for nothing yet.
     [[nodiscard]] std::wstring Refused() const { return refusals_->name; }
 
