@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "framework/dialog_template.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "app/memory_lines.h"
 #include "app/uninstall.h"
-#include "base/language.h"
+#include "base/program_context.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
@@ -98,7 +98,7 @@ LRESULT AboutBox::OnWmSetFocus(MessageRecord&) {
 void AboutBox::ShowStrings() {
     for (const StringPlace& place : StringPlaces) {
         wchar_t text[StringCapacity];
-        if (LoadStringW(Globals().instance, place.string, text, StringCapacity) > 0) {
+        if (LoadStringW(Context().instance, place.string, text, StringCapacity) > 0) {
             SetDlgItemTextW(Handle(), place.control, text);
         }
     }

@@ -1,9 +1,9 @@
 #include "app/main_window.h"
 
 #include "app/page_navigation.h"
+#include "app/product.h"
 #include "app/uninstall.h"
-#include "base/language.h"
-#include "base/product.h"
+#include "base/program_context.h"
 #include "framework/message_boxes.h"
 #include "framework/property_keys.h"
 #include "resources/resource_ids.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "base/language.h"
 #include "base/format_text.h"
+#include "base/program_context.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "app/command_line_words.h"
 #include "app/main_window.h"
-#include "base/product.h"
+#include "app/product.h"
 #include "app/start_up.h"
 #include "framework/application.h"
 #include "framework/property_keys.h"
@@ -25,7 +25,7 @@ void DescribeMainWindow(PropertySet& properties) {
     properties.SetText(property::ClassName, MainWindowClass);
     properties.Set(property::SmallIcon, ICON_PROGRAM);
     properties.Set(property::MenuBar,
-                   Globals().menuLanguage == UiLanguage::Japanese ? MENU_JAPANESE : MENU_ENGLISH);
+                   Context().menuLanguage == UiLanguage::Japanese ? MENU_JAPANESE : MENU_ENGLISH);
     properties.Set(property::Accelerators, ACCELERATORS_MAIN);
     properties.Set(property::ClassBackground, ButtonFaceBrush);
     // For the date pickers of the date page.
@@ -33,16 +33,16 @@ void DescribeMainWindow(PropertySet& properties) {
 }
 
 int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showCommand) {
-    AppGlobals& globals = GlobalsForStartUp();
-    globals.instance = instance;
-    globals.commandLine = commandLine;
-    globals.showCommand = showCommand;
+    ProgramContext& context = ContextForStartUp();
+    context.instance = instance;
+    context.commandLine = commandLine;
+    context.showCommand = showCommand;
     ce::FailOnEmptyDrives();
-    ProbePlatform(globals);
-    DecideLanguage(globals);
+    ProbePlatform(context);
+    DecideLanguage(context);
     const CommandLineWords words(commandLine);
     if (BringRunningCopyForward()) {
-        ReleaseConversionLibrary(globals);
+        ReleaseConversionLibrary(context);
         return ExitRunningAlready;
     }
 
@@ -60,6 +60,6 @@ int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showComm
             exitCode = application.Run();
         }
     }
-    ReleaseConversionLibrary(globals);
+    ReleaseConversionLibrary(context);
     return exitCode;
 }

@@ -3,7 +3,7 @@
 #include "framework/property_set.h"
 #include "platform/system_types.h"
 
-// What the main window is made from, in the language of the start-up record.
+// What the main window is made from, in the language of the program context.
 void DescribeMainWindow(PropertySet& properties);
 
 // A whole run of the program, from the entry's arguments to the exit code: that of the message loop, 1

@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "base/product.h"
+#include "app/product.h"
 #include "base/registry_key.h"
 #include "platform/windows_ce.h"
 #include "search/system_text_conversion.h"
@@ -23,18 +23,18 @@ bool ShellHasInputPanel() {
 
 // On a system that is not Japanese: with the library Shift-JIS can be searched for, without it only the low
 // bytes of the text.
-void InstallConversionLibrary(AppGlobals& globals) {
-    globals.toMultiByte = &DefaultToMultiByte;
-    globals.toWide = &DefaultToWide;
-    if (globals.conversionLibrary == nullptr) globals.conversionLibrary = ce::LoadLibraryW(L"TKCONV.DLL");
-    if (globals.conversionLibrary == nullptr) return;
+void InstallConversionLibrary(ProgramContext& context) {
+    context.toMultiByte = &DefaultToMultiByte;
+    context.toWide = &DefaultToWide;
+    if (context.conversionLibrary == nullptr) context.conversionLibrary = ce::LoadLibraryW(L"TKCONV.DLL");
+    if (context.conversionLibrary == nullptr) return;
     UseConversionLibrary(reinterpret_cast<UnicodeToSjisFunction>(
-                             ce::GetProcAddressW(globals.conversionLibrary, L"unicode2sjis")),
+                             ce::GetProcAddressW(context.conversionLibrary, L"unicode2sjis")),
                          reinterpret_cast<SjisToUnicodeFunction>(
-                             ce::GetProcAddressW(globals.conversionLibrary, L"sjis2unicode")));
-    globals.toMultiByte = &LibraryToMultiByte;
-    globals.toWide = &LibraryToWide;
-    globals.codeConversionAvailable = true;
+                             ce::GetProcAddressW(context.conversionLibrary, L"sjis2unicode")));
+    context.toMultiByte = &LibraryToMultiByte;
+    context.toWide = &LibraryToWide;
+    context.codeConversionAvailable = true;
 }
 
 bool IsLanguageSwapped() {
@@ -65,35 +65,35 @@ HWND FindRunningCopy() {
 
 }  // namespace
 
-void ProbePlatform(AppGlobals& globals) {
-    globals.screenWidth = ce::GetSystemMetrics(SM_CXSCREEN);
-    globals.screenHeight = ce::GetSystemMetrics(SM_CYSCREEN);
+void ProbePlatform(ProgramContext& context) {
+    context.screenWidth = ce::GetSystemMetrics(SM_CXSCREEN);
+    context.screenHeight = ce::GetSystemMetrics(SM_CYSCREEN);
     // QUIRK: screen-makes-a-pocket-pc
-    globals.pocketPc = ShellHasInputPanel() || (globals.screenWidth == PocketPcScreenWidth &&
-                                                globals.screenHeight == PocketPcScreenHeight);
+    context.pocketPc = ShellHasInputPanel() || (context.screenWidth == PocketPcScreenWidth &&
+                                                context.screenHeight == PocketPcScreenHeight);
 }
 
-void DecideLanguage(AppGlobals& globals) {
+void DecideLanguage(ProgramContext& context) {
     bool japanese = PRIMARYLANGID(ce::GetSystemDefaultLangID()) == LANG_JAPANESE;
     // QUIRK: japanese-system-folds-trail-bytes. With the system's own conversion it stays false.
-    globals.codeConversionAvailable = false;
+    context.codeConversionAvailable = false;
     if (japanese) {
-        globals.toMultiByte = &SystemToMultiByte;
-        globals.toWide = &SystemToWide;
+        context.toMultiByte = &SystemToMultiByte;
+        context.toWide = &SystemToWide;
     } else {
-        InstallConversionLibrary(globals);
+        InstallConversionLibrary(context);
     }
     // QUIRK: conversion-stays-the-systems. Only now, when it has been chosen.
     if (IsLanguageSwapped()) japanese = !japanese;
-    globals.uiLanguage = japanese ? UiLanguage::Japanese : UiLanguage::English;
-    globals.menuLanguage = globals.uiLanguage;
+    context.uiLanguage = japanese ? UiLanguage::Japanese : UiLanguage::English;
+    context.menuLanguage = context.uiLanguage;
 }
 
-void ReleaseConversionLibrary(AppGlobals& globals) {
-    if (globals.conversionLibrary == nullptr) return;
+void ReleaseConversionLibrary(ProgramContext& context) {
+    if (context.conversionLibrary == nullptr) return;
     UseConversionLibrary(nullptr, nullptr);
-    ce::FreeLibrary(globals.conversionLibrary);
-    globals.conversionLibrary = nullptr;
+    ce::FreeLibrary(context.conversionLibrary);
+    context.conversionLibrary = nullptr;
 }
 
 bool BringRunningCopyForward() {

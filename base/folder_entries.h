@@ -1,13 +1,13 @@
 #pragma once
 
-// One enumeration of a folder, closed at the end of its life.
+// One enumeration of a folder, and the names that no walk looks at.
 
-#include "base/join_path.h"
+#include "base/paths.h"
 #include "platform/windows_ce.h"
 
 class FolderEntries {
   public:
-    // Stands on the first entry that matches; there is none in a folder that cannot be listed.
+    // Positioned on the first entry that matches; a folder that cannot be listed has none.
     FolderEntries(const wchar_t* folder, const wchar_t* pattern) {
         wchar_t path[MAX_PATH];
         if (JoinPath(path, folder, pattern)) handle_ = ce::FindFirstFileW(path, &data_);
@@ -26,3 +26,10 @@ class FolderEntries {
     HANDLE handle_ = INVALID_HANDLE_VALUE;
     WIN32_FIND_DATAW data_;
 };
+
+// Every walk over a folder calls this before it looks at an entry.
+// QUIRK: no-name-is-skipped. Windows CE lists no "." and "..", so there is nothing to skip; this is the one
+// place to change for a system that lists them.
+[[nodiscard]] inline bool IsSkippedName(const wchar_t* /*fileName*/) {
+    return false;
+}

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "base/language.h"
 #include "base/format_text.h"
+#include "base/program_context.h"
 #include "base/registry_key.h"
 
 namespace {
@@ -21,7 +21,7 @@ void RootDisplayName(wchar_t (&name)[MAX_PATH]) {
     // Empty to its end: a value that is no text is taken as it was read, without a terminator.
     std::fill(std::begin(name), std::end(name), L'\0');
     if (classes.Open(ComputerClass) && classes.QueryString(L"DisplayName", name, DisplayNameBytes)) return;
-    const wchar_t* fallback = Globals().pocketPc ? InLanguage(L"My Pocket PC", L"ﾏｲ ﾎﾟｹｯﾄ PC")
+    const wchar_t* fallback = Context().pocketPc ? InLanguage(L"My Pocket PC", L"ﾏｲ ﾎﾟｹｯﾄ PC")
                                                  : InLanguage(L"My Handheld PC", L"ﾏｲ ﾊﾝﾄﾞﾍﾙﾄﾞ PC");
     FormatText(name, std::size(name), L"%s", fallback);
 }

@@ -1,6 +1,6 @@
 #include "bench/bench_list.h"
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/property_keys.h"
 
 namespace {
@@ -16,7 +16,7 @@ HWND MakeScreen() {
 }  // namespace
 
 BenchList::BenchList() {
-    GlobalsForStartUp().instance = GetModuleHandleW(nullptr);
+    ContextForStartUp().instance = GetModuleHandleW(nullptr);
     application_ = std::make_unique<Application>(L"QuorinSearch", 0, nullptr);
     const INITCOMMONCONTROLSEX listView = {sizeof(listView), ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&listView);

@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <string>
 
-#include "base/product.h"
+#include "app/product.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
 #include "platform/system_types.h"

@@ -1,6 +1,6 @@
 #include "conditions/date_page.h"
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "base/root_name.h"
 #include "conditions/folder_tree.h"
 #include "framework/centring.h"
@@ -18,7 +18,7 @@ constexpr int ImageSize = 16;
 
 // The root is the device itself, which looks as its name in RootDisplayName says.
 int RootIcon() {
-    return Globals().pocketPc ? ICON_DEVICE : ICON_HANDHELD;
+    return Context().pocketPc ? ICON_DEVICE : ICON_HANDHELD;
 }
 
 }  // namespace
@@ -91,7 +91,7 @@ void FolderBrowseDialog::LoadImages() {
     if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
     folderImages_ = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
     for (const int id : {RootIcon(), ICON_FOLDER, ICON_OPEN_FOLDER}) {
-        const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
+        const auto icon = static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
                                                         ImageSize, ImageSize, LR_DEFAULTCOLOR));
         ImageList_ReplaceIcon(folderImages_, -1, icon);
         if (icon != nullptr) DestroyIcon(icon);

@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-#include "base/join_path.h"
-#include "base/skipped_names.h"
+#include "base/folder_entries.h"
+#include "base/paths.h"
 
 namespace {
 

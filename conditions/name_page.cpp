@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "base/format_text.h"
-#include "base/language.h"
+#include "base/program_context.h"
 #include "base/registry_key.h"
 #include "conditions/folder_browse_dialog.h"
 #include "conditions/search_history.h"

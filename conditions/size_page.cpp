@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "framework/page_fit.h"
 #include "resources/resource_ids.h"
 

@@ -1,6 +1,6 @@
 #include "fileops/confirmation_dialog.h"
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "framework/dialog_fit.h"
 #include "framework/dialog_template.h"
 #include "resources/resource_ids.h"

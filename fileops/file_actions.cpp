@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <span>
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "fileops/file_facts.h"
 #include "framework/message_boxes.h"
 #include "platform/windows_ce.h"

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <new>
 
-#include "base/language.h"
+#include "base/program_context.h"
 #include "framework/dialog_template.h"
 #include "framework/message_boxes.h"
 #include "resources/resource_ids.h"

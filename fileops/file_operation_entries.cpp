@@ -1,7 +1,6 @@
 // How the operations walk over files and folders.
 
 #include "base/folder_entries.h"
-#include "base/skipped_names.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
 #include "fileops/file_operation.h"

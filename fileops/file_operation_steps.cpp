@@ -1,6 +1,6 @@
 // What the operations do with one file.
 
-#include "base/pump_one_message.h"
+#include "base/message_pump.h"
 #include "fileops/dos_time.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"

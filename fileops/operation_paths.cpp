@@ -2,8 +2,7 @@
 
 #include <cwchar>
 
-#include "base/join_path.h"
-#include "base/split_path.h"
+#include "base/paths.h"
 #include "platform/name_wildcard.h"
 
 bool IsSeparator(wchar_t unit) {

@@ -2,10 +2,9 @@
 
 #include <iterator>
 
-#include "base/app_globals.h"
 #include "base/format_text.h"
-#include "base/language.h"
-#include "base/split_path.h"
+#include "base/paths.h"
+#include "base/program_context.h"
 #include "fileops/file_facts.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
@@ -71,7 +70,7 @@ void SetIcon(HWND dialog, int id, HICON icon) {
 }
 
 void SetProgramIcon(HWND dialog, int resource) {
-    SetIcon(dialog, STATIC_ICON, LoadIconW(Globals().instance, MAKEINTRESOURCEW(resource)));
+    SetIcon(dialog, STATIC_ICON, LoadIconW(Context().instance, MAKEINTRESOURCEW(resource)));
 }
 
 void ShowFile(HWND dialog, int detailsId, int iconId, const wchar_t* path) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/property_keys.h"
 
 namespace {
@@ -46,7 +46,7 @@ ApplicationView::ApplicationView(WindowObject* parentObject, const wchar_t* titl
     if (properties.Has(property::HasRebar)) CreateCommandBar();
     if (properties.Has(property::Accelerators)) {
         accelerators_ =
-            LoadAcceleratorsW(Globals().instance, ResourceName(properties, property::Accelerators));
+            LoadAcceleratorsW(Context().instance, ResourceName(properties, property::Accelerators));
     }
     if (properties.Has(property::HasStatusBar)) {
         statusBar_ = std::make_unique<StatusBar>(*this, rebar_ != nullptr);
@@ -59,7 +59,7 @@ ApplicationView::~ApplicationView() = default;
 
 void ApplicationView::SetSmallIcon(const PropertySet& properties) {
     if (!properties.Has(property::SmallIcon)) return;
-    const HANDLE icon = LoadImageW(Globals().instance, ResourceName(properties, property::SmallIcon),
+    const HANDLE icon = LoadImageW(Context().instance, ResourceName(properties, property::SmallIcon),
                                    IMAGE_ICON, SmallIconSize, SmallIconSize, LR_DEFAULTCOLOR);
     SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
 }
@@ -70,7 +70,7 @@ void ApplicationView::CreateMenuBar(const PropertySet& properties) {
     info.cbSize = sizeof info;
     info.hwndParent = Handle();
     info.nToolBarId = static_cast<UINT>(properties.Get(property::MenuBar));
-    info.hInstRes = Globals().instance;
+    info.hInstRes = Context().instance;
     if (!ce::SHCreateMenuBar(&info)) return;
     menuBar_ = std::make_unique<WindowObject>(this, info.hwndMB);
     menu_ = reinterpret_cast<HMENU>(SendMessageW(info.hwndMB, ce::MenuBarGetMenu, 0, 0));
@@ -109,7 +109,7 @@ RECT ApplicationView::LayoutRectangle() const {
 }
 
 void ApplicationView::Show() {
-    ShowWindow(Handle(), isMainView_ ? Globals().showCommand : SW_SHOWNORMAL);
+    ShowWindow(Handle(), isMainView_ ? Context().showCommand : SW_SHOWNORMAL);
     UpdateWindow(Handle());
 }
 

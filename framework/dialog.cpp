@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/centring.h"
 #include "framework/control.h"
@@ -66,7 +66,7 @@ Dialog::~Dialog() {
 }
 
 const DLGTEMPLATE* Dialog::FindTemplate() const {
-    const HINSTANCE instance = Globals().instance;
+    const HINSTANCE instance = Context().instance;
     const HRSRC resource = FindResourceW(instance, templateName_, RT_DIALOG);
     return resource != nullptr
                ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
@@ -79,7 +79,7 @@ void Dialog::CreateModeless() {
     if (dialogTemplate == nullptr) return;
     pendingModeless = this;
     const HWND created =
-        CreateDialogIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
+        CreateDialogIndirectParamW(Context().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
     pendingModeless = nullptr;
     // A dialog that its messages do not find would answer nobody.
     if (created != nullptr && ObjectOf(created) == nullptr) DestroyWindow(created);
@@ -97,7 +97,7 @@ INT_PTR Dialog::RunModal() {
     if (dialogTemplate == nullptr) return -1;
     pendingModal = this;
     const INT_PTR result =
-        DialogBoxIndirectParamW(Globals().instance, dialogTemplate, ParentHandle(), &ModalProcedure, 0);
+        DialogBoxIndirectParamW(Context().instance, dialogTemplate, ParentHandle(), &ModalProcedure, 0);
     pendingModal = nullptr;
     return result;
 }
@@ -262,7 +262,7 @@ void Dialog::CreateMenuBar(DialogBar bar) {
     info.cbSize = sizeof info;
     info.hwndParent = Handle();
     info.nToolBarId = MENU_BAR_DIALOG;
-    info.hInstRes = Globals().instance;
+    info.hInstRes = Context().instance;
     info.nBmpId = BITMAP_DIALOG_BAR;
     info.cBmpImages = 5;
     if (bar == DialogBar::None || !ce::SHCreateMenuBar(&info)) return;

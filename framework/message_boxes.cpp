@@ -3,8 +3,8 @@
 #include <cstdarg>
 #include <iterator>
 
-#include "base/language.h"
 #include "base/format_text.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/centring.h"
 #include "framework/sheet_fit.h"
@@ -38,7 +38,7 @@ HPROPSHEETPAGE PropertySheetPage::CreatePage() {
     PROPSHEETPAGEW page{};
     page.dwSize = sizeof page;
     page.dwFlags = PSP_USECALLBACK | PSP_USETITLE;
-    page.hInstance = Globals().instance;
+    page.hInstance = Context().instance;
     page.pszTemplate = TemplateName();
     page.pszTitle = titleText_.data();
     page.pfnDlgProc = &PageProcedure;
@@ -93,7 +93,7 @@ void PropertySheetDialog::Run() {
     // Three buttons do not fit a small screen.
     header.dwFlags = PSH_USECALLBACK | PSH_NOCONTEXTHELP | PSH_NOAPPLYNOW;
     header.hwndParent = owner_ != nullptr ? owner_->Handle() : nullptr;
-    header.hInstance = Globals().instance;
+    header.hInstance = Context().instance;
     header.pszCaption = caption_;
     header.nPages = static_cast<UINT>(handles.size());
     header.phpage = handles.data();

@@ -1,6 +1,6 @@
 #include "framework/window_class.h"
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/property_keys.h"
 #include "framework/window_object.h"
 #include "platform/windows_ce.h"
@@ -19,7 +19,7 @@ PropertyValue ValueOr(const PropertySet& properties, PropertyKey key, PropertyVa
 void RegisterWindowClass(const PropertySet& properties) {
     const wchar_t* name = properties.GetText(property::ClassName);
     WNDCLASSW windowClass{};
-    if (GetClassInfoW(Globals().instance, name, &windowClass)) return;
+    if (GetClassInfoW(Context().instance, name, &windowClass)) return;
 
     windowClass = {};
     windowClass.style = static_cast<UINT>(ValueOr(properties, property::ClassStyle, RedrawOnSizeChange));
@@ -27,7 +27,7 @@ void RegisterWindowClass(const PropertySet& properties) {
         properties, property::WindowProcedure, reinterpret_cast<PropertyValue>(&FrameworkWindowProcedure)));
     windowClass.cbClsExtra = static_cast<int>(properties.Get(property::ClassExtraBytes));
     windowClass.cbWndExtra = static_cast<int>(properties.Get(property::WindowExtraBytes));
-    windowClass.hInstance = Globals().instance;
+    windowClass.hInstance = Context().instance;
     windowClass.hIcon = reinterpret_cast<HICON>(properties.Get(property::ClassIcon));
     windowClass.hCursor = reinterpret_cast<HCURSOR>(properties.Get(property::ClassCursor));
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(ValueOr(

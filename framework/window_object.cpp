@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <new>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/fatal_message.h"
 #include "framework/property_keys.h"
@@ -66,7 +66,7 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
         StyleOf(properties, property::ExtendedStyle), className, title, StyleOf(properties, property::Style),
         NumberOf(properties, property::X), NumberOf(properties, property::Y),
         NumberOf(properties, property::Width), NumberOf(properties, property::Height), ParentHandle(),
-        reinterpret_cast<HMENU>(properties.Get(property::ControlId)), Globals().instance,
+        reinterpret_cast<HMENU>(properties.Get(property::ControlId)), Context().instance,
         reinterpret_cast<void*>(properties.Get(property::CreationParameter)));
     if (window == nullptr || !Attach(window)) {
         handle_ = nullptr;

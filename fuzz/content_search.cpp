@@ -1,7 +1,7 @@
 // Searches of file contents, one after the other over one shift table, against the plain search line by line:
 // the same answer from scans of every width, and the same table afterwards.
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/world/made_up_files.h"
 #include "search/byte_source.h"
@@ -142,7 +142,7 @@ void SearchAContent(FuzzInput& input) {
     const std::uint8_t reading = input.Byte();
     const bool folding = (reading & 1) != 0;
     const bool doubleByteAware = (reading & 2) != 0;
-    GlobalsForStartUp().codeConversionAvailable = doubleByteAware;
+    ContextForStartUp().codeConversionAvailable = doubleByteAware;
     std::string pattern = SomePattern(input);
     if (folding) UpperCaseBytes(pattern.data(), doubleByteAware);
     const std::string content = SomeContent(input, pattern);

@@ -2,12 +2,11 @@
 
 #include <cwchar>
 
+#include "base/paths.h"
 #include "fileops/operation_paths.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
 #include "platform/desktop/literal_path.h"
-#include "base/join_path.h"
-#include "base/split_path.h"
 #include "tests/platform/plain_wildcard.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <new>
 #include <string>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "resources/resource_ids.h"
 #include "results/file_type_table.h"
 
@@ -31,7 +31,7 @@ class ImageList {
         ImageList_Remove(handle_, -1);
         int count = 0;
         for (const int id : FixedIcons) {
-            const auto icon = static_cast<HICON>(LoadImageW(Globals().instance, MAKEINTRESOURCEW(id),
+            const auto icon = static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id),
                                                             IMAGE_ICON, size_, size_, LR_DEFAULTCOLOR));
             Take(icon);
             // One that cannot be loaded leaves an empty place: the others are known by their indexes.

@@ -4,10 +4,10 @@
 #include <iterator>
 #include <string>
 
-#include "base/language.h"
+#include "base/program_context.h"
+#include "base/root_name.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
-#include "base/root_name.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "base/join_path.h"
-#include "base/language.h"
+#include "base/paths.h"
+#include "base/program_context.h"
 #include "fileops/confirmation_dialog.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"

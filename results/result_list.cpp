@@ -5,8 +5,8 @@
 #include <iterator>
 #include <new>
 
-#include "base/join_path.h"
-#include "base/language.h"
+#include "base/paths.h"
+#include "base/program_context.h"
 #include "framework/property_keys.h"
 #include "framework/wait_cursor.h"
 #include "results/file_type_table.h"

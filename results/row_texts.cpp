@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "base/format_text.h"
-#include "base/split_path.h"
+#include "base/paths.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include <cwchar>
 #include <iterator>
 
-#include "base/language.h"
 #include "base/format_text.h"
+#include "base/paths.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 #include "results/shortcut_target.h"
-#include "base/join_path.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <iterator>
 
-#include "base/language.h"
-#include "fileops/file_facts.h"
 #include "base/format_text.h"
+#include "base/program_context.h"
+#include "fileops/file_facts.h"
 #include "framework/page_fit.h"
 #include "resources/resource_ids.h"
 #include "results/shortcut_target.h"

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 #include "search/byte_reader.h"
 #include "search/content_prefilter.h"
@@ -14,7 +14,7 @@ namespace {
 const char* ReadLine(const SearchConditions& conditions, ByteReader& reader) {
     char(&line)[LineBufferSize] = SharedLineBuffer();
     if (!conditions.Has(SearchConditions::IgnoreCase)) return ReadLineExact(line, LineReaderSize, reader);
-    return ReadLineUpper(line, LineReaderSize, reader, Globals().codeConversionAvailable);
+    return ReadLineUpper(line, LineReaderSize, reader, Context().codeConversionAvailable);
 }
 
 // A reader's null ends the file even where it has more.
@@ -36,7 +36,7 @@ bool FileContains(std::FILE* file, const SearchConditions& conditions) {
     const std::size_t length = std::strlen(pattern);
     const ContentVerdict verdict = JudgeContent(
         source,
-        {pattern, length, conditions.Has(SearchConditions::IgnoreCase), Globals().codeConversionAvailable});
+        {pattern, length, conditions.Has(SearchConditions::IgnoreCase), Context().codeConversionAvailable});
     // The search of the lines would have found nothing, but it would have set up the table.
     if (verdict == ContentVerdict::NoOccurrence) PrepareFindBytes(pattern, static_cast<int>(length));
     if (verdict != ContentVerdict::MayOccur) return false;

@@ -1,6 +1,6 @@
 #include "search/fill_conditions.h"
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 #include "search/double_byte_text.h"
 #include "search/text_conversion.h"
@@ -21,7 +21,7 @@ void FillContentPattern(const ConditionSource& source, SearchConditions& conditi
     // QUIRK: blanks-are-content
     if (content[0] == L'\0') return;
     conditions.flags |= SearchConditions::ContentString;
-    const ToMultiByteRoutine chosen = Globals().toMultiByte;
+    const ToMultiByteRoutine chosen = Context().toMultiByte;
     const ToMultiByteRoutine toMultiByte = chosen != nullptr ? chosen : DefaultToMultiByte;
     toMultiByte(content, conditions.contentPattern, static_cast<int>(sizeof(conditions.contentPattern)));
 }
@@ -68,6 +68,6 @@ void FillConditions(const ConditionSource& source, SearchConditions& conditions,
     FillSizeBound(source, conditions);
     // An older pattern is folded again when there is no new one; nothing reads it.
     if (conditions.Has(SearchConditions::IgnoreCase)) {
-        UpperCaseBytes(conditions.contentPattern, Globals().codeConversionAvailable);
+        UpperCaseBytes(conditions.contentPattern, Context().codeConversionAvailable);
     }
 }

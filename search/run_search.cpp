@@ -1,8 +1,8 @@
 #include "search/run_search.h"
 
+#include "base/message_pump.h"
 #include "search/fill_conditions.h"
 #include "search/name_patterns.h"
-#include "base/pump_one_message.h"
 #include "search/walk_folder.h"
 
 namespace {

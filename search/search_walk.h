@@ -2,10 +2,10 @@
 
 // What the walk over the folders carries along.
 
+#include "base/message_pump.h"
+#include "base/object_list.h"
 #include "platform/system_types.h"
 #include "search/match_sink.h"
-#include "base/object_list.h"
-#include "base/pump_one_message.h"
 #include "search/search_conditions.h"
 #include "search/search_progress.h"
 

@@ -2,10 +2,10 @@
 
 #include <cwchar>
 
+#include "base/paths.h"
 #include "search/content_matches.h"
 #include "search/date_and_size_filter.h"
 #include "search/find_wide.h"
-#include "base/join_path.h"
 
 namespace {
 

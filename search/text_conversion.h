@@ -1,7 +1,7 @@
 #pragma once
 
 // The conversion pairs that need nothing of the system: the default one, and the one over the exports of
-// TKCONV.DLL. Each routine has the type, and keeps the promise, of its slot in the start-up record.
+// TKCONV.DLL. Each routine has the type, and keeps the promise, of its slot in the program context.
 
 // One unit to a Shift-JIS code of one or two bytes, 0 when there is none.
 using UnicodeToSjisFunction = unsigned short (*)(unsigned short unit);

@@ -2,11 +2,10 @@
 
 #include <cwchar>
 
-#include "platform/name_wildcard.h"
 #include "base/folder_entries.h"
+#include "base/paths.h"
+#include "platform/name_wildcard.h"
 #include "search/held_entry.h"
-#include "base/join_path.h"
-#include "base/skipped_names.h"
 #include "search/test_entry.h"
 
 // The results come pattern by pattern, then sub-folder by sub-folder, but opening a listing costs as much as

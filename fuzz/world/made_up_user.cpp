@@ -1,8 +1,8 @@
 #include "made_up_user.h"
 
-#include "framework/message_boxes.h"
+#include "base/message_pump.h"
 #include "fileops/question_texts.h"
-#include "base/pump_one_message.h"
+#include "framework/message_boxes.h"
 
 namespace {
 

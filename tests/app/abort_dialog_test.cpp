@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "base/pump_one_message.h"
+#include "base/message_pump.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/test_world.h"
 
@@ -32,7 +32,7 @@ class Job : public WindowObject {
 class AbortDialogTest : public testing::Test {
   protected:
     void Make(UiLanguage language = UiLanguage::English) {
-        GlobalsForStartUp().uiLanguage = language;
+        ContextForStartUp().uiLanguage = language;
         dialog_ = std::make_unique<AbortDialog>(&host_.Object());
         dialog_->OnRun(&job_, &Job::Run);
     }

@@ -75,7 +75,7 @@ Look LookAt(AboutBox& about) {
 
 class AboutBoxFit : public testing::TestWithParam<UiLanguage> {
   protected:
-    AboutBoxFit() { GlobalsForStartUp().uiLanguage = GetParam(); }
+    AboutBoxFit() { ContextForStartUp().uiLanguage = GetParam(); }
 
     void ExpectEachLineWhole(const AboutBox& about) {
         for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id) {

@@ -45,7 +45,7 @@ class AboutBoxTest : public testing::Test {
         if (!box_.has_value()) box_.emplace(&host_.Object());
         return *box_;
     }
-    void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
     [[nodiscard]] HWND Item(int id) { return GetDlgItem(Box().Handle(), id); }
     [[nodiscard]] std::wstring TextOf(int id) {
         wchar_t text[512] = L"";
@@ -76,7 +76,7 @@ TEST_F(AboutBoxTest, shows_the_products_strings) {
         const UINT string = id == STATIC_LEGAL_NOTICE ? STRING_LEGAL_NOTICE
                             : id == STATIC_CONTACT_1  ? STRING_CONTACT_1
                                                       : STRING_CONTACT_2;
-        ASSERT_GT(LoadStringW(Globals().instance, string, expected, 260), 0);
+        ASSERT_GT(LoadStringW(Context().instance, string, expected, 260), 0);
         EXPECT_EQ(TextOf(id), expected);
     }
 }

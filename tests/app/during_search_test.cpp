@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "base/product.h"
+#include "app/product.h"
 #include "tests/app/main_window_test.h"
 #include "tests/support/answered_boxes.h"
 #include "tests/support/replaced_calls.h"

@@ -1,7 +1,7 @@
 // What others see of the main window while it is being taken apart: the list's end is where it takes its
 // time.
 
-#include "base/product.h"
+#include "app/product.h"
 #include "app/start_up.h"
 #include "base/registry_key.h"
 #include "tests/app/main_window_test.h"

@@ -1,7 +1,7 @@
 // What the main window makes of double clicks, keys, menu commands and edits in the list, and of the
 // Uninstall button.
 
-#include "base/product.h"
+#include "app/product.h"
 #include "tests/app/main_window_test.h"
 #include "tests/support/answered_boxes.h"
 #include "tests/support/replaced_calls.h"

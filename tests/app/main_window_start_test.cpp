@@ -1,7 +1,7 @@
 // The main window as it stands at the start.
 
+#include "app/product.h"
 #include "app/run.h"
-#include "base/product.h"
 #include "framework/property_keys.h"
 #include "tests/app/main_window_test.h"
 

@@ -1,7 +1,7 @@
 #include "tests/app/main_window_test.h"
 
+#include "app/product.h"
 #include "app/run.h"
-#include "base/product.h"
 
 MainWindowTest::MainWindowTest() {
     ForgetSettings();
@@ -24,8 +24,8 @@ void MainWindowTest::Open(UiLanguage language) {
 }
 
 void MainWindowTest::OpenFirstPicture(UiLanguage language) {
-    GlobalsForStartUp().uiLanguage = language;
-    GlobalsForStartUp().menuLanguage = language;
+    ContextForStartUp().uiLanguage = language;
+    ContextForStartUp().menuLanguage = language;
     properties_.Clear();
     DescribeMainWindow(properties_);
     window_ = std::make_unique<MainWindow>(ProductName, properties_, world_.TheApplication());

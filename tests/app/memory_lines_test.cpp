@@ -86,7 +86,7 @@ TEST_F(MemoryLinesOfDevice, have_english_labels) {
 }
 
 TEST_F(MemoryLinesOfDevice, have_japanese_labels_on_a_japanese_surface) {
-    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    ContextForStartUp().uiLanguage = UiLanguage::Japanese;
     storage_.program = {4096 * Kilobyte, 16384 * Kilobyte};
     storage_.store = {8 * Kilobyte, 32 * Kilobyte};
     EXPECT_EQ(Filled(ProgramMemoryLine), L"ﾌﾟﾛｸﾞﾗﾑ: 4096/16384KB (25%)");

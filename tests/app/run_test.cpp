@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "app/start_up.h"
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 #include "tests/support/message_pump.h"
 
@@ -55,9 +55,9 @@ class Run : public testing::Test {
   protected:
     void SetUp() override {
         seen = Seen();
-        before_ = Globals();
+        before_ = Context();
     }
-    void TearDown() override { GlobalsForStartUp() = before_; }
+    void TearDown() override { ContextForStartUp() = before_; }
 
     // Runs until a timer of the program's loop has looked and quits with 5.
     static int RunAndLook(const wchar_t* commandLine, int showCommand = SW_SHOWNORMAL) {
@@ -66,7 +66,7 @@ class Run : public testing::Test {
     }
 
   private:
-    AppGlobals before_;
+    ProgramContext before_;
 };
 
 }  // namespace
@@ -82,7 +82,7 @@ TEST_F(Run, the_show_command_is_that_of_the_start) {
     EXPECT_EQ(RunAndLook(L"", SW_HIDE), 5);
     EXPECT_EQ(seen.windows, 1);
     EXPECT_FALSE(seen.visible);
-    EXPECT_EQ(Globals().showCommand, SW_HIDE);
+    EXPECT_EQ(Context().showCommand, SW_HIDE);
 }
 
 TEST_F(Run, words_on_the_command_line_change_nothing) {
@@ -96,7 +96,7 @@ TEST_F(Run, words_on_the_command_line_change_nothing) {
 
 TEST_F(Run, the_conversion_library_is_gone_afterwards) {
     EXPECT_EQ(RunAndLook(L""), 5);
-    EXPECT_EQ(Globals().conversionLibrary, nullptr);
+    EXPECT_EQ(Context().conversionLibrary, nullptr);
 }
 
 TEST_F(Run, one_run_can_follow_another) {
@@ -114,7 +114,7 @@ TEST_F(Run, while_a_copy_runs_another_ends_with_1_and_brings_the_first_forward) 
     EXPECT_EQ(GetForegroundWindow(), copy.Window());
     EXPECT_EQ(FindWindowExW(nullptr, copy.Window(), L"QuorinSearch", nullptr), nullptr)
         << "it built a window";
-    EXPECT_EQ(Globals().conversionLibrary, nullptr);
+    EXPECT_EQ(Context().conversionLibrary, nullptr);
     DestroyWindow(other);
 }
 

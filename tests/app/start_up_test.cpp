@@ -81,7 +81,7 @@ class StartUpTest : public testing::Test {
         RemoveChange();
     }
     void TearDown() override {
-        ReleaseConversionLibrary(globals_);
+        ReleaseConversionLibrary(context_);
         UseConversionLibrary(nullptr, nullptr);
         RemoveChange();
         if (hadChange_) WriteRegistryDword(HKEY_CURRENT_USER, MakerKey, ChangeLanguage, changeBefore_);
@@ -101,26 +101,26 @@ class StartUpTest : public testing::Test {
     }
 
     bool IsPocketPc() {
-        ProbePlatform(globals_);
-        return globals_.pocketPc;
+        ProbePlatform(context_);
+        return context_.pocketPc;
     }
-    void Decide() { DecideLanguage(globals_); }
+    void Decide() { DecideLanguage(context_); }
     void ExpectLanguage(UiLanguage expected) const {
-        EXPECT_EQ(globals_.uiLanguage, expected);
-        EXPECT_EQ(globals_.menuLanguage, expected);
+        EXPECT_EQ(context_.uiLanguage, expected);
+        EXPECT_EQ(context_.menuLanguage, expected);
     }
     void ExpectPair(ToMultiByteRoutine toMultiByte, ToWideRoutine toWide, bool available) const {
-        EXPECT_EQ(globals_.toMultiByte, toMultiByte);
-        EXPECT_EQ(globals_.toWide, toWide);
-        EXPECT_EQ(globals_.codeConversionAvailable, available);
+        EXPECT_EQ(context_.toMultiByte, toMultiByte);
+        EXPECT_EQ(context_.toWide, toWide);
+        EXPECT_EQ(context_.codeConversionAvailable, available);
     }
     [[nodiscard]] std::string BytesOf(const wchar_t* text) const {
         char bytes[16];
-        globals_.toMultiByte(text, bytes, sizeof bytes);
+        context_.toMultiByte(text, bytes, sizeof bytes);
         return bytes;
     }
 
-    AppGlobals globals_;
+    ProgramContext context_;
 
   private:
     Replaced<decltype(ce::systemCalls.getSystemMetrics)> replacedMetrics_{
@@ -182,8 +182,8 @@ TEST_F(PlatformProbe, the_shell_library_is_freed_at_once) {
 
 TEST_F(PlatformProbe, the_screens_size_is_recorded) {
     EXPECT_FALSE(IsPocketPc(640, 240));
-    EXPECT_EQ(globals_.screenWidth, 640);
-    EXPECT_EQ(globals_.screenHeight, 240);
+    EXPECT_EQ(context_.screenWidth, 640);
+    EXPECT_EQ(context_.screenHeight, 240);
 }
 
 class LanguageDecision : public StartUpTest {};
@@ -201,12 +201,12 @@ TEST_F(LanguageDecision, only_the_primary_language_counts) {
     for (const LANGID language : {LANGID{0x0011}, LANGID{0x0811}, LANGID{0xFC11}}) {
         fake.language = language;
         Decide();
-        EXPECT_EQ(globals_.uiLanguage, UiLanguage::Japanese) << language;
+        EXPECT_EQ(context_.uiLanguage, UiLanguage::Japanese) << language;
     }
     for (const LANGID language : {LANGID{0x0412}, LANGID{0x0404}, LANGID{0x0407}, LANGID{0x0000}}) {
         fake.language = language;
         Decide();
-        EXPECT_EQ(globals_.uiLanguage, UiLanguage::English) << language;
+        EXPECT_EQ(context_.uiLanguage, UiLanguage::English) << language;
     }
 }
 
@@ -215,7 +215,7 @@ TEST_F(LanguageDecision, any_other_system_speaks_english_and_converts_by_the_lib
     Decide();
     ExpectLanguage(UiLanguage::English);
     ExpectPair(&LibraryToMultiByte, &LibraryToWide, true);
-    EXPECT_EQ(globals_.conversionLibrary, Library);
+    EXPECT_EQ(context_.conversionLibrary, Library);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x82\xA0");
 }
 
@@ -223,7 +223,7 @@ TEST_F(LanguageDecision, without_the_library_the_low_bytes_are_all_there_is) {
     Decide();
     ExpectLanguage(UiLanguage::English);
     ExpectPair(&DefaultToMultiByte, &DefaultToWide, false);
-    EXPECT_EQ(globals_.conversionLibrary, nullptr);
+    EXPECT_EQ(context_.conversionLibrary, nullptr);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x42");
 }
 
@@ -231,10 +231,10 @@ TEST_F(LanguageDecision, a_library_without_exports_converts_like_none) {
     fake.hasConversionLibrary = true;
     fake.conversionHasExports = false;
     Decide();
-    EXPECT_TRUE(globals_.codeConversionAvailable);
+    EXPECT_TRUE(context_.codeConversionAvailable);
     EXPECT_EQ(BytesOf(L"aあ"), "a\x42");
     wchar_t units[8];
-    globals_.toWide("a\x82\xA0", units, 8);
+    context_.toWide("a\x82\xA0", units, 8);
     EXPECT_EQ(std::wstring(units), L"a\x82\xA0");
 }
 
@@ -306,20 +306,20 @@ TEST_F(LanguageDecision, a_library_that_is_loaded_already_is_not_loaded_again) {
     Decide();
     Decide();
     EXPECT_EQ(fake.conversionLoads, 1);
-    EXPECT_TRUE(globals_.codeConversionAvailable);
+    EXPECT_TRUE(context_.codeConversionAvailable);
 }
 
 TEST_F(LanguageDecision, the_library_is_freed_once_at_the_end) {
     fake.hasConversionLibrary = true;
     Decide();
-    ReleaseConversionLibrary(globals_);
-    ReleaseConversionLibrary(globals_);
+    ReleaseConversionLibrary(context_);
+    ReleaseConversionLibrary(context_);
     EXPECT_EQ(fake.conversionFrees, 1);
-    EXPECT_EQ(globals_.conversionLibrary, nullptr);
+    EXPECT_EQ(context_.conversionLibrary, nullptr);
 }
 
 TEST_F(LanguageDecision, without_the_library_there_is_nothing_to_free) {
     Decide();
-    ReleaseConversionLibrary(globals_);
+    ReleaseConversionLibrary(context_);
     EXPECT_EQ(fake.conversionFrees, 0);
 }

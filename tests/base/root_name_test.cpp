@@ -7,7 +7,7 @@
 #include <cwchar>
 #include <string>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 
 namespace {
@@ -18,10 +18,10 @@ constexpr const wchar_t* Class = L"{000214A0-0000-0000-C000-000000000046}";
 
 class RootName : public testing::Test {
   protected:
-    RootName() : before_(Globals()) { RegDeleteTreeW(HKEY_CLASSES_ROOT, Class); }
+    RootName() : before_(Context()) { RegDeleteTreeW(HKEY_CLASSES_ROOT, Class); }
     ~RootName() override {
         RegDeleteTreeW(HKEY_CLASSES_ROOT, Class);
-        GlobalsForStartUp() = before_;
+        ContextForStartUp() = before_;
     }
 
     static void Store(DWORD type, const void* data, std::size_t size) {
@@ -41,12 +41,12 @@ class RootName : public testing::Test {
         return {name, wcsnlen(name, MAX_PATH)};
     }
     static void UseDevice(bool pocketPc, UiLanguage language) {
-        GlobalsForStartUp().pocketPc = pocketPc;
-        GlobalsForStartUp().uiLanguage = language;
+        ContextForStartUp().pocketPc = pocketPc;
+        ContextForStartUp().uiLanguage = language;
     }
 
   private:
-    AppGlobals before_;
+    ProgramContext before_;
 };
 
 TEST_F(RootName, tells_device_and_language_when_the_registry_has_no_name) {

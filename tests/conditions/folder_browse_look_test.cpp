@@ -72,7 +72,7 @@ TEST_F(FolderBrowse, the_tree_leaves_the_same_margin_at_its_sides_and_above_the_
 
 TEST_F(FolderBrowse, the_heading_ends_above_the_title_line) {
     for (const UiLanguage language : {UiLanguage::English, UiLanguage::Japanese}) {
-        GlobalsForStartUp().uiLanguage = language;
+        ContextForStartUp().uiLanguage = language;
         FolderBrowseDialog dialog(Host(), L"Select Folder");
         Run(dialog, [](HWND window) {
             EXPECT_LE(PlaceIn(window, STATIC_TITLE).bottom, 24);
@@ -83,7 +83,7 @@ TEST_F(FolderBrowse, the_heading_ends_above_the_title_line) {
 
 TEST_F(FolderBrowse, the_images_are_the_kind_of_device_a_folder_and_an_open_folder) {
     for (const bool pocketPc : {true, false}) {
-        GlobalsForStartUp().pocketPc = pocketPc;
+        ContextForStartUp().pocketPc = pocketPc;
         FolderBrowseDialog dialog(Host(), L"Select Folder");
         Run(dialog, [pocketPc](HWND window) {
             const auto images =

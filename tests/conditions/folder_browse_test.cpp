@@ -229,7 +229,7 @@ TEST_F(FolderBrowse, asks_for_patience_while_it_builds_its_tree) {
 
 TEST_F(FolderBrowse, names_its_root_after_the_kind_of_device) {
     for (const bool pocketPc : {true, false}) {
-        GlobalsForStartUp().pocketPc = pocketPc;
+        ContextForStartUp().pocketPc = pocketPc;
         FolderBrowseDialog dialog(Host(), L"Select Folder");
         Run(dialog, [&](HWND window) {
             EXPECT_EQ(TextOfItem(TreeIn(window), ItemAt(TreeIn(window), {})),

@@ -21,7 +21,7 @@ class PageTest : public testing::Test {
     PageTest();
     ~PageTest() override;
 
-    static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    static void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     // Creates the page's window and shows it.
     void Open(ConditionPage& page);

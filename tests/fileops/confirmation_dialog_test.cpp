@@ -59,9 +59,9 @@ class ConfirmationDialogTest : public testing::Test {
 
 TEST_F(ConfirmationDialogTest, takes_each_template_in_the_users_language) {
     for (const TemplateOfLanguages& entry : Templates) {
-        GlobalsForStartUp().uiLanguage = UiLanguage::English;
+        ContextForStartUp().uiLanguage = UiLanguage::English;
         EXPECT_STREQ(entry.pick(), entry.english);
-        GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+        ContextForStartUp().uiLanguage = UiLanguage::Japanese;
         EXPECT_STREQ(entry.pick(), entry.japanese);
     }
 }

@@ -81,7 +81,7 @@ HICON ProgramIcon(int id) {
 
 class QuestionTexts : public testing::Test {
   protected:
-    static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    static void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     ShownQuestion Shown(const wchar_t* templateName, void (*fill)(HWND, const wchar_t*),
                         const std::wstring& path) {

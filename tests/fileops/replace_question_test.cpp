@@ -106,7 +106,7 @@ TEST_F(FileReplaceQuestion, tells_system_before_read_only_files_in_english) {
 }
 
 TEST_F(FileReplaceQuestion, tells_system_before_read_only_files_in_japanese) {
-    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    ContextForStartUp().uiLanguage = UiLanguage::Japanese;
     for (const CaseRow& row : Cases) {
         existingAttributes = row.attributes;
         const ShownQuestion shown =

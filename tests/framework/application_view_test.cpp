@@ -211,7 +211,7 @@ TEST_F(ApplicationViews, show_about_on_help) {
 }
 
 TEST_F(ApplicationViews, are_shown_as_the_program_was_asked_to_start_when_they_are_main_views) {
-    GlobalsForStartUp().showCommand = SW_HIDE;
+    ContextForStartUp().showCommand = SW_HIDE;
     TestView main(ViewProperties(), &application_);
     TestView other(ViewProperties());
     ShowWindow(other.Handle(), SW_HIDE);

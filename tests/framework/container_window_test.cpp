@@ -45,7 +45,7 @@ class ContainerEvents : public FrameworkTest {
     HWND ForeignControl(const wchar_t* className, int id, DWORD style = 0) {
         return ::CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 60, 60, 24,
                                  window_.Handle(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
-                                 Globals().instance, nullptr);
+                                 Context().instance, nullptr);
     }
 
     TestWindow window_;

@@ -67,7 +67,7 @@ TEST_F(DialogBars, hold_cancel_and_ok) {
 }
 
 TEST_F(DialogBars, have_english_labels_on_a_japanese_surface_as_well) {
-    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    ContextForStartUp().uiLanguage = UiLanguage::Japanese;
     TestDialog dialog(L"Plain_E");
     dialog.CreateModeless();
     ASSERT_NE(dialog.MenuBar(), nullptr);
@@ -99,7 +99,7 @@ TEST_F(DialogBars, are_left_out_where_the_dialog_wants_none) {
 class ResourceThief : public Listener {
   public:
     LRESULT Steal(EventArguments&) {
-        GlobalsForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
+        ContextForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
         return 0;
     }
 };

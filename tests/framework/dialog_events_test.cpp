@@ -159,7 +159,7 @@ TEST_F(DialogNotifications, of_a_window_that_is_no_control_of_the_dialog_raise_n
     TestDialog other(L"Plain_E");
     other.CreateModeless();
     const HWND tip = ::CreateWindowExW(0, TOOLTIPS_CLASSW, nullptr, WS_POPUP, 0, 0, 10, 10, dialog_.Handle(),
-                                       nullptr, Globals().instance, nullptr);
+                                       nullptr, Context().instance, nullptr);
     ASSERT_NE(tip, nullptr);
     const WindowObject wrappedTip(&dialog_, tip, Ownership::Owned);
     dialog_.OnCommand(PLAIN_PICKER, &listener_, &Listener::TakeEvent);
@@ -176,7 +176,7 @@ TEST_F(DialogNotifications, of_a_window_that_is_no_control_of_the_dialog_raise_n
 TEST_F(DialogNotifications, of_a_window_inside_a_control_raise_nothing) {
     const HWND inner =
         ::CreateWindowExW(0, L"Button", L"", WS_CHILD, 0, 0, 10, 10, dialog_.Item(PLAIN_LIST),
-                          reinterpret_cast<HMENU>(UINT_PTR{PLAIN_BUTTON}), Globals().instance, nullptr);
+                          reinterpret_cast<HMENU>(UINT_PTR{PLAIN_BUTTON}), Context().instance, nullptr);
     ASSERT_NE(inner, nullptr);
     dialog_.OnEvent(event::DoubleClick, PLAIN_BUTTON, &listener_, &Listener::TakeEvent);
     dialog_.OnCommand(PLAIN_BUTTON, &listener_, &Listener::TakeEvent);

@@ -63,7 +63,7 @@ TEST_F(FatalMessage, names_class_and_title_of_a_window_that_cannot_be_created) {
 }
 
 TEST_F(FatalMessage, has_a_japanese_title) {
-    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    ContextForStartUp().uiLanguage = UiLanguage::Japanese;
     const AnsweredBoxes boxes{IDOK};
     const auto object = MakeImpossibleWindow(nullptr, L"タイトル");
     ASSERT_EQ(boxes.Seen().size(), 1U);

@@ -2,16 +2,16 @@
 
 #include <iterator>
 
-FrameworkTest::FrameworkTest() : recordBefore_(Globals()) {
-    AppGlobals& globals = GlobalsForStartUp();
-    globals = AppGlobals{};
-    globals.instance = GetModuleHandleW(nullptr);
-    globals.uiLanguage = UiLanguage::English;
+FrameworkTest::FrameworkTest() : contextBefore_(Context()) {
+    ProgramContext& context = ContextForStartUp();
+    context = ProgramContext{};
+    context.instance = GetModuleHandleW(nullptr);
+    context.uiLanguage = UiLanguage::English;
 }
 
 FrameworkTest::~FrameworkTest() {
     PumpMessages();
-    GlobalsForStartUp() = recordBefore_;
+    ContextForStartUp() = contextBefore_;
 }
 
 LRESULT Listener::TakeEvent(EventArguments& arguments) {

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/container_window.h"
 #include "framework/property_keys.h"
 
-// Gives each test an application and a start-up record of its own: this program's instance, English.
+// Gives each test an application and a program context of its own: this program's instance, English.
 class FrameworkTest : public testing::Test {
   protected:
     FrameworkTest();
@@ -22,7 +22,7 @@ class FrameworkTest : public testing::Test {
     Application application_{L"Framework test", 0, nullptr};
 
   private:
-    AppGlobals recordBefore_;
+    ProgramContext contextBefore_;
 };
 
 struct NotedEvent {

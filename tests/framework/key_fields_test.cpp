@@ -10,7 +10,7 @@ class KeyFields : public FrameworkTest {
     HWND MakeControl(const wchar_t* className, DWORD style) {
         return ::CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 150, 100,
                                  window_.Handle(), reinterpret_cast<HMENU>(UINT_PTR{10401}),
-                                 Globals().instance, nullptr);
+                                 Context().instance, nullptr);
     }
 
     TestWindow window_;

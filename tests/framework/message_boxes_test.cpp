@@ -43,7 +43,7 @@ TEST_F(MessageBoxes, a_confirmation_can_be_cancelled) {
 }
 
 TEST_F(MessageBoxes, have_japanese_titles_on_a_japanese_surface) {
-    GlobalsForStartUp().uiLanguage = UiLanguage::Japanese;
+    ContextForStartUp().uiLanguage = UiLanguage::Japanese;
     const AnsweredBoxes boxes{IDOK};
     ShowError(host_.Handle(), L"x");
     AskConfirmation(host_.Handle(), L"x");

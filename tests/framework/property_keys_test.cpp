@@ -27,7 +27,7 @@ class PropertyKeys : public FrameworkTest {
         properties.Set(key, value);
         const WindowObject object(nullptr, L"", properties);
         WNDCLASSW known{};
-        EXPECT_TRUE(GetClassInfoW(Globals().instance, name, &known));
+        EXPECT_TRUE(GetClassInfoW(Context().instance, name, &known));
         return known;
     }
 
@@ -77,7 +77,7 @@ TEST_F(PropertyKeys, describe_a_window) {
     const WindowObject object(&parent, L"", properties);
     ASSERT_NE(object.Handle(), nullptr);
     WNDCLASSW own{};
-    const HINSTANCE instance = Globals().instance;
+    const HINSTANCE instance = Context().instance;
     EXPECT_TRUE(!GetClassInfoW(instance, L"Edit", &own) || own.lpfnWndProc != &FrameworkWindowProcedure)
         << "registered elsewhere";
     EXPECT_EQ(GetDlgCtrlID(object.Handle()), 4321);

@@ -32,7 +32,7 @@ class ScrollBarControls : public FrameworkTest {
 TEST_F(ScrollBarControls, without_an_object_raise_the_event_with_distance_0_and_stay) {
     const HWND control = ::CreateWindowExW(0, L"ScrollBar", L"", WS_CHILD | WS_VISIBLE | SBS_VERT, 10, 20, 16,
                                            100, view_.Handle(), reinterpret_cast<HMENU>(UINT_PTR{BarId}),
-                                           Globals().instance, nullptr);
+                                           Context().instance, nullptr);
     SetControl(control, 100, 50);
     view_.OnEvent(event::VerticalScroll, reinterpret_cast<EventSource>(control), &listener_,
                   &Listener::TakeEvent);
@@ -106,7 +106,7 @@ TEST_F(ScrollBarControls, raise_the_horizontal_event_when_they_lie_across) {
 TEST_F(ScrollBarControls, that_exist_already_are_wrapped) {
     const HWND existing = ::CreateWindowExW(0, L"ScrollBar", L"", WS_CHILD | WS_VISIBLE | SBS_VERT, 10, 20,
                                             16, 100, view_.Handle(), reinterpret_cast<HMENU>(UINT_PTR{BarId}),
-                                            Globals().instance, nullptr);
+                                            Context().instance, nullptr);
     ScrollBarControl control(&view_, existing);
     control.SetSteps({4, 10});
     SetControl(existing, 100, 50);

@@ -13,7 +13,7 @@ class WindowClass : public FrameworkTest {
     // What the system knows of a class of this program; the style is ~0 when it knows none.
     static WNDCLASSW Registered(const wchar_t* name) {
         WNDCLASSW known{};
-        if (!GetClassInfoW(Globals().instance, name, &known)) known.style = ~0U;
+        if (!GetClassInfoW(Context().instance, name, &known)) known.style = ~0U;
         return known;
     }
 };
@@ -30,7 +30,7 @@ TEST_F(WindowClass, without_properties_gets_the_defaults) {
     EXPECT_EQ(known.hIcon, nullptr);
     EXPECT_EQ(known.hbrBackground, GetStockObject(WHITE_BRUSH));
     EXPECT_EQ(known.lpszMenuName, nullptr);
-    EXPECT_EQ(known.hInstance, Globals().instance);
+    EXPECT_EQ(known.hInstance, Context().instance);
 }
 
 TEST_F(WindowClass, takes_each_property_that_is_set) {

@@ -15,7 +15,7 @@ class WindowObjects : public FrameworkTest {
 
 TEST_F(WindowObjects, created_without_a_class_name_get_the_class_value) {
     WNDCLASSW known{};
-    ASSERT_FALSE(GetClassInfoW(Globals().instance, L"Value", &known)) << "registered on first use only";
+    ASSERT_FALSE(GetClassInfoW(Context().instance, L"Value", &known)) << "registered on first use only";
     PropertySet properties;
     properties.Set(property::Style, WS_POPUP);
     const WindowObject object(nullptr, L"Title", properties);
@@ -24,7 +24,7 @@ TEST_F(WindowObjects, created_without_a_class_name_get_the_class_value) {
     GetClassNameW(object.Handle(), name, 32);
     EXPECT_EQ(std::wstring(name), L"Value");
     EXPECT_EQ(std::wstring(properties.GetText(property::ClassName)), L"Value") << "stored into the set";
-    EXPECT_TRUE(GetClassInfoW(Globals().instance, L"Value", &known));
+    EXPECT_TRUE(GetClassInfoW(Context().instance, L"Value", &known));
 }
 
 TEST_F(WindowObjects, are_created_as_the_set_says) {

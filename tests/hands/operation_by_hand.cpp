@@ -2,7 +2,7 @@
 
 #include <thread>
 
-#include "base/product.h"
+#include "app/product.h"
 #include "base/registry_key.h"
 
 namespace {

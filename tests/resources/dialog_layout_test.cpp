@@ -151,7 +151,7 @@ TEST_P(DialogLayout, the_about_box_is_shown_whole) {
     for (const auto& [id, string] :
          {std::pair{11901, 101}, {11902, 102}, {11903, 103}, {11910, 104}, {11911, 105}}) {
         wchar_t text[260] = {};
-        ASSERT_GT(LoadStringW(Globals().instance, static_cast<UINT>(string), text, 260), 0);
+        ASSERT_GT(LoadStringW(Context().instance, static_cast<UINT>(string), text, 260), 0);
         SetDlgItemTextW(about.Handle(), id, text);
     }
     const wchar_t* const lines[] = {

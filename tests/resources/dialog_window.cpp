@@ -61,19 +61,19 @@ SIZE TextRoom(HWND control, const std::wstring& text, LONG width) {
 }
 
 DialogWindow::DialogWindow(const wchar_t* templateName, Screen screen, UiLanguage language)
-    : globalsBefore_(Globals()) {
+    : contextBefore_(Context()) {
     const INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_WIN95_CLASSES};
     InitCommonControlsEx(&classes);
     screenSize_.emplace(ce::systemCalls.getSystemMetrics, MetricsOf(screen));
-    GlobalsForStartUp().instance = ProgramModule();
-    GlobalsForStartUp().uiLanguage = language;
+    ContextForStartUp().instance = ProgramModule();
+    ContextForStartUp().uiLanguage = language;
     dialog_ = MakeDialog(templateName, nullptr);
     EXPECT_NE(dialog_, nullptr);
 }
 
 DialogWindow::~DialogWindow() {
     if (dialog_ != nullptr) DestroyWindow(dialog_);
-    GlobalsForStartUp() = globalsBefore_;
+    ContextForStartUp() = contextBefore_;
 }
 
 std::wstring DialogWindow::TextOf(int id) const {

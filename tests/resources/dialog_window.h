@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/ce_system.h"
 #include "tests/support/replaced_calls.h"
 
@@ -57,7 +57,7 @@ class DialogWindow {
     [[nodiscard]] LONG RoomAboveBar() const;
 
     std::optional<Replaced<int (*)(int)>> screenSize_;
-    AppGlobals globalsBefore_;
+    ProgramContext contextBefore_;
     HWND dialog_;
 };
 

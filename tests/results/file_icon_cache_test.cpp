@@ -74,7 +74,7 @@ TEST_F(FileIconCacheTest, both_lists_begin_with_the_four_fixed_images_in_their_s
 
 TEST_F(FileIconCacheTest, fixed_icons_that_cannot_be_loaded_leave_their_places_empty) {
     // A module that has none of the program's icons.
-    GlobalsForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
+    ContextForStartUp().instance = GetModuleHandleW(L"kernel32.dll");
     cache_->Fill();
     EXPECT_EQ(ImageList_GetImageCount(cache_->LargeImages()), 4);
     EXPECT_EQ(ImageList_GetImageCount(cache_->SmallImages()), 4);

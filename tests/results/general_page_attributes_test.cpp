@@ -129,7 +129,7 @@ TEST_F(GeneralPageAttributes, that_cannot_be_read_any_more_are_not_written) {
 
 TEST_F(GeneralPageAttributes, whose_change_is_refused_are_reported_once) {
     for (const UiLanguage language : {UiLanguage::English, UiLanguage::Japanese}) {
-        GlobalsForStartUp().uiLanguage = language;
+        ContextForStartUp().uiLanguage = language;
         attributesSet.clear();
         failureCode = ERROR_ACCESS_DENIED;
         std::optional<AnsweredBoxes> boxes;
@@ -155,7 +155,7 @@ using GeneralPageSizes = GeneralPageAttributes;
 
 TEST_F(GeneralPageSizes, are_shown_whole_however_long_they_are) {
     for (const UiLanguage language : {UiLanguage::English, UiLanguage::Japanese}) {
-        GlobalsForStartUp().uiLanguage = language;
+        ContextForStartUp().uiLanguage = language;
         for (const DWORD size : {500u, 102399u, 102400000u, 2147483647u}) {
             sizeNow = size;
             ShowSheet(path_, IDCANCEL, [&](const OpenSheet& sheet) {

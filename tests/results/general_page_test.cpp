@@ -78,8 +78,8 @@ TEST_F(GeneralPageTest, shows_the_roots_name_as_the_place_of_a_file_in_the_root)
                             Case{false, UiLanguage::English, L"My Handheld PC"},
                             Case{true, UiLanguage::Japanese, L"ﾏｲ ﾎﾟｹｯﾄ PC"},
                             Case{false, UiLanguage::Japanese, L"ﾏｲ ﾊﾝﾄﾞﾍﾙﾄﾞ PC"}}) {
-        GlobalsForStartUp().pocketPc = one.pocketPc;
-        GlobalsForStartUp().uiLanguage = one.language;
+        ContextForStartUp().pocketPc = one.pocketPc;
+        ContextForStartUp().uiLanguage = one.language;
         ShowSheet(L"\\no such file.txt", IDCANCEL,
                   [&](const OpenSheet& sheet) { EXPECT_EQ(sheet.Text(11903), one.name); });
     }

@@ -46,7 +46,7 @@ class PropertiesTest : public testing::Test {
     // changed something.
     bool ShowSheet(const std::wstring& path, int button, const Doing& doing = {});
 
-    static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    static void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
     // 2002-07-15 00:05:30 UTC, which is 09:05:30 here.
     static void SetWritten(const std::wstring& path);
     // That time in the system's own short forms.

@@ -40,7 +40,7 @@ class ResultCommandsTest : public testing::Test {
     ResultCommandsTest();
     ~ResultCommandsTest() override;
 
-    static void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    static void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     // The list is made at the first use, so that a test may choose the language before.
     ResultList& List();

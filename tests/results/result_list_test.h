@@ -16,7 +16,7 @@
 class ResultListTest : public testing::Test {
   protected:
     // The list is made at the first use of List, so that a test may choose the language before.
-    void UseJapanese() { GlobalsForStartUp().uiLanguage = UiLanguage::Japanese; }
+    void UseJapanese() { ContextForStartUp().uiLanguage = UiLanguage::Japanese; }
 
     ResultList& List() {
         if (list_ == nullptr) {

@@ -105,7 +105,7 @@ class SheetTexts : public PropertiesTest {
   protected:
     void InBothLanguages(const std::wstring& path, const Doing& doing) {
         for (const UiLanguage language : {UiLanguage::English, UiLanguage::Japanese}) {
-            GlobalsForStartUp().uiLanguage = language;
+            ContextForStartUp().uiLanguage = language;
             ShowSheet(path, IDCANCEL, doing);
         }
     }

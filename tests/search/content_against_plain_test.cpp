@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "search/content_matches.h"
 #include "search/shift_table.h"
 #include "tests/search/fake_folders.h"
@@ -18,7 +18,7 @@ namespace {
 class ContentAgainstPlain : public testing::Test {
   protected:
     ContentAgainstPlain() { SharedShiftTable().Clear(); }
-    ~ContentAgainstPlain() override { GlobalsForStartUp().codeConversionAvailable = false; }
+    ~ContentAgainstPlain() override { ContextForStartUp().codeConversionAvailable = false; }
 
     int UpTo(int most) { return std::uniform_int_distribution<int>(0, most)(engine_); }
 
@@ -75,7 +75,7 @@ TEST_F(ContentAgainstPlain, finds_the_same_and_leaves_the_same_table) {
         const std::string pattern = Patterns[UpTo(static_cast<int>(std::size(Patterns)) - 1)];
         const bool folding = UpTo(1) == 0;
         const bool doubleByteAware = UpTo(1) == 0;
-        GlobalsForStartUp().codeConversionAvailable = doubleByteAware;
+        ContextForStartUp().codeConversionAvailable = doubleByteAware;
         const std::string content = SomeContent(pattern);
         folders_.SetContent(L"\\file", content);
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "search/double_byte_text.h"
 #include "search/shift_table.h"
 #include "tests/support/temp_tree.h"
@@ -18,7 +18,7 @@ constexpr std::uint16_t Folding = SearchConditions::ContentString | SearchCondit
 class ContentMatchesTest : public testing::Test {
   protected:
     ContentMatchesTest() { SharedShiftTable().Clear(); }
-    ~ContentMatchesTest() override { GlobalsForStartUp().codeConversionAvailable = false; }
+    ~ContentMatchesTest() override { ContextForStartUp().codeConversionAvailable = false; }
 
     // Whether a file of these bytes is found by the pattern, folded as the filling of the conditions folds
     // it.
@@ -33,7 +33,7 @@ class ContentMatchesTest : public testing::Test {
         conditions.flags = flags;
         std::snprintf(conditions.contentPattern, sizeof(conditions.contentPattern), "%s", pattern.c_str());
         if (conditions.Has(SearchConditions::IgnoreCase)) {
-            UpperCaseBytes(conditions.contentPattern, Globals().codeConversionAvailable);
+            UpperCaseBytes(conditions.contentPattern, Context().codeConversionAvailable);
         }
         WIN32_FIND_DATAW entry = {};
         entry.dwFileAttributes = attributes;
@@ -104,10 +104,10 @@ TEST_F(ContentMatchesTest, looks_at_a_line_up_to_its_first_nul_only) {
 
 TEST_F(ContentMatchesTest, folds_no_trail_byte_when_double_byte_characters_are_known) {
     // 0x83 0x61 is a character whose trail byte reads as "a"; 0x83 0x41 is another one.
-    GlobalsForStartUp().codeConversionAvailable = true;
+    ContextForStartUp().codeConversionAvailable = true;
     EXPECT_TRUE(Finds(Folding, "\x83\x61", "x\x83\x61\n"));
     EXPECT_FALSE(Finds(Folding, "\x83\x61", "x\x83\x41\n"));
-    GlobalsForStartUp().codeConversionAvailable = false;
+    ContextForStartUp().codeConversionAvailable = false;
     EXPECT_TRUE(Finds(Folding, "\x83\x61", "x\x83\x61\n"));
     EXPECT_TRUE(Finds(Folding, "\x83\x61", "x\x83\x41\n"));
 }

@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <string>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "platform/windows_ce.h"
 #include "search/date_and_size_filter.h"
 #include "search/double_byte_text.h"
@@ -88,7 +88,7 @@ class FillConditionsTest : public testing::Test {
     FillConditionsTest() { ce::systemCalls.localFileTimeToFileTime = FromNineHoursEast; }
     ~FillConditionsTest() override {
         ce::systemCalls = systemCallsBefore_;
-        GlobalsForStartUp() = globalsBefore_;
+        ContextForStartUp() = contextBefore_;
     }
 
     void Fill() { FillConditions(pages_, conditions_, texts_); }
@@ -99,7 +99,7 @@ class FillConditionsTest : public testing::Test {
 
   private:
     const ce::SystemCalls systemCallsBefore_ = ce::systemCalls;
-    const AppGlobals globalsBefore_ = Globals();
+    const ProgramContext contextBefore_ = Context();
 };
 
 }  // namespace
@@ -149,7 +149,7 @@ TEST_F(FillConditionsTest, a_content_text_that_converts_to_nothing_still_sets_it
 }
 
 TEST_F(FillConditionsTest, the_conversion_of_the_start_up_record_is_used_with_520_bytes) {
-    GlobalsForStartUp().toMultiByte = WritesAbc;
+    ContextForStartUp().toMultiByte = WritesAbc;
     pages_.content = L"x";
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "aBc");
@@ -170,14 +170,14 @@ TEST_F(FillConditionsTest, the_case_option_counts_as_unchecked_only_with_a_state
 }
 
 TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_conversion_library) {
-    GlobalsForStartUp().toMultiByte = [](const wchar_t*, char* destination, int) {
+    ContextForStartUp().toMultiByte = [](const wchar_t*, char* destination, int) {
         strcpy(destination, "a\x83\x61");
     };
     pages_.content = L"x";
     pages_.caseState = 0;
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "A\x83\x41");
-    GlobalsForStartUp().codeConversionAvailable = true;
+    ContextForStartUp().codeConversionAvailable = true;
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "A\x83\x61");
 }
@@ -321,7 +321,7 @@ TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_co
     pages_.content = std::wstring(bytes.begin(), bytes.end());
     for (const ToMultiByteRoutine conversion :
          {&DefaultToMultiByte, &LibraryToMultiByte, &SystemToMultiByte}) {
-        GlobalsForStartUp().toMultiByte = conversion;
+        ContextForStartUp().toMultiByte = conversion;
         Fill();
         EXPECT_EQ(bytes, conditions_.contentPattern);
     }
@@ -330,14 +330,14 @@ TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_co
 TEST_F(FillConditionsTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_last_character_that_fits) {
     UseConversionLibrary([](unsigned short unit) -> unsigned short { return unit == L'あ' ? 0x82A0 : 0; },
                          nullptr);
-    GlobalsForStartUp().toMultiByte = &LibraryToMultiByte;
+    ContextForStartUp().toMultiByte = &LibraryToMultiByte;
     pages_.content = std::wstring(260, L'あ');
     Fill();
     UseConversionLibrary(nullptr, nullptr);
     // A pair of which only the first byte fits is cut there.
     EXPECT_EQ(std::strlen(conditions_.contentPattern), 519U);
     if (GetACP() != 932) return;
-    GlobalsForStartUp().toMultiByte = &SystemToMultiByte;
+    ContextForStartUp().toMultiByte = &SystemToMultiByte;
     Fill();
     EXPECT_EQ(std::strlen(conditions_.contentPattern), 518U);
 }

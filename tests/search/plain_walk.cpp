@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/windows_ce.h"
-#include "base/join_path.h"
 #include "search/test_entry.h"
 
 namespace {

@@ -5,12 +5,12 @@
 #include <string>
 #include <type_traits>
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "tkconv/tkconv.h"
 
 namespace {
 
-// The four routines fit the slots of the start-up record.
+// The four routines fit the slots of the program context.
 constexpr ToMultiByteRoutine ToMultiByteRoutines[] = {DefaultToMultiByte, LibraryToMultiByte};
 constexpr ToWideRoutine ToWideRoutines[] = {DefaultToWide, LibraryToWide};
 

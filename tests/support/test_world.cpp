@@ -15,18 +15,18 @@ PropertySet& DescribeHost(PropertySet& properties) {
 
 }  // namespace
 
-TestWorld::TestWorld(UiLanguage language) : before_(Globals()), application_(L"QuorinSearch", 0, nullptr) {
-    AppGlobals& globals = GlobalsForStartUp();
-    globals.instance = GetModuleHandleW(nullptr);
-    globals.showCommand = SW_SHOWNORMAL;
-    globals.uiLanguage = language;
-    globals.menuLanguage = language;
-    globals.toMultiByte = &DefaultToMultiByte;
-    globals.toWide = &DefaultToWide;
+TestWorld::TestWorld(UiLanguage language) : before_(Context()), application_(L"QuorinSearch", 0, nullptr) {
+    ProgramContext& context = ContextForStartUp();
+    context.instance = GetModuleHandleW(nullptr);
+    context.showCommand = SW_SHOWNORMAL;
+    context.uiLanguage = language;
+    context.menuLanguage = language;
+    context.toMultiByte = &DefaultToMultiByte;
+    context.toWide = &DefaultToWide;
 }
 
 TestWorld::~TestWorld() {
-    GlobalsForStartUp() = before_;
+    ContextForStartUp() = before_;
 }
 
 HostWindow::HostWindow() : window_(nullptr, L"", DescribeHost(properties_)) {}

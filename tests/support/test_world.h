@@ -1,9 +1,9 @@
 #pragma once
 
-// What start-up leaves behind for the windows: the start-up record and the application object. And a plain
+// What start-up leaves behind for the windows: the program context and the application object. And a plain
 // window for a control or a page to stand in.
 
-#include "base/app_globals.h"
+#include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/container_window.h"
 
@@ -18,7 +18,7 @@ class TestWorld {
     [[nodiscard]] Application& TheApplication() { return application_; }
 
   private:
-    AppGlobals before_;
+    ProgramContext before_;
     Application application_;
 };
 

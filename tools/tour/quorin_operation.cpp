@@ -8,7 +8,7 @@
 #include <shellapi.h>
 
 #include "app/main_window.h"
-#include "base/product.h"
+#include "app/product.h"
 #include "app/run.h"
 #include "app/start_up.h"
 
@@ -38,13 +38,13 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int showCommand) {
     int count = 0;
     wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
     if (words == nullptr || count != 3) return ExitNotUnderstood;
-    AppGlobals& globals = GlobalsForStartUp();
-    globals.instance = instance;
-    globals.showCommand = showCommand;
-    ProbePlatform(globals);
-    DecideLanguage(globals);
+    ProgramContext& context = ContextForStartUp();
+    context.instance = instance;
+    context.showCommand = showCommand;
+    ProbePlatform(context);
+    DecideLanguage(context);
     const int exitCode = CopyInMainWindow(words[1], words[2]);
-    ReleaseConversionLibrary(globals);
+    ReleaseConversionLibrary(context);
     LocalFree(words);
     return exitCode;
 }

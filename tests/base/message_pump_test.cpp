@@ -1,4 +1,4 @@
-#include "base/pump_one_message.h"
+#include "base/message_pump.h"
 
 #include <gtest/gtest.h>
 
@@ -24,16 +24,16 @@ LRESULT CALLBACK NotingProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 // A window that shows nothing, with an empty queue at the start and at the end.
-class PumpOneMessageTest : public testing::Test {
+class MessagePump : public testing::Test {
   protected:
-    PumpOneMessageTest() {
+    MessagePump() {
         noted.clear();
         window_ = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
         SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(NotingProcedure));
         EmptyQueue();
         ExpectMessages();
     }
-    ~PumpOneMessageTest() override {
+    ~MessagePump() override {
         DestroyWindow(window_);
         EmptyQueue();
     }
@@ -51,7 +51,7 @@ class PumpOneMessageTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(PumpOneMessageTest, takes_one_message_a_call_in_the_order_of_the_queue) {
+TEST_F(MessagePump, takes_one_message_a_call_in_the_order_of_the_queue) {
     Post(1);
     Post(2);
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Dispatched);
@@ -61,14 +61,14 @@ TEST_F(PumpOneMessageTest, takes_one_message_a_call_in_the_order_of_the_queue) {
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Empty);
 }
 
-TEST_F(PumpOneMessageTest, translates_keys_into_characters) {
+TEST_F(MessagePump, translates_keys_into_characters) {
     ASSERT_TRUE(PostMessageW(window_, WM_KEYDOWN, 'A', 0x001E0001));
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Dispatched);
     MSG message;
     EXPECT_TRUE(PeekMessageW(&message, window_, WM_CHAR, WM_CHAR, PM_REMOVE));
 }
 
-TEST_F(PumpOneMessageTest, does_not_look_again_right_after_an_empty_queue) {
+TEST_F(MessagePump, does_not_look_again_right_after_an_empty_queue) {
     // The clock may move on just between two calls, so it is tried a few times.
     bool left = false;
     for (int tries = 0; tries < 50 && !left; ++tries) {
@@ -82,7 +82,7 @@ TEST_F(PumpOneMessageTest, does_not_look_again_right_after_an_empty_queue) {
     EXPECT_TRUE(left);
 }
 
-TEST_F(PumpOneMessageTest, looks_again_when_some_time_has_passed) {
+TEST_F(MessagePump, looks_again_when_some_time_has_passed) {
     ASSERT_EQ(PumpOneMessage(), PumpOutcome::Empty);
     Post(1);
     Sleep(60);
@@ -90,7 +90,7 @@ TEST_F(PumpOneMessageTest, looks_again_when_some_time_has_passed) {
     EXPECT_EQ(noted, std::vector<WPARAM>{1});
 }
 
-TEST_F(PumpOneMessageTest, looks_at_once_when_messages_are_expected) {
+TEST_F(MessagePump, looks_at_once_when_messages_are_expected) {
     ASSERT_EQ(PumpOneMessage(), PumpOutcome::Empty);
     Post(1);
     ExpectMessages();
@@ -98,7 +98,7 @@ TEST_F(PumpOneMessageTest, looks_at_once_when_messages_are_expected) {
     EXPECT_EQ(noted, std::vector<WPARAM>{1});
 }
 
-TEST_F(PumpOneMessageTest, leaves_a_quit_in_the_queue_and_says_so_every_time) {
+TEST_F(MessagePump, leaves_a_quit_in_the_queue_and_says_so_every_time) {
     PostQuitMessage(7);
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Quit);
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Quit);
@@ -109,7 +109,7 @@ TEST_F(PumpOneMessageTest, leaves_a_quit_in_the_queue_and_says_so_every_time) {
     EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
-TEST_F(PumpOneMessageTest, delivers_what_was_posted_before_the_quit_first) {
+TEST_F(MessagePump, delivers_what_was_posted_before_the_quit_first) {
     Post(1);
     PostQuitMessage(0);
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Dispatched);
@@ -117,7 +117,7 @@ TEST_F(PumpOneMessageTest, delivers_what_was_posted_before_the_quit_first) {
     EXPECT_EQ(PumpOneMessage(), PumpOutcome::Quit);
 }
 
-TEST_F(PumpOneMessageTest, may_be_called_by_what_it_dispatches) {
+TEST_F(MessagePump, may_be_called_by_what_it_dispatches) {
     ASSERT_TRUE(PostMessageW(window_, Nested, 0, 0));
     Post(1);
     Post(2);

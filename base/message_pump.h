@@ -3,14 +3,15 @@
 // How a long piece of work on the one thread keeps the windows alive.
 
 enum class PumpOutcome {
-    // Not looked: the queue was empty only just now.
+    // Did not look: the queue was empty only just now.
     NotYet,
     // Looked, and nothing was waiting.
     Empty,
     // One message was taken and dispatched; more may wait.
     Dispatched,
-    // The program is to end, and the work with it. The quit waits in the queue again for the loop outside, so
-    // every further call says the same.
+    // The program is to end, and the work with it. The quit message is posted again for the outer loop, so
+    // every
+    // further call returns the same.
     Quit,
 };
 

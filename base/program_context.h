@@ -1,20 +1,20 @@
 #pragma once
 
-// The start-up record: written once before any window exists, read everywhere afterwards. It stands on the
-// lowest floor, because every floor above reads it, and includes nothing but the system's own records.
+// What start-up finds out about the program and its device. Written once before any window exists, read
+// everywhere afterwards.
 
 #include "platform/system_types.h"
 
 enum class UiLanguage { English, Japanese };
 
-// Brings a terminated text into the device's bytes: at most destinationSize - 1 bytes and a NUL. A
+// Converts a terminated text to the device's bytes: at most destinationSize - 1 bytes and a NUL. A
 // destination of no size is left alone.
 using ToMultiByteRoutine = void (*)(const wchar_t* source, char* destination, int destinationSize);
 
-// The way back: at most destinationSize - 1 units and a terminator.
+// Converts them back: at most destinationSize - 1 units and a terminator.
 using ToWideRoutine = void (*)(const char* source, wchar_t* destination, int destinationSize);
 
-struct AppGlobals {
+struct ProgramContext {
     HINSTANCE instance = nullptr;
     const wchar_t* commandLine = L"";
     // Used only for the first showing of the main window.
@@ -25,7 +25,7 @@ struct AppGlobals {
     UiLanguage uiLanguage = UiLanguage::English;
     // Picks the menu-bar resource; always the same as uiLanguage.
     UiLanguage menuLanguage = UiLanguage::English;
-    // Double-byte characters are known to the content search: TKCONV.DLL was loaded on a system that is
+    // The content search knows double-byte characters: TKCONV.DLL was loaded on a system that is
     // not Japanese.
     bool codeConversionAvailable = false;
     // The default pair until start-up has chosen another.
@@ -35,7 +35,20 @@ struct AppGlobals {
 };
 
 // What the program reads.
-[[nodiscard]] const AppGlobals& Globals();
+[[nodiscard]] const ProgramContext& Context();
 
 // What start-up (and a test that sets its own world) writes.
-[[nodiscard]] AppGlobals& GlobalsForStartUp();
+[[nodiscard]] ProgramContext& ContextForStartUp();
+
+// The text in the user's language. Both are written side by side where they are used.
+inline const wchar_t* InLanguage(const wchar_t* english, const wchar_t* japanese) {
+    return Context().uiLanguage == UiLanguage::Japanese ? japanese : english;
+}
+
+// The same for texts in tables.
+struct TextPair {
+    const wchar_t* english;
+    const wchar_t* japanese;
+
+    [[nodiscard]] const wchar_t* Text() const { return InLanguage(english, japanese); }
+};

@@ -1,21 +1,21 @@
-#include "base/pump_one_message.h"
+#include "base/message_pump.h"
 
 #include "platform/windows_ce.h"
 
 namespace {
 
-constexpr ULONGLONG MillisecondsBetweenLooks = 10;
+constexpr DWORD MillisecondsBetweenLooks = 10;
 
 // One queue, one thread: shared by every piece of work that pumps.
 bool lookAtOnce = true;
-ULONGLONG lastEmptyLook = 0;
+DWORD lastEmptyLook = 0;
 
 }  // namespace
 
 PumpOutcome PumpOneMessage() {
-    // Reading this clock costs nothing; it may be a few milliseconds behind, which only delays the look by
-    // them.
-    const ULONGLONG now = GetTickCount64();
+    // Reading this clock costs nothing; it may be a few milliseconds behind, which only delays the look. It
+    // starts again at 0 after 49 days, which an unsigned difference does not notice.
+    const DWORD now = GetTickCount();
     if (!lookAtOnce && now - lastEmptyLook < MillisecondsBetweenLooks) return PumpOutcome::NotYet;
 
     MSG message;

@@ -1,0 +1,13 @@
+#include "base/program_context.h"
+
+namespace {
+ProgramContext context;
+}
+
+const ProgramContext& Context() {
+    return context;
+}
+
+ProgramContext& ContextForStartUp() {
+    return context;
+}
