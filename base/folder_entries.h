@@ -3,27 +3,22 @@
 // One enumeration of a folder, and the names that no walk looks at.
 
 #include "base/paths.h"
-#include "platform/windows_ce.h"
+#include "platform/handles.h"
 
 class FolderEntries {
   public:
     // Positioned on the first entry that matches; a folder that cannot be listed has none.
     FolderEntries(const wchar_t* folder, const wchar_t* pattern) {
         wchar_t path[MAX_PATH];
-        if (JoinPath(path, folder, pattern)) handle_ = ce::FindFirstFileW(path, &data_);
-    }
-    FolderEntries(const FolderEntries&) = delete;
-    FolderEntries& operator=(const FolderEntries&) = delete;
-    ~FolderEntries() {
-        if (HasEntry()) ce::FindClose(handle_);
+        if (JoinPath(path, folder, pattern)) search_.Reset(ce::FindFirstFileW(path, &data_));
     }
 
-    [[nodiscard]] bool HasEntry() const { return handle_ != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] bool HasEntry() const { return static_cast<bool>(search_); }
     [[nodiscard]] const WIN32_FIND_DATAW& Entry() const { return data_; }
-    [[nodiscard]] bool MoveOn() { return ce::FindNextFileW(handle_, &data_) != FALSE; }
+    [[nodiscard]] bool MoveOn() { return ce::FindNextFileW(search_.Get(), &data_) != FALSE; }
 
   private:
-    HANDLE handle_ = INVALID_HANDLE_VALUE;
+    UniqueFind search_;
     WIN32_FIND_DATAW data_;
 };
 

@@ -1,30 +1,29 @@
 #include "base/registry_key.h"
 
+namespace {
+
+LONG OpenKey(HKEY root, const wchar_t* path, UniqueKey& key) {
+    return ce::RegOpenKeyExW(root, path, 0, KEY_ALL_ACCESS, key.Receive());
+}
+
+LONG CreateKey(HKEY root, const wchar_t* path, UniqueKey& key) {
+    return ce::RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, key.Receive(), nullptr);
+}
+
+}  // namespace
+
 bool RegistryKey::Open(const wchar_t* path) {
-    Close();
-    if (ce::RegOpenKeyExW(root_, path, 0, KEY_ALL_ACCESS, &key_) == ERROR_SUCCESS) return true;
-    key_ = nullptr;
-    return false;
+    return OpenKey(root_, path, key_) == ERROR_SUCCESS;
 }
 
 bool RegistryKey::Create(const wchar_t* path) {
-    Close();
-    const LONG error =
-        ce::RegCreateKeyExW(root_, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
-    if (error == ERROR_SUCCESS) return true;
-    key_ = nullptr;
-    return false;
-}
-
-void RegistryKey::Close() {
-    if (key_ != nullptr) RegCloseKey(key_);
-    key_ = nullptr;
+    return CreateKey(root_, path, key_) == ERROR_SUCCESS;
 }
 
 bool RegistryKey::QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const {
     DWORD type = REG_NONE;
     DWORD size = sizeInBytes;
-    if (ce::RegQueryValueExW(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) !=
+    if (ce::RegQueryValueExW(key_.Get(), name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) !=
         ERROR_SUCCESS) {
         buffer[0] = L'\0';
         return false;
@@ -37,20 +36,16 @@ bool RegistryKey::QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeIn
 }
 
 LONG ReadRegistryDword(HKEY root, const wchar_t* path, const wchar_t* name, DWORD& value) {
-    HKEY key = nullptr;
-    LONG error = ce::RegOpenKeyExW(root, path, 0, KEY_ALL_ACCESS, &key);
+    UniqueKey key;
+    const LONG error = OpenKey(root, path, key);
     if (error != ERROR_SUCCESS) return error;
     DWORD size = sizeof value;
-    error = ce::RegQueryValueExW(key, name, nullptr, nullptr, reinterpret_cast<BYTE*>(&value), &size);
-    RegCloseKey(key);
-    return error;
+    return ce::RegQueryValueExW(key.Get(), name, nullptr, nullptr, reinterpret_cast<BYTE*>(&value), &size);
 }
 
 LONG WriteRegistryDword(HKEY root, const wchar_t* path, const wchar_t* name, DWORD value) {
-    HKEY key = nullptr;
-    LONG error = ce::RegCreateKeyExW(root, path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    UniqueKey key;
+    const LONG error = CreateKey(root, path, key);
     if (error != ERROR_SUCCESS) return error;
-    error = RegSetValueExW(key, name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
-    RegCloseKey(key);
-    return error;
+    return RegSetValueExW(key.Get(), name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
 }

@@ -2,30 +2,27 @@
 
 // One registry key at a time under a root, closed by itself, and the one-shot access to DWORD values.
 
-#include "platform/windows_ce.h"
+#include "platform/handles.h"
 
 class RegistryKey {
   public:
     explicit RegistryKey(HKEY rootKey) : root_(rootKey) {}
-    ~RegistryKey() { Close(); }
-    RegistryKey(const RegistryKey&) = delete;
-    RegistryKey& operator=(const RegistryKey&) = delete;
 
     // False when it cannot be opened or created. A key that is still open is closed first.
     bool Open(const wchar_t* path);
     bool Create(const wchar_t* path);
-    void Close();
+    void Close() { key_.Reset(); }
 
     // Reads a text value; sizeInBytes is the buffer's, of one unit at least. A value that cannot be read or
     // does not fit leaves an empty text and answers false. Text types are terminated where there is room for
     // it; others are left as read.
     bool QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const;
 
-    [[nodiscard]] HKEY Handle() const { return key_; }
+    [[nodiscard]] HKEY Handle() const { return key_.Get(); }
 
   private:
     HKEY root_;
-    HKEY key_ = nullptr;
+    UniqueKey key_;
 };
 
 // Both return the registry's error code, 0 for success. A value of another type or size is read as far as it
