@@ -47,7 +47,7 @@ class FileByteSource final : public ByteSource {
 #ifdef _WIN32
         return _read(_fileno(file_), block, static_cast<unsigned>(size));
 #else
-        return read(fileno(file), block, size);
+        return read(fileno(file_), block, size);
 #endif
     }
 
