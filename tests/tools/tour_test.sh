@@ -26,10 +26,11 @@ test_without_conditions_every_text_file_of_the_sample_device_is_found() {
         '\Storage Card\Backup\Meeting notes.txt')" "$(cut -f 1 "$scratch/rows" | LC_ALL=C sort)"
     expect_match 'the row of a file' '*\\Meeting notes.txt'$'\t62\t*\t''02/07/15 09:05:30' \
         "$(grep -F 'Business\Meeting notes.txt' "$scratch/rows")"
-    # Without the steps of a set-up that may have come before.
-    shown=$(tr -d '\r' <"$scratch/shown" | sed -n '/^ *starting/,$p')
+    # Without the progress, and without the steps of a set-up that may have come before.
+    shown=$(sed 's/\r*$//; s/.*\r//' "$scratch/shown" | sed -n '/^starting/,$p')
     expect_equal 'what the terminal shows' "$(lines 'starting QuorinSearch' searching 'rows found: 14' \
         "the pictures: $(cd "$root" && realpath --relative-base="$OLDPWD" build/tour/index.html)")" "$shown"
+    expect_match 'the progress' $'*\rpicture 9 *' "$(<"$scratch/shown")"
     expect_page 240x320 "${steps[@]}" sorted "${rowSteps[@]}" "${lastSteps[@]}"
     expect_browser_shows 240x320
 }

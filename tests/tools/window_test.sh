@@ -24,7 +24,7 @@ run_and_close() {
     (wine_environment "$prefixDir/run-ja-640x240" ja && drive close)
     expect_that 'the script ends with its window' wait_until 30 process_ended "$scriptPid"
     wait "$scriptPid"
-    tr -d '\r' <"$scratch/shown"
+    sed 's/\r*$//; s/.*\r//' "$scratch/shown"
 }
 
 # Other sizes than the usual ones, so that a window that somebody has open is not in the way.

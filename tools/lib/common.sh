@@ -4,8 +4,8 @@
 # a deadline. Sourced by ./run and ./test, which set `root` to the top of the source tree first.
 
 # The source tree by a name that all tools can bear. The resource compiler hands its paths to a shell without quoting,
-# the build tools separate words at blanks and semicolons, and Wine takes paths for its own: so a tree whose path has
-# other letters than these is worked on by way of a link, which has the same name in every run.
+# CMake separates words at semicolons, and Wine makes no prefix below a name that Windows forbids: so a tree whose path
+# has other letters than these is worked on by way of a link, which has the same name in every run.
 name_plain_root() {
     local LC_ALL=C
     plainRoot=$root

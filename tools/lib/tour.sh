@@ -20,6 +20,7 @@ pictures=0
 picture() {
     local file
     pictures=$((pictures + 1))
+    progress "picture $pictures"
     file=$(printf '%02d-%s.png' "$pictures" "$1")
     take_picture "$tourDir/$file"
     printf '%s\t%s\n' "$file" "$2" >>"$tourDir/pictures.txt"
@@ -45,7 +46,7 @@ tour_search() {
     say "searching"
     drive find --hold
     picture finding "During the search: the folder at hand, and a way to abort."
-    drive release , wait-done "$searchDeadline"
+    with_clock searching drive release , wait-done "$searchDeadline"
     picture results "The rows found."
 }
 
@@ -209,6 +210,7 @@ take_tour() {
     make_device "$tourDir/device"
     open_tour_world "$device" "$2" "$3"
     tour_device "$device"
+    end_progress
     tr -d '\r' <"$tourDir/rows.txt"
     put_letters "$tourDir/device" "$2"
     tour_files "$tourDir/device"
