@@ -86,6 +86,25 @@ test_the_progress_of_download_and_installation_is_shown_on_a_terminal() {
     expect_match 'words' $'*\rdownloading: 12 % *\rinstalling: 75 % *' "$(install_packages some-package 2>&1)"
 }
 
+test_somebody_who_cannot_be_root_is_told_what_to_run() {
+    local said status=0
+    can_be_root() { false; }
+    neededPackages=(bash no-such-package-anywhere)
+    said=$(set_up_machine 2>&1) || status=$?
+    expect_equal 'status' 1 "$status"
+    expect_match 'words' '*: packages are missing; run as root: apt-get install --no-install-recommends no-such-package-anywhere*' "$said"
+    expect_equal 'lines' 1 "$(wc -l <<<"$said")"
+}
+
+test_a_system_without_debians_packages_is_told_what_is_wanted() {
+    local said status=0
+    neededPackages=(bash some-package)
+    command() { false; }
+    said=$(set_up_machine 2>&1) || status=$?
+    expect_equal 'status' 1 "$status"
+    expect_match 'words' '*: the set-up knows Debian only; what it would install: bash some-package' "$said"
+}
+
 test_what_is_installed_is_not_asked_for_again() {
     # shellcheck disable=SC2034 # read by missing_packages
     neededPackages=(bash no-such-package-anywhere coreutils)

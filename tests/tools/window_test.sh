@@ -46,4 +46,21 @@ test_a_window_that_is_open_already_is_told() {
     expect_equal 'words' 'run: QuorinSearch is already open (Japanese, 640 x 240); close its window first' "$said"
 }
 
+test_a_program_that_does_not_start_is_told_at_once() {
+    local said status=0
+    keep_world() { :; }
+    map_drives() { :; }
+    wine_environment() { :; }
+    open_desktop() { :; }
+    start_program() {
+        (exit 7) &
+        programPid=$!
+    }
+    conditions=(--name x)
+    said=$(show_window "$scratch" en 240x320 2>&1) || status=$?
+    expect_equal 'status' 1 "$status"
+    expect_match 'words' '*: QuorinSearch ended with status 7; what Wine said is in *build/program.log' "$said"
+    expect_equal 'lines' 1 "$(wc -l <<<"$said")"
+}
+
 run_test_functions Window

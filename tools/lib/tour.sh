@@ -85,7 +85,7 @@ tour_dialogs() {
 end_tour_program() {
     drive close
     await_program 30 || fail "the program did not end"
-    ((programStatus == 0)) || fail "the program ended with status $programStatus"
+    program_ended_well
 }
 
 # tour_device DEVICE: on the device asked for; the rows go to rows.txt.
@@ -104,7 +104,7 @@ tour_device() {
 # put_letters DEVICE LANGUAGE: two letters, a shortcut to one of them and an older copy of it. Sets letter and
 # otherLetter, the names without the ending.
 put_letters() {
-    letter=Letter otherLetter='Old letter'
+    letter=Letter otherLetter='Old Letter'
     [[ $2 == en ]] || letter=手紙 otherLetter=古い手紙
     (
         cd "$1" || exit 1

@@ -24,6 +24,15 @@ start_program() {
     programPid=$!
 }
 
+has_window_or_ended() {
+    process_ended "$programPid" || try_drive wait-window 2
+}
+
+# await_window: until the program can be used; or until it has ended, of whatever cause.
+await_window() {
+    wait_until 60 has_window_or_ended || fail "QuorinSearch did not open its window: $(driver_words)"
+}
+
 # close_program: asks the program's window to close, as a person does, and gives it time to save what it remembers.
 close_program() {
     ! process_ended "$programPid" || return 0
@@ -44,14 +53,19 @@ searchDeadline=600
 # that it gets none.
 stepOutput=$buildDir/.step.$$
 
-# drive STEP WORD...: one step of the driver, which has a deadline of its own; this one is for a driver that hangs.
+# try_drive STEP WORD...: one step of the driver, which has a deadline of its own; this one is for a driver that hangs.
 # Waited for in the background, so that a signal ends the script at once. The folder that it starts in is one that
 # Wine knows, or it would complain.
-drive() {
+try_drive() {
     (cd "$buildDir/release" && exec timeout -k 5 "$((searchDeadline + 30))" "$wine" 'P:\quorin_driver.exe' "$@") \
         </dev/null >"$stepOutput.printed" 2>"$stepOutput.said" &
-    wait "$!" || fail "the step '$1' failed: $(driver_words)"
+    wait "$!" || return 1
     cat "$stepOutput.printed"
+}
+
+# drive STEP WORD...: the same, and the end of the script when it fails.
+drive() {
+    try_drive "$@" || fail "the step '$1' failed: $(driver_words)"
 }
 
 # driver_words: the driver's own words on what failed, or all that was said when there are none.
@@ -59,6 +73,11 @@ driver_words() {
     local words
     words=$(tr -d '\r' <"$stepOutput.said" | sed -n 's/^quorin_driver: //p')
     printf '%s' "${words:-$(tail -n 3 "$stepOutput.said")}"
+}
+
+program_ended_well() {
+    ((programStatus == 0)) ||
+        fail "QuorinSearch ended with status $programStatus; what Wine said is in $(path_from_here "$buildDir/program.log")"
 }
 
 # keep_world WORLD LANGUAGE SCREEN: made once, so that the program remembers from run to run what it was asked.
@@ -80,10 +99,12 @@ show_window() {
     open_desktop "$3"
     start_program "$1"
     at_exit close_program
-    drive wait-window 60
-    ((${#conditions[@]} == 0)) || drive fill "${conditions[@]}"
-    say "QuorinSearch is open; this ends when its window is closed"
+    await_window
+    if ! process_ended "$programPid"; then
+        ((${#conditions[@]} == 0)) || drive fill "${conditions[@]}"
+        say "QuorinSearch is open; this ends when its window is closed"
+    fi
     programStatus=0
     wait "$programPid" || programStatus=$?
-    ((programStatus == 0)) || fail "QuorinSearch ended with status $programStatus"
+    program_ended_well
 }
