@@ -100,7 +100,7 @@ test_what_is_unpacked_searches_in_a_fresh_system() {
     unpack_it
     arm_cleanups
     make_device "$scratch/device"
-    with_lock setup 3600 make_base_prefixes
+    prepare_wine
     world=$scratch/world
     make_world "$world" en 240x320
     map_drives "$world" "$scratch/device"

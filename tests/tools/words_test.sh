@@ -84,12 +84,19 @@ test_who_holds_a_lock_is_told_in_the_users_words() {
     expect_match 'words' '*: it is already open' "$said"
 }
 
+test_a_lock_without_a_command_is_a_mistake() {
+    local said status=0
+    said=$(with_lock thing 0 make_something 2>&1) || status=$?
+    expect_equal 'status' 1 "$status"
+    expect_match 'words' "*: there is nothing to do under the lock 'thing'" "$said"
+}
+
 test_a_long_wait_is_announced() {
     hold_lock thing
     (
         with_lock thing 30 "another one is building" echo mine >"$scratch/got" 2>"$scratch/said"
     ) 9>&- &
-    expect_that 'the wait is announced' wait_until 10 grep -q '^waiting: another one is building$' "$scratch/said"
+    expect_that 'the wait is announced' wait_until 10 grep -qs '^waiting: another one is building$' "$scratch/said"
     exec 9>&-
     wait "$!"
     expect_equal 'what ran in the end' mine "$(<"$scratch/got")"

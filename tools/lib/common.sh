@@ -183,6 +183,7 @@ make_build_folder() {
 with_lock() {
     local name=$1 seconds=$2 busy=$3 descriptor=$((20 + lockDepth))
     shift 3
+    (($# > 0)) || fail "there is nothing to do under the lock '$name'"
     make_build_folder
     eval "exec $descriptor>\"\$buildDir/.\$name.lock\""
     await_lock "$descriptor" "$seconds" "$busy"
