@@ -18,6 +18,7 @@ void FuzzRegistryValues(FuzzInput& input);
 void FuzzShortcuts(FuzzInput& input);
 void FuzzSizes(FuzzInput& input);
 void FuzzTextConversion(FuzzInput& input);
+void FuzzWalks(FuzzInput& input);
 
 struct FuzzTarget {
     // The name of the source and of the corpus.
@@ -39,4 +40,5 @@ inline constexpr FuzzTarget FuzzTargets[] = {
     {"shortcuts", FuzzShortcuts},
     {"sizes", FuzzSizes},
     {"text_conversion", FuzzTextConversion},
+    {"walks", FuzzWalks},
 };

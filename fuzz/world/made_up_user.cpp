@@ -47,7 +47,7 @@ int ShowError(HWND, const wchar_t*, ...) {
 }
 
 PumpOutcome PumpOneMessage() {
-    theUser->HaveAMoment();
+    if (theUser != nullptr) theUser->HaveAMoment();
     return PumpOutcome::Empty;
 }
 
