@@ -20,11 +20,21 @@ std::vector<std::wstring> WordsPlainly(const std::wstring& line) {
     return words;
 }
 
+// Now and then a piece many times over, so that there are more words than are kept.
+std::wstring SomeLine(FuzzInput& input) {
+    const std::size_t kind = input.UpTo(7);
+    if (kind <= 1) return SomeText(input, 600);
+    const std::wstring piece = SomeTextOf(input, L"ab\"\" \t", 255);
+    std::wstring line;
+    for (std::size_t times = kind == 2 ? input.UpTo(140) : 1; times > 0; --times)
+        line += piece.substr(0, kind == 2 ? 8 : piece.size());
+    return line;
+}
+
 }  // namespace
 
 void FuzzCommandLines(FuzzInput& input) {
-    const std::wstring line =
-        input.Byte() < 0x40 ? SomeText(input, 600) : SomeTextOf(input, L"ab\"\" \t", 255);
+    const std::wstring line = SomeLine(input);
     const CommandLineWords words(ExactText<wchar_t>(line).Get());
     const std::vector<std::wstring> found(words.List(), words.List() + words.Count());
     Require(found == WordsPlainly(line), "the words are the plain ones");
