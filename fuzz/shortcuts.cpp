@@ -1,7 +1,12 @@
-// The desktop's shortcut files, and targets taken apart as command lines.
+// Shortcut files, the desktop's and those that are a text, and targets taken apart as command lines.
+
+#include <windows.h>
 
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
+#include "fuzz/world/made_up_files.h"
+#include "fuzz/world/made_up_link.h"
+#include "platform/ce_shortcuts.h"
 #include "platform/desktop/shell_link_file.h"
 #include "results/shortcut_target.h"
 
@@ -83,15 +88,66 @@ void TellPlainThings(FuzzInput& input) {
     Require(exact.Get() == (enclosed ? text.substr(1, text.size() - 2) : text), "one pair of quotes goes");
 }
 
+std::wstring InCodePage(const std::string& bytes) {
+    std::wstring text(bytes.size() + 1, L'\0');
+    const auto size = static_cast<int>(bytes.size());
+    text.resize(static_cast<std::size_t>(MultiByteToWideChar(0, 0, bytes.data(), size, text.data(), size)));
+    return text;
+}
+
+// Digits, a "#", and as many bytes as they say, or fewer, up to the end of the line. Empty for anything else.
+std::wstring TextTargetPlainly(const std::string& bytes) {
+    const std::size_t mark = bytes.find_first_not_of("0123456789");
+    if (mark == 0 || mark == std::string::npos || bytes[mark] != '#') return L"";
+    std::size_t announced = 0;
+    for (std::size_t at = 0; at < mark; ++at)
+        announced =
+            std::min<std::size_t>(announced * 10 + static_cast<std::size_t>(bytes[at] - '0'), 1000000);
+    const std::string rest = bytes.substr(mark + 1, announced);
+    return InCodePage(rest.substr(0, rest.find_first_of(std::string("\r\n\0", 3))));
+}
+
+// What is not a text may be the desktop's file, which has no plain rule here.
+void ReadAFile(FuzzInput& input) {
+    const int capacity = static_cast<int>(input.UpTo(300));
+    std::string bytes = input.Flag() ? std::to_string(input.UpTo(300)) + '#' : "";
+    if (input.UpTo(3) == 0) bytes = StartOfLinkFile();
+    bytes += input.Bytes(input.Left());
+    SetMadeUpFile(bytes);
+    std::vector<wchar_t> target(static_cast<std::size_t>(capacity), L'#');
+    const bool read = ce::SHGetShortcutTarget(L"\\a.lnk", target.data(), capacity) != FALSE;
+    if (capacity == 0) return Require(!read, "nothing is read into no room");
+    const std::size_t length = wcsnlen(target.data(), target.size());
+    Require(length < target.size() && read == (length > 0),
+            "what is read is terminated, and empty if there is none");
+    const std::wstring plain = TextTargetPlainly(bytes);
+    if (plain.empty()) return Require(!read || bytes.size() > 20, "what is no shortcut is none");
+    const std::size_t units = std::min(plain.find(L'\0'), plain.size());
+    Require(read == (plain.size() < target.size()), "a text that fits is read, and no other");
+    Require(!read || std::wstring(target.data()) == plain.substr(0, units), "the target is the plain one");
+}
+
+// The program in its quotes or up to a blank, and behind the blanks the arguments.
+void MakeALink(FuzzInput& input) {
+    const std::wstring target = SomeTextOf(input, L"ab\" \t\\", 40);
+    TheLink() = {};
+    const bool made = ce::SHCreateShortcut(L"\\a.lnk", ExactText<wchar_t>(target).Get()) != FALSE;
+    const bool quoted = target.starts_with(L'"');
+    const std::size_t from = quoted ? 1 : 0;
+    const std::size_t end =
+        std::min(quoted ? target.find(L'"', 1) : target.find_first_of(L" \t"), target.size());
+    const std::wstring program = target.substr(from, end - from);
+    const std::wstring behind = end < target.size() ? target.substr(end + 1) : L"";
+    const std::size_t rest = std::min(behind.find_first_not_of(L" \t"), behind.size());
+    Require(made == !program.empty() && TheLink().saved == made, "a link to a program is made, and no other");
+    Require(!made || TheLink().program == program, "the program is the plain one");
+    Require(!made || TheLink().arguments == behind.substr(rest), "the arguments are the plain ones");
+}
+
 }  // namespace
 
 void FuzzShortcuts(FuzzInput& input) {
-    switch (input.Byte() % 4) {
-        case 0:
-            return SplitATarget(input);
-        case 1:
-            return TellPlainThings(input);
-        default:
-            return ReadLink(input);
-    }
+    static constexpr decltype(&ReadLink) Kinds[] = {SplitATarget, TellPlainThings, ReadLink,
+                                                    ReadLink,     ReadAFile,       MakeALink};
+    input.OneOf(Kinds)(input);
 }

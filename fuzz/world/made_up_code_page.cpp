@@ -52,16 +52,22 @@ int WideCharToMultiByte(UINT, DWORD, const wchar_t* units, int unitCount, char* 
     return code > 0xFF ? 2 : 1;
 }
 
-// Two bytes: a pair, or two of their own.
-int MultiByteToWideChar(UINT, DWORD, const char* bytes, int byteCount, wchar_t* units, int unitCount) {
-    if (byteCount != 2 || unitCount != 2) std::abort();
-    const auto first = static_cast<unsigned char>(bytes[0]), second = static_cast<unsigned char>(bytes[1]);
-    if (!IsLead(first)) {
-        if (IsLead(second)) return 0;
-        units[0] = first;
-        units[1] = second;
-        return 2;
+// What is asked to be valid are two bytes: a pair, or two of their own. Anything else is taken as it comes,
+// an empty place for the katakana's dot.
+int MultiByteToWideChar(UINT, DWORD flags, const char* bytes, int byteCount, wchar_t* units, int unitCount) {
+    constexpr wchar_t Unknown = 0x30FB;
+    const bool hasToBeValid = (flags & MB_ERR_INVALID_CHARS) != 0;
+    int count = 0;
+    for (int at = 0; at < byteCount && count < unitCount; ++at) {
+        const auto byte = static_cast<unsigned char>(bytes[at]);
+        if (!IsLead(byte)) {
+            units[count++] = byte;
+            continue;
+        }
+        const auto trail = static_cast<unsigned char>(at + 1 < byteCount ? bytes[++at] : '\0');
+        const unsigned short unit = MadeUpUnit(byte, trail);
+        if (unit == 0 && hasToBeValid) return 0;
+        units[count++] = unit == 0 ? Unknown : static_cast<wchar_t>(unit);
     }
-    units[0] = static_cast<wchar_t>(MadeUpUnit(first, second));
-    return units[0] == 0 ? 0 : 1;
+    return count;
 }
