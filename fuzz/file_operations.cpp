@@ -24,23 +24,25 @@ bool IsIn(const std::wstring& path, const std::wstring& folder) {
 // Answers, fails and stops as the input says, and looks at every change.
 class Watcher final : public FilesInMemory, public MadeUpUser {
   public:
-    explicit Watcher(FuzzInput& byInput) : input(byInput) { SetUser(this); }
+    explicit Watcher(FuzzInput& input) : input_(input) { SetUser(this); }
     ~Watcher() override { SetUser(nullptr); }
 
     void Watch(FileOperation& run, const Paths& sourcePaths, const std::wstring& destinationPath) {
-        operation = &run;
+        operation_ = &run;
         for (const std::wstring& path : sourcePaths)
-            sources.push_back(Folded(path));
-        destination = Folded(destinationPath);
-        stopAt = input.Byte();
-        failAt = input.Byte();
+            sources_.push_back(Folded(path));
+        destination_ = Folded(destinationPath);
+        stopAt_ = input_.Byte();
+        failAt_ = input_.Byte();
         before = All();
     }
 
-    // What was wrong with a change, null for nothing. A Finding cannot pass through the program.
+    // What was wrong with the first change that was; null for none.
     const char* broken = nullptr;
     bool ended = false;
     bool refused = false;
+    bool failed = false;
+    int errors = 0;
     std::set<int> destroyed;
     std::set<std::wstring> changedPaths;
     std::map<std::wstring, FileInMemory> before;
@@ -50,17 +52,17 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
         static constexpr ConfirmResult Answers[] = {ConfirmResult::Yes, ConfirmResult::Yes,
                                                     ConfirmResult::Yes, ConfirmResult::YesToAll,
                                                     ConfirmResult::No,  ConfirmResult::Cancel};
-        answered = Folded(path);
-        answer = input.OneOf(Answers);
-        if (answer == ConfirmResult::YesToAll && !offersYesToAll) answer = ConfirmResult::Yes;
-        refused = refused || answer == ConfirmResult::No;
-        ended = ended || answer == ConfirmResult::Cancel;
-        return answer;
+        answered_ = Folded(path);
+        answer_ = input_.OneOf(Answers);
+        if (answer_ == ConfirmResult::YesToAll && !offersYesToAll) answer_ = ConfirmResult::Yes;
+        refused = refused || answer_ == ConfirmResult::No;
+        ended = ended || answer_ == ConfirmResult::Cancel;
+        return answer_;
     }
     void ReadError() override { ++errors; }
     void HaveAMoment() override {
-        if (++moments != stopAt) return;
-        operation->Stop();
+        if (++moments_ != stopAt_) return;
+        operation_->Stop();
         ended = true;
     }
 
@@ -68,19 +70,19 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
         if (!holds && broken == nullptr) broken = rule;
     }
 
-    bool Does(FileOperationKind kind) const { return operation->operation == kind; }
+    bool Does(FileOperationKind kind) const { return operation_->operation == kind; }
     bool Copies() const { return Does(FileOperationKind::Copy) || Does(FileOperationKind::Update); }
     bool IsInSources(const std::wstring& path) const {
-        return std::any_of(sources.begin(), sources.end(),
+        return std::any_of(sources_.begin(), sources_.end(),
                            [&](const auto& source) { return IsIn(path, source); });
     }
-    bool IsInDestination(const std::wstring& path) const { return IsIn(path, destination); }
+    bool IsInDestination(const std::wstring& path) const { return IsIn(path, destination_); }
 
     // Somebody said Yes to just this path, or wants no questions. A move does not destroy without one.
     bool IsAgreedTo(const std::wstring& path) const {
         const bool byAnswer =
-            answered == path && (answer == ConfirmResult::Yes || answer == ConfirmResult::YesToAll);
-        return byAnswer || (!operation->confirm && !Does(FileOperationKind::Move));
+            answered_ == path && (answer_ == ConfirmResult::Yes || answer_ == ConfirmResult::YesToAll);
+        return byAnswer || (!operation_->confirm && !Does(FileOperationKind::Move));
     }
 
     bool HasLinkBetween(const std::wstring& root, const std::wstring& path) const {
@@ -93,7 +95,7 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
 
     // Through a link that stands in what is removed, something elsewhere would be.
     bool IsBehindLink(const std::wstring& path) const {
-        const Paths roots = Does(FileOperationKind::Exclude) ? Paths{destination} : sources;
+        const Paths roots = Does(FileOperationKind::Exclude) ? Paths{destination_} : sources_;
         return std::none_of(roots.begin(), roots.end(), [&](const std::wstring& root) {
             return IsIn(path, root) && !HasLinkBetween(root, path);
         });
@@ -147,7 +149,7 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
                 return Expect(IsInSources(path) && IsInDestination(target),
                               "from a source into the destination");
             case Change::CreateFolder:
-                return Expect(IsInDestination(path) || IsIn(destination, path),
+                return Expect(IsInDestination(path) || IsIn(destination_, path),
                               "a folder is made on the way there");
             case Change::RemoveFolder:
                 return ExpectRemoval(path);
@@ -157,7 +159,7 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
     DWORD Judge(Change change, const std::wstring& path, const std::wstring& target, DWORD error) override {
         static constexpr DWORD Codes[] = {ERROR_ACCESS_DENIED, ERROR_DISK_FULL, ERROR_CRC,
                                           ERROR_SHARING_VIOLATION, 12345};
-        if (error == 0 && ++changes == failAt) error = Codes[changes % std::size(Codes)];
+        if (error == 0 && ++changes_ == failAt_) error = Codes[changes_ % std::size(Codes)];
         // What fails of itself destroys nothing; what is asked for has to be right all the same.
         const std::set<int> destroyedBefore = destroyed;
         const std::set<std::wstring> changedBefore = changedPaths;
@@ -172,19 +174,14 @@ class Watcher final : public FilesInMemory, public MadeUpUser {
         return error;
     }
 
-  public:
-    bool failed = false;
-    int errors = 0;
-
-  private:
-    FuzzInput& input;
-    FileOperation* operation = nullptr;
-    Paths sources;
-    std::wstring destination;
-    std::wstring answered;
-    ConfirmResult answer = ConfirmResult::Cancel;
-    int moments = 0, stopAt = 0;
-    std::size_t changes = 0, failAt = 0;
+    FuzzInput& input_;
+    FileOperation* operation_ = nullptr;
+    Paths sources_;
+    std::wstring destination_;
+    std::wstring answered_;
+    ConfirmResult answer_ = ConfirmResult::Cancel;
+    int moments_ = 0, stopAt_ = 0;
+    std::size_t changes_ = 0, failAt_ = 0;
 };
 
 std::wstring SomeName(FuzzInput& input) {

@@ -12,12 +12,12 @@
 
 class FuzzInput {
   public:
-    FuzzInput(const std::uint8_t* bytes, std::size_t size) : at(bytes), end(bytes + size) {}
+    FuzzInput(const std::uint8_t* bytes, std::size_t size) : at_(bytes), end_(bytes + size) {}
 
-    [[nodiscard]] bool IsUsedUp() const { return at == end; }
-    [[nodiscard]] std::size_t Left() const { return static_cast<std::size_t>(end - at); }
+    [[nodiscard]] bool IsUsedUp() const { return at_ == end_; }
+    [[nodiscard]] std::size_t Left() const { return static_cast<std::size_t>(end_ - at_); }
 
-    std::uint8_t Byte() { return at == end ? std::uint8_t{0} : *at++; }
+    std::uint8_t Byte() { return at_ == end_ ? std::uint8_t{0} : *at_++; }
     std::uint16_t Word() {
         const std::uint16_t low = Byte();
         return static_cast<std::uint16_t>(low | Byte() << 8);
@@ -34,17 +34,17 @@ class FuzzInput {
         return choices[UpTo(Count - 1)];
     }
 
-    // As many as there are, at most `most`.
+    // As many as there are, at_ most `most`.
     std::string Bytes(std::size_t most) {
         const std::size_t count = std::min(most, Left());
-        std::string taken(reinterpret_cast<const char*>(at), count);
-        at += count;
+        std::string taken(reinterpret_cast<const char*>(at_), count);
+        at_ += count;
         return taken;
     }
 
   private:
-    const std::uint8_t* at;
-    const std::uint8_t* end;
+    const std::uint8_t* at_;
+    const std::uint8_t* end_;
 };
 
 // A rule that does not hold. The fuzzer keeps the input that led here.
@@ -62,14 +62,14 @@ template <class Unit>
 class ExactText {
   public:
     template <class Text>
-    explicit ExactText(const Text& text) : units(text.begin(), text.end()) {
-        units.push_back(Unit{});
-        units.shrink_to_fit();
+    explicit ExactText(const Text& text) : units_(text.begin(), text.end()) {
+        units_.push_back(Unit{});
+        units_.shrink_to_fit();
     }
 
-    [[nodiscard]] const Unit* Get() const { return units.data(); }
-    [[nodiscard]] Unit* Get() { return units.data(); }
+    [[nodiscard]] const Unit* Get() const { return units_.data(); }
+    [[nodiscard]] Unit* Get() { return units_.data(); }
 
   private:
-    std::vector<Unit> units;
+    std::vector<Unit> units_;
 };

@@ -46,14 +46,14 @@ struct FilesInMemory::Listing {
     std::size_t next = 0;
 };
 
-FilesInMemory::FilesInMemory() : before(ce::fileCalls) {
+FilesInMemory::FilesInMemory() : before_(ce::fileCalls) {
     inForce = this;
-    ce::fileCalls = {Start,  Next, End,  before.openForReading, Attributes,   SetAttributes,
-                     Delete, Move, Copy, CreateFolder,          RemoveFolder, IsFolderLink};
+    ce::fileCalls = {Start,  Next, End,  before_.openForReading, Attributes,   SetAttributes,
+                     Delete, Move, Copy, CreateFolder,           RemoveFolder, IsFolderLink};
 }
 
 FilesInMemory::~FilesInMemory() {
-    ce::fileCalls = before;
+    ce::fileCalls = before_;
     inForce = nullptr;
 }
 
@@ -64,23 +64,23 @@ std::wstring FilesInMemory::Folded(std::wstring path) {
 }
 
 void FilesInMemory::AddFile(const std::wstring& path, int content, DWORD written, DWORD attributes) {
-    files.try_emplace(Folded(path), FileInMemory{path, attributes, content, written});
+    files_.try_emplace(Folded(path), FileInMemory{path, attributes, content, written});
 }
 
 void FilesInMemory::AddFolder(const std::wstring& path, DWORD furtherAttributes) {
-    files.try_emplace(Folded(path), FileInMemory{path, FILE_ATTRIBUTE_DIRECTORY | furtherAttributes});
+    files_.try_emplace(Folded(path), FileInMemory{path, FILE_ATTRIBUTE_DIRECTORY | furtherAttributes});
 }
 
 const FileInMemory* FilesInMemory::Find(const std::wstring& path) const {
-    if (path == rootFolder.path) return &rootFolder;
-    const auto found = files.find(Folded(path));
-    return found == files.end() ? nullptr : &found->second;
+    if (path == root_.path) return &root_;
+    const auto found = files_.find(Folded(path));
+    return found == files_.end() ? nullptr : &found->second;
 }
 
 FileInMemory* FilesInMemory::Lookup(const std::wstring& path) {
-    if (path == rootFolder.path) return &rootFolder;
-    const auto found = files.find(Folded(path));
-    return found == files.end() ? nullptr : &found->second;
+    if (path == root_.path) return &root_;
+    const auto found = files_.find(Folded(path));
+    return found == files_.end() ? nullptr : &found->second;
 }
 
 // The root is always there.
@@ -93,8 +93,8 @@ bool FilesInMemory::HasFolderAbove(const std::wstring& path) const {
 
 bool FilesInMemory::HasEntries(const std::wstring& path) const {
     const std::wstring inside = Folded(path) + L'\\';
-    const auto first = files.lower_bound(inside);
-    return first != files.end() && first->first.compare(0, inside.size(), inside) == 0;
+    const auto first = files_.lower_bound(inside);
+    return first != files_.end() && first->first.compare(0, inside.size(), inside) == 0;
 }
 
 BOOL FilesInMemory::Try(Change change, const std::wstring& path, const std::wstring& target, DWORD error) {
@@ -107,7 +107,7 @@ HANDLE FilesInMemory::Start(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
     const std::wstring name = NameOf(pattern);
     auto* const listing = new Listing;
     const std::wstring inside = Folded(folder) + L'\\';
-    for (auto at = inForce->files.lower_bound(inside); at != inForce->files.end(); ++at) {
+    for (auto at = inForce->files_.lower_bound(inside); at != inForce->files_.end(); ++at) {
         if (at->first.compare(0, inside.size(), inside) != 0) break;
         if (at->first.find(L'\\', inside.size()) != std::wstring::npos) continue;
         if (MatchesWildcard(NameOf(at->second.path).c_str(), name.c_str()))
@@ -155,13 +155,13 @@ BOOL FilesInMemory::Delete(const wchar_t* path) {
         file != nullptr && (file->IsFolder() || (file->attributes & FILE_ATTRIBUTE_READONLY) != 0);
     const DWORD error = file == nullptr ? ERROR_FILE_NOT_FOUND : isKept ? ERROR_ACCESS_DENIED : 0;
     if (!inForce->Try(Change::Delete, path, L"", error)) return FALSE;
-    inForce->files.erase(Folded(path));
+    inForce->files_.erase(Folded(path));
     return TRUE;
 }
 
 DWORD FilesInMemory::ErrorOfMove(const std::wstring& from, const std::wstring& to) const {
     if (Find(from) == nullptr) return ERROR_FILE_NOT_FOUND;
-    if (Find(from) == &rootFolder) return ERROR_ACCESS_DENIED;
+    if (Find(from) == &root_) return ERROR_ACCESS_DENIED;
     if (Find(to) != nullptr && Find(to) != Find(from)) return ERROR_ALREADY_EXISTS;
     if (!HasFolderAbove(to)) return ERROR_PATH_NOT_FOUND;
     return Folded(to).compare(0, from.size() + 1, Folded(from) + L'\\') == 0 ? ERROR_SHARING_VIOLATION : 0;
@@ -171,7 +171,7 @@ BOOL FilesInMemory::Move(const wchar_t* from, const wchar_t* to) {
     const std::wstring source = Folded(from);
     if (!inForce->Try(Change::Move, from, to, inForce->ErrorOfMove(from, to))) return FALSE;
     std::map<std::wstring, FileInMemory> moved;
-    for (auto at = inForce->files.lower_bound(source); at != inForce->files.end();) {
+    for (auto at = inForce->files_.lower_bound(source); at != inForce->files_.end();) {
         if (at->first.compare(0, source.size(), source) != 0) break;
         const bool belongs = at->first.size() == source.size() || at->first[source.size()] == L'\\';
         if (belongs) {
@@ -179,9 +179,9 @@ BOOL FilesInMemory::Move(const wchar_t* from, const wchar_t* to) {
             file.path = to + file.path.substr(source.size());
             moved[Folded(file.path)] = file;
         }
-        at = belongs ? inForce->files.erase(at) : std::next(at);
+        at = belongs ? inForce->files_.erase(at) : std::next(at);
     }
-    inForce->files.merge(moved);
+    inForce->files_.merge(moved);
     return TRUE;
 }
 
@@ -199,7 +199,7 @@ BOOL FilesInMemory::Copy(const wchar_t* from, const wchar_t* to, BOOL) {
     if (!inForce->Try(Change::Copy, from, to, inForce->ErrorOfCopy(from, to))) return FALSE;
     FileInMemory copy = *inForce->Find(from);
     copy.path = inForce->Find(to) != nullptr ? inForce->Find(to)->path : to;
-    inForce->files[Folded(to)] = copy;
+    inForce->files_[Folded(to)] = copy;
     return TRUE;
 }
 
@@ -214,13 +214,13 @@ BOOL FilesInMemory::CreateFolder(const wchar_t* path, SECURITY_ATTRIBUTES*) {
 
 BOOL FilesInMemory::RemoveFolder(const wchar_t* path) {
     const FileInMemory* const folder = inForce->Find(path);
-    const DWORD error = folder == &inForce->rootFolder                   ? ERROR_ACCESS_DENIED
+    const DWORD error = folder == &inForce->root_                        ? ERROR_ACCESS_DENIED
                         : folder == nullptr                              ? ERROR_FILE_NOT_FOUND
                         : !folder->IsFolder()                            ? ERROR_ACCESS_DENIED
                         : !folder->IsLink() && inForce->HasEntries(path) ? ERROR_DIR_NOT_EMPTY
                                                                          : 0;
     if (!inForce->Try(Change::RemoveFolder, path, L"", error)) return FALSE;
-    inForce->files.erase(Folded(path));
+    inForce->files_.erase(Folded(path));
     return TRUE;
 }
 

@@ -39,7 +39,7 @@ class FilesInMemory {
     // Null where nothing stands.
     [[nodiscard]] const FileInMemory* Find(const std::wstring& path) const;
     // By folded path.
-    [[nodiscard]] const std::map<std::wstring, FileInMemory>& All() const { return files; }
+    [[nodiscard]] const std::map<std::wstring, FileInMemory>& All() const { return files_; }
     [[nodiscard]] static std::wstring Folded(std::wstring path);
 
     int openListings = 0;
@@ -71,7 +71,7 @@ class FilesInMemory {
     static BOOL RemoveFolder(const wchar_t* path);
     static bool IsFolderLink(const wchar_t* path);
 
-    FileInMemory rootFolder{L"\\", FILE_ATTRIBUTE_DIRECTORY};
-    std::map<std::wstring, FileInMemory> files;
-    ce::FileCalls before;
+    FileInMemory root_{L"\\", FILE_ATTRIBUTE_DIRECTORY};
+    std::map<std::wstring, FileInMemory> files_;
+    ce::FileCalls before_;
 };

@@ -34,11 +34,11 @@ const wchar_t* MultipleFileReplaceTemplate() {
 }
 
 ConfirmResult ConfirmationDialog::Ask() {
-    const bool isReplacing = routine == &FillFileReplaceText;
-    const auto* const path = isReplacing ? static_cast<const ReplacePaths*>(subject)->existingFile
-                                         : static_cast<const wchar_t*>(subject);
+    const bool isReplacing = fill_ == &FillFileReplaceText;
+    const auto* const path = isReplacing ? static_cast<const ReplacePaths*>(argument_)->existingFile
+                                         : static_cast<const wchar_t*>(argument_);
     return theUser->Answer(
-        path, templateText == YesAllNoCancelTemplate() || templateText == MultipleFileReplaceTemplate());
+        path, template_ == YesAllNoCancelTemplate() || template_ == MultipleFileReplaceTemplate());
 }
 
 int ShowError(HWND, const wchar_t*, ...) {

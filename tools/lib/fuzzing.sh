@@ -57,8 +57,8 @@ fuzz() {
     mkdir -p "$fuzzDir/findings"
     unpack_corpus "$corpusDir/$1.txt" "$corpus"
     # Little memory is remembered after it was freed, and little of who asked for it: that is half of the time.
-    ASAN_OPTIONS=quarantine_size_mb=4:malloc_context_size=2 "$fuzzDir/fuzz_$1" -max_total_time="$2" -max_len="$(longest_input "$1")" \
-        -timeout=10 -print_final_stats=1 -artifact_prefix="$fuzzDir/findings/$1-" "$corpus" \
+    ASAN_OPTIONS=quarantine_size_mb=4:malloc_context_size=2 "$fuzzDir/fuzz_$1" -max_total_time="$2" \
+        -max_len="$(longest_input "$1")" -timeout=10 -print_final_stats=1 -artifact_prefix="$fuzzDir/findings/$1-" "$corpus" \
         </dev/null >"$log" 2>&1 || status=1
     printf '%-20s %10s executions %7s a second %5d inputs\n' "$1" "$(statistic "$log" number_of_executed_units)" \
         "$(statistic "$log" average_exec_per_sec)" "$(find "$corpus" -type f | wc -l)"

@@ -18,14 +18,14 @@ using QuestionRoutine = void (*)(HWND dialog, const void* argument);
 class ConfirmationDialog {
   public:
     ConfirmationDialog(WindowObject*, const wchar_t* templateName, QuestionRoutine fill, const void* argument)
-        : templateText(templateName), routine(fill), subject(argument) {}
+        : template_(templateName), fill_(fill), argument_(argument) {}
 
     void LeaveInputTo(HWND) {}
     // Asks the made-up user (made_up_user.h).
     [[nodiscard]] ConfirmResult Ask();
 
   private:
-    const wchar_t* templateText;
-    QuestionRoutine routine;
-    const void* subject;
+    const wchar_t* template_;
+    QuestionRoutine fill_;
+    const void* argument_;
 };

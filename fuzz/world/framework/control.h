@@ -12,5 +12,5 @@ inline HWND DialogItem(const WindowObject&, int) {
 
 class Control : public WindowObject {
   public:
-    Control(WindowObject* parentObject, HWND, const wchar_t*) : WindowObject(parentObject) {}
+    Control(WindowObject* parent, HWND, const wchar_t*) : WindowObject(parent) {}
 };

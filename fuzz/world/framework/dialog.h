@@ -11,18 +11,18 @@
 
 class WindowObject {
   public:
-    explicit WindowObject(WindowObject* parentObject) : parent(parentObject) {}
+    explicit WindowObject(WindowObject* parent) : parent_(parent) {}
     virtual ~WindowObject() = default;
     WindowObject(const WindowObject&) = delete;
     WindowObject& operator=(const WindowObject&) = delete;
 
     [[nodiscard]] HWND Handle() const { return reinterpret_cast<HWND>(const_cast<WindowObject*>(this)); }
-    [[nodiscard]] WindowObject* Parent() const { return parent; }
+    [[nodiscard]] WindowObject* Parent() const { return parent_; }
     [[nodiscard]] HWND ParentHandle() const { return nullptr; }
 
     template <class Target>
     void OnCommand(EventSource command, Target*, LRESULT (Target::*method)(EventArguments&)) {
-        commands[command] = static_cast<EventMethod>(method);
+        commands_[command] = static_cast<EventMethod>(method);
     }
     template <class Target>
     void OnMessage(UINT, Target*, LRESULT (Target::*)(MessageRecord&)) {}
@@ -33,27 +33,27 @@ class WindowObject {
     void Raise(EventSource command) {
         MessageRecord record;
         EventArguments arguments{0, 0, record};
-        (this->*commands.at(command))(arguments);
+        (this->*commands_.at(command))(arguments);
     }
 
   private:
-    WindowObject* parent;
-    std::map<EventSource, EventMethod> commands;
+    WindowObject* parent_;
+    std::map<EventSource, EventMethod> commands_;
 };
 
 class Dialog : public WindowObject {
   public:
     static constexpr INT_PTR ResultOk = 1;
 
-    Dialog(WindowObject* parentObject, const PropertySet&) : WindowObject(parentObject) {}
+    Dialog(WindowObject* parent, const PropertySet&) : WindowObject(parent) {}
 
     virtual INT_PTR RunModal() {
         MessageRecord record;
         OnInitDialog(record);
         Raise(CommandPostedAtStart);
-        return endedWith;
+        return endedWith_;
     }
-    virtual void End(INT_PTR result) { endedWith = result; }
+    virtual void End(INT_PTR result) { endedWith_ = result; }
 
   protected:
     virtual LRESULT OnInitDialog(MessageRecord&) { return 1; }
@@ -63,7 +63,7 @@ class Dialog : public WindowObject {
   private:
     static constexpr EventSource CommandPostedAtStart = 10000;
 
-    INT_PTR endedWith = -1;
+    INT_PTR endedWith_ = -1;
 };
 
 namespace ce {
