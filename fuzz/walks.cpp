@@ -27,7 +27,7 @@ std::wstring SomeName(FuzzInput& input) {
 
 void MakeTree(FuzzInput& input, Files& files) {
     std::vector<std::wstring> folders = {L""};
-    for (std::size_t count = input.UpTo(40); count > 0; --count) {
+    for (std::size_t count = input.UpTo(20); count > 0; --count) {
         const std::wstring path = folders[input.UpTo(folders.size() - 1)] + L'\\' + SomeName(input);
         const std::size_t kind = input.UpTo(7);
         if (path.size() >= MAX_PATH || files.Find(path) != nullptr) continue;
