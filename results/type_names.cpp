@@ -1,5 +1,6 @@
 #include "results/type_names.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <utility>
 
@@ -20,11 +21,13 @@ std::wstring KeyOf(const wchar_t* fullPath, DWORD attributes) {
 
 const wchar_t* TypeNames::Of(const wchar_t* fullPath, DWORD attributes) {
     std::wstring key = KeyOf(fullPath, attributes);
-    auto known = names_.find(key);
-    if (known == names_.end()) {
+    auto place =
+        std::lower_bound(names_.begin(), names_.end(), key,
+                         [](const Name& name, const std::wstring& asked) { return name.key < asked; });
+    if (place == names_.end() || place->key != key) {
         SHFILEINFOW info{};
         if (ce::SHGetFileInfo(fullPath, 0, &info, sizeof info, SHGFI_TYPENAME) == 0) return L"";
-        known = names_.emplace(std::move(key), info.szTypeName).first;
+        place = names_.insert(place, {std::move(key), info.szTypeName});
     }
-    return known->second.c_str();
+    return place->text.c_str();
 }
