@@ -10,6 +10,7 @@
 //     operation.RunModal();
 
 #include <cstdint>
+#include <memory>
 
 #include "base/object_list.h"
 #include "fileops/operation_paths.h"

@@ -1,6 +1,7 @@
 // What the operations do with one file.
 
 #include "base/message_pump.h"
+#include "fileops/confirmation_dialog.h"
 #include "fileops/dos_time.h"
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"

@@ -5,6 +5,7 @@
 #include "base/format_text.h"
 #include "base/paths.h"
 #include "base/program_context.h"
+#include "fileops/file_details.h"
 #include "fileops/file_facts.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"

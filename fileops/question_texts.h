@@ -2,7 +2,7 @@
 
 // The questions that the program asks, and what they say.
 
-#include "fileops/confirmation_dialog.h"
+#include "fileops/question.h"
 
 // Either path may be null.
 struct ReplacePaths {

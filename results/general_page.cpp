@@ -7,6 +7,7 @@
 #include "base/program_context.h"
 #include "base/root_name.h"
 #include "fileops/file_actions.h"
+#include "fileops/file_details.h"
 #include "fileops/file_facts.h"
 #include "resources/resource_ids.h"
 

@@ -4,6 +4,7 @@
 
 #include "base/format_text.h"
 #include "base/program_context.h"
+#include "fileops/file_details.h"
 #include "fileops/file_facts.h"
 #include "framework/page_fit.h"
 #include "resources/resource_ids.h"

@@ -2,7 +2,6 @@
 
 #include <cwchar>
 
-#include "fileops/file_facts.h"
 #include "platform/name_wildcard.h"
 #include "platform/same_file.h"
 
@@ -227,16 +226,4 @@ BOOL FilesInMemory::RemoveFolder(const wchar_t* path) {
 bool FilesInMemory::IsFolderLink(const wchar_t* path) {
     const FileInMemory* const folder = inForce->Find(path);
     return folder == nullptr || folder->IsLink();
-}
-
-// The small readers of fileops/file_facts, whose other functions need the system's clock and formats.
-bool HasAttribute(const wchar_t* path, DWORD attribute) {
-    const DWORD attributes = ce::GetFileAttributesW(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
-}
-bool FindFile(const wchar_t* path, WIN32_FIND_DATAW& data) {
-    const HANDLE search = ce::FindFirstFileW(path, &data);
-    if (search == INVALID_HANDLE_VALUE) return false;
-    ce::FindClose(search);
-    return true;
 }

@@ -48,4 +48,4 @@ bool FindShellPath(const wchar_t* path, wchar_t (&found)[MAX_PATH]) {
     std::wcscpy(found, path);
     return true;
 }
-SystemPath::SystemPath(const wchar_t* path) : fits(LiteralPath(text, path, L"D:\\")) {}
+SystemPath::SystemPath(const wchar_t* path) : fits_(LiteralPath(text_, path, L"D:\\")) {}

@@ -1,12 +1,14 @@
 #include "made_up_user.h"
 
 #include "base/message_pump.h"
+#include "fileops/confirmation_dialog.h"
 #include "fileops/question_texts.h"
 #include "framework/message_boxes.h"
 
 namespace {
 
 MadeUpUser* theUser = nullptr;
+const wchar_t* pathAskedAbout = nullptr;
 
 }  // namespace
 
@@ -14,11 +16,19 @@ void SetUser(MadeUpUser* user) {
     theUser = user;
 }
 
-// The routines are never called; they tell what a question's argument is.
-void FillFolderDeleteText(HWND, const void*) {}
-void FillFileDeleteText(HWND, const void*) {}
-void FillFileReplaceText(HWND, const void*) {}
-void FillFolderReplaceText(HWND, const void*) {}
+// Nothing is shown; the routines tell what the question is about.
+void FillFolderDeleteText(HWND, const wchar_t* path) {
+    pathAskedAbout = path;
+}
+void FillFileDeleteText(HWND, const wchar_t* path) {
+    pathAskedAbout = path;
+}
+void FillFileReplaceText(HWND, const ReplacePaths* paths) {
+    pathAskedAbout = paths->existingFile;
+}
+void FillFolderReplaceText(HWND, const wchar_t* path) {
+    pathAskedAbout = path;
+}
 
 const wchar_t* YesNoTemplate() {
     return L"two answers";
@@ -33,12 +43,26 @@ const wchar_t* MultipleFileReplaceTemplate() {
     return L"four answers";
 }
 
+Question DeleteFileQuestion(const wchar_t* path, Answers answers) {
+    return {answers == Answers::YesNo ? YesNoTemplate() : YesAllNoCancelTemplate(), &FillFileDeleteText,
+            path};
+}
+Question DeleteFolderQuestion(const wchar_t* path) {
+    return {YesAllNoCancelTemplate(), &FillFolderDeleteText, path};
+}
+Question ReplaceFileQuestion(const ReplacePaths& paths, Answers answers) {
+    return {answers == Answers::YesNo ? FileReplaceTemplate() : MultipleFileReplaceTemplate(),
+            &FillFileReplaceText, &paths};
+}
+Question ReplaceFolderQuestion(const wchar_t* path) {
+    return {YesAllNoCancelTemplate(), &FillFolderReplaceText, path};
+}
+
 ConfirmResult ConfirmationDialog::Ask() {
-    const bool isReplacing = fill_ == &FillFileReplaceText;
-    const auto* const path = isReplacing ? static_cast<const ReplacePaths*>(argument_)->existingFile
-                                         : static_cast<const wchar_t*>(argument_);
-    return theUser->Answer(
-        path, template_ == YesAllNoCancelTemplate() || template_ == MultipleFileReplaceTemplate());
+    question_.Fill(nullptr);
+    const wchar_t* const name = question_.TemplateName();
+    return theUser->Answer(pathAskedAbout,
+                           name == YesAllNoCancelTemplate() || name == MultipleFileReplaceTemplate());
 }
 
 int ShowError(HWND, const wchar_t*, ...) {

@@ -1,5 +1,7 @@
 #include "fileops/file_facts.h"
 
+#include "fileops/file_details.h"
+
 #include <gtest/gtest.h>
 
 #include <cwchar>

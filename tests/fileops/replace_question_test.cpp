@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "fileops/file_facts.h"
+#include "fileops/file_details.h"
 #include "fileops/question_texts.h"
 #include "resources/resource_ids.h"
 #include "tests/fileops/asked_question.h"

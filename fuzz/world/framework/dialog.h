@@ -1,9 +1,6 @@
 #pragma once
 
-// Dialogs without windows, in the place of framework/dialog.h: running one initialises it and gives it the
-// command that it posts to itself.
-
-#include <map>
+// Dialogs without windows, in the place of framework/dialog.h.
 
 #include "framework/handler_tables.h"
 #include "framework/property_set.h"
@@ -21,24 +18,14 @@ class WindowObject {
     [[nodiscard]] HWND ParentHandle() const { return nullptr; }
 
     template <class Target>
-    void OnCommand(EventSource command, Target*, LRESULT (Target::*method)(EventArguments&)) {
-        commands_[command] = static_cast<EventMethod>(method);
-    }
+    void OnCommand(EventSource, Target*, LRESULT (Target::*)(EventArguments&)) {}
     template <class Target>
     void OnMessage(UINT, Target*, LRESULT (Target::*)(MessageRecord&)) {}
     void Subclass() {}
     LRESULT DefaultProcessing(MessageRecord&) { return 0; }
 
-  protected:
-    void Raise(EventSource command) {
-        MessageRecord record;
-        EventArguments arguments{0, 0, record};
-        (this->*commands_.at(command))(arguments);
-    }
-
   private:
     WindowObject* parent_;
-    std::map<EventSource, EventMethod> commands_;
 };
 
 class Dialog : public WindowObject {
@@ -47,22 +34,15 @@ class Dialog : public WindowObject {
 
     Dialog(WindowObject* parent, const PropertySet&) : WindowObject(parent) {}
 
-    virtual INT_PTR RunModal() {
-        MessageRecord record;
-        OnInitDialog(record);
-        Raise(CommandPostedAtStart);
-        return endedWith_;
-    }
+    virtual INT_PTR RunModal() = 0;
     virtual void End(INT_PTR result) { endedWith_ = result; }
 
   protected:
     virtual LRESULT OnInitDialog(MessageRecord&) { return 1; }
-    virtual LRESULT OnWmCommand(MessageRecord&) { return 0; }
     virtual LRESULT OnWmActivate(MessageRecord&) { return 0; }
+    [[nodiscard]] INT_PTR EndedWith() const { return endedWith_; }
 
   private:
-    static constexpr EventSource CommandPostedAtStart = 10000;
-
     INT_PTR endedWith_ = -1;
 };
 
