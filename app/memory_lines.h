@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "platform/ce_storage.h"
+#include "platform/ce_system.h"
 
 constexpr int MemoryLineCapacity = 400;
 

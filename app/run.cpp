@@ -8,7 +8,7 @@
 #include "app/start_up.h"
 #include "framework/application.h"
 #include "framework/property_keys.h"
-#include "platform/ce_storage.h"
+#include "platform/ce_system.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -37,7 +37,7 @@ int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showComm
     context.instance = instance;
     context.commandLine = commandLine;
     context.showCommand = showCommand;
-    ce::FailOnEmptyDrives();
+    ce::SuppressDiskPrompts();
     ProbePlatform(context);
     DecideLanguage(context);
     const CommandLineWords words(commandLine);

@@ -3,6 +3,7 @@
 // One registry key at a time under a root, closed by itself, and the one-shot access to DWORD values.
 
 #include "platform/handles.h"
+#include "platform/windows_ce.h"
 
 class RegistryKey {
   public:

@@ -5,7 +5,7 @@
 
 #include "framework/dialog_squeeze.h"
 #include "platform/ce_shell.h"
-#include "platform/screen_area.h"
+#include "platform/ce_windows.h"
 #include "resources/resource_ids.h"
 
 namespace {

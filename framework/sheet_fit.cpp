@@ -5,7 +5,7 @@
 #include <prsht.h>
 
 #include "platform/ce_shell.h"
-#include "platform/screen_area.h"
+#include "platform/ce_windows.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "framework/page_fit.h"
-#include "platform/screen_area.h"
+#include "platform/ce_windows.h"
 #include "platform/windows_ce.h"
 
 namespace {

@@ -71,7 +71,7 @@ void FindCaption(FuzzInput& input) {
     for (std::size_t left = input.UpTo(6); left > 0; --left) {
         captions.push_back(SomeTextOf(input, L"aAbBc&&", 8));
         exact.emplace_back(captions.back());
-        Require(ce::MarkedLetter(exact.back().Get()) == MarkedPlainly(captions.back()),
+        Require(ce::Mnemonic(exact.back().Get()) == MarkedPlainly(captions.back()),
                 "the marked letter is the plain one");
     }
     std::vector<const wchar_t*> texts;

@@ -14,8 +14,8 @@ int GetClassNameW(HWND window, wchar_t* name, int capacity);
 
 // A top-level window with CW_USEDEFAULT in all four places fills the work area of a handheld-sized screen
 // (up to 800 x 480, either way round), with a caption as its title line, and its user cannot move it away; on
-// a larger screen it gets a window of handheld proportions that cannot be resized. Any other window is made as
-// asked. A failed creation answers null.
+// a larger screen it gets a window of handheld proportions that cannot be resized. Any other window is made
+// as asked. A failed creation answers null.
 HWND CreateWindowExW(DWORD extendedStyle, const wchar_t* className, const wchar_t* title, DWORD style, int x,
                      int y, int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
                      void* parameter);
@@ -27,5 +27,10 @@ ATOM RegisterClassW(const WNDCLASSW* windowClass);
 // Take an index with or without the flag.
 DWORD GetSysColor(int index);
 HBRUSH GetSysColorBrush(int index);
+
+// The part of the screen that windows may fill: the screen, of the size that ce::GetSystemMetrics tells,
+// without what the system keeps for its own bars.
+// The screen, of the size that ce::GetSystemMetrics tells, without what the system keeps for its own bars.
+[[nodiscard]] RECT ScreenArea();
 
 }  // namespace ce

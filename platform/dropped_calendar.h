@@ -3,7 +3,7 @@
 // The calendar that a date picker drops. The handheld keeps it on its screen; the desktop's hangs it below
 // the picker, in letters that make it wider than 240 pixels. Wine's takes the keyboard and knows no key.
 
-#include "platform/system_types.h"
+#include "platform/handles.h"
 
 namespace ce {
 
@@ -31,7 +31,7 @@ class DroppedCalendar {
     void TakeMarkedDay(HWND calendar) const;
     void GiveUp(HWND calendar) const;
 
-    HFONT font_ = nullptr;
+    UniqueFont font_;
     // Of the last drop.
     HWND picker_ = nullptr;
     SYSTEMTIME dateBefore_{};

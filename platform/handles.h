@@ -5,8 +5,17 @@
 
 #include <cstdio>
 
+#include "platform/ce_files.h"
+#include "platform/ce_system.h"
+#include "platform/system_types.h"
 #include "platform/unique_handle.h"
-#include "platform/windows_ce.h"
+
+#include <commctrl.h>
+
+struct FileHandleKind {
+    using Type = HANDLE;
+    static HANDLE None() { return INVALID_HANDLE_VALUE; }
+};
 
 template <typename Handle>
 struct GdiKind : NullableKind<Handle> {

@@ -1,8 +1,6 @@
 #pragma once
 
-// What all owners of handles have in common.
-
-#include "platform/system_types.h"
+// The owner that every kind of handle has.
 
 // Owns one handle of the kind that Kind describes: Kind::Type, Kind::None() (what "no handle" looks like) and
 // Kind::Release(handle).
@@ -50,10 +48,5 @@ class UniqueHandle {
 template <typename Handle>
 struct NullableKind {
     using Type = Handle;
-    static Type None() { return nullptr; }
-};
-
-struct FileHandleKind {
-    using Type = HANDLE;
-    static HANDLE None() { return INVALID_HANDLE_VALUE; }
+    static constexpr Type None() { return nullptr; }
 };

@@ -21,4 +21,5 @@
 #include "platform/ce_system.h"
 #include "platform/ce_windows.h"
 #include "platform/dropped_calendar.h"
+#include "platform/handles.h"
 #include "platform/held_keys.h"

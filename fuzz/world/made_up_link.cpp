@@ -5,7 +5,7 @@
 #include <cwchar>
 
 #include "platform/desktop/links.h"
-#include "platform/desktop/shell_path.h"
+#include "platform/desktop/shell_files.h"
 #include "platform/desktop/system_path.h"
 
 MadeUpLink& TheLink() {

@@ -9,8 +9,8 @@
 #include "platform/desktop/folder_entry.h"
 #include "platform/desktop/folder_listing.h"
 #include "platform/desktop/links.h"
-#include "platform/same_file.h"
 #include "platform/desktop/system_path.h"
+#include "platform/handles.h"
 
 namespace {
 
@@ -18,20 +18,16 @@ std::FILE* OpenShared(const wchar_t* path) {
     const SystemPath literal(path);
     if (!literal.Fits()) return nullptr;
     // The C library's own opening would keep others from deleting the file.
-    const HANDLE file =
-        CreateFileW(literal.Text(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return nullptr;
+    UniqueFile file(CreateFileW(literal.Text(), GENERIC_READ,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     // Reading from a pipe that nobody writes to would never end.
-    if (GetFileType(file) != FILE_TYPE_DISK) {
-        CloseHandle(file);
-        return nullptr;
-    }
-    const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_BINARY);
-    if (descriptor < 0) {
-        CloseHandle(file);
-        return nullptr;
-    }
+    if (!file || GetFileType(file.Get()) != FILE_TYPE_DISK) return nullptr;
+    const int descriptor =
+        _open_osfhandle(reinterpret_cast<std::intptr_t>(file.Get()), _O_RDONLY | _O_BINARY);
+    if (descriptor < 0) return nullptr;
+    // The descriptor owns the handle from here on, and the stream the descriptor.
+    static_cast<void>(file.Detach());
     std::FILE* const stream = _fdopen(descriptor, "rb");
     if (stream == nullptr) _close(descriptor);
     return stream;

@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "platform/ce_windows.h"
-#include "platform/screen_area.h"
+#include "platform/desktop/system_handles.h"
+#include "platform/desktop/window_placement.h"
 
 namespace ce {
 
@@ -15,9 +16,7 @@ constexpr LONG Margin = 6;
 constexpr LONG SmallestLetters = 8;
 constexpr int LongestText = 2048;
 
-SIZE SizeOf(const RECT& place) {
-    return {place.right - place.left, place.bottom - place.top};
-}
+using ce::SizeOf;
 
 SIZE SizeOf(HWND window) {
     RECT place{};
@@ -36,11 +35,7 @@ class BoxFit {
         : outer_(current), hook_(SetWindowsHookExW(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId())) {
         current = this;
     }
-    ~BoxFit() {
-        if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
-        if (font_ != nullptr) DeleteObject(font_);
-        current = outer_;
-    }
+    ~BoxFit() { current = outer_; }
     BoxFit(const BoxFit&) = delete;
     BoxFit& operator=(const BoxFit&) = delete;
 
@@ -57,8 +52,8 @@ class BoxFit {
     static BoxFit* current;
 
     BoxFit* outer_;
-    HHOOK hook_;
-    HFONT font_ = nullptr;
+    UniqueHook hook_;
+    UniqueFont font_;
     HWND box_ = nullptr;
     HWND icon_ = nullptr;
     HWND text_ = nullptr;
@@ -97,14 +92,12 @@ void BoxFit::FindControls() {
 SIZE BoxFit::TextSize(LONG width) const {
     wchar_t words[LongestText] = L"";
     const int length = GetWindowTextW(text_, words, LongestText);
-    const HDC context = GetDC(text_);
-    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(text_, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = letters != nullptr ? SelectObject(context, letters) : nullptr;
+    const WindowContext context(text_);
+    const SelectedObject font(context.Get(),
+                              reinterpret_cast<HGDIOBJ>(SendMessageW(text_, WM_GETFONT, 0, 0)));
     RECT area{0, 0, width, 0};
-    DrawTextW(context, words, length, &area,
+    DrawTextW(context.Get(), words, length, &area,
               DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL | DT_EXPANDTABS);
-    if (before != nullptr) SelectObject(context, before);
-    ReleaseDC(text_, context);
     return {area.right, area.bottom};
 }
 
@@ -115,12 +108,7 @@ bool BoxFit::MakeLettersSmaller() {
         return false;
     if (letters.lfHeight >= 0) letters.lfHeight = -letters.lfHeight;
     if (++letters.lfHeight > -SmallestLetters) return false;
-    const HFONT smaller = CreateFontIndirectW(&letters);
-    if (smaller == nullptr) return false;
-    SendMessageW(text_, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
-    if (font_ != nullptr) DeleteObject(font_);
-    font_ = smaller;
-    return true;
+    return ReplaceFont(text_, WM_SETFONT, letters, font_);
 }
 
 SIZE BoxFit::FitText(SIZE room) {

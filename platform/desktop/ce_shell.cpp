@@ -3,8 +3,7 @@
 #include "platform/ce_system.h"
 #include "platform/ce_windows.h"
 #include "platform/desktop/menu_bar.h"
-#include "platform/screen_area.h"
-#include "platform/desktop/shell_file_info.h"
+#include "platform/desktop/shell_files.h"
 #include "platform/desktop/window_placement.h"
 
 namespace ce {
@@ -23,7 +22,7 @@ bool FindLayout(HINSTANCE instance, UINT id, MenuBarLayout& layout) {
 
 bool IsTopLevelDialog(HWND window) {
     wchar_t name[8];
-    const bool child = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) != 0;
+    const bool child = (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0;
     return !child && ce::GetClassNameW(window, name, 8) > 0 && lstrcmpW(name, L"Dialog") == 0;
 }
 

@@ -10,43 +10,44 @@
 
 #include "platform/ce_files.h"
 #include "platform/desktop/links.h"
+#include "platform/desktop/shell_files.h"
 #include "platform/desktop/shell_link_file.h"
-#include "platform/desktop/shell_path.h"
 #include "platform/desktop/system_path.h"
+#include "platform/handles.h"
 
 namespace {
 
-// The library of objects for as long as one is used.
-class ObjectLibrary {
+// COM on this thread for as long as an object of it is used.
+class ComLibrary {
   public:
-    ObjectLibrary() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
-    ~ObjectLibrary() {
+    ComLibrary() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ComLibrary(const ComLibrary&) = delete;
+    ComLibrary& operator=(const ComLibrary&) = delete;
+    ~ComLibrary() {
         if (ready_) CoUninitialize();
     }
-    ObjectLibrary(const ObjectLibrary&) = delete;
-    ObjectLibrary& operator=(const ObjectLibrary&) = delete;
 
   private:
     bool ready_;
 };
 
-struct Releaser {
+struct ComReleaser {
     void operator()(IUnknown* object) const { object->Release(); }
 };
 template <class Interface>
-using Held = std::unique_ptr<Interface, Releaser>;
+using ComPtr = std::unique_ptr<Interface, ComReleaser>;
 
-Held<IShellLinkW> NewShellLink() {
+ComPtr<IShellLinkW> NewShellLink() {
     IShellLinkW* link = nullptr;
     CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
                      reinterpret_cast<void**>(&link));
-    return Held<IShellLinkW>(link);
+    return ComPtr<IShellLinkW>(link);
 }
 
-Held<IPersistFile> FileOf(IShellLinkW& link) {
+ComPtr<IPersistFile> FileOf(IShellLinkW& link) {
     IPersistFile* file = nullptr;
     link.QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file));
-    return Held<IPersistFile>(file);
+    return ComPtr<IPersistFile>(file);
 }
 
 bool HasBlank(const std::wstring& text) {
@@ -56,11 +57,10 @@ bool HasBlank(const std::wstring& text) {
 // What a shortcut file holds at most that is of interest; no target is that long.
 std::string FirstBytes(const wchar_t* path) {
     constexpr std::size_t Room = 65536;
-    std::FILE* file = ce::OpenForReading(path);
-    if (file == nullptr) return {};
+    const UniqueStream file(ce::OpenForReading(path));
+    if (!file) return {};
     std::string bytes(Room, '\0');
-    bytes.resize(std::fread(bytes.data(), 1, Room, file));
-    std::fclose(file);
+    bytes.resize(std::fread(bytes.data(), 1, Room, file.Get()));
     return bytes;
 }
 
@@ -130,15 +130,15 @@ bool SaveAs(IPersistFile& file, const wchar_t* shortcut) {
 }
 
 BOOL CreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
-    const ObjectLibrary library;
-    const Held<IShellLinkW> link = NewShellLink();
+    const ComLibrary library;
+    const ComPtr<IShellLinkW> link = NewShellLink();
     if (link == nullptr) return FALSE;
     const CommandLine parts = Split(target);
     // The desktop's links need the drive as well.
     wchar_t program[MAX_PATH];
     if (parts.program.empty() || !FindShellPath(parts.program.c_str(), program)) return FALSE;
     if (FAILED(link->SetPath(program)) || FAILED(link->SetArguments(parts.arguments.c_str()))) return FALSE;
-    const Held<IPersistFile> file = FileOf(*link);
+    const ComPtr<IPersistFile> file = FileOf(*link);
     return file != nullptr && SaveAs(*file, shortcut);
 }
 

@@ -1,8 +1,7 @@
 #include "platform/ce_windows.h"
 
 #include "platform/ce_system.h"
-#include "platform/desktop/fixed_windows.h"
-#include "platform/screen_area.h"
+#include "platform/desktop/system_handles.h"
 #include "platform/desktop/window_placement.h"
 
 namespace ce {
@@ -26,7 +25,40 @@ bool LeavesPlaceToSystem(DWORD style, int x, int y, int width, int height, HWND 
            width == CW_USEDEFAULT && height == CW_USEDEFAULT;
 }
 
+constexpr WPARAM CommandBits = 0xFFF0;
+
+bool FillsWorkArea(HWND window) {
+    RECT place{};
+    const RECT area = ScreenArea();
+    return window != nullptr && GetWindowRect(window, &place) && EqualRect(&place, &area);
+}
+
+bool MovesOrSizes(WPARAM command) {
+    return (command & CommandBits) == SC_MOVE || (command & CommandBits) == SC_SIZE;
+}
+
+// The command tells no window, but only the active one's title line and system menu can be used.
+LRESULT CALLBACK RefuseMoves(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_SYSCOMMAND && MovesOrSizes(wParam) && FillsWorkArea(GetActiveWindow())) return 1;
+    if (code == HCBT_MOVESIZE && FillsWorkArea(reinterpret_cast<HWND>(wParam))) return 1;
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// A window that fills a handheld's screen stays there: its title line is no handle. The desktop would let it
+// be dragged away, or moved from its system menu. From here on no window of this thread that fills the work
+// area can be moved or sized by its user; smaller windows can.
+void FixFullScreenWindows() {
+    static UniqueHook hook;
+    if (!hook) hook.Reset(SetWindowsHookExW(WH_CBT, RefuseMoves, nullptr, GetCurrentThreadId()));
+}
+
 }  // namespace
+
+RECT ScreenArea() {
+    RECT reported{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &reported, 0);
+    return UsableArea(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN), reported);
+}
 
 int GetClassNameW(HWND window, wchar_t* name, int capacity) {
     constexpr wchar_t DesktopDialogClass[] = L"#32770";

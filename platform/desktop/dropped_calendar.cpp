@@ -2,8 +2,9 @@
 
 #include <commctrl.h>
 
+#include "platform/ce_windows.h"
+#include "platform/desktop/system_handles.h"
 #include "platform/desktop/window_placement.h"
-#include "platform/screen_area.h"
 
 namespace ce {
 
@@ -16,10 +17,6 @@ constexpr LONG SmallestLetters = 7;
 WNDPROC calendarProcedure = nullptr;
 // Only one calendar can be open.
 const DroppedCalendar* lastDropped = nullptr;
-
-SIZE SizeOf(const RECT& place) {
-    return {place.right - place.left, place.bottom - place.top};
-}
 
 RECT PlaceOf(HWND window) {
     RECT place{};
@@ -42,13 +39,13 @@ bool FitsArea(SIZE size) {
     return size.cx <= room.cx && size.cy <= room.cy;
 }
 
-HFONT FontOfHeight(LONG height) {
+LOGFONTW FontOfHeight(LONG height) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     LOGFONTW font = metrics.lfMessageFont;
     font.lfHeight = -height;
-    return CreateFontIndirectW(&font);
+    return font;
 }
 
 // As the picker and the calendar send it themselves.
@@ -63,16 +60,11 @@ void Notify(HWND receiver, HWND sender, NMHDR& header, UINT code) {
 
 DroppedCalendar::~DroppedCalendar() {
     if (lastDropped == this) lastDropped = nullptr;
-    if (font_ != nullptr) DeleteObject(font_);
 }
 
 void DroppedCalendar::ShrinkLetters(HWND calendar) {
     for (LONG height = LargestLetters; height >= SmallestLetters && !FitsArea(NeededBy(calendar)); --height) {
-        const HFONT smaller = FontOfHeight(height);
-        if (smaller == nullptr) return;
-        SendMessageW(picker_, DTM_SETMCFONT, reinterpret_cast<WPARAM>(smaller), FALSE);
-        if (font_ != nullptr) DeleteObject(font_);
-        font_ = smaller;
+        if (!ReplaceFont(picker_, DTM_SETMCFONT, FontOfHeight(height), font_)) return;
     }
 }
 

@@ -2,10 +2,21 @@
 
 #include <cwchar>
 
-#include "platform/desktop/literal_path.h"
+#include "platform/desktop/system_handles.h"
+#include "platform/desktop/system_path.h"
 #include "platform/same_file.h"
 
 namespace {
+
+UniqueFile OpenToIdentify(const wchar_t* literal) {
+    // No access at all is needed to be told which file it is.
+    return UniqueFile(CreateFileW(literal, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
+bool Identify(const UniqueFile& file, BY_HANDLE_FILE_INFORMATION& identity) {
+    return file && GetFileInformationByHandle(file.Get(), &identity);
+}
 
 constexpr int LongestThirdName = 24;
 using Path = wchar_t[LiteralPathSize + LongestThirdName];
@@ -58,11 +69,26 @@ BOOL MoveToFree(const wchar_t* from, const wchar_t* to, MoveCall move) {
 
 }  // namespace
 
+bool IsSameFile(const wchar_t* first, const wchar_t* second) {
+    const SystemPath literal(first);
+    const SystemPath otherLiteral(second);
+    return literal.Fits() && otherLiteral.Fits() && OpensSameFile(literal.Text(), otherLiteral.Text());
+}
+
+bool OpensSameFile(const wchar_t* first, const wchar_t* second) {
+    // Both are held open: an identity may be given to another file once its file is gone.
+    const UniqueFile firstFile = OpenToIdentify(first);
+    const UniqueFile secondFile = OpenToIdentify(second);
+    BY_HANDLE_FILE_INFORMATION a{}, b{};
+    return Identify(firstFile, a) && Identify(secondFile, b) &&
+           a.dwVolumeSerialNumber == b.dwVolumeSerialNumber && a.nFileIndexHigh == b.nFileIndexHigh &&
+           a.nFileIndexLow == b.nFileIndexLow;
+}
+
 bool ListedName(const wchar_t* path, wchar_t (&name)[MAX_PATH]) {
     WIN32_FIND_DATAW entry;
-    const HANDLE listing = FindFirstFileW(path, &entry);
-    if (listing == INVALID_HANDLE_VALUE) return false;
-    FindClose(listing);
+    const UniqueSystemFind listing(FindFirstFileW(path, &entry));
+    if (!listing) return false;
     std::wcscpy(name, entry.cFileName);
     return true;
 }

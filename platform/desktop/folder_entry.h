@@ -1,10 +1,13 @@
 #pragma once
 
-// One entry of a folder by the name that the folder itself lists. All paths are in the literal form.
+// Which file, and which entry of a folder, a path opens. All paths are in the literal form.
 
 #include "platform/system_types.h"
 
-// The name under which the folder lists what the path leads to; false where it lists nothing.
+// As IsSameFile, for paths in the literal form, of any length.
+[[nodiscard]] bool OpensSameFile(const wchar_t* first, const wchar_t* second);
+
+// The name under which its folder lists what the path leads to; false where it lists nothing.
 [[nodiscard]] bool ListedName(const wchar_t* path, wchar_t (&name)[MAX_PATH]);
 
 // Whether both paths lead to one file or folder and to one entry of one folder: not so for a link and what it

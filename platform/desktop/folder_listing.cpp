@@ -2,15 +2,17 @@
 
 #include <cwchar>
 #include <new>
+#include <utility>
 
-#include "platform/name_wildcard.h"
+#include "platform/desktop/system_handles.h"
 #include "platform/desktop/system_path.h"
+#include "platform/name_wildcard.h"
 
 namespace {
 
 // What a handle of ours points to.
 struct Listing {
-    HANDLE search;
+    UniqueSystemFind search;
     bool everyName;
     wchar_t pattern[MAX_PATH];
 };
@@ -20,10 +22,10 @@ HANDLE Failed(DWORD code) {
     return INVALID_HANDLE_VALUE;
 }
 
-HANDLE StartSystemListing(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
+UniqueSystemFind StartSystemListing(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
     // Without short names, and with as much as the system can hand over at once.
-    return FindFirstFileExW(pattern, FindExInfoBasic, data, FindExSearchNameMatch, nullptr,
-                            FIND_FIRST_EX_LARGE_FETCH);
+    return UniqueSystemFind(FindFirstFileExW(pattern, FindExInfoBasic, data, FindExSearchNameMatch, nullptr,
+                                             FIND_FIRST_EX_LARGE_FETCH));
 }
 
 // Behind the last separator, or behind the drive.
@@ -55,13 +57,13 @@ bool MeansNoFolder(DWORD code) {
 
 // Opens the listing of everything in the folder part of the pattern, on the first entry that the system
 // gives.
-HANDLE OpenFolder(const wchar_t* pattern, const wchar_t* namePart, WIN32_FIND_DATAW* data) {
+UniqueSystemFind OpenFolder(const wchar_t* pattern, const wchar_t* namePart, WIN32_FIND_DATAW* data) {
     wchar_t folder[MAX_PATH];
     const auto folderUnits = static_cast<std::size_t>(namePart - pattern);
     std::wmemcpy(folder, pattern, folderUnits);
     folder[folderUnits] = L'\0';
     const SystemPath literal(folder);
-    if (!literal.Fits()) return Failed(ERROR_PATH_NOT_FOUND);
+    if (!literal.Fits()) return UniqueSystemFind(Failed(ERROR_PATH_NOT_FOUND));
 
     wchar_t everything[LiteralPathSize + 2];
     std::size_t units = std::wcslen(literal.Text());
@@ -69,15 +71,15 @@ HANDLE OpenFolder(const wchar_t* pattern, const wchar_t* namePart, WIN32_FIND_DA
     if (units > 0 && everything[units - 1] != L'\\') everything[units++] = L'\\';
     everything[units++] = L'*';
     everything[units] = L'\0';
-    const HANDLE search = StartSystemListing(everything, data);
-    if (search == INVALID_HANDLE_VALUE && MeansNoFolder(GetLastError())) SetLastError(ERROR_PATH_NOT_FOUND);
+    UniqueSystemFind search = StartSystemListing(everything, data);
+    if (!search && MeansNoFolder(GetLastError())) SetLastError(ERROR_PATH_NOT_FOUND);
     return search;
 }
 
 // One file or folder by its path.
-HANDLE OpenSingle(const wchar_t* path, WIN32_FIND_DATAW* data) {
+UniqueSystemFind OpenSingle(const wchar_t* path, WIN32_FIND_DATAW* data) {
     const SystemPath literal(path);
-    if (!literal.Fits()) return Failed(ERROR_PATH_NOT_FOUND);
+    if (!literal.Fits()) return UniqueSystemFind(Failed(ERROR_PATH_NOT_FOUND));
     return StartSystemListing(literal.Text(), data);
 }
 
@@ -89,15 +91,12 @@ HANDLE StartListing(const wchar_t* pattern, WIN32_FIND_DATAW* data) {
     const wchar_t* const namePart = NamePartOf(pattern);
     if (*namePart == L'\0') return Failed(ERROR_FILE_NOT_FOUND);
 
-    const HANDLE search =
+    UniqueSystemFind search =
         HasWildcard(namePart) ? OpenFolder(pattern, namePart, data) : OpenSingle(pattern, data);
-    if (search == INVALID_HANDLE_VALUE) return INVALID_HANDLE_VALUE;
+    if (!search) return INVALID_HANDLE_VALUE;
     auto* const listing = new (std::nothrow) Listing;
-    if (listing == nullptr) {
-        FindClose(search);
-        return Failed(ERROR_NOT_ENOUGH_MEMORY);
-    }
-    listing->search = search;
+    if (listing == nullptr) return Failed(ERROR_NOT_ENOUGH_MEMORY);
+    listing->search = std::move(search);
     listing->everyName = MatchesEveryName(namePart);
     std::wmemcpy(listing->pattern, namePart, std::wcslen(namePart) + 1);
     if (IsWanted(*listing, *data) || NextOfListing(listing, data)) return listing;
@@ -112,7 +111,7 @@ BOOL NextOfListing(HANDLE search, WIN32_FIND_DATAW* data) {
         return FALSE;
     }
     const auto& listing = *static_cast<const Listing*>(search);
-    while (FindNextFileW(listing.search, data)) {
+    while (FindNextFileW(listing.search.Get(), data)) {
         if (IsWanted(listing, *data)) return TRUE;
     }
     return FALSE;
@@ -123,8 +122,6 @@ BOOL EndListing(HANDLE search) {
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
-    auto* const listing = static_cast<Listing*>(search);
-    const BOOL closed = FindClose(listing->search);
-    delete listing;
-    return closed;
+    delete static_cast<Listing*>(search);
+    return TRUE;
 }

@@ -1,5 +1,7 @@
 #include "platform/held_keys.h"
 
+#include "platform/desktop/system_handles.h"
+
 namespace ce {
 
 namespace {
@@ -78,7 +80,7 @@ LRESULT CALLBACK WatchKeys(int code, WPARAM wParam, LPARAM lParam) {
 HeldKeys::HeldKeys() : hook_(SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId())) {}
 
 HeldKeys::~HeldKeys() {
-    if (hook_ != nullptr) UnhookWindowsHookEx(hook_);
+    const UniqueHook hook(hook_);
 }
 
 }  // namespace ce

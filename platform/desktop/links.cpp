@@ -3,9 +3,9 @@
 #include <cwchar>
 
 #include "platform/desktop/folder_entry.h"
-#include "platform/name_wildcard.h"
-#include "platform/same_file.h"
 #include "platform/desktop/system_path.h"
+#include "platform/handles.h"
+#include "platform/name_wildcard.h"
 
 namespace {
 
@@ -14,14 +14,14 @@ enum class LastLink : DWORD { Followed = 0, Itself = FILE_FLAG_OPEN_REPARSE_POIN
 
 // Where the folder or file really stands, links on the way followed. False when it cannot be opened or does
 // not fit.
-bool WhereItStands(const wchar_t* path, LastLink lastLink, wchar_t (&place)[LiteralPathSize]) {
+bool FinalPath(const wchar_t* path, LastLink lastLink, wchar_t (&finalPath)[LiteralPathSize]) {
     // No access at all is needed for this, and the flag is how a folder is opened.
-    const HANDLE opened =
-        CreateFileW(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                    FILE_FLAG_BACKUP_SEMANTICS | static_cast<DWORD>(lastLink), nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return false;
-    const DWORD units = GetFinalPathNameByHandleW(opened, place, LiteralPathSize, FILE_NAME_NORMALIZED);
-    CloseHandle(opened);
+    const UniqueFile opened(CreateFileW(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS | static_cast<DWORD>(lastLink), nullptr));
+    if (!opened) return false;
+    const DWORD units =
+        GetFinalPathNameByHandleW(opened.Get(), finalPath, LiteralPathSize, FILE_NAME_NORMALIZED);
     return units > 0 && units < LiteralPathSize;
 }
 
@@ -45,49 +45,50 @@ std::size_t UnitsWithoutEnd(const wchar_t* name) {
 // Whether the path and the place, both in one folder, are one entry of it. Either may be its long or its
 // short name, in any letter case. Where the system says what it has opened, it leaves out dots and blanks at
 // the end: the place is then another file's, or nobody's.
-bool IsNameOfPlace(const wchar_t* path, const wchar_t* place) {
+bool IsNameOfFinalPath(const wchar_t* path, const wchar_t* place) {
     const wchar_t* const name = std::wcsrchr(path, L'\\');
-    const wchar_t* const placeName = std::wcsrchr(place, L'\\');
+    const wchar_t* const finalName = std::wcsrchr(place, L'\\');
     // So it is nearly always, and a listing costs more than all the rest.
-    if (std::wcscmp(name, placeName) == 0) return true;
-    wchar_t listed[MAX_PATH], listedPlace[MAX_PATH];
-    if (ListedName(path, listed) && ListedName(place, listedPlace))
-        return std::wcscmp(listed, listedPlace) == 0 || !OpensSameFile(path, place);
+    if (std::wcscmp(name, finalName) == 0) return true;
+    wchar_t listed[MAX_PATH], listedFinal[MAX_PATH];
+    if (ListedName(path, listed) && ListedName(place, listedFinal))
+        return std::wcscmp(listed, listedFinal) == 0 || !OpensSameFile(path, place);
     const std::size_t units = UnitsWithoutEnd(name);
-    return UnitsWithoutEnd(placeName) == units && NamesTheSame(name, placeName, units);
+    return UnitsWithoutEnd(finalName) == units && NamesTheSame(name, finalName, units);
 }
 
-enum class Standing { Unknown, InItsPlace, Elsewhere };
+enum class LinkState { Unknown, NoLink, Link };
 
-// How what the system finds at the path stands to the parent and the name that the path gives.
-Standing StandingOf(const SystemPath& literal, LastLink lastLink) {
+// Whether the system finds a link at the path: something with another parent or another name than the path
+// gives.
+LinkState LinkStateOf(const SystemPath& literal, LastLink lastLink) {
     const wchar_t* const name = std::wcsrchr(literal.Text(), L'\\');
     wchar_t place[LiteralPathSize];
-    if (name == nullptr || !WhereItStands(literal.Text(), lastLink, place)) return Standing::Unknown;
+    if (name == nullptr || !FinalPath(literal.Text(), lastLink, place)) return LinkState::Unknown;
 
     wchar_t parent[LiteralPathSize];
     const auto parentUnits = static_cast<std::size_t>(name - literal.Text());
     std::wmemcpy(parent, literal.Text(), parentUnits + 1);
     // The closing separator stays: without it a drive's root would be the drive itself.
     parent[parentUnits + 1] = L'\0';
-    wchar_t parentPlace[LiteralPathSize];
-    if (!WhereItStands(parent, LastLink::Followed, parentPlace)) return Standing::Unknown;
+    wchar_t parentFinal[LiteralPathSize];
+    if (!FinalPath(parent, LastLink::Followed, parentFinal)) return LinkState::Unknown;
 
-    std::size_t units = std::wcslen(parentPlace);
-    if (units > 0 && parentPlace[units - 1] == L'\\') --units;
-    if (std::wcslen(place) < units || !NamesTheSame(place, parentPlace, units)) return Standing::Elsewhere;
-    if (std::wcsrchr(place, L'\\') != place + units) return Standing::Elsewhere;
-    return IsNameOfPlace(literal.Text(), place) ? Standing::InItsPlace : Standing::Elsewhere;
+    std::size_t units = std::wcslen(parentFinal);
+    if (units > 0 && parentFinal[units - 1] == L'\\') --units;
+    if (std::wcslen(place) < units || !NamesTheSame(place, parentFinal, units)) return LinkState::Link;
+    if (std::wcsrchr(place, L'\\') != place + units) return LinkState::Link;
+    return IsNameOfFinalPath(literal.Text(), place) ? LinkState::NoLink : LinkState::Link;
 }
 
-bool StandsInItsPlace(const SystemPath& literal, LastLink lastLink) {
-    return StandingOf(literal, lastLink) == Standing::InItsPlace;
+bool IsNoLink(const SystemPath& literal, LastLink lastLink) {
+    return LinkStateOf(literal, lastLink) == LinkState::NoLink;
 }
 
 // A link to a file bears no mark where the system follows it. It is known by the file that it opens: that one
 // stands in another folder, or has another name. A file that says nothing of itself is none.
 bool OpensAnotherFile(const SystemPath& literal, LastLink lastLink) {
-    return StandingOf(literal, lastLink) == Standing::Elsewhere;
+    return LinkStateOf(literal, lastLink) == LinkState::Link;
 }
 
 }  // namespace
@@ -97,7 +98,7 @@ bool OpensAnotherFile(const SystemPath& literal, LastLink lastLink) {
 bool LeadsElsewhere(const wchar_t* path) {
     const SystemPath literal(path);
     if (!literal.Fits()) return true;
-    return !StandsInItsPlace(literal, LastLink::Followed) && !IsMountedVolume(literal.Text());
+    return !IsNoLink(literal, LastLink::Followed) && !IsMountedVolume(literal.Text());
 }
 
 bool IsOutOfReach(const wchar_t* path) {
@@ -107,7 +108,7 @@ bool IsOutOfReach(const wchar_t* path) {
     if (attributes == INVALID_FILE_ATTRIBUTES) return false;
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return OpensAnotherFile(literal, LastLink::Itself);
     if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
-    return LeadsElsewhere(path) && !StandsInItsPlace(literal, LastLink::Itself);
+    return LeadsElsewhere(path) && !IsNoLink(literal, LastLink::Itself);
 }
 
 bool LeadsToAnotherFile(const wchar_t* path) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/desktop/menu_bar_captions.h"
+#include "platform/handles.h"
 
 namespace ce {
 
@@ -20,6 +20,81 @@ constexpr UINT LastToolBarMessage = WM_USER + 0xFF;
 
 HINSTANCE OwnInstance() {
     return GetModuleHandleW(nullptr);
+}
+
+// Left and right of a caption together.
+constexpr int CaptionPadding = 12;
+constexpr int PictureButtonWidth = 24;
+
+struct Button {
+    wchar_t caption[MenuBarCaptionCapacity];
+    int image;
+};
+
+// The number is a button's index with TBIF_BYINDEX, else its command.
+Button ReadButton(HWND toolBar, WPARAM number, DWORD flags) {
+    Button button{};
+    TBBUTTONINFOW info{};
+    info.cbSize = sizeof(info);
+    info.dwMask = TBIF_TEXT | TBIF_IMAGE | flags;
+    info.pszText = button.caption;
+    info.cchText = MenuBarCaptionCapacity;
+    SendMessageW(toolBar, TB_GETBUTTONINFOW, number, reinterpret_cast<LPARAM>(&info));
+    button.image = info.iImage;
+    return button;
+}
+
+HGDIOBJ FontOf(HWND toolBar) {
+    return reinterpret_cast<HGDIOBJ>(SendMessageW(toolBar, WM_GETFONT, 0, 0));
+}
+
+int WidthOf(HDC device, const Button& button) {
+    if (button.caption[0] == L'\0') return PictureButtonWidth;
+    SIZE extent{};
+    GetTextExtentPoint32W(device, button.caption, lstrlenW(button.caption), &extent);
+    return static_cast<int>(extent.cx) + CaptionPadding;
+}
+
+void DrawCaption(const NMCUSTOMDRAW& request, const wchar_t* caption) {
+    RECT area = request.rc;
+    FillRect(request.hdc, &area, ::GetSysColorBrush(COLOR_BTNFACE));
+    if ((request.uItemState & CDIS_SELECTED) != 0) {
+        DrawEdge(request.hdc, &area, BDR_SUNKENOUTER, BF_RECT);
+        OffsetRect(&area, 1, 1);
+    } else if ((request.uItemState & CDIS_HOT) != 0) {
+        DrawEdge(request.hdc, &area, BDR_RAISEDINNER, BF_RECT);
+    }
+    const bool disabled = (request.uItemState & CDIS_DISABLED) != 0;
+    SetTextColor(request.hdc, ::GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
+    SetBkMode(request.hdc, TRANSPARENT);
+    DrawTextW(request.hdc, caption, -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+// Gives each button just the width of its caption or picture. By itself the tool bar makes all of them as
+// wide as the widest, and three captions with two pictures would not fit a screen of 240 pixels.
+void FitMenuBarButtons(HWND toolBar) {
+    const WindowContext device(toolBar);
+    const SelectedObject font(device.Get(), FontOf(toolBar));
+    const auto count = static_cast<WPARAM>(SendMessageW(toolBar, TB_BUTTONCOUNT, 0, 0));
+    for (WPARAM index = 0; index < count; ++index) {
+        TBBUTTONINFOW info{};
+        info.cbSize = sizeof(info);
+        info.dwMask = TBIF_BYINDEX | TBIF_SIZE;
+        info.cx = static_cast<WORD>(WidthOf(device.Get(), ReadButton(toolBar, index, TBIF_BYINDEX)));
+        SendMessageW(toolBar, TB_SETBUTTONINFOW, index, reinterpret_cast<LPARAM>(&info));
+    }
+}
+
+// The answer to the tool bar's NM_CUSTOMDRAW. Draws a button that has only a caption, beside which the tool
+// bar would keep room for a picture; all others are left to the tool bar.
+LRESULT DrawMenuBarCaption(HWND toolBar, const NMTBCUSTOMDRAW& request) {
+    if (request.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+    if (request.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+    const Button button = ReadButton(toolBar, request.nmcd.dwItemSpec, 0);
+    if (button.caption[0] == L'\0' || button.image != I_IMAGENONE) return CDRF_DODEFAULT;
+    const SelectedObject font(request.nmcd.hdc, FontOf(toolBar));
+    DrawCaption(request.nmcd, button.caption);
+    return CDRF_SKIPDEFAULT;
 }
 
 }  // namespace
@@ -179,13 +254,11 @@ void MenuBar::KeepToolTips(WPARAM count, LPARAM texts) {
 }
 
 void MenuBar::Paint() {
-    PAINTSTRUCT paint;
-    const HDC device = BeginPaint(bar_, &paint);
+    const PaintContext paint(bar_);
     RECT area{};
     GetClientRect(bar_, &area);
     area.bottom = EdgeHeight;
-    FillRect(device, &area, ::GetSysColorBrush(COLOR_BTNSHADOW));
-    EndPaint(bar_, &paint);
+    FillRect(paint.Get(), &area, ::GetSysColorBrush(COLOR_BTNSHADOW));
 }
 
 void MenuBar::Place() {

@@ -24,7 +24,7 @@ bool ReadMenuBarLayout(const void* block, std::size_t size, MenuBarLayout& layou
     return true;
 }
 
-wchar_t MarkedLetter(const wchar_t* text) {
+wchar_t Mnemonic(const wchar_t* text) {
     while (*text != L'\0') {
         if (*text != L'&') {
             ++text;
@@ -41,10 +41,10 @@ int CaptionForKey(const wchar_t* const* captions, int count, wchar_t key) {
     const wchar_t wanted = Capital(key);
     if (wanted == L'\0') return -1;
     for (int index = 0; index < count; ++index) {
-        if (MarkedLetter(captions[index]) == wanted) return index;
+        if (Mnemonic(captions[index]) == wanted) return index;
     }
     for (int index = 0; index < count; ++index) {
-        const bool marksNothing = MarkedLetter(captions[index]) == L'\0';
+        const bool marksNothing = Mnemonic(captions[index]) == L'\0';
         if (marksNothing && Capital(captions[index][0]) == wanted) return index;
     }
     return -1;

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "platform/desktop/system_handles.h"
+
 namespace ce {
 
 namespace {
@@ -13,7 +15,7 @@ constexpr LPARAM WasDownBefore = 1L << 30;
 // menu of the thread, the bars whose parents are watched, and the hook that these share.
 MenuDropDowns* openMenus = nullptr;
 MenuDropDowns* firstWatcher = nullptr;
-HHOOK keyHook = nullptr;
+UniqueHook keyHook;
 // Whether another key or a click came while Alt was held: letting go of Alt then asks for no menu. The system
 // knows that of keys which reach its default processing, and some never do.
 bool altWasUsed = false;
@@ -47,12 +49,8 @@ bool HasNestedMenu(HMENU menu) {
 
 }  // namespace
 
-MenuDropDowns::~MenuDropDowns() {
-    if (menu_ != nullptr) DestroyMenu(menu_);
-}
-
 void MenuDropDowns::Add(WORD command, int position) {
-    HMENU subMenu = menu_ != nullptr ? GetSubMenu(menu_, position) : nullptr;
+    HMENU subMenu = menu_ ? GetSubMenu(menu_.Get(), position) : nullptr;
     if (subMenu == nullptr || count_ == MaxMenuBarButtons) return;
     dropDowns_[count_++] = DropDown{command, position, subMenu};
 }
@@ -69,9 +67,7 @@ void MenuDropDowns::Attach(HWND barWindow, HWND toolBarWindow, HWND parentWindow
     if (parentProcedure_ == nullptr) return;
     nextWatcher_ = firstWatcher;
     firstWatcher = this;
-    if (keyHook == nullptr) {
-        keyHook = SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId());
-    }
+    if (!keyHook) keyHook.Reset(SetWindowsHookExW(WH_GETMESSAGE, WatchKeys, nullptr, GetCurrentThreadId()));
 }
 
 void MenuDropDowns::Detach() {
@@ -88,10 +84,7 @@ void MenuDropDowns::Detach() {
     while (*link != nullptr && *link != this)
         link = &(*link)->nextWatcher_;
     if (*link != nullptr) *link = nextWatcher_;
-    if (firstWatcher == nullptr && keyHook != nullptr) {
-        UnhookWindowsHookEx(keyHook);
-        keyHook = nullptr;
-    }
+    if (firstWatcher == nullptr) keyHook.Reset();
 }
 
 MenuDropDowns* MenuDropDowns::WatcherOf(HWND window) {
@@ -121,7 +114,7 @@ bool MenuDropDowns::RequestByKey(wchar_t key) {
         const wchar_t* captions[MaxMenuBarButtons];
         for (int each = 0; each < count_; ++each) {
             texts[each][0] = L'\0';
-            GetMenuStringW(menu_, static_cast<UINT>(dropDowns_[each].position), texts[each],
+            GetMenuStringW(menu_.Get(), static_cast<UINT>(dropDowns_[each].position), texts[each],
                            MenuBarCaptionCapacity, MF_BYPOSITION);
             captions[each] = texts[each];
         }
@@ -140,7 +133,7 @@ void MenuDropDowns::Request(int index, bool byKeyboard) const {
 void MenuDropDowns::Run(int first, bool byKeyboard) {
     if (openMenus != nullptr || first < 0 || first >= count_ || !IsWindowEnabled(parent_)) return;
     const HWND window = bar_;
-    HHOOK menuHook = SetWindowsHookExW(WH_MSGFILTER, WatchOpenMenu, nullptr, GetCurrentThreadId());
+    const UniqueHook menuHook(SetWindowsHookExW(WH_MSGFILTER, WatchOpenMenu, nullptr, GetCurrentThreadId()));
     openMenus = this;
     GetCursorPos(&pointer_);
     GoOnTo(first, byKeyboard);
@@ -156,7 +149,6 @@ void MenuDropDowns::Run(int first, bool byKeyboard) {
         open_ = -1;
         openMenus = nullptr;
     }
-    if (menuHook != nullptr) UnhookWindowsHookEx(menuHook);
 }
 
 // The news of a pointer that moves on while one menu closes and the next opens may be lost.

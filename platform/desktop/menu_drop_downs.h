@@ -4,18 +4,18 @@
 // from one open menu to the next by arrow keys and pointer. It owns the whole menu.
 
 #include "platform/desktop/menu_bar_layout.h"
+#include "platform/handles.h"
 
 namespace ce {
 
 class MenuDropDowns {
   public:
     MenuDropDowns() = default;
-    ~MenuDropDowns();
     MenuDropDowns(const MenuDropDowns&) = delete;
     MenuDropDowns& operator=(const MenuDropDowns&) = delete;
 
     // Takes over the menu (which may be null).
-    void TakeMenu(HMENU wholeMenu) { menu_ = wholeMenu; }
+    void TakeMenu(HMENU wholeMenu) { menu_.Reset(wholeMenu); }
     // A button that opens the sub-menu at this position; one that does not exist is left out.
     void Add(WORD command, int position);
     // From here on the keys of the parent, when it is a top-level window, open the drop-downs: F10 or Alt the
@@ -24,7 +24,7 @@ class MenuDropDowns {
     // To be called before the bar's window is gone.
     void Detach();
 
-    [[nodiscard]] HMENU WholeMenu() const { return menu_; }
+    [[nodiscard]] HMENU WholeMenu() const { return menu_.Get(); }
     // The menu behind the button with this command, or null.
     [[nodiscard]] HMENU MenuOfCommand(WORD command) const;
     [[nodiscard]] int IndexOfCommand(WORD command) const;
@@ -62,7 +62,7 @@ class MenuDropDowns {
     HWND bar_ = nullptr;
     HWND toolBar_ = nullptr;
     HWND parent_ = nullptr;
-    HMENU menu_ = nullptr;
+    UniqueMenu menu_;
     DropDown dropDowns_[MaxMenuBarButtons]{};
     int count_ = 0;
     // The parent's own, while it is watched; null otherwise.

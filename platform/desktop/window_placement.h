@@ -13,6 +13,10 @@ struct FrameExtent {
     int height;
 };
 
+[[nodiscard]] inline SIZE SizeOf(const RECT& place) {
+    return {place.right - place.left, place.bottom - place.top};
+}
+
 // Client area of the program's window on a screen that is larger than a handheld's.
 constexpr int DesktopClientWidth = 360;
 constexpr int DesktopClientHeight = 480;

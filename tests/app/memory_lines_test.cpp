@@ -137,7 +137,7 @@ TEST(MemoryOfThisMachine, has_fewer_cards_than_drive_letters) {
 TEST(MemoryOfThisMachine, is_asked_for_without_the_system_asking_for_a_disk) {
     DWORD before = 0;
     ASSERT_TRUE(SetThreadErrorMode(0, &before));
-    ce::FailOnEmptyDrives();
+    ce::SuppressDiskPrompts();
     EXPECT_NE(GetThreadErrorMode() & SEM_FAILCRITICALERRORS, 0u);
     SetThreadErrorMode(before, nullptr);
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/ce_storage.h"
+#include "platform/ce_system.h"
 
 class ReplacedStorage {
   public:

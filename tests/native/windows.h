@@ -36,6 +36,9 @@ struct RECT {
 struct POINT {
     LONG x, y;
 };
+struct SIZE {
+    LONG cx, cy;
+};
 
 #define FILE_ATTRIBUTE_DIRECTORY 0x10
 

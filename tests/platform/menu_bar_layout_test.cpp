@@ -66,18 +66,18 @@ TEST(MenuBarLayout, with_more_buttons_than_a_bar_takes_is_refused) {
     EXPECT_TRUE(Read(words, layout));
 }
 
-TEST(MarkedLetter, is_the_one_after_the_first_single_ampersand) {
-    EXPECT_EQ(ce::MarkedLetter(L"&View"), L'V');
-    EXPECT_EQ(ce::MarkedLetter(L"Sa&ve &all"), L'V');
-    EXPECT_EQ(ce::MarkedLetter(L"Cut && &paste"), L'P');
-    EXPECT_EQ(ce::MarkedLetter(L"ｵﾌﾟｼｮﾝ(&O)"), L'O');
+TEST(Mnemonic, is_the_one_after_the_first_single_ampersand) {
+    EXPECT_EQ(ce::Mnemonic(L"&View"), L'V');
+    EXPECT_EQ(ce::Mnemonic(L"Sa&ve &all"), L'V');
+    EXPECT_EQ(ce::Mnemonic(L"Cut && &paste"), L'P');
+    EXPECT_EQ(ce::Mnemonic(L"ｵﾌﾟｼｮﾝ(&O)"), L'O');
 }
 
-TEST(MarkedLetter, is_none_without_an_ampersand_of_its_own) {
-    EXPECT_EQ(ce::MarkedLetter(L"File"), L'\0');
-    EXPECT_EQ(ce::MarkedLetter(L"Cut && paste"), L'\0');
-    EXPECT_EQ(ce::MarkedLetter(L"Ends with &"), L'\0');
-    EXPECT_EQ(ce::MarkedLetter(L""), L'\0');
+TEST(Mnemonic, is_none_without_an_ampersand_of_its_own) {
+    EXPECT_EQ(ce::Mnemonic(L"File"), L'\0');
+    EXPECT_EQ(ce::Mnemonic(L"Cut && paste"), L'\0');
+    EXPECT_EQ(ce::Mnemonic(L"Ends with &"), L'\0');
+    EXPECT_EQ(ce::Mnemonic(L""), L'\0');
 }
 
 TEST(CaptionForKey, finds_the_marked_letter_in_either_case) {

@@ -1,6 +1,6 @@
 // What the shell is told and asked about files whose names it takes for other ones.
 
-#include "platform/desktop/shell_path.h"
+#include "platform/desktop/shell_files.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 
 #include <commctrl.h>
 
-#include "platform/desktop/menu_bar_resource.h"
+#include "platform/desktop/menu_bar_layout.h"
 #include "tests/resources/program_module.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include <prsht.h>
 
 #include "framework/sheet_fit.h"
-#include "platform/screen_area.h"
+#include "platform/ce_windows.h"
 #include "tests/resources/dialog_window.h"
 #include "tests/resources/page_window.h"
 #include "tests/resources/program_module.h"

@@ -1,4 +1,4 @@
-#include "platform/desktop/shell_file_info.h"
+#include "platform/desktop/shell_files.h"
 #include "tests/results/registered_types.h"
 #include "tests/results/result_list_test.h"
 #include "tests/support/temp_tree.h"

@@ -1,16 +1,24 @@
 #pragma once
 
-// The owners that the fuzzed sources use, in the place of platform/handles.h, which has those of windows too.
+// The owners of the handles that there are in memory.
+
+#include <cstdio>
 
 #include "platform/unique_handle.h"
 #include "platform/windows_ce.h"
 
-struct FindKind : FileHandleKind {
-    static void Release(HANDLE search) { ce::FindClose(search); }
-};
 struct KeyKind : NullableKind<HKEY> {
     static void Release(HKEY key) { RegCloseKey(key); }
 };
+struct FindKind {
+    using Type = HANDLE;
+    static HANDLE None() { return INVALID_HANDLE_VALUE; }
+    static void Release(HANDLE search) { ce::FindClose(search); }
+};
+struct StreamKind : NullableKind<std::FILE*> {
+    static void Release(std::FILE* file) { std::fclose(file); }
+};
 
-using UniqueFind = UniqueHandle<FindKind>;
 using UniqueKey = UniqueHandle<KeyKind>;
+using UniqueFind = UniqueHandle<FindKind>;
+using UniqueStream = UniqueHandle<StreamKind>;
