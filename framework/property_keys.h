@@ -2,7 +2,9 @@
 
 // The keys that the framework itself reads from a property set.
 
-#include "framework/property_set.h"
+#include <cstdint>
+
+using PropertyKey = std::uint32_t;
 
 namespace property {
 

@@ -6,9 +6,10 @@
 #include <array>
 #include <cstdint>
 
+#include "framework/property_keys.h"
+
 // A number, a handle, or the address of something that the caller keeps alive until construction ends.
 using PropertyValue = std::uintptr_t;
-using PropertyKey = std::uint32_t;
 
 class PropertySet {
   public:

@@ -2,7 +2,6 @@
 
 #include "base/program_context.h"
 #include "framework/property_keys.h"
-#include "framework/window_object.h"
 #include "platform/windows_ce.h"
 
 namespace {
@@ -16,15 +15,15 @@ PropertyValue ValueOr(const PropertySet& properties, PropertyKey key, PropertyVa
 
 }  // namespace
 
-void RegisterWindowClass(const PropertySet& properties) {
+void RegisterWindowClass(const PropertySet& properties, WNDPROC procedure) {
     const wchar_t* name = properties.GetText(property::ClassName);
     WNDCLASSW windowClass{};
     if (GetClassInfoW(Context().instance, name, &windowClass)) return;
 
     windowClass = {};
     windowClass.style = static_cast<UINT>(ValueOr(properties, property::ClassStyle, RedrawOnSizeChange));
-    windowClass.lpfnWndProc = reinterpret_cast<WNDPROC>(ValueOr(
-        properties, property::WindowProcedure, reinterpret_cast<PropertyValue>(&FrameworkWindowProcedure)));
+    windowClass.lpfnWndProc = reinterpret_cast<WNDPROC>(
+        ValueOr(properties, property::WindowProcedure, reinterpret_cast<PropertyValue>(procedure)));
     windowClass.cbClsExtra = static_cast<int>(properties.Get(property::ClassExtraBytes));
     windowClass.cbWndExtra = static_cast<int>(properties.Get(property::WindowExtraBytes));
     windowClass.hInstance = Context().instance;

@@ -60,7 +60,8 @@ WindowObject::~WindowObject() {
 
 void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
     if (!properties.Has(property::ClassName)) properties.SetText(property::ClassName, DefaultClassName);
-    if (!properties.Has(property::ClassIsRegistered)) RegisterWindowClass(properties);
+    if (!properties.Has(property::ClassIsRegistered))
+        RegisterWindowClass(properties, &FrameworkWindowProcedure);
     const wchar_t* className = properties.GetText(property::ClassName);
     const HWND window = ce::CreateWindowExW(
         StyleOf(properties, property::ExtendedStyle), className, title, StyleOf(properties, property::Style),

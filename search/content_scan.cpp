@@ -4,8 +4,6 @@
 #include <cpuid.h>
 #endif
 
-#include "search/content_scan_loop.h"
-
 namespace {
 
 #ifdef __x86_64__
@@ -58,5 +56,5 @@ void SetContentScanWidth(ScanWidth width) {
 
 ContentScan ContentScanFor(bool folding) {
     if (scanWidth == ScanWidth::Bytes32) return ContentScan32(folding);
-    return folding ? &RegisterScan<16, true>::Next : &RegisterScan<16, false>::Next;
+    return ContentScan16(folding);
 }

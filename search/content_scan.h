@@ -51,5 +51,6 @@ enum class ScanWidth { Bytes16, Bytes32 };
 [[nodiscard]] ScanWidth ContentScanWidth();
 void SetContentScanWidth(ScanWidth width);
 
-// The instance for AVX2, for ContentScanFor alone.
+// The instances for SSE2 and AVX2, for ContentScanFor alone.
+[[nodiscard]] ContentScan ContentScan16(bool folding);
 [[nodiscard]] ContentScan ContentScan32(bool folding);

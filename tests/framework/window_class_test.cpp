@@ -1,5 +1,7 @@
 #include "framework/window_class.h"
 
+#include "framework/window_object.h"
+
 #include "tests/framework/framework_test.h"
 
 namespace {
@@ -21,7 +23,7 @@ class WindowClass : public FrameworkTest {
 TEST_F(WindowClass, without_properties_gets_the_defaults) {
     PropertySet properties;
     properties.SetText(property::ClassName, L"ClassOfDefaults");
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     const WNDCLASSW known = Registered(L"ClassOfDefaults");
     EXPECT_EQ(known.style, 3U);
     EXPECT_EQ(known.lpfnWndProc, &FrameworkWindowProcedure);
@@ -46,7 +48,7 @@ TEST_F(WindowClass, takes_each_property_that_is_set) {
     properties.Set(property::ClassCursor, reinterpret_cast<PropertyValue>(cursor));
     properties.Set(property::ClassBackground, reinterpret_cast<PropertyValue>(GetStockObject(GRAY_BRUSH)));
     properties.SetText(property::ClassMenuName, L"SomeMenu");
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     const WNDCLASSW known = Registered(L"ClassOfProperties");
     EXPECT_EQ(known.style, static_cast<UINT>(CS_DBLCLKS));
     EXPECT_EQ(known.lpfnWndProc, &OwnProcedure);
@@ -63,7 +65,7 @@ TEST_F(WindowClass, given_a_style_of_0_has_none_of_the_default) {
     PropertySet properties;
     properties.SetText(property::ClassName, L"ClassOfNoStyle");
     properties.Set(property::ClassStyle, 0);
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     EXPECT_EQ(Registered(L"ClassOfNoStyle").style, 0U);
 }
 
@@ -71,9 +73,9 @@ TEST_F(WindowClass, stays_as_it_was_first_registered) {
     PropertySet properties;
     properties.SetText(property::ClassName, L"ClassRegisteredTwice");
     properties.Set(property::ClassStyle, CS_DBLCLKS);
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     properties.Set(property::ClassStyle, CS_NOCLOSE);
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     EXPECT_EQ(Registered(L"ClassRegisteredTwice").style, static_cast<UINT>(CS_DBLCLKS));
 }
 
@@ -81,7 +83,7 @@ TEST_F(WindowClass, that_cannot_be_registered_is_passed_over) {
     PropertySet properties;
     properties.SetText(property::ClassName, L"ClassOfNegativeSize");
     properties.Set(property::ClassExtraBytes, static_cast<PropertyValue>(-1));
-    RegisterWindowClass(properties);
+    RegisterWindowClass(properties, &FrameworkWindowProcedure);
     EXPECT_EQ(Registered(L"ClassOfNegativeSize").style, ~0U);
 }
 
