@@ -6,7 +6,7 @@
 #include "platform/windows_ce.h"
 #include "search/byte_reader.h"
 #include "search/content_prefilter.h"
-#include "search/find_bytes.h"
+#include "search/substring_search.h"
 #include "search/line_readers.h"
 
 namespace {

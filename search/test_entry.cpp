@@ -5,7 +5,7 @@
 #include "base/paths.h"
 #include "search/content_matches.h"
 #include "search/date_and_size_filter.h"
-#include "search/find_wide.h"
+#include "search/substring_search.h"
 
 namespace {
 

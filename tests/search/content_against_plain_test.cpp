@@ -8,7 +8,7 @@
 
 #include "base/program_context.h"
 #include "search/content_matches.h"
-#include "search/shift_table.h"
+#include "search/substring_search.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/plain_content.h"
 #include "tests/search/scan_widths.h"

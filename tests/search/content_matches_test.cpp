@@ -7,7 +7,7 @@
 
 #include "base/program_context.h"
 #include "search/double_byte_text.h"
-#include "search/shift_table.h"
+#include "search/substring_search.h"
 #include "tests/support/temp_tree.h"
 
 namespace {

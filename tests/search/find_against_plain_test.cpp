@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "search/find_bytes.h"
-#include "search/find_wide.h"
-#include "search/shift_table.h"
+#include "search/substring_search.h"
 #include "tests/search/plain_find.h"
 
 namespace {

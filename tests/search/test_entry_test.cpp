@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "search/find_wide.h"
-#include "search/shift_table.h"
+#include "search/substring_search.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/recorded_search.h"
 
