@@ -3,7 +3,7 @@
 // The second page: any date, a range between two dates, or the past so many days.
 
 #include "conditions/condition_page.h"
-#include "search/date_range.h"
+#include "search/date_and_size.h"
 
 class DatePage : public ConditionPage {
   public:

@@ -4,7 +4,7 @@
 
 #include "conditions/condition_page.h"
 #include "conditions/file_type_list.h"
-#include "search/size_bound.h"
+#include "search/date_and_size.h"
 
 class SizePage : public ConditionPage {
   public:

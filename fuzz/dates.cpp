@@ -2,7 +2,7 @@
 
 #include "fuzz/fuzz_targets.h"
 #include "search/calendar.h"
-#include "search/date_range.h"
+#include "search/date_and_size.h"
 #include "tests/search/plain_calendar.h"
 
 namespace {

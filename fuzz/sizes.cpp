@@ -7,8 +7,7 @@
 #include "fuzz/fuzz_texts.h"
 #include "results/row_texts.h"
 #include "results/sort_keys.h"
-#include "search/date_and_size_filter.h"
-#include "search/size_bound.h"
+#include "search/date_and_size.h"
 
 namespace {
 

@@ -6,8 +6,7 @@
 #include <cstdint>
 
 #include "platform/system_types.h"
-#include "search/date_range.h"
-#include "search/size_bound.h"
+#include "search/date_and_size.h"
 
 // Room for the text that a file has to hold: at most 260 units of it count.
 constexpr int ContentTextSize = 261;

@@ -4,7 +4,7 @@
 
 #include "base/paths.h"
 #include "search/content_matches.h"
-#include "search/date_and_size_filter.h"
+#include "search/date_and_size.h"
 #include "search/substring_search.h"
 
 namespace {

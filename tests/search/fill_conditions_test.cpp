@@ -8,7 +8,7 @@
 
 #include "base/program_context.h"
 #include "platform/windows_ce.h"
-#include "search/date_and_size_filter.h"
+#include "search/date_and_size.h"
 #include "search/double_byte_text.h"
 #include "search/system_text_conversion.h"
 #include "search/text_conversion.h"
