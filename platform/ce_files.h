@@ -4,6 +4,7 @@
 // any of them fail with any code. A path is taken unit by unit: a name may end in a dot or a space, and no
 // name is a device (LiteralPath).
 
+#include <cstddef>
 #include <cstdio>
 
 #include "platform/system_types.h"
@@ -47,6 +48,10 @@ inline BOOL FindClose(HANDLE search) {
 inline std::FILE* OpenForReading(const wchar_t* path) {
     return fileCalls.openForReading(path);
 }
+
+// One read of the system, past the C library's buffer: how many bytes were written to the block, 0 at the end
+// and for a read error. A read of a file on a disk that comes short is the last.
+std::size_t ReadBlock(std::FILE* file, unsigned char* block, std::size_t size);
 
 inline DWORD GetFileAttributesW(const wchar_t* path) {
     return fileCalls.getFileAttributes(path);

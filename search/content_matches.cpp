@@ -6,8 +6,8 @@
 #include "platform/windows_ce.h"
 #include "search/byte_reader.h"
 #include "search/content_prefilter.h"
-#include "search/substring_search.h"
 #include "search/line_readers.h"
+#include "search/substring_search.h"
 
 namespace {
 
@@ -30,8 +30,7 @@ bool ALineContains(ByteSource& source, const SearchConditions& conditions) {
     return false;
 }
 
-bool FileContains(std::FILE* file, const SearchConditions& conditions) {
-    FileByteSource source(file);
+bool FileContains(FileByteSource& source, const SearchConditions& conditions) {
     const char* const pattern = conditions.contentPattern;
     const std::size_t length = std::strlen(pattern);
     const ContentVerdict verdict = JudgeContent(
@@ -49,11 +48,31 @@ bool FileContains(std::FILE* file, const SearchConditions& conditions) {
 bool ContentMatches(const SearchConditions& conditions, const wchar_t* fullPath,
                     const WIN32_FIND_DATAW& entry) {
     if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return false;
-    std::FILE* const file = ce::OpenForReading(fullPath);
-    if (file == nullptr) return false;
-    // Blocks are read to buffers of their own.
-    std::setvbuf(file, nullptr, _IONBF, 0);
-    const bool contains = FileContains(file, conditions);
-    std::fclose(file);
-    return contains;
+    FileByteSource source(fullPath);
+    return source.IsOpen() && FileContains(source, conditions);
+}
+
+FileByteSource::FileByteSource(const wchar_t* path)
+    : file_(ce::OpenForReading(path)), ended_(file_ == nullptr) {
+    // Blocks are read past the C library's buffer, so that it need not make one.
+    if (file_ != nullptr) std::setvbuf(file_, nullptr, _IONBF, 0);
+}
+
+FileByteSource::~FileByteSource() {
+    if (file_ != nullptr) std::fclose(file_);
+}
+
+// A read that comes short is the last: to read once more, only to be told that there is nothing, would be
+// felt with small files.
+std::size_t FileByteSource::Fill(unsigned char* block, std::size_t size) {
+    if (ended_) return 0;
+    const std::size_t count = ce::ReadBlock(file_, block, size);
+    ended_ = count < size;
+    return count;
+}
+
+void FileByteSource::Rewind() {
+    if (file_ == nullptr) return;
+    std::rewind(file_);
+    ended_ = false;
 }

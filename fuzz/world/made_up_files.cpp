@@ -31,6 +31,11 @@ ce::FileCalls MadeUpCalls() {
 
 ce::FileCalls ce::fileCalls = MadeUpCalls();
 
+std::size_t ce::ReadBlock(std::FILE* file, unsigned char* block, std::size_t size) {
+    const ssize_t count = read(fileno(file), block, size);
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
 void SetMadeUpFile(const std::string& content) {
     const auto size = static_cast<ssize_t>(content.size());
     if (ftruncate(FileInMemory(), 0) != 0) std::abort();

@@ -145,3 +145,8 @@ ce::FileCalls ce::fileCalls = {
     StartListing, NextOfListing, EndListing, OpenShared,   GetAttributes, SetAttributes,
     Delete,       Move,          Copy,       CreateFolder, RemoveFolder,  LeadsElsewhere,
 };
+
+std::size_t ce::ReadBlock(std::FILE* file, unsigned char* block, std::size_t size) {
+    const int count = _read(_fileno(file), block, static_cast<unsigned>(size));
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}

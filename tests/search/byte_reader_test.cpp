@@ -25,23 +25,6 @@ class FillWitness final : public ByteSource {
     }
 };
 
-// A file in the folder for temporary files, deleted in the end.
-class TemporaryFile {
-  public:
-    explicit TemporaryFile(const std::string& content) : path(testing::TempDir() + "byte_reader_test.bin") {
-        std::FILE* const file = std::fopen(path.c_str(), "wb");
-        if (file == nullptr) return;
-        written = std::fwrite(content.data(), 1, content.size(), file) == content.size();
-        std::fclose(file);
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() { std::remove(path.c_str()); }
-
-    std::string path;
-    bool written = false;
-};
-
 }  // namespace
 
 TEST(ByteReader, bytes_come_as_0_to_255) {
@@ -80,63 +63,4 @@ TEST(ByteReader, a_block_has_64_kilobytes_and_starts_on_a_page) {
     EXPECT_EQ(reader.Next(), 'x');
     EXPECT_EQ(witness.size, 65536U);
     EXPECT_EQ(witness.address % 4096, 0U);
-}
-
-TEST(FileByteSource, it_reads_a_file_of_several_blocks_as_it_stands) {
-    std::string content;
-    for (int i = 0; i < 150000; ++i)
-        content.push_back(static_cast<char>(i % 251));
-    const TemporaryFile temporary(content);
-    ASSERT_TRUE(temporary.written);
-
-    std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
-    ASSERT_NE(file, nullptr);
-    FileByteSource source(file);
-    ByteReader reader(source);
-    std::string read;
-    for (int byte = reader.Next(); byte != -1; byte = reader.Next())
-        read.push_back(static_cast<char>(byte));
-    std::fclose(file);
-    EXPECT_TRUE(read == content) << "read " << read.size() << " bytes";
-}
-
-TEST(FileByteSource, a_file_of_whole_blocks_ends_behind_the_last_one) {
-    const TemporaryFile temporary(std::string(128, 'x'));
-    ASSERT_TRUE(temporary.written);
-    std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
-    ASSERT_NE(file, nullptr);
-    FileByteSource source(file);
-    unsigned char block[64];
-    EXPECT_EQ(source.Fill(block, sizeof block), 64U);
-    EXPECT_EQ(source.Fill(block, sizeof block), 64U);
-    EXPECT_EQ(source.Fill(block, sizeof block), 0U);
-    std::fclose(file);
-}
-
-TEST(FileByteSource, it_begins_again_behind_its_end) {
-    const TemporaryFile temporary("content");
-    ASSERT_TRUE(temporary.written);
-    std::FILE* const file = std::fopen(temporary.path.c_str(), "rb");
-    ASSERT_NE(file, nullptr);
-    FileByteSource source(file);
-    unsigned char block[64];
-    for (int time = 0; time < 2; ++time) {
-        ASSERT_EQ(source.Fill(block, sizeof block), 7U);
-        EXPECT_EQ(std::string(block, block + 7), "content");
-        EXPECT_EQ(source.Fill(block, sizeof block), 0U);
-        source.Rewind();
-    }
-    std::fclose(file);
-}
-
-TEST(FileByteSource, a_read_error_is_the_end) {
-    const TemporaryFile temporary("content");
-    ASSERT_TRUE(temporary.written);
-    // A file opened for writing alone cannot be read.
-    std::FILE* const file = std::fopen(temporary.path.c_str(), "ab");
-    ASSERT_NE(file, nullptr);
-    FileByteSource source(file);
-    ByteReader reader(source);
-    EXPECT_EQ(reader.Next(), -1);
-    std::fclose(file);
 }
