@@ -4,7 +4,7 @@
 #include "base/program_context.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/world/made_up_files.h"
-#include "search/byte_source.h"
+#include "search/line_readers.h"
 #include "search/content_matches.h"
 #include "search/content_prefilter.h"
 #include "search/double_byte_text.h"

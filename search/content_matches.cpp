@@ -4,9 +4,8 @@
 
 #include "base/program_context.h"
 #include "platform/windows_ce.h"
-#include "search/byte_reader.h"
-#include "search/content_prefilter.h"
 #include "search/line_readers.h"
+#include "search/content_prefilter.h"
 #include "search/substring_search.h"
 
 namespace {

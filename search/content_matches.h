@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "platform/system_types.h"
-#include "search/byte_source.h"
+#include "search/line_readers.h"
 #include "search/search_conditions.h"
 
 // To be asked only with ContentString set. False for a folder, and for a file that cannot be opened (locked,

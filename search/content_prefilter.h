@@ -7,7 +7,7 @@
 
 #include <cstddef>
 
-#include "search/byte_source.h"
+#include "search/line_readers.h"
 
 struct ContentPattern {
     const char* bytes;

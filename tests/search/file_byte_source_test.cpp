@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/windows_ce.h"
-#include "search/byte_reader.h"
+#include "search/line_readers.h"
 #include "search/content_matches.h"
 #include "tests/support/replaced_calls.h"
 #include "tests/support/temp_tree.h"

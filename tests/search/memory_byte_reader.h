@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "search/byte_reader.h"
+#include "search/line_readers.h"
 
 class MemoryByteSource : public ByteSource {
   public:
