@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 #include "search/double_byte_text.h"
 
 namespace {
@@ -14,33 +14,33 @@ using Byte = unsigned char;
 constexpr Byte CarriageReturn = 13;
 constexpr Byte LineFeed = 10;
 
-enum class Place { Nothing, Occurrence, EndOfScan };
+enum class Finding { Nothing, Occurrence, EmptyLine };
 
-// A stretch of the file, with what is to be found in it.
-class Window {
+// Examines the file block by block.
+class BlockExaminer {
   public:
-    explicit Window(const ContentPattern& sought)
+    explicit BlockExaminer(const ContentPattern& sought)
         : pattern_(sought),
           scanned_{Repeated(0), Repeated(1), Repeated(sought.length - 1), sought.length - 1},
-          scan_(ContentScanFor(sought.folding)) {}
+          scan_(BlockScannerFor(sought.folding)) {}
 
-    // The first place between begin and end that counts. One that needs bytes behind the end does not, yet.
-    [[nodiscard]] Place Examine(const Byte* begin, const Byte* end) {
+    // The first finding between begin and end. What needs bytes behind the end is left for the next block.
+    [[nodiscard]] Finding Examine(const Byte* begin, const Byte* end) {
         start_ = begin;
         stop_ = end;
         const Byte* at = begin;
-        const Place passed = PassOver(at);
-        if (passed != Place::Nothing) return passed;
-        // A place is looked at together with the byte behind it.
+        const Finding scanned = ScanUpToTheRest(at);
+        if (scanned != Finding::Nothing) return scanned;
+        // A place is examined together with the byte after it.
         for (; end - at > 1; ++at) {
-            const Place place = ExamineOne(at);
-            if (place != Place::Nothing) return place;
+            const Finding finding = ExamineOne(at);
+            if (finding != Finding::Nothing) return finding;
         }
-        return Place::Nothing;
+        return Finding::Nothing;
     }
 
-    // Where the bytes begin that have to stay for the next window: an occurrence, or a line feed with what
-    // stands before it, may reach over the border.
+    // From where on the bytes have to be kept for the next block: an occurrence, or a line feed with what
+    // precedes it, may cross the border.
     [[nodiscard]] const Byte* KeepFrom(const Byte* begin, const Byte* end) const {
         std::size_t missing = pattern_.length + 1;
         while (end > begin && missing > 0) {
@@ -50,7 +50,7 @@ class Window {
     }
 
   private:
-    // Case is ignored by setting the bit that tells small letters from capital ones, for letters only.
+    // Case is ignored by setting the bit that tells small letters from capitals, for letters only.
     Byte CaseBit(std::size_t index) const {
         constexpr Byte SmallLetterBit = 0x20;
         const auto small = static_cast<Byte>(static_cast<Byte>(pattern_.bytes[index]) | SmallLetterBit);
@@ -67,32 +67,31 @@ class Window {
     }
     bool Matches(Byte byte, std::size_t index) const { return (byte | CaseBit(index)) == Folded(index); }
 
-    // Passes over what certainly does not count, up to where the window is too near its end. What the scan
-    // finds is examined place by place, and nothing else is.
-    Place PassOver(const Byte*& at) const {
+    // Examines the candidates of the scanner and nothing else, up to the rest that is too short for it.
+    Finding ScanUpToTheRest(const Byte*& at) const {
         for (;;) {
-            const ScannedPlaces places = scan_(scanned_, at, stop_);
-            at = places.at;
-            if (places.candidates == 0) return Place::Nothing;
-            for (std::uint64_t left = places.candidates; left != 0; left &= left - 1) {
-                const Place place = ExamineOne(at + std::countr_zero(left));
-                if (place != Place::Nothing) return place;
+            const CandidateMask candidates = scan_(scanned_, at, stop_);
+            at = candidates.at;
+            if (candidates.bits == 0) return Finding::Nothing;
+            for (std::uint64_t left = candidates.bits; left != 0; left &= left - 1) {
+                const Finding finding = ExamineOne(at + std::countr_zero(left));
+                if (finding != Finding::Nothing) return finding;
             }
-            at += ScannedPlaces::Count;
+            at += CandidateMask::Places;
         }
     }
 
-    Place ExamineOne(const Byte* at) const {
+    Finding ExamineOne(const Byte* at) const {
         const Byte next = at[1];
         if (*at == CarriageReturn) {
             const bool insideLine = next != LineFeed && next != CarriageReturn;
-            if (insideLine && OccursAcross(at + 1)) return Place::Occurrence;
+            if (insideLine && OccursAcross(at + 1)) return Finding::Occurrence;
         } else if (*at == LineFeed && pattern_.folding) {
-            if ((next == LineFeed || next == CarriageReturn) && IsEmptyLine(at)) return Place::EndOfScan;
+            if ((next == LineFeed || next == CarriageReturn) && IsEmptyLine(at)) return Finding::EmptyLine;
         } else if (Matches(*at, 0) && Matches(next, 1) && OccursAt(at)) {
-            return Place::Occurrence;
+            return Finding::Occurrence;
         }
-        return Place::Nothing;
+        return Finding::Nothing;
     }
 
     bool OccursAt(const Byte* at) const {
@@ -103,7 +102,8 @@ class Window {
         return true;
     }
 
-    // With some of its bytes before the carriage returns that end at `behind` and the others from there on.
+    // With some of the pattern's bytes before the carriage returns that end at `behind`, the others from
+    // there on.
     bool OccursAcross(const Byte* behind) const {
         for (std::size_t before = 1; before < pattern_.length; ++before) {
             if (Matches(*behind, before) && EndsBefore(behind, before) && GoesOnAt(behind, before))
@@ -132,8 +132,8 @@ class Window {
         return true;
     }
 
-    // Whether the line that the line feed at `at` begins certainly stores nothing. Behind a lead byte the
-    // line feed may be half of a character.
+    // Whether the line after the line feed at `at` certainly stores nothing. After a lead byte the line feed
+    // may be half of a character.
     bool IsEmptyLine(const Byte* at) const {
         if (pattern_.doubleByteAware && (at == start_ || IsLeadByte(at[-1]))) return false;
         do {
@@ -144,18 +144,18 @@ class Window {
 
     const ContentPattern& pattern_;
     const ScannedPattern scanned_;
-    const ContentScan scan_;
+    const BlockScanner scan_;
     const Byte* start_ = nullptr;
     const Byte* stop_ = nullptr;
 };
 
-// A pattern of one byte is nearly everywhere, and one with the marks of lines in it follows rules of its own.
+// A pattern of one byte is nearly everywhere, and one that contains line ends follows rules of its own.
 bool CanBeFiltered(const ContentPattern& pattern) {
     return pattern.length >= 2 && std::memchr(pattern.bytes, CarriageReturn, pattern.length) == nullptr &&
            std::memchr(pattern.bytes, LineFeed, pattern.length) == nullptr;
 }
 
-// What the file's beginning says of its first line; MayOccur where it takes more than a look.
+// What the file's beginning tells of its first line; MayOccur if only reading the line can tell.
 ContentVerdict FirstLineVerdict(const Byte* begin, std::size_t size, const ContentPattern& pattern) {
     if (size == 0) return ContentVerdict::NoLine;
     if (*begin == CarriageReturn) return ContentVerdict::MayOccur;
@@ -170,8 +170,8 @@ ContentVerdict FirstLineVerdict(const Byte* begin, std::size_t size, const Conte
 
 ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, std::size_t blockSize) {
     if (!CanBeFiltered(pattern)) return ContentVerdict::MayOccur;
-    // Bytes kept from the last block stand in the page before the next one. Not initialised: every file would
-    // pay for it.
+    // The bytes kept from the last block go to the page before the next one. Not initialised, which every
+    // file would pay for.
     Byte room[ByteSource::BlockSize + 2 * ByteSource::PageSize];
     Byte* const block =
         room + 2 * ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize;
@@ -179,14 +179,14 @@ ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, s
     const ContentVerdict firstLine = FirstLineVerdict(block, filled, pattern);
     if (firstLine != ContentVerdict::NoOccurrence) return firstLine;
 
-    Window window(pattern);
+    BlockExaminer examiner(pattern);
     const Byte* begin = block;
     while (filled > 0) {
         const Byte* const end = block + filled;
-        const Place place = window.Examine(begin, end);
-        if (place == Place::Occurrence) return ContentVerdict::MayOccur;
-        if (place == Place::EndOfScan) return ContentVerdict::NoOccurrence;
-        const Byte* const keep = window.KeepFrom(begin, end);
+        const Finding finding = examiner.Examine(begin, end);
+        if (finding == Finding::Occurrence) return ContentVerdict::MayOccur;
+        if (finding == Finding::EmptyLine) return ContentVerdict::NoOccurrence;
+        const Byte* const keep = examiner.KeepFrom(begin, end);
         const auto kept = static_cast<std::size_t>(end - keep);
         if (kept > ByteSource::PageSize) return ContentVerdict::MayOccur;
         begin = block - kept;

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 
 [[nodiscard]] inline std::vector<ScanWidth> ScanWidthsHere() {
     std::vector<ScanWidth> widths = {ScanWidth::Bytes16};
@@ -15,8 +15,8 @@
 // The scan is of this width as long as the object lives.
 class ScanWidthInUse {
   public:
-    explicit ScanWidthInUse(ScanWidth width) : before_(ContentScanWidth()) { SetContentScanWidth(width); }
-    ~ScanWidthInUse() { SetContentScanWidth(before_); }
+    explicit ScanWidthInUse(ScanWidth width) : before_(BlockScannerWidth()) { SetBlockScannerWidth(width); }
+    ~ScanWidthInUse() { SetBlockScannerWidth(before_); }
     ScanWidthInUse(const ScanWidthInUse&) = delete;
     ScanWidthInUse& operator=(const ScanWidthInUse&) = delete;
 

@@ -1,4 +1,4 @@
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 
 #include <gtest/gtest.h>
 
@@ -63,16 +63,16 @@ Found PlainScan(const Bytes& bytes, const std::string& pattern, bool folding) {
 
 Found ScanAll(const Bytes& bytes, const std::string& pattern, bool folding) {
     const ScannedPattern scanned = Scanned(pattern, folding);
-    const ContentScan scan = ContentScanFor(folding);
+    const BlockScanner scan = BlockScannerFor(folding);
     Found found;
     const unsigned char* const begin = bytes.data();
     const unsigned char* at = begin;
     for (;;) {
-        const ScannedPlaces places = scan(scanned, at, begin + bytes.size());
+        const CandidateMask places = scan(scanned, at, begin + bytes.size());
         found.left = static_cast<std::size_t>(places.at - begin);
-        if (places.candidates == 0) return found;
+        if (places.bits == 0) return found;
         for (std::size_t bit = 0; bit < 64; ++bit) {
-            if ((places.candidates >> bit & 1) != 0) found.candidates.push_back(found.left + bit);
+            if ((places.bits >> bit & 1) != 0) found.candidates.push_back(found.left + bit);
         }
         at = places.at + 64;
     }
@@ -88,16 +88,16 @@ void ExpectSameScan(const Bytes& bytes, const std::string& pattern, bool folding
 }  // namespace
 
 #ifdef __x86_64__
-TEST(ContentScan, knows_the_wide_registers_that_the_compilers_own_question_finds) {
+TEST(BlockScanner, knows_the_wide_registers_that_the_compilers_own_question_finds) {
     EXPECT_EQ(CanScan(ScanWidth::Bytes32), __builtin_cpu_supports("avx2") != 0);
 }
 #endif
 
-TEST(ContentScan, starts_with_the_widest_registers_that_the_processor_has) {
-    EXPECT_EQ(ContentScanWidth(), ScanWidthsHere().back());
+TEST(BlockScanner, starts_with_the_widest_registers_that_the_processor_has) {
+    EXPECT_EQ(BlockScannerWidth(), ScanWidthsHere().back());
 }
 
-TEST(ContentScan, names_each_candidate_wherever_it_stands_and_nothing_else) {
+TEST(BlockScanner, names_each_candidate_wherever_it_stands_and_nothing_else) {
     for (const ScanWidth width : ScanWidthsHere()) {
         const ScanWidthInUse inUse(width);
         for (const std::string mark : {"thzt", "that", "THAT", "\rx", "\r\n", "\n\n", "\n\r"}) {
@@ -112,7 +112,7 @@ TEST(ContentScan, names_each_candidate_wherever_it_stands_and_nothing_else) {
     }
 }
 
-TEST(ContentScan, finds_the_candidates_of_random_bytes_at_every_width) {
+TEST(BlockScanner, finds_the_candidates_of_random_bytes_at_every_width) {
     std::mt19937 engine(64);
     const auto upTo = [&](int most) { return std::uniform_int_distribution<int>(0, most)(engine); };
     static constexpr char Choices[] = {'a', 'A', 'b', '\r', '\n', '\x81', '\0', 'x', 'x', 'x', 'x', 'x'};

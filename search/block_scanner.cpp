@@ -1,4 +1,4 @@
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 
 #ifdef __x86_64__
 #include <cpuid.h>
@@ -46,15 +46,15 @@ bool CanScan(ScanWidth width) {
     return width == ScanWidth::Bytes16 || HasAvx2();
 }
 
-ScanWidth ContentScanWidth() {
+ScanWidth BlockScannerWidth() {
     return scanWidth;
 }
 
-void SetContentScanWidth(ScanWidth width) {
+void SetBlockScannerWidth(ScanWidth width) {
     scanWidth = width;
 }
 
-ContentScan ContentScanFor(bool folding) {
-    if (scanWidth == ScanWidth::Bytes32) return ContentScan32(folding);
-    return ContentScan16(folding);
+BlockScanner BlockScannerFor(bool folding) {
+    if (scanWidth == ScanWidth::Bytes32) return BlockScannerAvx2(folding);
+    return BlockScannerSse2(folding);
 }

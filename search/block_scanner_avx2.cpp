@@ -1,9 +1,9 @@
-// The scan with the registers of AVX2, which not every processor has: nothing in this file runs where CanScan
-// says no.
+// The scanner with the registers of AVX2, which not every processor has: nothing in this file runs unless
+// CanScan allows it.
 
 #include <cstring>
 
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 
 #ifdef __x86_64__
 #include <immintrin.h>
@@ -15,9 +15,9 @@
 #endif
 #endif
 
-#include "search/content_scan_loop.h"
+#include "search/block_scanner_loop.h"
 
-ContentScan ContentScan32(bool folding) {
+BlockScanner BlockScannerAvx2(bool folding) {
     return folding ? &RegisterScan<32, true>::Next : &RegisterScan<32, false>::Next;
 }
 

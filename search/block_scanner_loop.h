@@ -1,10 +1,10 @@
 #pragma once
 
-// The scan itself, for the files that make the instances of content_scan.h.
+// The scanner's loop, for the two files that instantiate it.
 
 #include <cstring>
 
-#include "search/content_scan.h"
+#include "search/block_scanner.h"
 
 #ifdef __x86_64__
 #include <immintrin.h>
@@ -21,13 +21,13 @@ struct RegisterBytes<32> {
     using Type = unsigned char __attribute__((vector_size(32)));
 };
 
-// One scan for every width of register, instantiated for each in a source file of its own: which registers
-// the compiler may use is settled there.
+// One loop for every width of register. Each width has its own source file, which settles the registers that
+// the compiler may use.
 template <std::size_t width, bool folding>
 class RegisterScan {
     using Byte = unsigned char;
     using Bytes = typename RegisterBytes<width>::Type;
-    static constexpr std::size_t Registers = ScannedPlaces::Count / width;
+    static constexpr std::size_t Registers = CandidateMask::Places / width;
     static constexpr Byte CarriageReturn = 13;
     static constexpr Byte LineFeed = 10;
 
@@ -89,7 +89,7 @@ class RegisterScan {
     }
 
   public:
-    static ScannedPlaces Next(const ScannedPattern& pattern, const Byte* at, const Byte* stop) {
+    static CandidateMask Next(const ScannedPattern& pattern, const Byte* at, const Byte* stop) {
         Sought first;
         Sought second;
         Sought last;
@@ -97,8 +97,8 @@ class RegisterScan {
         Load(second, pattern.second);
         Load(last, pattern.last);
         const std::size_t lastIndex = pattern.lastIndex;
-        const std::size_t reach = ScannedPlaces::Count + lastIndex;
-        for (; static_cast<std::size_t>(stop - at) >= reach; at += ScannedPlaces::Count) {
+        const std::size_t reach = CandidateMask::Places + lastIndex;
+        for (; static_cast<std::size_t>(stop - at) >= reach; at += CandidateMask::Places) {
             Bytes places[Registers];
             for (std::size_t i = 0; i < Registers; ++i)
                 FindCandidates(places[i], at + i * width, first, second, last, lastIndex);
