@@ -5,7 +5,7 @@
 
 #include "framework/job_dialog.h"
 #include "resources/resource_ids.h"
-#include "search/search_progress.h"
+#include "search/search_receivers.h"
 
 class AbortDialog : public JobDialog, public SearchProgress {
   public:

@@ -12,7 +12,7 @@
 #include "bench/benches.h"
 #include "bench/comparison.h"
 #include "search/search_walk.h"
-#include "search/test_entry.h"
+#include "search/entry_filter.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/world/files_in_memory.h"
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 #include "tests/search/plain_walk.h"
 #include "tests/search/recorded_search.h"
 

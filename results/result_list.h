@@ -12,7 +12,7 @@
 #include "results/result_column.h"
 #include "results/result_heading.h"
 #include "results/type_names.h"
-#include "search/match_sink.h"
+#include "search/search_receivers.h"
 
 class ResultList : public ListView, public MatchSink {
   public:

@@ -3,7 +3,7 @@
 #include "base/message_pump.h"
 #include "search/fill_conditions.h"
 #include "search/name_patterns.h"
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 
 namespace {
 

@@ -3,9 +3,8 @@
 // One search from start to end.
 
 #include "search/condition_source.h"
-#include "search/match_sink.h"
 #include "search/search_conditions.h"
-#include "search/search_progress.h"
+#include "search/search_receivers.h"
 
 // Fills the conditions from the source, clears the sink and walks the location; returns when the walk has
 // ended or was stopped; a stop in the middle of the clearing still empties the sink. Dispatches messages on

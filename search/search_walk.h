@@ -1,19 +1,19 @@
 #pragma once
 
-// What the walk over the folders carries along.
+// The walk over one folder and, with SubFolders set, over everything below it.
 
 #include "base/message_pump.h"
 #include "base/object_list.h"
 #include "platform/system_types.h"
-#include "search/match_sink.h"
 #include "search/search_conditions.h"
-#include "search/search_progress.h"
+#include "search/search_receivers.h"
 
+// What the walk carries along.
 struct SearchWalk {
     const SearchConditions& conditions;
     // StringObjects, each a pattern relative to the folder that is walked. A null item ends the list.
     ObjectList& patterns;
-    // What a name must contain; empty when there is no such test.
+    // What a name must contain; empty if there is no such test.
     const wchar_t* nameSubstring;
     MatchSink& sink;
     SearchProgress& progress;
@@ -29,3 +29,8 @@ struct SearchWalk {
         return programEnds || progress.StopRequested();
     }
 };
+
+// First the folder's entries, pattern by pattern in the order in which the system lists them, then each
+// sub-folder's whole subtree. A folder that cannot be listed and a path that does not fit are skipped
+// silently. Stops at the next entry once the user or a quit asks for it; what was found so far stays.
+void WalkFolder(SearchWalk& walk, const wchar_t* folder);

@@ -4,7 +4,7 @@
 
 #include "base/paths.h"
 #include "platform/windows_ce.h"
-#include "search/test_entry.h"
+#include "search/entry_filter.h"
 
 namespace {
 

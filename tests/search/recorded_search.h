@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "search/match_sink.h"
-#include "search/search_progress.h"
+#include "search/search_receivers.h"
 #include "search/search_walk.h"
 
 class RecordingSink : public MatchSink {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/recorded_search.h"
 #include "tests/support/refused_memory.h"

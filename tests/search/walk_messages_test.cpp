@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 #include "tests/search/plain_walk.h"
 #include "tests/search/random_folders.h"
 #include "tests/search/recorded_search.h"

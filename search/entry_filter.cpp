@@ -1,4 +1,4 @@
-#include "search/test_entry.h"
+#include "search/entry_filter.h"
 
 #include <cwchar>
 

@@ -1,4 +1,4 @@
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,14 @@
-#include "search/walk_folder.h"
+#include "search/search_walk.h"
 
+#include <cstddef>
+#include <cstring>
 #include <cwchar>
+#include <new>
 
 #include "base/folder_entries.h"
 #include "base/paths.h"
 #include "platform/name_wildcard.h"
-#include "search/held_entry.h"
-#include "search/test_entry.h"
+#include "search/entry_filter.h"
 
 // The results come pattern by pattern, then sub-folder by sub-folder, but opening a listing costs as much as
 // 50 to 65 entries: so a folder is listed once. The matches of the first pattern are tested as they come;
@@ -14,9 +16,41 @@
 
 namespace {
 
+// A directory record kept for later, without the unused room after its name.
+class KeptEntry final : public ListObject {
+  public:
+    // Null if there is no memory.
+    [[nodiscard]] static KeptEntry* Create(const WIN32_FIND_DATAW& entry) {
+        const std::size_t size = UsedBytes(entry.cFileName);
+        auto* const bytes = new (std::nothrow) unsigned char[size];
+        if (bytes == nullptr) return nullptr;
+        std::memcpy(bytes, &entry, size);
+        auto* const kept = new (std::nothrow) KeptEntry(bytes);
+        if (kept == nullptr) delete[] bytes;
+        return kept;
+    }
+    ~KeptEntry() override { delete[] used_; }
+
+    [[nodiscard]] const wchar_t* Name() const { return reinterpret_cast<const wchar_t*>(used_ + NameOffset); }
+    // Writes the record as it was.
+    void CopyTo(WIN32_FIND_DATAW& entry) const { std::memcpy(&entry, used_, UsedBytes(Name())); }
+
+  private:
+    static constexpr std::size_t NameOffset = offsetof(WIN32_FIND_DATAW, cFileName);
+
+    static std::size_t UsedBytes(const wchar_t* name) {
+        return NameOffset + (std::wcslen(name) + 1) * sizeof(wchar_t);
+    }
+
+    explicit KeptEntry(unsigned char* usedBytes) : used_(usedBytes) {}
+
+    // The record up to the end of its name.
+    unsigned char* used_;
+};
+
 // What one listing leaves for afterwards, each in the order of the listing.
 struct KeptEntries {
-    // HeldEntries: what matches a pattern behind the first.
+    // KeptEntry objects: what matches a pattern after the first.
     ObjectList laterMatches;
     // StringObjects: the names of the folders to enter.
     ObjectList subFolders;
@@ -65,7 +99,7 @@ bool IsFolderToEnter(const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
 
 void Keep(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry, KeptEntries& kept) {
     if (kept.laterMatchesComplete && MatchesLaterPattern(walk.patterns, entry.cFileName)) {
-        kept.laterMatchesComplete = AppendOrDelete(kept.laterMatches, HeldEntry::Create(entry));
+        kept.laterMatchesComplete = AppendOrDelete(kept.laterMatches, KeptEntry::Create(entry));
     }
     if (kept.subFoldersComplete && walk.conditions.Has(SearchConditions::SubFolders) &&
         IsFolderToEnter(folder, entry)) {
@@ -93,10 +127,10 @@ bool TestAndKeep(SearchWalk& walk, const wchar_t* folder, KeptEntries& kept) {
 bool TestKeptMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern, ObjectList& matches) {
     WIN32_FIND_DATAW entry;
     for (const ListObject* item = matches.First(); item != nullptr; item = matches.Next()) {
-        const auto* const held = static_cast<const HeldEntry*>(item);
-        if (!MatchesWildcard(held->Name(), pattern)) continue;
+        const auto* const kept = static_cast<const KeptEntry*>(item);
+        if (!MatchesWildcard(kept->Name(), pattern)) continue;
         if (walk.PumpAndPollStop()) return false;
-        held->CopyTo(entry);
+        kept->CopyTo(entry);
         if (!TestEntry(walk, folder, entry)) return false;
     }
     return true;
