@@ -9,7 +9,7 @@
 
 namespace {
 
-// Read in a few milliseconds up to here, also where it takes the readers of lines.
+// A shorter file is read in a few milliseconds, even if all its lines have to be read.
 constexpr DWORD LongFileSize = 1024 * 1024;
 
 bool IsLongFile(const WIN32_FIND_DATAW& entry) {
@@ -24,17 +24,17 @@ bool NamePasses(const wchar_t* name, const wchar_t* substring) {
 
 }  // namespace
 
-bool TestEntry(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
-    if (walk.PumpAndPollStop()) return false;
-    if (!PassesDateAndSize(walk.conditions, entry)) return true;
-    if (!NamePasses(entry.cFileName, walk.nameSubstring)) return true;
+WalkStep TestEntry(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry) {
+    if (walk.PumpAndPoll() == WalkStep::Stop) return WalkStep::Stop;
+    if (!PassesDateAndSize(walk.conditions, entry)) return WalkStep::GoOn;
+    if (!NamePasses(entry.cFileName, walk.nameSubstring)) return WalkStep::GoOn;
     wchar_t fullPath[MAX_PATH];
     // QUIRK: long-paths-are-passed-over
-    if (!JoinPath(fullPath, folder, entry.cFileName)) return true;
+    if (!JoinPath(fullPath, folder, entry.cFileName)) return WalkStep::GoOn;
     if (walk.conditions.Has(SearchConditions::ContentString)) {
         if (IsLongFile(entry)) walk.progress.BeforeLongFile();
-        if (!ContentMatches(walk.conditions, fullPath, entry)) return true;
+        if (!ContentMatches(walk.conditions, fullPath, entry)) return WalkStep::GoOn;
     }
     walk.sink.AddMatch(fullPath, entry);
-    return true;
+    return WalkStep::GoOn;
 }

@@ -10,18 +10,18 @@ namespace {
 // Between two steps of the clearing: a window that always has something to do must not hold it up.
 constexpr int MessagesPerStep = 16;
 
-// The clearing is ended even when the user wants no more: what is left of an earlier search is no result of
-// this one. False when this one is over with it.
-bool ClearSink(MatchSink& sink, SearchProgress& progress) {
-    bool stop = false;
+// The clearing is finished even if the user wants no more: what is left of an earlier search is no result of
+// this one.
+WalkStep ClearSink(MatchSink& sink, SearchProgress& progress) {
+    WalkStep step = WalkStep::GoOn;
     while (sink.ClearSome()) {
         PumpOutcome outcome = PumpOutcome::Dispatched;
         for (int taken = 0; taken < MessagesPerStep && outcome == PumpOutcome::Dispatched; ++taken)
             outcome = PumpOneMessage();
-        if (outcome == PumpOutcome::Quit) return false;
-        stop = stop || progress.StopRequested();
+        if (outcome == PumpOutcome::Quit) return WalkStep::Stop;
+        if (progress.StopRequested()) step = WalkStep::Stop;
     }
-    return !stop;
+    return step;
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ void RunSearch(SearchConditions& conditions, const ConditionSource& source, Matc
     SearchTexts texts;
     FillConditions(source, conditions, texts);
     ExpectMessages();
-    if (!ClearSink(sink, progress)) return;
+    if (ClearSink(sink, progress) == WalkStep::Stop) return;
     ObjectList patterns;
     const wchar_t* const nameSubstring =
         BuildNamePatterns(conditions, texts.name, texts.extensions, patterns);

@@ -107,57 +107,55 @@ void Keep(SearchWalk& walk, const wchar_t* folder, const WIN32_FIND_DATAW& entry
     }
 }
 
-// The functions below that return a bool return false when the stop was seen: the folder is then done with.
-
-bool TestAndKeep(SearchWalk& walk, const wchar_t* folder, KeptEntries& kept) {
+WalkStep TestAndKeep(SearchWalk& walk, const wchar_t* folder, KeptEntries& kept) {
     FolderEntries enumeration(folder, L"*");
-    if (!enumeration.HasEntry()) return true;
+    if (!enumeration.HasEntry()) return WalkStep::GoOn;
     const ListObject* const first = walk.patterns.First();
     do {
-        if (walk.PumpAndPollStop()) return false;
+        if (walk.PumpAndPoll() == WalkStep::Stop) return WalkStep::Stop;
         const WIN32_FIND_DATAW& entry = enumeration.Entry();
         if (IsSkippedName(entry.cFileName)) continue;
         Keep(walk, folder, entry, kept);
         if (first == nullptr || !MatchesWildcard(entry.cFileName, TextOf(first))) continue;
-        if (!TestEntry(walk, folder, entry)) return false;
+        if (TestEntry(walk, folder, entry) == WalkStep::Stop) return WalkStep::Stop;
     } while (enumeration.MoveOn());
-    return true;
+    return WalkStep::GoOn;
 }
 
-bool TestKeptMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern, ObjectList& matches) {
+WalkStep TestKeptMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern,
+                         ObjectList& matches) {
     WIN32_FIND_DATAW entry;
     for (const ListObject* item = matches.First(); item != nullptr; item = matches.Next()) {
         const auto* const kept = static_cast<const KeptEntry*>(item);
         if (!MatchesWildcard(kept->Name(), pattern)) continue;
-        if (walk.PumpAndPollStop()) return false;
+        if (walk.PumpAndPoll() == WalkStep::Stop) return WalkStep::Stop;
         kept->CopyTo(entry);
-        if (!TestEntry(walk, folder, entry)) return false;
+        if (TestEntry(walk, folder, entry) == WalkStep::Stop) return WalkStep::Stop;
     }
-    return true;
+    return WalkStep::GoOn;
 }
 
-bool TestListedMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern) {
+WalkStep TestListedMatches(SearchWalk& walk, const wchar_t* folder, const wchar_t* pattern) {
     FolderEntries enumeration(folder, pattern);
-    if (!enumeration.HasEntry()) return true;
+    if (!enumeration.HasEntry()) return WalkStep::GoOn;
     do {
-        if (walk.PumpAndPollStop()) return false;
+        if (walk.PumpAndPoll() == WalkStep::Stop) return WalkStep::Stop;
         if (IsSkippedName(enumeration.Entry().cFileName)) continue;
-        if (!TestEntry(walk, folder, enumeration.Entry())) return false;
+        if (TestEntry(walk, folder, enumeration.Entry()) == WalkStep::Stop) return WalkStep::Stop;
     } while (enumeration.MoveOn());
-    return true;
+    return WalkStep::GoOn;
 }
 
 // The patterns from the list's cursor on; kept is null when their matches have to be listed.
 // QUIRK: entry-once-a-pattern
-bool TestPatterns(SearchWalk& walk, const wchar_t* folder, const ListObject* pattern, ObjectList* kept) {
+WalkStep TestPatterns(SearchWalk& walk, const wchar_t* folder, const ListObject* pattern, ObjectList* kept) {
     for (; pattern != nullptr; pattern = walk.patterns.Next()) {
         const wchar_t* const text = TextOf(pattern);
-        if (!(kept != nullptr ? TestKeptMatches(walk, folder, text, *kept)
-                              : TestListedMatches(walk, folder, text))) {
-            return false;
-        }
+        const WalkStep step = kept != nullptr ? TestKeptMatches(walk, folder, text, *kept)
+                                              : TestListedMatches(walk, folder, text);
+        if (step == WalkStep::Stop) return WalkStep::Stop;
     }
-    return true;
+    return WalkStep::GoOn;
 }
 
 void WalkSubFolder(SearchWalk& walk, const wchar_t* folder, const wchar_t* name) {
@@ -167,7 +165,7 @@ void WalkSubFolder(SearchWalk& walk, const wchar_t* folder, const wchar_t* name)
 
 void WalkKeptSubFolders(SearchWalk& walk, const wchar_t* folder, ObjectList& names) {
     for (const ListObject* item = names.First(); item != nullptr; item = names.Next()) {
-        if (walk.PumpAndPollStop()) return;
+        if (walk.PumpAndPoll() == WalkStep::Stop) return;
         WalkSubFolder(walk, folder, TextOf(item));
     }
 }
@@ -176,7 +174,7 @@ void WalkListedSubFolders(SearchWalk& walk, const wchar_t* folder) {
     FolderEntries enumeration(folder, L"*");
     if (!enumeration.HasEntry()) return;
     do {
-        if (walk.PumpAndPollStop()) return;
+        if (walk.PumpAndPoll() == WalkStep::Stop) return;
         const WIN32_FIND_DATAW& entry = enumeration.Entry();
         if (IsSkippedName(entry.cFileName) || !IsFolderToEnter(folder, entry)) continue;
         WalkSubFolder(walk, folder, entry.cFileName);
@@ -185,9 +183,9 @@ void WalkListedSubFolders(SearchWalk& walk, const wchar_t* folder) {
 
 void WalkListedOnce(SearchWalk& walk, const wchar_t* folder) {
     KeptEntries kept;
-    if (!TestAndKeep(walk, folder, kept)) return;
+    if (TestAndKeep(walk, folder, kept) == WalkStep::Stop) return;
     ObjectList* const laterMatches = kept.laterMatchesComplete ? &kept.laterMatches : nullptr;
-    if (!TestPatterns(walk, folder, FirstLaterPattern(walk.patterns), laterMatches)) return;
+    if (TestPatterns(walk, folder, FirstLaterPattern(walk.patterns), laterMatches) == WalkStep::Stop) return;
     if (kept.subFoldersComplete) {
         WalkKeptSubFolders(walk, folder, kept.subFolders);
     } else {
@@ -203,6 +201,6 @@ void WalkFolder(SearchWalk& walk, const wchar_t* folder) {
         WalkListedOnce(walk, folder);
         return;
     }
-    if (!TestPatterns(walk, folder, walk.patterns.First(), nullptr)) return;
+    if (TestPatterns(walk, folder, walk.patterns.First(), nullptr) == WalkStep::Stop) return;
     if (walk.conditions.Has(SearchConditions::SubFolders)) WalkListedSubFolders(walk, folder);
 }

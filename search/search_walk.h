@@ -8,6 +8,9 @@
 #include "search/search_conditions.h"
 #include "search/search_receivers.h"
 
+// What a step of the walk answers: Stop once the user or a quit has asked for it.
+enum class WalkStep { GoOn, Stop };
+
 // What the walk carries along.
 struct SearchWalk {
     const SearchConditions& conditions;
@@ -21,12 +24,12 @@ struct SearchWalk {
     // Set by a quit that arrives during the walk.
     bool programEnds = false;
 
-    // Pumps one message and says whether the walk has to stop.
-    [[nodiscard]] bool PumpAndPollStop() {
+    // The step between two entries or folders: pumps one message and polls the progress.
+    [[nodiscard]] WalkStep PumpAndPoll() {
         const PumpOutcome outcome = PumpOneMessage();
         if (outcome == PumpOutcome::Quit) programEnds = true;
         if (outcome == PumpOutcome::Empty || outcome == PumpOutcome::Dispatched) sink.Refresh();
-        return programEnds || progress.StopRequested();
+        return programEnds || progress.StopRequested() ? WalkStep::Stop : WalkStep::GoOn;
     }
 };
 

@@ -28,7 +28,7 @@ void PlainWalkFolder(SearchWalk& walk, const wchar_t* folder) {
     walk.progress.EnterFolder(folder);
     for (const ListObject* item = walk.patterns.First(); item != nullptr; item = walk.patterns.Next()) {
         for (const WIN32_FIND_DATAW& entry : Listed(folder, static_cast<const StringObject*>(item)->Text())) {
-            if (!TestEntry(walk, folder, entry)) return;
+            if (TestEntry(walk, folder, entry) == WalkStep::Stop) return;
         }
     }
     if (!walk.conditions.Has(SearchConditions::SubFolders)) return;
