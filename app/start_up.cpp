@@ -5,7 +5,6 @@
 #include "app/product.h"
 #include "base/registry_key.h"
 #include "platform/windows_ce.h"
-#include "search/system_text_conversion.h"
 #include "search/text_conversion.h"
 
 namespace {

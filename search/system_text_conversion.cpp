@@ -1,4 +1,6 @@
-#include "search/system_text_conversion.h"
+// The conversion pair that asks the system, apart from those that are compiled for the building machine too.
+
+#include "search/text_conversion.h"
 
 #include "platform/windows_ce.h"
 

@@ -1,7 +1,8 @@
 #pragma once
 
-// The conversion pairs that need nothing of the system: the default one, and the one over the exports of
-// TKCONV.DLL. Each routine has the type, and keeps the promise, of its slot in the program context.
+// The conversion pairs between UTF-16 and the device's bytes: the default one, the one over the exports of
+// TKCONV.DLL and that of a Japanese system. Each routine has the type, and keeps the promise, of its slot in
+// the program context.
 
 // One unit to a Shift-JIS code of one or two bytes, 0 when there is none.
 using UnicodeToSjisFunction = unsigned short (*)(unsigned short unit);
@@ -21,3 +22,7 @@ void UseConversionLibrary(UnicodeToSjisFunction unicode2sjis, SjisToUnicodeFunct
 void LibraryToMultiByte(const wchar_t* source, char* destination, int destinationSize);
 // A pair without a unit, and a lead byte at the end of the text, become "?".
 void LibraryToWide(const char* source, wchar_t* destination, int destinationSize);
+
+// By the system's own code page. A text that does not fit is cut at the last character that does.
+void SystemToMultiByte(const wchar_t* source, char* destination, int destinationSize);
+void SystemToWide(const char* source, wchar_t* destination, int destinationSize);

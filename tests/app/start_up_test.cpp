@@ -8,7 +8,6 @@
 
 #include "base/registry_key.h"
 #include "platform/windows_ce.h"
-#include "search/system_text_conversion.h"
 #include "search/text_conversion.h"
 #include "tests/support/replaced_calls.h"
 

@@ -10,7 +10,6 @@
 #include "platform/windows_ce.h"
 #include "search/date_and_size.h"
 #include "search/double_byte_text.h"
-#include "search/system_text_conversion.h"
 #include "search/text_conversion.h"
 
 namespace {

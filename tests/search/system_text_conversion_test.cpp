@@ -1,4 +1,4 @@
-#include "search/system_text_conversion.h"
+#include "search/text_conversion.h"
 
 #include <gtest/gtest.h>
 
