@@ -13,7 +13,7 @@
 #include "framework/application_view.h"
 #include "results/result_commands.h"
 #include "results/result_list.h"
-#include "search/search_conditions.h"
+#include "search/search_query.h"
 
 class MainWindow : public ApplicationView {
   public:
@@ -77,6 +77,7 @@ class MainWindow : public ApplicationView {
     // Whether an Enter in the list, pressed now, is one more of those that started the last search.
     [[nodiscard]] bool BelongsToSearch(ULONGLONG now);
     void Find();
+    [[nodiscard]] SearchQuery AskedQuery() const;
     void SetResultView(UINT command, DWORD view);
     void ResetConditions();
     void EnableResultCommands(bool enable);

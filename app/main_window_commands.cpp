@@ -1,8 +1,6 @@
 // What the commands and the result list's notifications do.
 
-#include "app/case_option.h"
 #include "app/main_window.h"
-#include "app/page_conditions.h"
 #include "resources/resource_ids.h"
 #include "search/run_search.h"
 
@@ -11,6 +9,16 @@ namespace {
 // The commands that act on the selected row.
 constexpr UINT SelectionCommands[] = {COMMAND_OPEN, COMMAND_ADD_TO_START_MENU, COMMAND_DELETE, COMMAND_RENAME,
                                       COMMAND_PROPERTIES};
+
+// The state word of "Check Upper/Lower Cases", whose check mark is itself the setting; 0 without a menu.
+UINT CaseOptionState(HMENU menu) {
+    return ce::MenuItemState(menu, COMMAND_CHECK_CASE);
+}
+
+void ToggleCaseOption(HMENU menu) {
+    const bool isChecked = (CaseOptionState(menu) & MFS_CHECKED) != 0;
+    CheckMenuItem(menu, COMMAND_CHECK_CASE, static_cast<UINT>(isChecked ? MF_UNCHECKED : MF_CHECKED));
+}
 
 }  // namespace
 
@@ -132,11 +140,19 @@ void MainWindow::Find() {
 }
 
 LRESULT MainWindow::OnSearchRun(EventArguments&) {
-    const PageConditions source(*namePage_, *datePage_, *sizePage_, Menu());
     results_->BeginFilling();
-    RunSearch(conditions_, source, *results_, *abortDialog_);
+    RunSearch(conditions_, AskedQuery(), *results_, *abortDialog_);
     results_->EndFilling();
     return 0;
+}
+
+SearchQuery MainWindow::AskedQuery() const {
+    SearchQuery query;
+    for (int i = 0; i < PageCount; ++i)
+        Page(i)->FillQuery(query);
+    // QUIRK: greyed-case-item-counts-as-checked. The state word is tested whole.
+    query.ignoreCase = CaseOptionState(Menu()) == 0;
+    return query;
 }
 
 void MainWindow::SetResultView(UINT command, DWORD view) {

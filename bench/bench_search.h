@@ -3,7 +3,7 @@
 // A search without a dialog around it.
 
 #include "search/run_search.h"
-#include "tests/support/answered_source.h"
+#include "tests/support/asked_query.h"
 
 class CountingSink : public MatchSink {
   public:
@@ -23,9 +23,9 @@ class SilentProgress : public SearchProgress {
 };
 
 // Of everything below the folder, case and all.
-inline AnsweredSource SearchBelow(const std::wstring& folder) {
-    AnsweredSource source;
-    source.location = folder;
-    source.subFolders = true;
-    return source;
+inline AskedQuery SearchBelow(const std::wstring& folder) {
+    AskedQuery query;
+    query.location = folder;
+    query.subFolders = true;
+    return query;
 }

@@ -6,7 +6,7 @@
 #include "bench/benches.h"
 #include "bench/comparison.h"
 #include "search/content_matches.h"
-#include "search/fill_conditions.h"
+#include "search/search_query.h"
 
 namespace {
 
@@ -29,12 +29,11 @@ std::size_t ReadBarely(const std::vector<std::wstring>& files) {
 }
 
 SearchConditions ConditionsFor(const wchar_t* content, bool folding) {
-    AnsweredSource source;
-    source.content = content;
-    source.caseOptionState = folding ? 0 : 8;
+    AskedQuery query;
+    query.content = content;
+    query.ignoreCase = folding;
     SearchConditions conditions;
-    SearchTexts texts;
-    FillConditions(source, conditions, texts);
+    FillConditions(query, conditions);
     return conditions;
 }
 

@@ -11,8 +11,8 @@
 #include "bench/bench_search.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
-#include "search/search_walk.h"
 #include "search/entry_filter.h"
+#include "search/search_walk.h"
 
 namespace {
 
@@ -140,25 +140,25 @@ struct Share {
     double whole;
 };
 
-Share MeasureDrawing(const AnsweredSource& source, ResultList& list, AbortDialog& dialog) {
+Share MeasureDrawing(const AskedQuery& query, ResultList& list, AbortDialog& dialog) {
     TimedDrawing timed(list, dialog);
     SearchConditions conditions;
     double whole = 0;
     {
         const Stopwatch watch(whole);
         list.BeginFilling();
-        RunSearch(conditions, source, timed, timed);
+        RunSearch(conditions, query, timed, timed);
         timed.Finish();
     }
     return {timed.drawing + timed.looks * MillisecondsOfALook(), whole};
 }
 
 // The median share of several.
-void PrintShareOfDrawing(const char* name, const AnsweredSource& source, ResultList& list,
-                         AbortDialog& dialog, int runs) {
+void PrintShareOfDrawing(const char* name, const AskedQuery& query, ResultList& list, AbortDialog& dialog,
+                         int runs) {
     std::vector<Share> shares;
     for (int run = 0; run < runs; ++run)
-        shares.push_back(MeasureDrawing(source, list, dialog));
+        shares.push_back(MeasureDrawing(query, list, dialog));
     std::sort(shares.begin(), shares.end(), [](const Share& one, const Share& other) {
         return one.part / one.whole < other.part / other.whole;
     });
@@ -167,11 +167,11 @@ void PrintShareOfDrawing(const char* name, const AnsweredSource& source, ResultL
 }
 
 bool CompareInDialog(const BenchTree& tree, ResultList& list, AbortDialog& dialog, int runs) {
-    AnsweredSource source = SearchBelow(tree.Files());
+    AskedQuery query = SearchBelow(tree.Files());
     SearchConditions conditions;
     const auto search = [&] {
         list.BeginFilling();
-        RunSearch(conditions, source, list, dialog);
+        RunSearch(conditions, query, list, dialog);
         list.EndFilling();
         UpdateWindow(list.Handle());
     };
@@ -183,7 +183,7 @@ bool CompareInDialog(const BenchTree& tree, ResultList& list, AbortDialog& dialo
         return false;
     }
     KeepingSink kept;
-    RunSearch(conditions, source, kept, dialog);
+    RunSearch(conditions, query, kept, dialog);
     ObjectList noPatterns;
     SearchWalk walk{conditions, noPatterns, L"", list, dialog};
     const auto fill = [&] {
@@ -197,9 +197,9 @@ bool CompareInDialog(const BenchTree& tree, ResultList& list, AbortDialog& dialo
     const auto insert = [&] { InsertBarely(list.Handle(), rows); };
     MeasureAndPrint({"matches into the list / inserting the same rows", fill, insert}, runs);
     MeasureAndPrint({"search of everything / inserting the same rows", search, insert}, runs);
-    PrintShareOfDrawing("drawing and polling / search of everything", source, list, dialog, runs);
-    source.name = L"no such name";
-    PrintShareOfDrawing("drawing and polling / search of nothing", source, list, dialog, runs);
+    PrintShareOfDrawing("drawing and polling / search of everything", query, list, dialog, runs);
+    query.name = L"no such name";
+    PrintShareOfDrawing("drawing and polling / search of nothing", query, list, dialog, runs);
     return true;
 }
 

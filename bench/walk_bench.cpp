@@ -6,11 +6,11 @@
 
 namespace {
 
-AnsweredSource OfTwoExtensions(const std::wstring& folder) {
-    AnsweredSource source = SearchBelow(folder);
-    source.typeIndex = 1;
-    source.extensions = L".nosuch.neither";
-    return source;
+AskedQuery OfTwoExtensions(const std::wstring& folder) {
+    AskedQuery query = SearchBelow(folder);
+    query.typeFilter = true;
+    query.extensions = L".nosuch.neither";
+    return query;
 }
 
 }  // namespace
@@ -27,16 +27,16 @@ bool CompareWalk(const char* what, const std::wstring& folder, int runs) {
         return false;
     }
     std::printf("%s: %zu entries in %zu folders\n", where.c_str(), entries, progress.folders);
-    const auto compare = [&](const char* by, const AnsweredSource& source) {
-        MeasureAndPrint({where + ", " + by, [&] { RunSearch(conditions, source, sink, progress); },
+    const auto compare = [&](const char* by, const AskedQuery& query) {
+        MeasureAndPrint({where + ", " + by, [&] { RunSearch(conditions, query, sink, progress); },
                          [&] { static_cast<void>(CountBarely(folder)); }},
                         runs);
     };
-    AnsweredSource source = SearchBelow(folder);
-    source.name = L"no such name";
-    compare("by a name", source);
-    source.name = L"no*such?name";
-    compare("by a wildcard", source);
+    AskedQuery query = SearchBelow(folder);
+    query.name = L"no such name";
+    compare("by a name", query);
+    query.name = L"no*such?name";
+    compare("by a wildcard", query);
     compare("by two extensions", OfTwoExtensions(folder));
     return sink.matches == 0;
 }

@@ -5,6 +5,7 @@
 #include "framework/control.h"
 #include "framework/dialog.h"
 #include "framework/dialog_template.h"
+#include "search/search_query.h"
 
 class ConditionPage : public Dialog {
   public:
@@ -13,6 +14,9 @@ class ConditionPage : public Dialog {
 
     // "New condition".
     virtual void Reset() = 0;
+
+    // Writes this page's part of the query. A page that could not be created restricts nothing.
+    virtual void FillQuery(SearchQuery& query) const = 0;
 
     // Gives the page its place, and its fields what a wide screen has more.
     void Move(int x, int y, int width, int height) override;

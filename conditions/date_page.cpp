@@ -99,18 +99,18 @@ void DatePage::EnableDays(bool enable) {
     EnableWindow(Item(SPIN_DAYS), enable);
 }
 
-bool DatePage::DateRangeChosen(DateRange& range) const {
-    // A page that could not be made restricts nothing.
-    if (Handle() == nullptr || IsChecked(RADIO_ALL_FILES)) return false;
-    if (IsChecked(RADIO_BETWEEN)) {
-        range = BetweenDates(PickedDate(PICKER_FROM), PickedDate(PICKER_TO));
-    } else if (IsChecked(RADIO_PAST)) {
-        SYSTEMTIME now{};
-        ce::GetSystemTime(&now);
-        range = PastDays(now, ce::SpinPosition(Item(SPIN_DAYS)));
-    }
-    // QUIRK: nothing-checked-is-a-range. It stays unset.
-    return true;
+void DatePage::FillQuery(SearchQuery& query) const {
+    query.dateRange = ChosenRange();
+}
+
+std::optional<DateRange> DatePage::ChosenRange() const {
+    if (Handle() == nullptr || IsChecked(RADIO_ALL_FILES)) return std::nullopt;
+    if (IsChecked(RADIO_BETWEEN)) return BetweenDates(PickedDate(PICKER_FROM), PickedDate(PICKER_TO));
+    // QUIRK: nothing-checked-is-a-range. Its ends are not set.
+    if (!IsChecked(RADIO_PAST)) return DateRange{};
+    SYSTEMTIME now{};
+    ce::GetSystemTime(&now);
+    return PastDays(now, ce::SpinPosition(Item(SPIN_DAYS)));
 }
 
 SYSTEMTIME DatePage::PickedDate(int picker) const {

@@ -3,16 +3,13 @@
 // The second page: any date, a range between two dates, or the past so many days.
 
 #include "conditions/condition_page.h"
-#include "search/date_and_size.h"
 
 class DatePage : public ConditionPage {
   public:
     explicit DatePage(WindowObject* parent);
 
     void Reset() override;
-
-    // False when any date will do; otherwise true, with the range written.
-    bool DateRangeChosen(DateRange& range) const;
+    void FillQuery(SearchQuery& query) const override;
 
   protected:
     void SetUpControls() override;
@@ -23,6 +20,7 @@ class DatePage : public ConditionPage {
     LRESULT OnPast(EventArguments& arguments);
     LRESULT OnCalendarOpened(EventArguments& arguments);
 
+    [[nodiscard]] std::optional<DateRange> ChosenRange() const;
     void SetPickersFromClock();
     void EnablePickers(bool enable);
     void EnableDays(bool enable);

@@ -80,23 +80,14 @@ void NamePage::SaveSettings(const wchar_t* registryPath) const {
     if (Handle() == nullptr) return;
     SaveHistory(*name_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Name").text);
     SaveHistory(*location_, HKEY_CURRENT_USER, SubKeyPath(registryPath, L"Location").text);
-    WriteRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, SubFoldersChecked() ? 1 : 0);
+    WriteRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, IsChecked(CHECK_SUBFOLDERS) ? 1 : 0);
 }
 
-void NamePage::LocationText(wchar_t (&text)[MAX_PATH]) const {
-    GetDlgItemTextW(Handle(), COMBO_LOCATION, text, MAX_PATH);
-}
-
-void NamePage::NameText(wchar_t (&text)[MAX_PATH]) const {
-    GetDlgItemTextW(Handle(), COMBO_NAME, text, MAX_PATH);
-}
-
-void NamePage::ContentText(wchar_t (&text)[ContentTextSize]) const {
-    GetDlgItemTextW(Handle(), EDIT_CONTENT, text, ContentTextSize);
-}
-
-bool NamePage::SubFoldersChecked() const {
-    return IsChecked(CHECK_SUBFOLDERS);
+void NamePage::FillQuery(SearchQuery& query) const {
+    GetDlgItemTextW(Handle(), COMBO_LOCATION, query.location, MAX_PATH);
+    GetDlgItemTextW(Handle(), COMBO_NAME, query.name, MAX_PATH);
+    GetDlgItemTextW(Handle(), EDIT_CONTENT, query.content, ContentTextSize);
+    query.subFolders = IsChecked(CHECK_SUBFOLDERS);
 }
 
 LRESULT NamePage::OnEnterInCombo(EventArguments& arguments) {

@@ -4,7 +4,6 @@
 
 #include "conditions/condition_page.h"
 #include "conditions/history_combo.h"
-#include "search/condition_source.h"
 
 class NamePage : public ConditionPage {
   public:
@@ -13,17 +12,12 @@ class NamePage : public ConditionPage {
 
     // Empties name and location; the contained text, the sub-folder setting and the histories stay.
     void Reset() override;
+    void FillQuery(SearchQuery& query) const override;
 
     // Both histories and the sub-folder setting, under the current user's root. The path is the program's own
     // key. Failures are silent: loading then leaves what the page started with, saving loses the lists.
     void LoadSettings(const wchar_t* registryPath);
     void SaveSettings(const wchar_t* registryPath) const;
-
-    // The texts as they stand in the fields, cut at 259 units, the contained one at 260.
-    void LocationText(wchar_t (&text)[MAX_PATH]) const;
-    void NameText(wchar_t (&text)[MAX_PATH]) const;
-    void ContentText(wchar_t (&text)[ContentTextSize]) const;
-    [[nodiscard]] bool SubFoldersChecked() const;
 
   protected:
     void SetUpControls() override;

@@ -51,21 +51,17 @@ void SizePage::Reset() {
     SendToItem(EDIT_KILOBYTES, UDM_SETPOS, 0, 0);
 }
 
-int SizePage::TypeIndex() const {
-    return static_cast<int>(SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL));
-}
-
-void SizePage::TypeExtensions(wchar_t (&text)[MAX_PATH]) const {
-    text[0] = L'\0';
-    const LRESULT selected = SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL);
-    const LRESULT data = SendToItem(COMBO_FILE_TYPE, CB_GETITEMDATA, static_cast<WPARAM>(selected));
+void SizePage::FillQuery(SearchQuery& query) const {
+    const LRESULT type = SendToItem(COMBO_FILE_TYPE, CB_GETCURSEL);
+    query.typeFilter = type != 0;
+    const LRESULT extensions = SendToItem(COMBO_FILE_TYPE, CB_GETITEMDATA, static_cast<WPARAM>(type));
+    query.extensions[0] = L'\0';
     // A combo that could not be made answers 0 to everything.
-    if (selected == CB_ERR || data == CB_ERR || data == 0) return;
-    std::wcsncpy(text, reinterpret_cast<const wchar_t*>(data), MAX_PATH - 1);
-    text[MAX_PATH - 1] = L'\0';
-}
+    if (type != CB_ERR && extensions != CB_ERR && extensions != 0) {
+        std::wcsncpy(query.extensions, reinterpret_cast<const wchar_t*>(extensions), MAX_PATH - 1);
+        query.extensions[MAX_PATH - 1] = L'\0';
+    }
 
-SizeAnswer SizePage::SizeBound(std::uint32_t& bound) const {
-    const auto selected = static_cast<int>(SendToItem(COMBO_FILE_SIZE, CB_GETCURSEL));
-    return SizeBoundOf(selected, ce::SpinPosition(Item(SPIN_KILOBYTES)), bound);
+    const auto size = static_cast<int>(SendToItem(COMBO_FILE_SIZE, CB_GETCURSEL));
+    query.sizeBound = SizeBoundOf(size, ce::SpinPosition(Item(SPIN_KILOBYTES)));
 }

@@ -4,7 +4,6 @@
 
 #include "conditions/condition_page.h"
 #include "conditions/file_type_list.h"
-#include "search/date_and_size.h"
 
 class SizePage : public ConditionPage {
   public:
@@ -12,12 +11,7 @@ class SizePage : public ConditionPage {
     SizePage(WindowObject* parent, const FileTypeList* fileTypes);
 
     void Reset() override;
-
-    // The selected index, and the selected entry's extensions; empty when nothing is selected.
-    [[nodiscard]] int TypeIndex() const;
-    void TypeExtensions(wchar_t (&text)[MAX_PATH]) const;
-
-    SizeAnswer SizeBound(std::uint32_t& bound) const;
+    void FillQuery(SearchQuery& query) const override;
 
   protected:
     void SetUpControls() override;

@@ -101,14 +101,14 @@ void CountBack(FuzzInput& input) {
     now.wHour = input.Byte();
     now.wMilliseconds = input.Byte();
     const DateRange range = PastDays(now, static_cast<std::uint32_t>(days));
-    Require(DayOf(range.first) == AllDays().days[today - days], "the range begins so many days before");
-    Require(IsFirstInstant(range.first) && range.first.wDayOfWeek == 3, "at the first instant of that day");
-    Require(DayOf(range.second) == DayOf(now) && range.second.wHour == now.wHour &&
-                range.second.wMilliseconds == now.wMilliseconds,
+    Require(DayOf(range.from) == AllDays().days[today - days], "the range begins so many days before");
+    Require(IsFirstInstant(range.from) && range.from.wDayOfWeek == 3, "at the first instant of that day");
+    Require(DayOf(range.to) == DayOf(now) && range.to.wHour == now.wHour &&
+                range.to.wMilliseconds == now.wMilliseconds,
             "the range ends now");
-    const DateRange between = BetweenDates(range.second, now);
-    Require(IsFirstInstant(between.first) && IsFirstInstant(between.second), "both ends are first instants");
-    Require(DayOf(between.first) == DayOf(now) && DayOf(between.second) == DayOf(now), "of the two days");
+    const DateRange between = BetweenDates(range.to, now);
+    Require(IsFirstInstant(between.from) && IsFirstInstant(between.to), "both ends are first instants");
+    Require(DayOf(between.from) == DayOf(now) && DayOf(between.to) == DayOf(now), "of the two days");
 }
 
 }  // namespace

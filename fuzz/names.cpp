@@ -7,6 +7,7 @@
 #include "platform/name_wildcard.h"
 #include "search/name_patterns.h"
 #include "tests/platform/plain_wildcard.h"
+#include "tests/support/asked_query.h"
 
 namespace {
 
@@ -64,18 +65,16 @@ Patterns TextsIn(ObjectList& list) {
 }
 
 void MakePatterns(FuzzInput& input) {
-    SearchConditions conditions;
-    const bool byType = input.Flag();
-    if (byType) conditions.flags = SearchConditions::TypeFilter;
-    const std::wstring name = SomeTextOf(input, L"a.*?", 12);
-    const std::wstring extensions = SomeTextOf(input, L"ab.", 40);
-    const ExactText<wchar_t> exactName(name);
-    ExactText<wchar_t> exactExtensions(extensions);
+    AskedQuery asked;
+    asked.typeFilter = input.Flag();
+    asked.name = SomeTextOf(input, L"a.*?", 12);
+    asked.extensions = SomeTextOf(input, L"ab.", 40);
+    const SearchQuery query = asked;
     ObjectList list;
-    const std::wstring substring =
-        BuildNamePatterns(conditions, exactName.Get(), exactExtensions.Get(), list);
-    Require(TextsIn(list) == PatternsOf(name, extensions, byType), "the patterns are the plain ones");
-    Require(substring == (byType || HasPlainWildcard(name) ? L"" : name),
+    const std::wstring substring = BuildNamePatterns(query, list);
+    Require(TextsIn(list) == PatternsOf(asked.name, asked.extensions, asked.typeFilter),
+            "the patterns are the plain ones");
+    Require(substring == (asked.typeFilter || HasPlainWildcard(asked.name) ? L"" : asked.name),
             "the text to be contained is right");
 }
 

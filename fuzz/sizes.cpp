@@ -99,15 +99,13 @@ void CompareSteps(FuzzInput& input) {
 void BoundASize(FuzzInput& input) {
     const int index = static_cast<int>(input.UpTo(4)) - 1;
     const std::uint32_t position = input.DoubleWord();
-    constexpr std::uint32_t Before = 12345;
-    std::uint32_t bound = Before;
-    const SizeAnswer answer = SizeBoundOf(index, position, bound);
-    const SizeAnswer expected = index == 1   ? SizeAnswer::Min
-                                : index == 2 ? SizeAnswer::Max
-                                             : SizeAnswer::None;
-    Require(answer == expected, "the index says what the bound is");
-    const std::uint32_t bytes = expected == SizeAnswer::None ? (index == 0 ? 0 : Before) : position * 1024;
-    Require(bound == bytes, "a bound is in bytes");
+    const SizeBound bound = SizeBoundOf(index, position);
+    const SizeLimit limit = index == 1 ? SizeLimit::Above : index == 2 ? SizeLimit::Below : SizeLimit::None;
+    Require(bound.limit == limit, "the index says what the bound is");
+    std::optional<std::uint32_t> bytes;
+    if (index == 0) bytes = 0;
+    if (limit != SizeLimit::None) bytes = position * 1024;
+    Require(bound.bytes == bytes, "a bound is in bytes");
 }
 
 std::uint64_t NumberOf(const FILETIME& time) {

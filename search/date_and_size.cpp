@@ -13,11 +13,11 @@ void ClearTimeOfDay(SYSTEMTIME& time) {
 
 }  // namespace
 
-DateRange BetweenDates(const SYSTEMTIME& first, const SYSTEMTIME& second) {
-    DateRange range{first, second};
-    ClearTimeOfDay(range.first);
+DateRange BetweenDates(const SYSTEMTIME& from, const SYSTEMTIME& to) {
+    DateRange range{from, to};
+    ClearTimeOfDay(range.from);
     // QUIRK: second-day-is-outside
-    ClearTimeOfDay(range.second);
+    ClearTimeOfDay(range.to);
     return range;
 }
 
@@ -25,27 +25,24 @@ DateRange PastDays(const SYSTEMTIME& nowUtc, std::uint32_t days) {
     // QUIRK: spin-error-word-counts. It may lead out of the calendar's numbers; the subtraction then wraps.
     const auto today = static_cast<std::uint32_t>(DaysFromDate(nowUtc));
     DateRange range{nowUtc, nowUtc};
-    DateFromDays(static_cast<std::int32_t>(today - days), range.first);
-    ClearTimeOfDay(range.first);
+    DateFromDays(static_cast<std::int32_t>(today - days), range.from);
+    ClearTimeOfDay(range.from);
     return range;
 }
 
-SizeAnswer SizeBoundOf(int selectedIndex, std::uint32_t position, std::uint32_t& bound) {
+SizeBound SizeBoundOf(int selectedIndex, std::uint32_t position) {
     constexpr int KilobyteBits = 10;
     // QUIRK: spin-error-word-counts. The bits above the position are part of the number.
     switch (selectedIndex) {
         case 0:
-            bound = 0;
-            return SizeAnswer::None;
+            return {SizeLimit::None, 0};
         case 1:
-            bound = position << KilobyteBits;
-            return SizeAnswer::Min;
+            return {SizeLimit::Above, position << KilobyteBits};
         case 2:
-            bound = position << KilobyteBits;
-            return SizeAnswer::Max;
+            return {SizeLimit::Below, position << KilobyteBits};
         default:
             // QUIRK: typed-size-choice-is-no-bound
-            return SizeAnswer::None;
+            return {};
     }
 }
 

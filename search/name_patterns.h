@@ -1,14 +1,12 @@
 #pragma once
 
-// From the name and the type that the user gave to what the walk enumerates and which names it lets pass.
+// From the name and the type of the query to what the walk enumerates and which names it lets pass.
 
 #include "base/object_list.h"
-#include "search/search_conditions.h"
+#include "search/search_query.h"
 
 // Appends the enumeration patterns, as StringObjects, in the order in which they are tried, and returns the
-// text that a name must contain: empty when there is no such test, else nameText itself. With the type filter
-// set the name is ignored and each extension of the text gives a pattern, the last one first; the text is cut
-// in place on the way, and one without "." gives no pattern. A pattern that cannot be allocated is appended
-// as a null item.
-[[nodiscard]] const wchar_t* BuildNamePatterns(const SearchConditions& conditions, const wchar_t* nameText,
-                                               wchar_t* extensions, ObjectList& patterns);
+// text that a name must contain: empty if there is no such test, else the query's name itself. With the type
+// filter the name is ignored and each extension gives a pattern, the last one first; extensions without "."
+// give none. A pattern that cannot be allocated is appended as a null item.
+[[nodiscard]] const wchar_t* BuildNamePatterns(const SearchQuery& query, ObjectList& patterns);

@@ -1,7 +1,6 @@
 #include "search/run_search.h"
 
 #include "base/message_pump.h"
-#include "search/fill_conditions.h"
 #include "search/name_patterns.h"
 #include "search/search_walk.h"
 
@@ -24,17 +23,20 @@ WalkStep ClearSink(MatchSink& sink, SearchProgress& progress) {
     return step;
 }
 
+// QUIRK: location-is-not-checked
+const wchar_t* StartFolder(const SearchQuery& query) {
+    return query.location[0] != L'\0' ? query.location : L"\\";
+}
+
 }  // namespace
 
-void RunSearch(SearchConditions& conditions, const ConditionSource& source, MatchSink& sink,
+void RunSearch(SearchConditions& conditions, const SearchQuery& query, MatchSink& sink,
                SearchProgress& progress) {
-    SearchTexts texts;
-    FillConditions(source, conditions, texts);
+    FillConditions(query, conditions);
     ExpectMessages();
     if (ClearSink(sink, progress) == WalkStep::Stop) return;
     ObjectList patterns;
-    const wchar_t* const nameSubstring =
-        BuildNamePatterns(conditions, texts.name, texts.extensions, patterns);
+    const wchar_t* const nameSubstring = BuildNamePatterns(query, patterns);
     SearchWalk walk{conditions, patterns, nameSubstring, sink, progress};
-    WalkFolder(walk, texts.location);
+    WalkFolder(walk, StartFolder(query));
 }

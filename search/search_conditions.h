@@ -1,7 +1,8 @@
 #pragma once
 
-// What a search looks for. The main window owns the one record; every search fills it afresh (FillConditions)
-// and only reads it from then on. A value whose bit is clear may be left from an earlier search.
+// What entries are tested against. The main window owns the one record; every search fills it anew
+// (FillConditions) and only reads it from then on. A value whose bit is clear may be left from an earlier
+// search.
 
 #include <cstdint>
 
@@ -23,7 +24,7 @@ struct SearchConditions {
     // Ends of the last-write time in UTC, inclusive; valid with DateRange.
     FILETIME fromTime = {};
     FILETIME toTime = {};
-    // Bytes; valid with SizeAbove or SizeBelow, which never stand together.
+    // Bytes; valid with SizeAbove or SizeBelow, which are never set together.
     std::uint32_t sizeBound = 0;
     // Terminated, in the bytes of the device's encoding; in upper case with IgnoreCase; valid with
     // ContentString.

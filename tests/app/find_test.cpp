@@ -108,6 +108,16 @@ TEST_F(Find, a_contained_text_is_looked_for_with_its_case_until_the_option_is_cl
     EXPECT_EQ(RowNames(), Texts{L"a.txt"});
 }
 
+TEST_F(Find, a_case_option_that_is_gray_counts_as_checked) {
+    Send(NamePageIndex, CHECK_SUBFOLDERS, BM_CLICK);
+    SetText(NamePageIndex, EDIT_CONTENT, L"alpha");
+    Command(COMMAND_CHECK_CASE);
+    EnableMenuItem(Window().Menu(), COMMAND_CHECK_CASE, MF_GRAYED);
+    FindNames(L"*");
+    EXPECT_FALSE(IsMarked(COMMAND_CHECK_CASE));
+    EXPECT_EQ(RowNames(), Texts{L"a.txt"});
+}
+
 TEST_F(Find, a_size_bound_of_the_third_page_counts) {
     tree_.AddFile(L"big.txt", std::string(10241, 'x'));
     tree_.AddFile(L"edge.txt", std::string(10240, 'x'));

@@ -10,14 +10,6 @@ namespace {
 
 constexpr wchar_t UnusedKey[] = L"Software\\QuorinMissingPageTest";
 
-// What the page writes over a text that stands there.
-template <typename Page, std::size_t Size>
-std::wstring TextFrom(const Page& page, void (Page::*question)(wchar_t (&)[Size]) const) {
-    wchar_t text[Size] = L"before";
-    (page.*question)(text);
-    return text;
-}
-
 }  // namespace
 
 class MissingPages : public PageTest {
@@ -35,24 +27,22 @@ class MissingPages : public PageTest {
 TEST_F(MissingPages, without_the_date_page_any_date_will_do) {
     DatePage page(Host());
     CreateRefused(page, 1);
-    DateRange range{};
-    EXPECT_FALSE(page.DateRangeChosen(range));
+    EXPECT_FALSE(QueryOf(page).dateRange);
 }
 
 TEST_F(MissingPages, a_date_page_without_one_of_its_controls_does_not_exist) {
     DatePage page(Host());
     CreateRefused(page, 2);
-    DateRange range{};
-    EXPECT_FALSE(page.DateRangeChosen(range));
+    EXPECT_FALSE(QueryOf(page).dateRange);
 }
 
 TEST_F(MissingPages, without_the_size_page_there_is_neither_type_nor_bound) {
     SizePage page(Host(), nullptr);
     CreateRefused(page, 1);
-    EXPECT_EQ(0, page.TypeIndex());
-    EXPECT_EQ(L"", TextFrom(page, &SizePage::TypeExtensions));
-    std::uint32_t bound = 1;
-    EXPECT_EQ(SizeAnswer::None, page.SizeBound(bound));
+    const SearchQuery query = QueryOf(page);
+    EXPECT_FALSE(query.typeFilter);
+    EXPECT_EQ(L"", std::wstring(query.extensions));
+    EXPECT_EQ(SizeLimit::None, query.sizeBound.limit);
 }
 
 TEST_F(MissingPages, a_size_page_that_has_lost_its_combos_has_neither_type_nor_bound) {
@@ -60,19 +50,20 @@ TEST_F(MissingPages, a_size_page_that_has_lost_its_combos_has_neither_type_nor_b
     Open(page);
     DestroyWindow(Item(COMBO_FILE_TYPE));
     DestroyWindow(Item(COMBO_FILE_SIZE));
-    EXPECT_EQ(0, page.TypeIndex());
-    EXPECT_EQ(L"", TextFrom(page, &SizePage::TypeExtensions));
-    std::uint32_t bound = 1;
-    EXPECT_EQ(SizeAnswer::None, page.SizeBound(bound));
+    const SearchQuery query = QueryOf(page);
+    EXPECT_FALSE(query.typeFilter);
+    EXPECT_EQ(L"", std::wstring(query.extensions));
+    EXPECT_EQ(SizeLimit::None, query.sizeBound.limit);
 }
 
 TEST_F(MissingPages, without_the_name_page_every_name_in_the_root_is_meant) {
     NamePage page(Host(), HostHandle());
     CreateRefused(page, 1);
-    EXPECT_EQ(L"", TextFrom(page, &NamePage::NameText));
-    EXPECT_EQ(L"", TextFrom(page, &NamePage::LocationText));
-    EXPECT_EQ(L"", TextFrom(page, &NamePage::ContentText));
-    EXPECT_FALSE(page.SubFoldersChecked());
+    const SearchQuery query = QueryOf(page);
+    EXPECT_EQ(L"", std::wstring(query.name));
+    EXPECT_EQ(L"", std::wstring(query.location));
+    EXPECT_EQ(L"", std::wstring(query.content));
+    EXPECT_FALSE(query.subFolders);
 }
 
 TEST_F(MissingPages, without_the_name_page_nothing_is_saved_over_an_earlier_run) {
@@ -104,6 +95,5 @@ TEST_F(MissingPages, a_page_is_created_by_a_later_try) {
     CreateRefused(page, 1);
     page.CreateModeless();
     ASSERT_NE(nullptr, page.Handle());
-    DateRange range{};
-    EXPECT_FALSE(page.DateRangeChosen(range));
+    EXPECT_FALSE(QueryOf(page).dateRange);
 }

@@ -59,7 +59,7 @@ TEST_F(NamePageSettings, at_the_first_start_there_is_nothing_to_load_and_the_pag
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
     EXPECT_EQ(TextOf(COMBO_NAME), L"*.log");
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, after_the_first_run_txt_is_stored_as_0_and_log_as_1) {
@@ -115,7 +115,7 @@ TEST_F(NamePageSettings, any_number_but_0_checks_the_sub_folders) {
         StoreSubFolders(REG_DWORD, &value, sizeof value);
         Restart();
         page_->LoadSettings(Path);
-        EXPECT_TRUE(page_->SubFoldersChecked()) << value;
+        EXPECT_TRUE(QueryOf(*page_).subFolders) << value;
         EXPECT_EQ(Send(CHECK_SUBFOLDERS, BM_GETCHECK), BST_CHECKED);
     }
 }
@@ -138,26 +138,26 @@ TEST_F(NamePageSettings, a_checked_box_is_saved_as_1) {
 TEST_F(NamePageSettings, a_0_and_a_missing_value_clear_the_box) {
     Click(CHECK_SUBFOLDERS);
     page_->LoadSettings(Path);
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
     const DWORD zero = 0;
     StoreSubFolders(REG_DWORD, &zero, sizeof zero);
     Click(CHECK_SUBFOLDERS);
     page_->LoadSettings(Path);
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, a_sub_folder_value_that_does_not_fit_clears_the_box) {
     StoreSubFolders(REG_SZ, L"yes", 8);
     Click(CHECK_SUBFOLDERS);
     page_->LoadSettings(Path);
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, a_shorter_sub_folder_value_is_taken_as_far_as_it_goes) {
     const BYTE one = 1;
     StoreSubFolders(REG_BINARY, &one, sizeof one);
     page_->LoadSettings(Path);
-    EXPECT_TRUE(page_->SubFoldersChecked());
+    EXPECT_TRUE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, each_part_that_can_be_read_is_read) {
@@ -171,7 +171,7 @@ TEST_F(NamePageSettings, each_part_that_can_be_read_is_read) {
     page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts{L"\\kept"});
-    EXPECT_TRUE(page_->SubFoldersChecked());
+    EXPECT_TRUE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, a_registry_that_takes_nothing_is_silent) {
@@ -183,7 +183,7 @@ TEST_F(NamePageSettings, a_registry_that_takes_nothing_is_silent) {
     page_->SaveSettings(Path);
     page_->LoadSettings(Path);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageSettings, a_page_without_a_window_loads_and_saves_nothing) {

@@ -10,11 +10,6 @@ class NamePageTest : public PageTest {
         page_ = std::make_unique<NamePage>(Host(), HostHandle());
         Open(*page_);
     }
-    std::wstring ContentText() {
-        wchar_t text[ContentTextSize] = L"#";
-        page_->ContentText(text);
-        return text;
-    }
 
     std::unique_ptr<NamePage> page_;
 };
@@ -31,7 +26,7 @@ TEST_F(NamePageTest, the_other_fields_start_empty_and_the_box_clear) {
     EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
     EXPECT_EQ(EntriesOf(COMBO_LOCATION), Texts());
     EXPECT_EQ(TextOf(EDIT_CONTENT), L"");
-    EXPECT_FALSE(page_->SubFoldersChecked());
+    EXPECT_FALSE(QueryOf(*page_).subFolders);
 }
 
 TEST_F(NamePageTest, the_content_takes_260_units) {
@@ -63,7 +58,7 @@ TEST_F(NamePageTest, a_reset_empties_name_and_location_alone) {
     EXPECT_EQ(TextOf(COMBO_NAME), L"");
     EXPECT_EQ(TextOf(COMBO_LOCATION), L"");
     EXPECT_EQ(TextOf(EDIT_CONTENT), L"kept");
-    EXPECT_TRUE(page_->SubFoldersChecked());
+    EXPECT_TRUE(QueryOf(*page_).subFolders);
     EXPECT_EQ(EntriesOf(COMBO_NAME), (Texts{L"*.log", L"*.txt"}));
 }
 
@@ -73,13 +68,11 @@ TEST_F(NamePageTest, the_search_reads_the_fields_as_they_stand) {
     SetText(COMBO_LOCATION, L"\\My Documents");
     SetText(EDIT_CONTENT, L"  ");
     Click(CHECK_SUBFOLDERS);
-    wchar_t text[MAX_PATH];
-    page_->NameText(text);
-    EXPECT_EQ(std::wstring(text), L"*.日本");
-    page_->LocationText(text);
-    EXPECT_EQ(std::wstring(text), L"\\My Documents");
-    EXPECT_EQ(ContentText(), L"  ");
-    EXPECT_TRUE(page_->SubFoldersChecked());
+    const SearchQuery query = QueryOf(*page_);
+    EXPECT_EQ(std::wstring(query.name), L"*.日本");
+    EXPECT_EQ(std::wstring(query.location), L"\\My Documents");
+    EXPECT_EQ(std::wstring(query.content), L"  ");
+    EXPECT_TRUE(query.subFolders);
 }
 
 TEST_F(NamePageTest, texts_longer_than_the_search_takes_are_cut_at_259_units_and_at_260) {
@@ -87,22 +80,17 @@ TEST_F(NamePageTest, texts_longer_than_the_search_takes_are_cut_at_259_units_and
     const std::wstring longText(300, L'x');
     for (const int id : {COMBO_NAME, COMBO_LOCATION, EDIT_CONTENT})
         SetText(id, longText);
-    wchar_t text[MAX_PATH];
-    page_->NameText(text);
-    EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
-    page_->LocationText(text);
-    EXPECT_EQ(std::wstring(text), std::wstring(259, L'x'));
-    EXPECT_EQ(ContentText(), std::wstring(260, L'x'));
+    const SearchQuery query = QueryOf(*page_);
+    EXPECT_EQ(std::wstring(query.name), std::wstring(259, L'x'));
+    EXPECT_EQ(std::wstring(query.location), std::wstring(259, L'x'));
+    EXPECT_EQ(std::wstring(query.content), std::wstring(260, L'x'));
 }
 
 TEST_F(NamePageTest, empty_fields_read_as_empty_texts) {
     OpenPage();
     page_->Reset();
-    wchar_t text[MAX_PATH] = L"#";
-    page_->NameText(text);
-    EXPECT_EQ(std::wstring(text), L"");
-    text[0] = L'#';
-    page_->LocationText(text);
-    EXPECT_EQ(std::wstring(text), L"");
-    EXPECT_EQ(ContentText(), L"");
+    const SearchQuery query = QueryOf(*page_);
+    EXPECT_EQ(std::wstring(query.name), L"");
+    EXPECT_EQ(std::wstring(query.location), L"");
+    EXPECT_EQ(std::wstring(query.content), L"");
 }

@@ -47,3 +47,11 @@ std::vector<std::wstring> PageTest::EntriesOf(int comboId) const {
     }
     return entries;
 }
+
+SearchQuery PageTest::QueryOf(const ConditionPage& page) {
+    SearchQuery query;
+    for (wchar_t* const text : {query.location, query.name, query.extensions, query.content})
+        std::wcscpy(text, L"before");
+    page.FillQuery(query);
+    return query;
+}

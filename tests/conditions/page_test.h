@@ -28,6 +28,8 @@ class PageTest : public testing::Test {
 
     [[nodiscard]] ContainerWindow* Host() { return &host_.Object(); }
     [[nodiscard]] HWND HostHandle() const { return host_.Handle(); }
+    // What the page adds to a query in which every text is "before".
+    [[nodiscard]] static SearchQuery QueryOf(const ConditionPage& page);
     // Find commands that have arrived by now.
     [[nodiscard]] int FindCommands();
 

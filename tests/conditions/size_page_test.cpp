@@ -20,15 +20,6 @@ class TwoTypes : public FileTypeList {
     std::wstring longExtensions = L".bmp";
 };
 
-struct Answer {
-    SizeAnswer answer;
-    std::uint32_t bound;
-    bool operator==(const Answer&) const = default;
-};
-
-// What a bound that nobody writes still holds.
-constexpr std::uint32_t Untouched = 0xABCD;
-
 }  // namespace
 
 class SizePageTest : public PageTest {
@@ -37,17 +28,14 @@ class SizePageTest : public PageTest {
         page_ = std::make_unique<SizePage>(Host(), fileTypes);
         Open(*page_);
     }
-    [[nodiscard]] Answer Ask() const {
-        std::uint32_t bound = Untouched;
-        const SizeAnswer answer = page_->SizeBound(bound);
-        return {answer, bound};
+    void ExpectBound(SizeLimit limit, std::optional<std::uint32_t> bytes) const {
+        const SizeBound bound = QueryOf(*page_).sizeBound;
+        EXPECT_EQ(bound.limit, limit);
+        EXPECT_EQ(bound.bytes, bytes);
     }
     void Choose(int comboId, int index) const { Send(comboId, CB_SETCURSEL, static_cast<WPARAM>(index)); }
-    [[nodiscard]] std::wstring ExtensionsOf() const {
-        wchar_t text[MAX_PATH] = L"before";
-        page_->TypeExtensions(text);
-        return text;
-    }
+    [[nodiscard]] bool HasTypeFilter() const { return QueryOf(*page_).typeFilter; }
+    [[nodiscard]] std::wstring ExtensionsOf() const { return QueryOf(*page_).extensions; }
 
     std::unique_ptr<SizePage> page_;
     TwoTypes types_;
@@ -77,20 +65,20 @@ TEST_F(SizePageTest, the_spin_runs_from_0_to_32767) {
 TEST_F(SizePageTest, without_known_types_there_is_only_everything) {
     OpenPage();
     EXPECT_EQ(EntriesOf(COMBO_FILE_TYPE), Texts{L"All files and folders"});
-    EXPECT_EQ(page_->TypeIndex(), 0);
+    EXPECT_FALSE(HasTypeFilter());
     EXPECT_EQ(ExtensionsOf(), L".*");
 }
 
 TEST_F(SizePageTest, the_types_follow_everything_in_their_own_order) {
     OpenPage(&types_);
     EXPECT_EQ(EntriesOf(COMBO_FILE_TYPE), (Texts{L"All files and folders", L"Web Page", L"A Picture"}));
-    EXPECT_EQ(page_->TypeIndex(), 0);
+    EXPECT_FALSE(HasTypeFilter());
     EXPECT_EQ(ExtensionsOf(), L".*");
     Choose(COMBO_FILE_TYPE, 1);
-    EXPECT_EQ(page_->TypeIndex(), 1);
+    EXPECT_TRUE(HasTypeFilter());
     EXPECT_EQ(ExtensionsOf(), L".htm.html");
     Choose(COMBO_FILE_TYPE, 2);
-    EXPECT_EQ(page_->TypeIndex(), 2);
+    EXPECT_TRUE(HasTypeFilter());
     EXPECT_EQ(ExtensionsOf(), L".bmp");
 }
 
@@ -101,59 +89,59 @@ TEST_F(SizePageTest, extensions_longer_than_the_search_takes_are_cut_at_259_unit
     EXPECT_EQ(ExtensionsOf(), std::wstring(259, L'e'));
 }
 
-TEST_F(SizePageTest, with_no_type_selected_there_are_no_extensions) {
+TEST_F(SizePageTest, with_no_type_selected_the_filter_has_no_extensions) {
     OpenPage(&types_);
     Choose(COMBO_FILE_TYPE, -1);
-    EXPECT_EQ(page_->TypeIndex(), -1);
+    EXPECT_TRUE(HasTypeFilter());
     EXPECT_EQ(ExtensionsOf(), L"");
 }
 
 TEST_F(SizePageTest, the_empty_entry_gives_no_bound) {
     OpenPage();
     SetText(EDIT_KILOBYTES, L"10");
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::None, 0}));
+    ExpectBound(SizeLimit::None, 0);
 }
 
 TEST_F(SizePageTest, min_and_max_give_the_kilobytes_in_bytes) {
     OpenPage();
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 10);
     Choose(COMBO_FILE_SIZE, 1);
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Min, 10240}));
+    ExpectBound(SizeLimit::Above, 10240);
     Choose(COMBO_FILE_SIZE, 2);
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Max, 10240}));
+    ExpectBound(SizeLimit::Below, 10240);
 }
 
 TEST_F(SizePageTest, typed_kilobytes_are_read_as_typed) {
     OpenPage();
     Choose(COMBO_FILE_SIZE, 1);
     SetText(EDIT_KILOBYTES, L"0");
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Min, 0}));
+    ExpectBound(SizeLimit::Above, 0);
     SetText(EDIT_KILOBYTES, L"1");
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Min, 1024}));
+    ExpectBound(SizeLimit::Above, 1024);
     SetText(EDIT_KILOBYTES, L"40000");
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Min, 40960000}));
+    ExpectBound(SizeLimit::Above, 40960000);
 }
 
 TEST_F(SizePageTest, kilobytes_in_groups_of_thousands_are_read_back) {
     OpenPage();
     Choose(COMBO_FILE_SIZE, 2);
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 12345);
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Max, 12641280}));
+    ExpectBound(SizeLimit::Below, 12641280);
 }
 
 TEST_F(SizePageTest, min_and_max_with_an_untouched_spin_carry_its_error_word) {
     OpenPage();
     Choose(COMBO_FILE_SIZE, 1);
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Min, 67108864}));
+    ExpectBound(SizeLimit::Above, 67108864);
     Choose(COMBO_FILE_SIZE, 2);
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::Max, 67108864}));
+    ExpectBound(SizeLimit::Below, 67108864);
 }
 
-TEST_F(SizePageTest, a_text_typed_over_the_choice_gives_no_bound_and_writes_none) {
+TEST_F(SizePageTest, a_text_typed_over_the_choice_gives_no_bound_at_all) {
     OpenPage();
     Choose(COMBO_FILE_SIZE, -1);
     SetText(COMBO_FILE_SIZE, L"Mi");
-    EXPECT_EQ(Ask(), (Answer{SizeAnswer::None, Untouched}));
+    ExpectBound(SizeLimit::None, std::nullopt);
 }
 
 TEST_F(SizePageTest, a_reset_selects_the_first_entries_and_empties_the_kilobytes) {
@@ -163,7 +151,8 @@ TEST_F(SizePageTest, a_reset_selects_the_first_entries_and_empties_the_kilobytes
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 10);
     ASSERT_EQ(TextOf(EDIT_KILOBYTES), L"10");
     page_->Reset();
-    EXPECT_EQ(page_->TypeIndex(), 0);
+    EXPECT_EQ(Send(COMBO_FILE_TYPE, CB_GETCURSEL), 0);
+    EXPECT_FALSE(HasTypeFilter());
     EXPECT_EQ(Send(COMBO_FILE_SIZE, CB_GETCURSEL), 0);
     EXPECT_EQ(TextOf(EDIT_KILOBYTES), L"");
 }
@@ -173,8 +162,9 @@ TEST_F(SizePageTest, after_a_reset_min_carries_the_error_word_again) {
     Send(SPIN_KILOBYTES, UDM_SETPOS, 0, 10);
     page_->Reset();
     Choose(COMBO_FILE_SIZE, 1);
-    EXPECT_EQ(Ask().answer, SizeAnswer::Min);
-    EXPECT_EQ(Ask().bound >> 26, 1U) << "bit 16 of the spin's answer, ten bits further up";
+    const SizeBound bound = QueryOf(*page_).sizeBound;
+    EXPECT_EQ(bound.limit, SizeLimit::Above);
+    EXPECT_EQ(bound.bytes.value_or(0) >> 26, 1U) << "bit 16 of the spin's answer, ten bits further up";
 }
 
 TEST_F(SizePageTest, a_resets_position_goes_to_the_edit_and_not_to_the_spin) {

@@ -5,7 +5,7 @@
 #include "search/run_search.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/recorded_search.h"
-#include "tests/support/answered_source.h"
+#include "tests/support/asked_query.h"
 
 namespace {
 
@@ -41,10 +41,10 @@ class SearchClearing : public testing::Test {
     ~SearchClearing() override { DestroyWindow(window_); }
 
     void Ask() { PostMessageW(window_, Asked, 0, 0); }
-    void Search() { RunSearch(conditions_, source_, sink_, progress_); }
+    void Search() { RunSearch(conditions_, query_, sink_, progress_); }
 
     FakeFolders folders_;
-    AnsweredSource source_;
+    AskedQuery query_;
     SearchConditions conditions_;
     SlowSink sink_;
     ToldProgress progress_;

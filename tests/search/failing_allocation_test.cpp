@@ -2,6 +2,7 @@
 
 #include "base/object_list.h"
 #include "search/name_patterns.h"
+#include "tests/support/asked_query.h"
 #include "tests/support/refused_memory.h"
 
 namespace {
@@ -56,11 +57,13 @@ TEST(FailingAllocation, a_text_object_without_its_copy_is_an_empty_text) {
 
 TEST(FailingAllocation, a_name_that_cannot_be_allocated_is_appended_as_a_null_item) {
     for (const int allocation : {1, 2}) {
+        AskedQuery asked;
+        asked.name = L"*.txt";
+        const SearchQuery query = asked;
         ObjectList patterns;
-        wchar_t extensions[] = L"";
         {
             const RefusedMemory one = RefusedMemory::Only(allocation);
-            EXPECT_STREQ(BuildNamePatterns(SearchConditions(), L"*.txt", extensions, patterns), L"");
+            EXPECT_STREQ(BuildNamePatterns(query, patterns), L"");
         }
         EXPECT_EQ(patterns.Count(), 1U) << "refused: " << allocation;
         EXPECT_EQ(patterns.First(), nullptr) << "refused: " << allocation;
@@ -69,14 +72,15 @@ TEST(FailingAllocation, a_name_that_cannot_be_allocated_is_appended_as_a_null_it
 
 TEST(FailingAllocation,
      an_extension_that_cannot_be_allocated_is_appended_as_a_null_item_and_the_next_is_tried) {
-    SearchConditions conditions;
-    conditions.flags = SearchConditions::TypeFilter;
+    AskedQuery asked;
+    asked.typeFilter = true;
+    asked.extensions = L".htm.html";
+    const SearchQuery query = asked;
     for (const int allocation : {1, 2, 3}) {
         ObjectList patterns;
-        wchar_t extensions[] = L".htm.html";
         {
             const RefusedMemory one = RefusedMemory::Only(allocation);
-            EXPECT_STREQ(BuildNamePatterns(conditions, L"", extensions, patterns), L"");
+            EXPECT_STREQ(BuildNamePatterns(query, patterns), L"");
         }
         EXPECT_EQ(patterns.Count(), 2U) << "refused: " << allocation;
         EXPECT_EQ(patterns.First(), nullptr) << "refused: " << allocation;
@@ -87,11 +91,13 @@ TEST(FailingAllocation,
 }
 
 TEST(FailingAllocation, without_any_memory_the_pattern_list_stays_empty) {
+    AskedQuery asked;
+    asked.name = L"abc";
+    const SearchQuery query = asked;
     ObjectList patterns;
-    wchar_t extensions[] = L"";
     {
         const RefusedMemory all;
-        EXPECT_STREQ(BuildNamePatterns(SearchConditions(), L"abc", extensions, patterns), L"abc");
+        EXPECT_STREQ(BuildNamePatterns(query, patterns), L"abc");
     }
     EXPECT_EQ(patterns.Count(), 0U);
 }

@@ -10,31 +10,31 @@
 #include "search/run_search.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/recorded_search.h"
-#include "tests/support/answered_source.h"
+#include "tests/support/asked_query.h"
 #include "tests/support/temp_tree.h"
 
 namespace {
 
 using Texts = std::vector<std::wstring>;
 
-Texts Search(const AnsweredSource& source, RecordingSink& sink) {
+Texts Search(const AskedQuery& query, RecordingSink& sink) {
     SearchConditions conditions;
     RecordingProgress progress;
-    RunSearch(conditions, source, sink, progress);
+    RunSearch(conditions, query, sink, progress);
     return sink.paths;
 }
 
-Texts Search(const AnsweredSource& source) {
+Texts Search(const AskedQuery& query) {
     RecordingSink sink;
-    return Search(source, sink);
+    return Search(query, sink);
 }
 
-AnsweredSource Below(const std::wstring& location, const std::wstring& name = L"") {
-    AnsweredSource source;
-    source.location = location;
-    source.name = name;
-    source.subFolders = true;
-    return source;
+AskedQuery Below(const std::wstring& location, const std::wstring& name = L"") {
+    AskedQuery query;
+    query.location = location;
+    query.name = name;
+    query.subFolders = true;
+    return query;
 }
 
 // Without the tree's own folder in front, sorted.
@@ -143,9 +143,9 @@ TEST(OddWorlds, a_file_that_vanishes_before_it_is_opened_holds_no_text) {
     folders.AddFile(L"\\", L"gone.txt");
     folders.AddFile(L"\\", L"there.txt");
     folders.SetContent(L"\\there.txt", "text");
-    AnsweredSource source = Below(L"\\");
-    source.content = L"text";
-    EXPECT_EQ(Search(source), Texts{L"\\there.txt"});
+    AskedQuery query = Below(L"\\");
+    query.content = L"text";
+    EXPECT_EQ(Search(query), Texts{L"\\there.txt"});
     EXPECT_EQ(folders.opened, (Texts{L"\\gone.txt", L"\\there.txt"}));
 }
 
@@ -154,11 +154,11 @@ TEST(OddWorlds, the_260th_unit_of_a_content_text_has_to_be_in_the_file_as_well) 
     const std::string bytes(259, 'x');
     tree.AddFile(L"whole.txt", "a " + bytes + "y b");
     tree.AddFile(L"all but the last.txt", "a " + bytes + "z b");
-    AnsweredSource source = Below(tree.Root());
-    source.content = std::wstring(259, L'x') + L"y";
-    for (const std::uint32_t caseState : {0U, 8U}) {
-        source.caseOptionState = caseState;
-        EXPECT_EQ(Inside(tree, Search(source)), Texts{L"whole.txt"});
+    AskedQuery query = Below(tree.Root());
+    query.content = std::wstring(259, L'x') + L"y";
+    for (const bool ignoreCase : {true, false}) {
+        query.ignoreCase = ignoreCase;
+        EXPECT_EQ(Inside(tree, Search(query)), Texts{L"whole.txt"});
     }
 }
 
@@ -167,12 +167,12 @@ TEST(OddWorlds, a_locked_file_is_found_by_name_and_not_by_content) {
     const std::wstring path = tree.AddFile(L"locked.txt", "text");
     const HANDLE lock = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-    AnsweredSource source = Below(tree.Root());
-    EXPECT_EQ(Inside(tree, Search(source)), Texts{L"locked.txt"});
-    source.content = L"text";
-    EXPECT_EQ(Search(source), Texts{});
+    AskedQuery query = Below(tree.Root());
+    EXPECT_EQ(Inside(tree, Search(query)), Texts{L"locked.txt"});
+    query.content = L"text";
+    EXPECT_EQ(Search(query), Texts{});
     CloseHandle(lock);
-    EXPECT_EQ(Inside(tree, Search(source)), Texts{L"locked.txt"});
+    EXPECT_EQ(Inside(tree, Search(query)), Texts{L"locked.txt"});
 }
 
 TEST(OddWorlds, half_a_surrogate_pair_in_a_name_is_a_unit_like_any_other) {
@@ -197,9 +197,9 @@ TEST(OddWorlds, names_that_end_in_dots_or_spaces_are_kept_apart_from_those_that_
     tree.AddFile(L"b.txt.", "text");
     EXPECT_EQ(Inside(tree, Search(Below(tree.Root(), L"*.txt"))),
               (Texts{L"a \\three.txt", L"a.\\two.txt", L"a\\one.txt", L"b.txt"}));
-    AnsweredSource source = Below(tree.Root());
-    source.content = L"text";
-    EXPECT_EQ(Inside(tree, Search(source)), (Texts{L"a.\\two.txt", L"a\\one.txt", L"b.txt."}));
+    AskedQuery query = Below(tree.Root());
+    query.content = L"text";
+    EXPECT_EQ(Inside(tree, Search(query)), (Texts{L"a.\\two.txt", L"a\\one.txt", L"b.txt."}));
 }
 
 TEST(OddWorlds, names_of_devices_are_names_of_files) {
@@ -207,9 +207,9 @@ TEST(OddWorlds, names_of_devices_are_names_of_files) {
     tree.AddFile(L"con", "text");
     tree.AddFile(L"aux.c", "text");
     tree.AddFile(L"nul\\prn.txt", "text");
-    AnsweredSource source = Below(tree.Root());
-    source.content = L"text";
-    EXPECT_EQ(Inside(tree, Search(source)), (Texts{L"aux.c", L"con", L"nul\\prn.txt"}));
+    AskedQuery query = Below(tree.Root());
+    query.content = L"text";
+    EXPECT_EQ(Inside(tree, Search(query)), (Texts{L"aux.c", L"con", L"nul\\prn.txt"}));
 }
 
 TEST(OddWorlds, japanese_names_are_found_by_any_part_of_them) {

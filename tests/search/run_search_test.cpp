@@ -4,22 +4,22 @@
 
 #include "tests/search/fake_folders.h"
 #include "tests/search/recorded_search.h"
-#include "tests/support/answered_source.h"
+#include "tests/support/asked_query.h"
 
 namespace {
 
 using Texts = std::vector<std::wstring>;
 
-// One search of the source's conditions, in an order of calls that is noted.
+// One search of the query's conditions, in an order of calls that is noted.
 class RunSearchTest : public testing::Test {
   protected:
     const Texts& Search() {
-        RunSearch(conditions_, source_, sink_, progress_);
+        RunSearch(conditions_, query_, sink_, progress_);
         return sink_.paths;
     }
 
     FakeFolders folders_;
-    AnsweredSource source_;
+    AskedQuery query_;
     SearchConditions conditions_;
     RecordingSink sink_;
     RecordingProgress progress_;
@@ -36,16 +36,16 @@ TEST_F(RunSearchTest, searches_from_the_root_when_no_location_is_given) {
 TEST_F(RunSearchTest, searches_the_location_and_what_is_below_it) {
     folders_.AddFolder(L"\\docs", L"more");
     folders_.AddFile(L"\\docs\\more", L"a.txt");
-    source_.location = L"\\docs";
+    query_.location = L"\\docs";
     EXPECT_EQ(Search(), Texts{L"\\docs\\more"});
-    source_.subFolders = true;
+    query_.subFolders = true;
     EXPECT_EQ(Search(), (Texts{L"\\docs\\more", L"\\docs\\more\\a.txt"}));
 }
 
 TEST_F(RunSearchTest, clears_what_an_earlier_search_found) {
     folders_.AddFile(L"\\", L"a.txt");
     Search();
-    source_.location = L"\\missing";
+    query_.location = L"\\missing";
     EXPECT_EQ(Search(), Texts{});
     EXPECT_EQ(sink_.clears, 2);
 }
@@ -53,14 +53,14 @@ TEST_F(RunSearchTest, clears_what_an_earlier_search_found) {
 TEST_F(RunSearchTest, finds_a_plain_name_anywhere_in_a_name_and_with_its_case) {
     for (const wchar_t* name : {L"xabcx.txt", L"abc", L"ABC.TXT"})
         folders_.AddFile(L"\\", name);
-    source_.name = L"abc";
+    query_.name = L"abc";
     EXPECT_EQ(Search(), (Texts{L"\\xabcx.txt", L"\\abc"}));
 }
 
 TEST_F(RunSearchTest, finds_a_name_with_wildcards_without_regard_to_case) {
     for (const wchar_t* name : {L"xabcx.txt", L"abc", L"ABC.TXT"})
         folders_.AddFile(L"\\", name);
-    source_.name = L"abc*";
+    query_.name = L"abc*";
     EXPECT_EQ(Search(), (Texts{L"\\abc", L"\\ABC.TXT"}));
 }
 
@@ -74,16 +74,16 @@ TEST_F(RunSearchTest, finds_everything_without_a_name_and_a_type) {
 TEST_F(RunSearchTest, finds_by_type_the_last_extension_first_and_ignores_the_name) {
     for (const wchar_t* name : {L"a.htm", L"b.html", L"c.txt", L"d.HTM"})
         folders_.AddFile(L"\\", name);
-    source_.name = L"*.txt";
-    source_.typeIndex = 1;
-    source_.extensions = L".htm.html";
+    query_.name = L"*.txt";
+    query_.typeFilter = true;
+    query_.extensions = L".htm.html";
     EXPECT_EQ(Search(), (Texts{L"\\b.html", L"\\a.htm", L"\\d.HTM"}));
 }
 
 TEST_F(RunSearchTest, finds_nothing_by_a_type_without_an_extension) {
     folders_.AddFile(L"\\", L"a.txt");
-    source_.typeIndex = 2;
-    source_.extensions = L"txt";
+    query_.typeFilter = true;
+    query_.extensions = L"txt";
     EXPECT_EQ(Search(), Texts{});
 }
 
@@ -92,10 +92,9 @@ TEST_F(RunSearchTest, finds_by_size) {
     folders_.AddFile(L"\\", L"larger", 10241);
     folders_.AddFile(L"\\", L"smaller", 10239);
     folders_.AddFolder(L"\\", L"folder");
-    source_.sizeBound = 10240;
-    source_.sizeAnswer = SizeAnswer::Min;
+    query_.sizeBound = {SizeLimit::Above, 10240};
     EXPECT_EQ(Search(), Texts{L"\\larger"});
-    source_.sizeAnswer = SizeAnswer::Max;
+    query_.sizeBound = {SizeLimit::Below, 10240};
     EXPECT_EQ(Search(), (Texts{L"\\smaller", L"\\folder"}));
 }
 
@@ -106,9 +105,9 @@ TEST_F(RunSearchTest, finds_by_content_and_never_a_folder) {
     folders_.AddFolder(L"\\", L"folder");
     folders_.SetContent(L"\\with.txt", "one\nthe text\n");
     folders_.SetContent(L"\\without.txt", "one\nThe Text\n");
-    source_.content = L"the text";
+    query_.content = L"the text";
     EXPECT_EQ(Search(), Texts{L"\\with.txt"});
-    source_.caseOptionState = 0;
+    query_.ignoreCase = true;
     EXPECT_EQ(Search(), (Texts{L"\\with.txt", L"\\without.txt"}));
 }
 
@@ -127,9 +126,7 @@ TEST_F(RunSearchTest, finds_by_the_time_of_the_last_write) {
     folders_.AddFile(L"\\", L"a moment before");
     folders_.SetWritten(L"\\", L"at noon", written);
     folders_.SetWritten(L"\\", L"a moment before", before);
-    source_.dateRangeChosen = true;
-    source_.dateRange.first = noon;
-    source_.dateRange.second = noon;
+    query_.dateRange = DateRange{noon, noon};
     EXPECT_EQ(Search(), Texts{L"\\at noon"});
 }
 
@@ -149,8 +146,8 @@ TEST_F(RunSearchTest, looks_at_the_message_queue_before_the_first_entry) {
 }
 
 TEST_F(RunSearchTest, takes_a_location_of_the_greatest_length_without_an_overrun) {
-    source_.location = L"\\" + std::wstring(258, L'l');
-    source_.subFolders = true;
+    query_.location = L"\\" + std::wstring(258, L'l');
+    query_.subFolders = true;
     EXPECT_EQ(Search(), Texts{});
     ASSERT_EQ(progress_.folders.size(), 1U);
     EXPECT_EQ(progress_.folders[0].size(), 259U);

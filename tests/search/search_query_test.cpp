@@ -1,4 +1,4 @@
-#include "search/fill_conditions.h"
+#include "search/search_query.h"
 
 #include <gtest/gtest.h>
 
@@ -11,45 +11,9 @@
 #include "search/date_and_size.h"
 #include "search/double_byte_text.h"
 #include "search/text_conversion.h"
+#include "tests/support/asked_query.h"
 
 namespace {
-
-// Pages and menu as the user left them.
-class FakePages final : public ConditionSource {
-  public:
-    std::wstring location;
-    std::wstring name;
-    std::wstring content;
-    bool subFolders = false;
-    bool hasRange = false;
-    DateRange range;
-    int typeIndex = 0;
-    std::wstring extensions;
-    int sizeIndex = 0;
-    std::uint32_t sizePosition = 0;
-    std::uint32_t caseState = MFS_CHECKED;
-
-    void LocationText(wchar_t (&text)[MAX_PATH]) const override { Copy(text, location); }
-    void NameText(wchar_t (&text)[MAX_PATH]) const override { Copy(text, name); }
-    void ContentText(wchar_t (&text)[ContentTextSize]) const override { Copy(text, content); }
-    bool SubFoldersChecked() const override { return subFolders; }
-    bool DateRangeChosen(DateRange& chosen) const override {
-        if (hasRange) chosen = range;
-        return hasRange;
-    }
-    int TypeIndex() const override { return typeIndex; }
-    void TypeExtensions(wchar_t (&text)[MAX_PATH]) const override { Copy(text, extensions); }
-    SizeAnswer SizeBound(std::uint32_t& bound) const override {
-        return SizeBoundOf(sizeIndex, sizePosition, bound);
-    }
-    std::uint32_t CaseOptionState() const override { return caseState; }
-
-  private:
-    template <std::size_t size>
-    static void Copy(wchar_t (&text)[size], const std::wstring& source) {
-        text[source.copy(text, size - 1)] = L'\0';
-    }
-};
 
 constexpr ULONGLONG HourTicks = 36000000000ULL;
 
@@ -90,11 +54,10 @@ class FillConditionsTest : public testing::Test {
         ContextForStartUp() = contextBefore_;
     }
 
-    void Fill() { FillConditions(pages_, conditions_, texts_); }
+    void Fill() { FillConditions(query_, conditions_); }
 
-    FakePages pages_;
+    AskedQuery query_;
     SearchConditions conditions_;
-    SearchTexts texts_;
 
   private:
     const ce::SystemCalls systemCallsBefore_ = ce::systemCalls;
@@ -103,45 +66,28 @@ class FillConditionsTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(FillConditionsTest, pages_without_a_condition_leave_every_bit_clear) {
+TEST_F(FillConditionsTest, a_query_without_a_condition_leaves_every_bit_clear) {
     conditions_.flags = 0xFFFF;
     Fill();
     EXPECT_EQ(conditions_.flags, 0);
-    EXPECT_STREQ(texts_.location, L"\\");
-    EXPECT_STREQ(texts_.name, L"");
-    EXPECT_STREQ(texts_.extensions, L"");
-}
-
-TEST_F(FillConditionsTest, an_empty_location_is_the_root) {
-    wcscpy(texts_.location, L"\\left from before");
-    Fill();
-    EXPECT_STREQ(texts_.location, L"\\");
-}
-
-TEST_F(FillConditionsTest, a_location_and_a_name_are_taken_as_they_are) {
-    pages_.location = L"\\Missing folder";
-    pages_.name = L" abc*";
-    Fill();
-    EXPECT_STREQ(texts_.location, L"\\Missing folder");
-    EXPECT_STREQ(texts_.name, L" abc*");
 }
 
 TEST_F(FillConditionsTest, a_content_text_sets_its_bit_and_becomes_bytes) {
-    pages_.content = L"a\u00E9\u65E5";
+    query_.content = L"a\u00E9\u65E5";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "a\xE9\xE5");
 }
 
 TEST_F(FillConditionsTest, a_content_text_of_spaces_counts) {
-    pages_.content = L"   ";
+    query_.content = L"   ";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "   ");
 }
 
 TEST_F(FillConditionsTest, a_content_text_that_converts_to_nothing_still_sets_its_bit) {
-    pages_.content = L"\u0100abc";
+    query_.content = L"\u0100abc";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "");
@@ -149,20 +95,17 @@ TEST_F(FillConditionsTest, a_content_text_that_converts_to_nothing_still_sets_it
 
 TEST_F(FillConditionsTest, the_conversion_of_the_start_up_record_is_used_with_520_bytes) {
     ContextForStartUp().toMultiByte = WritesAbc;
-    pages_.content = L"x";
+    query_.content = L"x";
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "aBc");
 }
 
-TEST_F(FillConditionsTest, the_case_option_counts_as_unchecked_only_with_a_state_of_0) {
-    pages_.content = L"abc";
-    for (const std::uint32_t state : {std::uint32_t{MFS_CHECKED}, std::uint32_t{MFS_GRAYED}, 0x80000000U}) {
-        pages_.caseState = state;
-        Fill();
-        EXPECT_EQ(conditions_.flags, SearchConditions::ContentString) << state;
-        EXPECT_STREQ(conditions_.contentPattern, "abc") << state;
-    }
-    pages_.caseState = 0;
+TEST_F(FillConditionsTest, the_pattern_is_folded_only_if_case_is_ignored) {
+    query_.content = L"abc";
+    Fill();
+    EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
+    EXPECT_STREQ(conditions_.contentPattern, "abc");
+    query_.ignoreCase = true;
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString | SearchConditions::IgnoreCase);
     EXPECT_STREQ(conditions_.contentPattern, "ABC");
@@ -172,8 +115,8 @@ TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_co
     ContextForStartUp().toMultiByte = [](const wchar_t*, char* destination, int) {
         strcpy(destination, "a\x83\x61");
     };
-    pages_.content = L"x";
-    pages_.caseState = 0;
+    query_.content = L"x";
+    query_.ignoreCase = true;
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "A\x83\x41");
     ContextForStartUp().codeConversionAvailable = true;
@@ -183,21 +126,26 @@ TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_co
 
 TEST_F(FillConditionsTest, an_older_pattern_is_folded_although_there_is_no_content_text) {
     strcpy(conditions_.contentPattern, "old");
-    pages_.caseState = 0;
+    query_.ignoreCase = true;
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::IgnoreCase);
     EXPECT_STREQ(conditions_.contentPattern, "OLD");
 }
 
-TEST_F(FillConditionsTest, the_check_box_sets_sub_folders) {
-    pages_.subFolders = true;
+TEST_F(FillConditionsTest, the_type_filter_sets_its_bit) {
+    query_.typeFilter = true;
+    Fill();
+    EXPECT_EQ(conditions_.flags, SearchConditions::TypeFilter);
+}
+
+TEST_F(FillConditionsTest, sub_folders_set_their_bit) {
+    query_.subFolders = true;
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SubFolders);
 }
 
 TEST_F(FillConditionsTest, the_ends_of_a_date_range_are_taken_as_local_times) {
-    pages_.hasRange = true;
-    pages_.range = BetweenDates({2002, 1, 0, 10, 5, 5, 5, 5}, {2002, 1, 0, 12, 5, 5, 5, 5});
+    query_.dateRange = BetweenDates({2002, 1, 0, 10, 5, 5, 5, 5}, {2002, 1, 0, 12, 5, 5, 5, 5});
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::DateRange);
     // Midnight nine hours east of UTC is 15:00 UTC of the day before.
@@ -206,8 +154,7 @@ TEST_F(FillConditionsTest, the_ends_of_a_date_range_are_taken_as_local_times) {
 }
 
 TEST_F(FillConditionsTest, between_a_day_and_itself_only_its_first_local_instant_passes) {
-    pages_.hasRange = true;
-    pages_.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
+    query_.dateRange = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
     Fill();
     const ULONGLONG midnight = UtcTicks({2002, 1, 0, 9, 15, 0, 0, 0});
     WIN32_FIND_DATAW entry = {};
@@ -222,8 +169,7 @@ TEST_F(FillConditionsTest, between_a_day_and_itself_only_its_first_local_instant
 TEST_F(FillConditionsTest, past_0_days_at_one_in_the_morning_nine_hours_east_ends_nine_hours_ago) {
     // 01:00 local of 10 January is 16:00 UTC of 9 January.
     const SYSTEMTIME nowUtc = {2002, 1, 3, 9, 16, 0, 0, 0};
-    pages_.hasRange = true;
-    pages_.range = PastDays(nowUtc, 0);
+    query_.dateRange = PastDays(nowUtc, 0);
     Fill();
     // From midnight of 9 January read as local, 15:00 UTC of 8 January.
     EXPECT_EQ(TicksOf(conditions_.fromTime), UtcTicks({2002, 1, 0, 8, 15, 0, 0, 0}));
@@ -233,7 +179,7 @@ TEST_F(FillConditionsTest, past_0_days_at_one_in_the_morning_nine_hours_east_end
 TEST_F(FillConditionsTest, a_date_that_cannot_be_converted_is_not_noticed) {
     ce::systemCalls.localFileTimeToFileTime = [](const FILETIME*, FILETIME*) -> BOOL { return FALSE; };
     conditions_.fromTime = TimeOf(77);
-    pages_.hasRange = true;
+    query_.dateRange = DateRange{};
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::DateRange);
     EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
@@ -247,33 +193,15 @@ TEST_F(FillConditionsTest, without_a_range_the_older_times_stay_and_the_bit_is_c
     EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
 }
 
-TEST_F(FillConditionsTest, any_type_but_the_first_sets_the_type_filter) {
-    for (const int index : {1, 5, -1}) {
-        pages_.typeIndex = index;
-        Fill();
-        EXPECT_EQ(conditions_.flags, SearchConditions::TypeFilter) << index;
-    }
-}
-
-TEST_F(FillConditionsTest, the_extensions_are_copied_whatever_the_type) {
-    pages_.extensions = L".htm.html";
-    pages_.typeIndex = 0;
-    Fill();
-    EXPECT_EQ(conditions_.flags, 0);
-    EXPECT_STREQ(texts_.extensions, L".htm.html");
-}
-
 TEST_F(FillConditionsTest, min_with_10_sets_size_above_and_10240_bytes) {
-    pages_.sizeIndex = 1;
-    pages_.sizePosition = 10;
+    query_.sizeBound = SizeBoundOf(1, 10);
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SizeAbove);
     EXPECT_EQ(conditions_.sizeBound, 10240U);
 }
 
 TEST_F(FillConditionsTest, max_with_10_sets_size_below_and_10240_bytes) {
-    pages_.sizeIndex = 2;
-    pages_.sizePosition = 10;
+    query_.sizeBound = SizeBoundOf(2, 10);
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SizeBelow);
     EXPECT_EQ(conditions_.sizeBound, 10240U);
@@ -281,43 +209,29 @@ TEST_F(FillConditionsTest, max_with_10_sets_size_below_and_10240_bytes) {
 
 TEST_F(FillConditionsTest, the_empty_size_entry_writes_a_bound_of_0_and_no_selection_keeps_the_older_one) {
     conditions_.sizeBound = 77;
-    pages_.sizeIndex = -1;
+    query_.sizeBound = SizeBoundOf(-1, 10);
     Fill();
     EXPECT_EQ(conditions_.sizeBound, 77U);
-    pages_.sizeIndex = 0;
+    query_.sizeBound = SizeBoundOf(0, 10);
     Fill();
     EXPECT_EQ(conditions_.sizeBound, 0U);
     EXPECT_EQ(conditions_.flags, 0);
 }
 
 TEST_F(FillConditionsTest, all_conditions_stand_together) {
-    pages_.content = L"x";
-    pages_.caseState = 0;
-    pages_.subFolders = true;
-    pages_.hasRange = true;
-    pages_.range = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
-    pages_.typeIndex = 2;
-    pages_.sizeIndex = 1;
+    query_.content = L"x";
+    query_.ignoreCase = true;
+    query_.subFolders = true;
+    query_.dateRange = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
+    query_.typeFilter = true;
+    query_.sizeBound = SizeBoundOf(1, 0);
     Fill();
     EXPECT_EQ(conditions_.flags, 0x1307);
 }
 
-TEST_F(FillConditionsTest, texts_as_long_as_their_buffers_are_cut_not_overrun) {
-    const std::wstring tooLong(400, L'x');
-    pages_.location = tooLong;
-    pages_.name = tooLong;
-    pages_.content = tooLong;
-    pages_.extensions = tooLong;
-    Fill();
-    EXPECT_EQ(std::wcslen(texts_.location), 259U);
-    EXPECT_EQ(std::wcslen(texts_.name), 259U);
-    EXPECT_EQ(std::wcslen(texts_.extensions), 259U);
-    EXPECT_EQ(std::string(conditions_.contentPattern), std::string(260, 'x'));
-}
-
 TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_conversion) {
     const std::string bytes = std::string(259, 'x') + 'y';
-    pages_.content = std::wstring(bytes.begin(), bytes.end());
+    query_.content = std::wstring(bytes.begin(), bytes.end());
     for (const ToMultiByteRoutine conversion :
          {&DefaultToMultiByte, &LibraryToMultiByte, &SystemToMultiByte}) {
         ContextForStartUp().toMultiByte = conversion;
@@ -330,7 +244,7 @@ TEST_F(FillConditionsTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_l
     UseConversionLibrary([](unsigned short unit) -> unsigned short { return unit == L'あ' ? 0x82A0 : 0; },
                          nullptr);
     ContextForStartUp().toMultiByte = &LibraryToMultiByte;
-    pages_.content = std::wstring(260, L'あ');
+    query_.content = std::wstring(260, L'あ');
     Fill();
     UseConversionLibrary(nullptr, nullptr);
     // A pair of which only the first byte fits is cut there.
