@@ -2,7 +2,7 @@
 
 // The entry filter: one directory entry against all conditions, the cheapest first.
 
-#include "search/search_walk.h"
+#include "search/walk_context.h"
 
 // Hands the entry of the folder to the sink if it passes all conditions. Stop without a test if the walk has
 // to stop; GoOn otherwise, match or not. An entry whose path does not fit is skipped.

@@ -10,6 +10,8 @@ struct SHELLEXECUTEINFOW {
     HANDLE hProcess;
 };
 
+struct SHFILEINFOW;
+
 inline BOOL ShellExecuteExW(SHELLEXECUTEINFOW*) {
     return FALSE;
 }

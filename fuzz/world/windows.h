@@ -22,6 +22,7 @@ using REGSAM = DWORD;
 struct SECURITY_ATTRIBUTES;
 
 using INT_PTR = std::intptr_t;
+using DWORD_PTR = std::uintptr_t;
 
 #define FILE_ATTRIBUTE_READONLY 0x1
 #define FILE_ATTRIBUTE_ARCHIVE 0x20
