@@ -22,7 +22,7 @@ void* Allocate(std::size_t size) {
 }
 
 // Enough for the dialogs and paths of a person who makes room and closes the program.
-constexpr std::size_t ReserveSize = 64 * 1024;
+constexpr std::size_t ReserveSize = std::size_t{64} * 1024;
 
 void* reserve = nullptr;
 
@@ -71,6 +71,7 @@ namespace std {
 
 // The library's reports of a full memory and of sizes and places that cannot be. Their names are part of its
 // binary interface: where a library calls one that does not stand here, linking fails with doubled names.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 [[noreturn]] void __throw_bad_alloc() {
     EndProgram();
 }
@@ -86,5 +87,6 @@ namespace std {
 [[noreturn]] void __throw_out_of_range_fmt(const char*, ...) {
     EndProgram();
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 }  // namespace std

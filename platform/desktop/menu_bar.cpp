@@ -119,7 +119,7 @@ bool MenuBar::RegisterOnce() {
     if (GetClassInfoW(OwnInstance(), ClassName, &known)) return true;
     WNDCLASSW windowClass{};
     windowClass.lpfnWndProc = Procedure;
-    windowClass.cbWndExtra = sizeof(MenuBar*);
+    windowClass.cbWndExtra = sizeof(LONG_PTR);  // the MenuBar
     windowClass.hInstance = OwnInstance();
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<ULONG_PTR>(COLOR_BTNFACE + 1));

@@ -80,7 +80,7 @@ std::wstring ItemName(const Part& item, CodePageReader read) {
     constexpr std::uint32_t LaterVersion = 7;
     const std::size_t extension = item.Word(item.Size() - 2);
     if (extension > NameAt && extension < item.Size() && item.Word(extension + 2) < LaterVersion) {
-        const std::wstring name = item.From(extension + LongNameAt).WideText();
+        std::wstring name = item.From(extension + LongNameAt).WideText();
         if (!name.empty()) return name;
     }
     return read(item.From(NameAt).Text());
