@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 
+#include "base/registry_key.h"
 #include "bench/bench_list.h"
 #include "bench/bench_search.h"
 #include "bench/benches.h"
@@ -41,10 +42,12 @@ class BenchTypes {
             RegDeleteKeyValueW(HKEY_CLASSES_ROOT, extension, L"Default");
     }
 
-    // The type of a registered extension, or empty.
+    // The type that the registry has for the extension, from here or from the device; empty without one.
     static std::wstring TypeOf(const std::wstring& extension) {
-        if (extension == L".htm" || extension == L".html") return L"benchpage";
-        return extension == L".bmp" ? L"benchpicture" : L"";
+        RegistryKey key(HKEY_CLASSES_ROOT);
+        wchar_t type[MAX_PATH] = L"";
+        if (extension.empty() || !key.Open(extension.c_str())) return L"";
+        return key.QueryString(L"Default", type, sizeof type) ? type : L"";
     }
 
   private:
