@@ -1,0 +1,128 @@
+// What a person does in the list by itself: editing a name in place, and the keys.
+
+#include <cwchar>
+
+#include "results/result_list.h"
+
+namespace {
+
+// How far an arrow key moves the columns, in pixels.
+constexpr int ScrollStep = 40;
+
+// Of a key's lParam: it was down already, and repeats itself.
+constexpr LPARAM KeyWasDown = 1L << 30;
+
+}  // namespace
+
+// The desktop's list edits only while it has the focus.
+void ResultList::EditName(int row) {
+    SetFocus(Handle());
+    SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    RECT bounds{LVIR_BOUNDS, 0, 0, 0};
+    SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
+    if (bounds.left < 0) SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(bounds.left), 0);
+    editingByCommand_ = true;
+    SendMessageW(Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+    editingByCommand_ = false;
+}
+
+void ResultList::EndEditing() {
+    OvertakeClick();
+    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) == 0) return;
+    SetFocus(Handle());
+    // Where the focus could not be moved the editing is given up.
+    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) != 0)
+        SendMessageW(Handle(), LVM_CANCELEDITLABEL, 0, 0);
+}
+
+int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
+    return editedNumber_ ? RowWithNumber(*editedNumber_) : edited.item.iItem;
+}
+
+LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
+    if (!MayBeEdited()) return TRUE;
+    editedNumber_ = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
+    const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
+    if (edit != nullptr) nameEdit_.reset(new (std::nothrow) NameEdit(this, edit));
+    return FALSE;
+}
+
+bool ResultList::MayBeEdited() const {
+    if (filling_ || !IsWindowEnabled(ParentHandle())) return false;
+    return editingByCommand_ || editingClick_ != EditingClick::Overtaken;
+}
+
+LRESULT ResultList::OnLeftButtonDown(MessageRecord& record) {
+    editingClick_ = EditingClick::Awaited;
+    return DefaultProcessing(record);
+}
+
+LRESULT ResultList::OnFocusLost(MessageRecord& record) {
+    OvertakeClick();
+    return DefaultProcessing(record);
+}
+
+void ResultList::OvertakeClick() {
+    if (editingClick_ == EditingClick::Awaited) editingClick_ = EditingClick::Overtaken;
+}
+
+bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const {
+    if ((edited.item.mask & LVIF_TEXT) == 0) return false;
+    if (edited.item.pszText != nullptr) {
+        name = edited.item.pszText;
+        return true;
+    }
+    // So the desktop reports an editing that was given up, but also an empty and an unchanged text.
+    if (nameEdit_ == nullptr || nameEdit_->Handle() == nullptr || !nameEdit_->IsTaken()) return false;
+    name = nameEdit_->Text();
+    return true;
+}
+
+LRESULT ResultList::OnKeyDown(MessageRecord& record) {
+    OvertakeClick();
+    // A key that is held is one press: a file is opened once.
+    const bool isRepeated = (record.lParam & KeyWasDown) != 0;
+    if (record.wParam == VK_RETURN && isRepeated) return 0;
+    // With Alt as well it is another letter of the keyboard.
+    const bool controlAlone = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+    const auto column = static_cast<int>(record.wParam) - L'1';
+    if (controlAlone && column >= 0 && column < ResultColumnCount) {
+        SortByKey(column);
+        return 0;
+    }
+    return ScrollByKey(record.wParam) ? 0 : DefaultProcessing(record);
+}
+
+// The columns are wider than a small screen, and not every list goes sideways by its arrow keys.
+bool ResultList::ScrollByKey(WPARAM key) {
+    const bool isReport = (GetWindowLongW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
+    if (!isReport || (key != VK_LEFT && key != VK_RIGHT)) return false;
+    SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(key == VK_LEFT ? -ScrollStep : ScrollStep), 0);
+    return true;
+}
+
+// Without a pointer no heading can be clicked: Ctrl with 1 to 5 stands for the click on that column's.
+void ResultList::SortByKey(int column) {
+    NMLISTVIEW click{};
+    click.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_COLUMNCLICK)};
+    click.iItem = -1;
+    click.iSubItem = column;
+    SendMessageW(GetParent(Handle()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
+}
+
+// The handheld's list reports Enter with Alt held like any key; the desktop's keeps it to itself.
+LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
+    OvertakeClick();
+    if (record.wParam != VK_RETURN) return DefaultProcessing(record);
+    if ((record.lParam & KeyWasDown) != 0) return 0;
+    NMLVKEYDOWN key{};
+    key.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_KEYDOWN)};
+    key.wVKey = VK_RETURN;
+    SendMessageW(GetParent(Handle()), WM_NOTIFY, key.hdr.idFrom, reinterpret_cast<LPARAM>(&key));
+    return 0;
+}
+
+// The character of the key above would look for a menu of that name and beep.
+LRESULT ResultList::OnSystemCharacter(MessageRecord& record) {
+    return record.wParam == VK_RETURN ? 0 : DefaultProcessing(record);
+}
