@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "framework/control_place.h"
 #include "framework/dialog_squeeze.h"
 #include "platform/ce_shell.h"
 #include "platform/ce_windows.h"
@@ -10,7 +11,6 @@
 
 namespace {
 
-constexpr LONG RightMargin = 3;
 constexpr LONG GapBelowText = 4;
 // The row of the title line; a heading of ten dialog units reaches it where the font is large.
 constexpr LONG TitleLineY = 24;
@@ -18,18 +18,6 @@ constexpr LONG TitleLineY = 24;
 constexpr LONG ColumnTop = 28;
 // Places and sizes in dialog units are rounded one by one, so neighbours may overlap by a pixel.
 constexpr LONG Rounding = 1;
-
-RECT PlaceOf(HWND control) {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-void Place(HWND control, const RECT& place) {
-    SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 // The controls whose top is not above the line, as a whole.
 struct LowerPart {

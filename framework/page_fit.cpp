@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
+#include "framework/control_place.h"
 #include "platform/windows_ce.h"
 
 namespace {
 
-constexpr LONG RightMargin = 3;
 constexpr LONG GapBehindLabel = 5;
 // Where a text needs the room.
 constexpr LONG SmallestGap = 2;
@@ -15,18 +15,6 @@ constexpr LONG SmallestGap = 2;
 constexpr LONG LeaningLetter = 1;
 // Placing a combo box costs a start some milliseconds, which are not to be had for a few pixels.
 constexpr LONG WorthWidening = 8;
-
-RECT PlaceOf(HWND control) {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-void Place(HWND control, const RECT& place) {
-    SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 LONG RightEdgeOf(HWND page) {
     RECT area{};
