@@ -9,12 +9,12 @@ namespace {
 
 constexpr ULONGLONG ShowInterval = 80;
 
-// Keys that were pressed while the job ran were meant for this dialog and for no window behind it.
+// Keys pressed while the job ran were meant for this dialog, not for a window behind it.
 void DropKeys() {
     MSG key;
     while (PeekMessageW(&key, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
         if (key.message != WM_QUIT) continue;
-        // The one message that comes whatever is asked for.
+        // WM_QUIT is returned whatever range is asked for.
         PostQuitMessage(static_cast<int>(key.wParam));
         return;
     }
@@ -56,7 +56,7 @@ void AbortDialog::Abort() {
     End(ResultCancel);
 }
 
-// QUIRK: enter-aborts-no-search. Enter starts searches, and pressed once too often it would end one.
+// QUIRK: enter-aborts-no-search. Enter starts searches; one press too many would otherwise abort one.
 bool AbortDialog::StopsBy(const MessageRecord& key) const {
     return key.wParam == VK_ESCAPE;
 }

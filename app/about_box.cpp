@@ -33,7 +33,7 @@ HFONT CreateTitleFont() {
     font.lfHeight = TitleHeight;
     font.lfWeight = FW_BOLD;
     font.lfCharSet = DEFAULT_CHARSET;
-    // The template's own font; a Japanese system would choose one that has no bold.
+    // The template's own font: a Japanese system would pick one without a bold face.
     std::wcscpy(font.lfFaceName, L"Tahoma");
     return CreateFontIndirectW(&font);
 }
@@ -88,8 +88,8 @@ LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     return FALSE;
 }
 
-// The box itself keeps the focus, where the system would hand it to the one button of the template: Enter and
-// the blank are not to remove the settings unless the user has gone to that button.
+// The box itself keeps the focus. The system would give it to the template's only button, and a stray Enter
+// or Space would then remove the settings.
 LRESULT AboutBox::OnWmSetFocus(MessageRecord&) {
     return TRUE;
 }
@@ -116,7 +116,7 @@ void AboutBox::ShowMemory() {
     ShrinkMemoryLines();
 }
 
-// Figures of many digits are wider than the box: all lines then get smaller letters, one pixel at a time.
+// Large figures can be wider than the box: the lines' font then shrinks by a pixel until they fit.
 void AboutBox::ShrinkMemoryLines() {
     for (int step = 0; step < MostPixelsSmaller && !ShowsWholeMemoryLines(Handle()); ++step) {
         const HFONT smaller = CreateSmallerFont(DialogItem(*this, STATIC_PROGRAM_MEMORY));
@@ -133,8 +133,8 @@ LRESULT AboutBox::OnOk(EventArguments&) {
     return 0;
 }
 
-// For an owner that binds no routine of its own: it asks first.
-// QUIRK: about-box-closes-its-owner-anyway. Whether the keys could be removed or not.
+// Runs when the owner has bound no routine of its own. Unlike the main window's, it asks first.
+// QUIRK: about-box-closes-its-owner-anyway. Whether or not the keys could be removed.
 LRESULT AboutBox::OnUninstall(EventArguments&) {
     if (productKey_.empty()) return 0;
     if (AskConfirmation(Handle(), InLanguage(L"Uninstall this program.", L"ｱﾝｲﾝｽﾄｰﾙを実行します")) != IDOK)

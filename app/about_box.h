@@ -29,6 +29,6 @@ class AboutBox : public Dialog {
     std::wstring makerKey_;
     std::wstring productKey_;
     HFONT titleFont_;
-    // Of the memory lines, where the template's is too large for them.
+    // The memory lines' font where the template's is too large for them.
     HFONT smallFont_ = nullptr;
 };

@@ -6,8 +6,8 @@ class CommandLineWords {
   public:
     static constexpr int MostWords = 128;
 
-    // Copies the command line. Blanks and tabs part the words; a word that starts with a double quote runs to
-    // the next one, and the quotes are no part of it. Words beyond the 128th are dropped; without memory
+    // Copies the command line. Blanks and tabs separate words; a word that starts with a double quote ends at
+    // the next one, and the quotes are not part of it. Words beyond the 128th are dropped; without memory
     // there are none.
     explicit CommandLineWords(const wchar_t* commandLine);
     CommandLineWords(const CommandLineWords&) = delete;
@@ -15,7 +15,7 @@ class CommandLineWords {
     ~CommandLineWords();
 
     int Count() const { return count_; }
-    // Count() terminated texts, which live as long as this object.
+    // Count() null-terminated texts, valid as long as this object.
     const wchar_t* const* List() const { return words_; }
 
   private:

@@ -131,7 +131,7 @@ void MainWindow::Show() {
     SetTimer(Handle(), CompletionTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
-// The two other pages, the registered types and the icons are more than half of all that a start has to make.
+// The two other pages, the registered types and the icons are more than half the work of a start.
 void MainWindow::CompleteParts() {
     KillTimer(Handle(), CompletionTimer);
     if (sizePage_ != nullptr) return;
@@ -167,7 +167,8 @@ void MainWindow::ShowPage(int index) {
     FocusOn(*tabControl_);
 }
 
-// One that could not be made leaves the focus where it is: without any the keys would reach nobody.
+// A window that could not be created leaves the focus where it is: with no focus at all, keys would reach no
+// window.
 void MainWindow::FocusOn(const WindowObject& object) {
     if (object.Handle() != nullptr) SetFocus(object.Handle());
 }
@@ -197,7 +198,7 @@ bool MainWindow::PreTranslate(MSG& message) {
     return NavigateByKey(message, {tabControl_->Handle(), Page(currentPage_)->Handle(), results_->Handle()});
 }
 
-// What is saved is there for a copy that is started as soon as this window is gone.
+// The settings are saved before the window goes, so that a copy started right afterwards reads them.
 LRESULT MainWindow::OnWmClose(MessageRecord& record) {
     const bool closesLater = EndWorkUnderWay();
     if (fileOperation_->IsRunning()) return 0;
@@ -206,15 +207,15 @@ LRESULT MainWindow::OnWmClose(MessageRecord& record) {
     return closesLater ? 0 : DefaultProcessing(record);
 }
 
-// Taking a long list apart takes its time, and nobody is to watch it.
+// Emptying a long list takes a while, so the window leaves the screen first.
 void MainWindow::LeaveScreen() {
     if (Handle() == nullptr) return;
     EnableWindow(Handle(), FALSE);
     ShowWindow(Handle(), SW_HIDE);
 }
 
-// A search or a file operation stands on this window: it is ended first, and the window closes when it has
-// unwound. A name that is being edited is taken.
+// A running search or file operation still needs this window: it is ended first, and the window closes once
+// it has unwound. A name being edited is accepted.
 bool MainWindow::EndWorkUnderWay() {
     if (fileOperation_->IsRunning()) {
         fileOperation_->StopAndCloseParent();
@@ -229,8 +230,8 @@ bool MainWindow::EndWorkUnderWay() {
     return true;
 }
 
-// The system may end the process as soon as this has been answered, so the settings are saved here and now;
-// the window's own end saves them no second time.
+// The system may end the process as soon as this returns, so the settings are saved here; closing the window
+// does not save them again.
 LRESULT MainWindow::OnWmEndSession(MessageRecord& record) {
     if (record.wParam == FALSE) return 0;
     SaveSettingsOnce();
@@ -238,7 +239,7 @@ LRESULT MainWindow::OnWmEndSession(MessageRecord& record) {
     return 0;
 }
 
-// Activated from outside while a dialog is open, as by a click on a task bar.
+// Activated from outside while a dialog is open, for instance by a click on a task bar.
 LRESULT MainWindow::OnWmActivate(MessageRecord& record) {
     if (LOWORD(record.wParam) != WA_INACTIVE && ce::PassActivationOn(Handle())) return 0;
     return ApplicationView::OnWmActivate(record);
@@ -255,7 +256,7 @@ void MainWindow::SaveSettingsOnce() {
     skipSaving_ = true;
 }
 
-// F1 in a dialog comes here as well, from dialog to owner: the box does not open over another one.
+// F1 in a dialog arrives here too, passed on from dialog to owner; the box does not open over another dialog.
 void MainWindow::ShowAbout() {
     if (!IsWindowEnabled(Handle())) return;
     aboutBox_->RunModal();

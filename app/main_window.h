@@ -22,13 +22,13 @@ class MainWindow : public ApplicationView {
 
     bool PreTranslate(MSG& message) override;
 
-    // The parts that the first picture does not show are made in the first quiet moment after it.
+    // What the first picture does not show is created right after it, by a timer.
     void Show() override;
 
-    // Makes those parts now; does nothing when they stand.
+    // Creates those parts now; does nothing if they exist.
     void CompleteParts();
 
-    // No command starts it: it stands ready for whoever wants one of its operations.
+    // No command of the program starts it; it is here for callers that want one of its operations.
     [[nodiscard]] FileOperation& Operation() { return *fileOperation_; }
 
   protected:
@@ -65,16 +65,16 @@ class MainWindow : public ApplicationView {
     LRESULT OnUninstall(EventArguments& arguments);
     LRESULT OnSearchRun(EventArguments& arguments);
 
-    // False when there is none.
+    // Returns false if there was none.
     bool EndWorkUnderWay();
     void SaveSettingsOnce();
-    // Hidden and disabled, by which another copy knows that this one is going.
+    // Hides and disables the window, which tells another copy that this one is closing.
     void LeaveScreen();
     [[nodiscard]] bool IsBusy() const;
     void RunCommand(UINT command);
     void RunResultCommand(UINT command);
     void Activate();
-    // Whether an Enter in the list, pressed now, is one more of those that started the last search.
+    // Whether an Enter pressed in the list now is one more of the presses that started the last search.
     [[nodiscard]] bool BelongsToSearch(ULONGLONG now);
     void Find();
     [[nodiscard]] SearchQuery AskedQuery() const;
@@ -90,12 +90,12 @@ class MainWindow : public ApplicationView {
     bool closeAfterSearch_ = false;
     // Until when an Enter in the list still belongs to a search; in milliseconds of GetTickCount64.
     ULONGLONG searchKeysEnd_ = 0;
-    // Set once they are saved, and by an uninstall: the keys just removed are not written again.
+    // Set once they are saved, and by an uninstall, so that the keys just removed are not written again.
     bool skipSaving_ = false;
 
     std::unique_ptr<RegisteredFileTypes> fileTypes_;
 
-    // Deleted from the last to the first: the pages in tab order, the list, the tab control, the dialogs.
+    // Deleted last to first: the pages in tab order, the list, the tab control, the dialogs.
     std::unique_ptr<AboutBox> aboutBox_;
     std::unique_ptr<FileOperation> fileOperation_;
     std::unique_ptr<AbortDialog> abortDialog_;

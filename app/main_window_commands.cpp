@@ -23,10 +23,10 @@ void ToggleCaseOption(HMENU menu) {
 }  // namespace
 
 LRESULT MainWindow::OnMenuCommand(EventArguments& arguments) {
-    // A command that arrives in the middle of a search or of a file operation, past the disabled menus, is
-    // dropped; leaving is not.
+    // A command that gets past the disabled menus during a search or a file operation is dropped, unless it
+    // is Exit.
     const auto command = static_cast<UINT>(arguments.extra);
-    // A command acts on what is there when the name that is being edited has been taken.
+    // A name being edited is accepted first; the command acts on the rows as they are afterwards.
     if (!IsBusy()) results_->EndEditing();
     if (!IsBusy() || command == COMMAND_EXIT) RunCommand(command);
     UpdateWindow(Handle());
@@ -91,7 +91,7 @@ void MainWindow::RunResultCommand(UINT command) {
         default:
             return;
     }
-    // A row that was deleted tells nobody that it was selected.
+    // The list sends no selection change when a selected row is deleted.
     if (results_->SelectedCount() == 0) EnableResultCommands(false);
 }
 
@@ -113,15 +113,15 @@ LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
     return 0;
 }
 
-// QUIRK: late-enter-opens-nothing. Whoever presses Enter several times to start a search does not mean the
-// file that has just been found: each press that follows the last one so fast belongs to them.
+// QUIRK: late-enter-opens-nothing. Someone who presses Enter several times to start a search does not mean to
+// open the first file found: a press within the double-click time of the one before belongs to the search.
 bool MainWindow::BelongsToSearch(ULONGLONG now) {
     if (now >= searchKeysEnd_) return false;
     searchKeysEnd_ = now + GetDoubleClickTime();
     return true;
 }
 
-// The control is told to forget the text: the cell follows the file, not the editing.
+// The control is told to discard the text: the cell shows the file's name, not what was typed.
 LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
     resultCommands_->EndRename(*reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument));
     UpdateWindow(Handle());

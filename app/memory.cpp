@@ -1,7 +1,7 @@
-// The program's memory, and what the C++ library does where it would throw. The program is compiled without
-// exceptions: where memory gives out, an asker that looks is told, and one that does not is given of a
-// reserve. When that is used up as well the program ends. The library's own versions would bring the whole
-// machinery of exceptions along, a third of the program's size, to end in the same way.
+// Memory allocation, and what the C++ library does where it would throw. The program is compiled without
+// exceptions: when memory runs out, nothrow new returns null and plain new draws on a reserve. When the
+// reserve is used up too, the program ends. The library's own versions would pull in the whole exception
+// machinery, a third of the program's size, only to end in the same way.
 
 #include <cstdlib>
 #include <new>
@@ -21,7 +21,7 @@ void* Allocate(std::size_t size) {
     return std::malloc(size != 0 ? size : 1);
 }
 
-// Enough for the dialogs and paths of a person who makes room and closes the program.
+// Enough for the dialogs and paths that a user needs to free some memory or to close the program.
 constexpr std::size_t ReserveSize = std::size_t{64} * 1024;
 
 void* reserve = nullptr;
@@ -69,8 +69,9 @@ void operator delete[](void* memory, std::size_t) noexcept {
 
 namespace std {
 
-// The library's reports of a full memory and of sizes and places that cannot be. Their names are part of its
-// binary interface: where a library calls one that does not stand here, linking fails with doubled names.
+// What the library calls to report a full memory, an impossible length or an index out of range. The names
+// are part of its binary interface: if it calls one that is not defined here, its own versions are linked as
+// well and the link fails with duplicate symbols.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 [[noreturn]] void __throw_bad_alloc() {
     EndProgram();

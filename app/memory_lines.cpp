@@ -22,7 +22,7 @@ void FormatMemoryLine(const wchar_t* label, const ce::FreeAndTotal& bytes,
                       wchar_t (&line)[MemoryLineCapacity]) {
     const std::uint64_t free = bytes.free >> KilobyteShift;
     const std::uint64_t total = bytes.total >> KilobyteShift;
-    // Of whole kilobytes, as they are shown: 1,023 free bytes are none.
+    // Computed from whole kilobytes, as shown: 1,023 free bytes count as none.
     const std::uint64_t percentage = total != 0 ? free * 100 / total : 0;
     FormatText(line, MemoryLineCapacity, L"%s: %d/%dKB (%d%%)", label, Shown(free), Shown(total),
                Shown(percentage));

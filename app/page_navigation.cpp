@@ -16,15 +16,15 @@ bool IsPushButton(HWND control) {
     return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
-// The page's own child that holds the focus: of a combo box the box, not the edit in it.
+// The child of the page that holds the focus: for a combo box the box itself, not the edit inside it.
 HWND PageControlOf(HWND page, HWND focus) {
     while (focus != nullptr && GetParent(focus) != page)
         focus = GetParent(focus);
     return focus;
 }
 
-// A text field that gets the focus by Tab has its text selected, as in any dialog.
-// What could not be made is left out: the focus stays where it is.
+// A text field reached by Tab gets its text selected, as in any dialog. A control that could not be created
+// is skipped: the focus stays where it is.
 void FocusControl(HWND control) {
     if (control == nullptr) return;
     SetFocus(control);
@@ -53,12 +53,12 @@ bool OnTab(MSG& message, const NavigationStops& stops) {
     return true;
 }
 
-// A label's letter leads to its field from the tab control and the list as well: the page is asked as if it
-// had got the key itself.
+// A label's mnemonic works from the tab control and the list as well: the page is asked as if the key were
+// its own.
 bool OnMnemonic(const MSG& message, const NavigationStops& stops) {
     if (stops.page == nullptr || (message.hwnd != stops.tabControl && message.hwnd != stops.list))
         return false;
-    // Enter and the blank have meanings of their own with Alt.
+    // Alt+Enter and Alt+Space are no mnemonics.
     if (message.wParam <= L' ') return false;
     MSG asked = message;
     asked.hwnd = stops.page;
@@ -85,8 +85,8 @@ bool NavigateByKey(MSG& message, const NavigationStops& stops) {
         SendMessageW(message.hwnd, BM_CLICK, 0, 0);
         return true;
     }
-    // Esc and Ctrl+Break would cancel the page as if it were a dialog. The first closes an open list; the
-    // other would copy what is selected in a field.
+    // The page would take Esc and Ctrl+Break for a dialog's Cancel. Esc goes to the control, since it closes
+    // an open drop-down list. Ctrl+Break goes nowhere: a field would take it for Ctrl+C.
     if (isKey && message.wParam == VK_ESCAPE) return false;
     if (isKey && message.wParam == VK_CANCEL) return true;
     return IsDialogMessageW(stops.page, &message) != 0;

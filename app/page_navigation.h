@@ -11,8 +11,8 @@ struct NavigationStops {
     HWND list;
 };
 
-// Takes a message of the loop when it is a key of these rules. A field that wants Tab or Enter for itself
-// gets it.
+// Handles a message of the loop if it is one of these keys; returns whether it did. A field that wants Tab or
+// Enter for itself gets it.
 [[nodiscard]] bool NavigateByKey(MSG& message, const NavigationStops& stops);
 
 // The page's first and last control that Tab stops at, or null.

@@ -52,7 +52,7 @@ int RunQuorinSearch(HINSTANCE instance, const wchar_t* commandLine, int showComm
         PropertySet properties;
         DescribeMainWindow(properties);
         const auto mainWindow = std::make_unique<MainWindow>(ProductName, properties, application);
-        // Without its window nothing could ever end the program; the user has been told.
+        // Without a window nothing could ever end the program; the user has already been told.
         if (mainWindow->Handle() == nullptr) {
             exitCode = ExitWithoutWindow;
         } else {

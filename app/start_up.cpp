@@ -20,8 +20,8 @@ bool ShellHasInputPanel() {
     return found;
 }
 
-// On a system that is not Japanese: with the library Shift-JIS can be searched for, without it only the low
-// bytes of the text.
+// For a system that is not Japanese: with the library, text is searched for as Shift-JIS; without it, only
+// the low bytes of the text are.
 void InstallConversionLibrary(ProgramContext& context) {
     context.toMultiByte = &DefaultToMultiByte;
     context.toWide = &DefaultToWide;
@@ -49,12 +49,12 @@ bool IsMainWindow(HWND window) {
     return ce::GetClassNameW(window, name, Capacity) > 0 && std::wcscmp(name, MainWindowClass) == 0;
 }
 
-// A copy that has been closed may take some time to end: nothing brings its window back.
+// A closed copy may take a while to end, and its window must not be brought back.
 bool IsGoing(HWND window) {
     return !IsWindowVisible(window) && !IsWindowEnabled(window);
 }
 
-// The system names the front one of all windows of the class; the others stand behind it.
+// FindWindowW returns the frontmost window of the class; any others are behind it.
 HWND FindRunningCopy() {
     HWND window = FindWindowW(MainWindowClass, nullptr);
     while (window != nullptr && (!IsMainWindow(window) || IsGoing(window)))
@@ -82,7 +82,7 @@ void DecideLanguage(ProgramContext& context) {
     } else {
         InstallConversionLibrary(context);
     }
-    // QUIRK: conversion-stays-the-systems. Only now, when it has been chosen.
+    // QUIRK: conversion-stays-the-systems. The swap comes after the conversion has been chosen.
     if (IsLanguageSwapped()) japanese = !japanese;
     context.uiLanguage = japanese ? UiLanguage::Japanese : UiLanguage::English;
     context.menuLanguage = context.uiLanguage;

@@ -1,6 +1,7 @@
 #pragma once
 
-// The base of the three condition pages: a child dialog without the set-up and the bar of a dialog proper.
+// The base of the three condition pages: a child dialog that does without a dialog's full-screen set-up and
+// bar.
 
 #include "framework/control.h"
 #include "framework/dialog.h"
@@ -18,7 +19,7 @@ class ConditionPage : public Dialog {
     // Writes this page's part of the query. A page that could not be created restricts nothing.
     virtual void FillQuery(SearchQuery& query) const = 0;
 
-    // Gives the page its place, and its fields what a wide screen has more.
+    // Places the page and widens its fields to use the width of the screen.
     void Move(int x, int y, int width, int height) override;
 
   protected:

@@ -29,5 +29,5 @@ class DatePage : public ConditionPage {
     ce::DroppedCalendar calendar_;
 };
 
-// The same day three months earlier, whether that month has the day or not.
+// The same day three months earlier, whether or not that month has such a day.
 [[nodiscard]] SYSTEMTIME ThreeMonthsEarlier(const SYSTEMTIME& date);

@@ -69,13 +69,13 @@ void FolderBrowseDialog::WatchTreeKeys() {
     treeKeys_->OnMessage(WM_SYSKEYDOWN, this, &FolderBrowseDialog::OnTreeSystemKey);
 }
 
-// Not every system's tree lets through the key that closes a window.
+// Some systems' tree views do not let through the key that closes a window.
 LRESULT FolderBrowseDialog::OnTreeSystemKey(MessageRecord& record) {
     if (record.wParam != VK_F4) return treeKeys_->DefaultProcessing(record);
     return DefWindowProcW(folderTree_, record.message, record.wParam, record.lParam);
 }
 
-// Down to the menu bar, with the margin that the template leaves beside it.
+// Extends the tree down to the menu bar, leaving the same margin that the template leaves at its side.
 void FolderBrowseDialog::StretchTree() {
     RECT client{};
     RECT tree{};
@@ -99,7 +99,7 @@ void FolderBrowseDialog::LoadImages() {
     SendMessageW(folderTree_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages_));
 }
 
-// The whole tree at once, so that it can then be browsed without the file system.
+// The whole tree is read at once, so that browsing it does not touch the file system.
 void FolderBrowseDialog::BuildTree() {
     wchar_t rootName[MAX_PATH];
     RootDisplayName(rootName);

@@ -8,12 +8,12 @@
 
 class FolderBrowseDialog : public Dialog {
   public:
-    // The caption is kept, not copied.
+    // The caption is not copied and must outlive the dialog.
     FolderBrowseDialog(WindowObject* parent, const wchar_t* caption);
     ~FolderBrowseDialog() override;
 
-    // The result of the last run: null unless it ended with OK and a folder selected. A terminated path of at
-    // most 259 units that begins with "\" and does not end in one, unless it is the root itself.
+    // The result of the last run: null unless it ended with OK and a folder selected. A null-terminated path
+    // of at most 259 units that begins with "\" and does not end in one, unless it is the root itself.
     [[nodiscard]] const wchar_t* ChosenPath() const { return chosenPath_.get(); }
 
   protected:

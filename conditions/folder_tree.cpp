@@ -10,7 +10,7 @@ namespace {
 HTREEITEM InsertItem(HWND tree, HTREEITEM parent, const wchar_t* text, int image, int selectedImage) {
     TVINSERTSTRUCTW insertion{};
     insertion.hParent = parent;
-    // QUIRK: folder-tree-is-reversed. Each child is put before those that are there.
+    // QUIRK: folder-tree-is-reversed. Each child is inserted before its siblings.
     insertion.hInsertAfter = TVI_FIRST;
     insertion.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     insertion.item.pszText = const_cast<wchar_t*>(text);
@@ -47,7 +47,7 @@ void FillFolderItem(HWND tree, HTREEITEM item, const wchar_t* folder) {
         if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
             continue;
         const HTREEITEM child = InsertItem(tree, item, entry.cFileName, FolderImage, OpenFolderImage);
-        // QUIRK: links-are-not-entered. The target is elsewhere in the tree, or leads round in a loop.
+        // QUIRK: links-are-not-entered. The target is elsewhere in the tree, or the link makes a loop.
         if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
             FillFolderItem(tree, child, path);
     } while (ce::FindNextFileW(search, &entry));

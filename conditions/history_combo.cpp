@@ -27,7 +27,8 @@ bool HistoryCombo::AddToHistory(const wchar_t* text) {
     // \Data\Old. QUIRK: top-entry-is-looked-at-last. The search starts behind entry 0.
     const int older = ce::FindComboEntry(Handle(), 0, text);
     if (older != CB_ERR) SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(older), 0);
-    // QUIRK: maximum-of-9-keeps-10. The entry with this index goes, which only a list of ten has.
+    // QUIRK: maximum-of-9-keeps-10. The entry at this index is removed, and only a list of more than nine has
+    // one.
     if (SendMessageW(Handle(), CB_GETCOUNT, 0, 0) + 1 >= maximum_) {
         SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(maximum_), 0);
     }

@@ -114,7 +114,7 @@ LRESULT NamePage::OnTabInName(EventArguments& arguments) {
 LRESULT NamePage::OnTabInLocation(EventArguments& arguments) {
     const bool backwards = arguments.argument != 0;
     HWND next = Item(backwards ? EDIT_CONTENT : BUTTON_BROWSE);
-    // A disabled button takes no focus; the way goes on behind it.
+    // A disabled button cannot take the focus, so Tab goes to the control after it.
     if (!IsWindowEnabled(next)) next = GetNextDlgTabItem(Handle(), next, FALSE);
     SetFocus(next);
     return 0;

@@ -14,8 +14,8 @@ class NamePage : public ConditionPage {
     void Reset() override;
     void FillQuery(SearchQuery& query) const override;
 
-    // Both histories and the sub-folder setting, under the current user's root. The path is the program's own
-    // key. Failures are silent: loading then leaves what the page started with, saving loses the lists.
+    // Both histories and the sub-folder setting, below HKEY_CURRENT_USER. The path is that of the program's
+    // own key. Failures are silent: loading leaves the page as it started, saving loses the lists.
     void LoadSettings(const wchar_t* registryPath);
     void SaveSettings(const wchar_t* registryPath) const;
 

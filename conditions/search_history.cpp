@@ -19,7 +19,7 @@ struct ValueName {
     wchar_t text[16];
 };
 
-// The combo's entry, cut to nothing when it is longer than an entry may be.
+// The combo's entry, or an empty text if it is longer than an entry may be.
 void ReadEntry(const HistoryCombo& combo, WPARAM index, wchar_t (&text)[EntryCapacity]) {
     text[0] = L'\0';
     if (SendMessageW(combo.Handle(), CB_GETLBTEXTLEN, index, 0) >= EntryCapacity) return;
@@ -33,7 +33,7 @@ bool LoadHistory(HistoryCombo& combo, HKEY root, const wchar_t* path) {
     if (!key.Open(path)) return false;
     SendMessageW(combo.Handle(), CB_RESETCONTENT, 0, 0);
     for (int n = 0; n < MostLoadedEntries; ++n) {
-        // Empty to its end: a value that is no text is taken as it was read, without a terminator.
+        // Zeroed throughout: a value that is not a string is used as it was read, without a terminator.
         wchar_t text[EntryCapacity] = L"";
         if (!key.QueryString(ValueName(n).text, text, sizeof text)) break;
         combo.AddToHistory(text);

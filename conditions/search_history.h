@@ -5,8 +5,8 @@
 
 #include "conditions/history_combo.h"
 
-// False, with the combo left as it is, when the key cannot be opened. Reads at most nine entries.
+// Reads at most nine entries. Returns false, leaving the combo as it is, if the key cannot be opened.
 bool LoadHistory(HistoryCombo& combo, HKEY root, const wchar_t* path);
 
-// False when the key cannot be created. Values of a longer, earlier list stay.
+// Returns false if the key cannot be created. Values of a longer, earlier list stay.
 bool SaveHistory(const HistoryCombo& combo, HKEY root, const wchar_t* path);

@@ -24,7 +24,7 @@ void SizePage::SetUpControls() {
     Reset();
 }
 
-// Numbers need no more than they have.
+// The number fields are wide enough as they are.
 void SizePage::LayOut() {
     WidenToRightEdge(Handle(), COMBO_FILE_TYPE);
 }
@@ -56,7 +56,7 @@ void SizePage::FillQuery(SearchQuery& query) const {
     query.typeFilter = type != 0;
     const LRESULT extensions = SendToItem(COMBO_FILE_TYPE, CB_GETITEMDATA, static_cast<WPARAM>(type));
     query.extensions[0] = L'\0';
-    // A combo that could not be made answers 0 to everything.
+    // A combo box that could not be created answers 0 to every message.
     if (type != CB_ERR && extensions != CB_ERR && extensions != 0) {
         std::wcsncpy(query.extensions, reinterpret_cast<const wchar_t*>(extensions), MAX_PATH - 1);
         query.extensions[MAX_PATH - 1] = L'\0';

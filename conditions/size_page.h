@@ -7,7 +7,7 @@
 
 class SizePage : public ConditionPage {
   public:
-    // The types stay the caller's and outlive the page; null for none.
+    // The types belong to the caller and must outlive the page; null for none.
     SizePage(WindowObject* parent, const FileTypeList* fileTypes);
 
     void Reset() override;

@@ -16,7 +16,7 @@ constexpr int SmallSize = 16;
 constexpr int FixedIcons[] = {ICON_DOCUMENT, ICON_APPLICATION, ICON_FOLDER, ICON_SHORTCUT_MARK};
 constexpr int ShortcutOverlay = 1;
 
-// Owns a list of images. The desktop's lists hold 16 colours unless they are asked for more.
+// Owns an image list. The desktop's hold 16 colours unless more are asked for.
 class ImageList {
   public:
     explicit ImageList(int imageSize)
@@ -34,7 +34,7 @@ class ImageList {
             const auto icon = static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id),
                                                             IMAGE_ICON, size_, size_, LR_DEFAULTCOLOR));
             Take(icon);
-            // One that cannot be loaded leaves an empty place: the others are known by their indexes.
+            // An icon that cannot be loaded leaves an empty image, so that the others keep their indexes.
             GrowTo(++count);
         }
         ImageList_SetOverlayImage(handle_, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
@@ -72,7 +72,7 @@ bool EndsIn(const std::wstring& path, const wchar_t* suffix) {
     return path.size() > length && path.compare(path.size() - length, length, suffix) == 0;
 }
 
-// What a file's icon is known by, and which kind it is of.
+// The key of a file's icon, and its kind.
 struct IconKey {
     std::wstring text;
     unsigned kind = 0;
@@ -135,7 +135,7 @@ int FileIconCache::ImageOf(const wchar_t* path, DWORD attributes, unsigned kinds
     if ((kinds & key.kind) == 0) return key.fallback;
     const int index = shared->large.TakeShellIcon(path, attributes, 0);
     shared->small.TakeShellIcon(path, attributes, SHGFI_SMALLICON);
-    // Where the shell has but one of the two, the lists stay in step.
+    // If the shell has only one of the two, the lists still stay in step.
     shared->large.GrowTo(shared->small.Count());
     shared->small.GrowTo(shared->large.Count());
     shared->icons->Insert(key.text.c_str(), static_cast<std::uintptr_t>(index));

@@ -10,7 +10,7 @@ class FileTypeTable;
 
 class FileIconCache {
   public:
-    // Which kinds of icon may be fetched when they are missing. The last has no kind.
+    // Which kinds of icon may be loaded if they are missing. The highest bit of the last stands for no kind.
     static constexpr unsigned Applications = 1;
     static constexpr unsigned IconFiles = 2;
     static constexpr unsigned RegisteredTypes = 4;
@@ -36,7 +36,7 @@ class FileIconCache {
 
     [[nodiscard]] HIMAGELIST LargeImages() const;
     [[nodiscard]] HIMAGELIST SmallImages() const;
-    // Null when there was no memory for it.
+    // Null if there was no memory for it.
     [[nodiscard]] const FileTypeTable* Types() const;
 
   private:

@@ -26,7 +26,7 @@ void FilePage::HideControls(std::span<const int> ids) {
         ShowWindow(DialogItem(*this, id), SW_HIDE);
 }
 
-// Only then has the sheet given the page its size.
+// The sheet has given the page its size only by then.
 LRESULT FilePage::OnWmNotify(MessageRecord& record) {
     const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
     if (header != nullptr && header->code == static_cast<UINT>(PSN_SETACTIVE)) LayOut();
@@ -43,7 +43,7 @@ void FilePage::LayOut() {
     tips_.Add(Handle(), Values());
 }
 
-// A static puts dots behind texts of one line only.
+// A static control draws an ellipsis only for a text of one line.
 LRESULT FilePage::OnDrawName(EventArguments& arguments) {
     const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(arguments.argument);
     wchar_t name[MAX_PATH] = L"";
@@ -57,7 +57,7 @@ LRESULT FilePage::OnDrawName(EventArguments& arguments) {
     return 0;
 }
 
-// A static does not free its icon.
+// A static control does not free its icon.
 LRESULT FilePage::OnWmDestroy(MessageRecord& record) {
     const LRESULT icon = SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, 0);
     if (icon != 0) DestroyIcon(reinterpret_cast<HICON>(icon));

@@ -9,10 +9,10 @@
 
 class FilePage : public PropertySheetPage {
   public:
-    // The text stays the caller's and outlives the sheet.
+    // The text belongs to the caller and must outlive the sheet.
     void SetPath(const wchar_t* filePath) { path_ = filePath; }
 
-    // Whether an apply of this page has set out to change something.
+    // Whether applying this page has tried to change something.
     [[nodiscard]] bool HasChanged() const { return changed_; }
 
   protected:
@@ -20,12 +20,12 @@ class FilePage : public PropertySheetPage {
 
     [[nodiscard]] const wchar_t* Path() const { return path_; }
 
-    // Shows the file's icon and display name; the answer holds what else was asked for.
+    // Shows the file's icon and display name. Returns whatever else was asked for.
     SHFILEINFOW ShowFile(UINT alsoAsked = 0);
     void HideControls(std::span<const int> ids);
-    // The texts of one line, each right behind its label in the template.
+    // The one-line texts, each following its label in the template.
     [[nodiscard]] virtual std::span<const int> Values() const = 0;
-    // Gives the texts the room that the sheet leaves them.
+    // Widens the texts to the room that the sheet leaves them.
     virtual void LayOut();
 
     LRESULT OnWmNotify(MessageRecord& record) override;

@@ -9,11 +9,11 @@ class FilePropertiesSheet : public PropertySheetDialog {
   public:
     FilePropertiesSheet(WindowObject* owner, const wchar_t* caption);
 
-    // The path stays the caller's and outlives the sheet.
+    // The path belongs to the caller and must outlive the sheet.
     void SetPath(const wchar_t* path);
 
     [[nodiscard]] bool HasShortcutPage() const { return shortcutPage_ != nullptr; }
-    // Whether any page has set out to change something.
+    // Whether any page has tried to change something.
     [[nodiscard]] bool HasChanged() const;
 
   private:

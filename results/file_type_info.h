@@ -13,8 +13,8 @@ struct FileTypeInfo {
     int iconNumber = 0;
 };
 
-// Reads what the registry tells of an extension (with its dot). A key that cannot be opened ends the reading
-// and leaves what was read so far; nothing at all is recorded for an extension without a key.
+// Reads what the registry says about an extension (with its dot). A key that cannot be opened ends the
+// reading and leaves what was read so far; nothing at all is recorded for an extension without a key.
 [[nodiscard]] FileTypeInfo ReadFileTypeInfo(const wchar_t* extension);
 
 // Cuts "file,number" at the last comma into the file and the number; without a comma it is all file, number

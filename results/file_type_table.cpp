@@ -4,8 +4,8 @@
 #include <iterator>
 #include <new>
 
-#include "framework/wait_cursor.h"
 #include "base/registry_key.h"
+#include "framework/wait_cursor.h"
 
 struct FileTypeTable::Shared {
     std::vector<std::unique_ptr<FileTypeInfo>> records;

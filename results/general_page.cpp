@@ -28,7 +28,7 @@ constexpr AttributeBox AttributeBoxes[] = {
 constexpr DWORD ChangeableAttributes =
     FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
 
-// What a folder has no value for.
+// Hidden for a folder, which has no such values.
 constexpr int FileOnlyItems[] = {LABEL_SIZE,    LABEL_MODIFIED, LABEL_ATTRIBUTES, CHECK_READ_ONLY,
                                  CHECK_ARCHIVE, CHECK_HIDDEN,   CHECK_SYSTEM};
 

@@ -5,7 +5,7 @@ namespace {
 // Long enough for the first rows to fill the list, too short to be noticed.
 constexpr ULONGLONG FirstRowDelay = 50;
 
-// A redraw is due no sooner than this, and no sooner than ten times what the last one cost.
+// A redraw is due no sooner than this, and no sooner than ten times as long as the last one took.
 constexpr ULONGLONG RefreshInterval = 250;
 constexpr ULONGLONG RefreshCostFactor = 10;
 

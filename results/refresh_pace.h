@@ -8,13 +8,13 @@
 // Times are in milliseconds of GetTickCount64.
 class RefreshPace {
   public:
-    // The list is empty and will be filled from now on.
+    // Call when filling begins, with the list empty.
     void Begin(ULONGLONG now);
 
-    // Whether what has changed since the last drawing is to be shown now.
+    // Whether it is time to draw what has changed since the last drawing.
     [[nodiscard]] bool IsDue(ULONGLONG now, bool hasRows) const;
 
-    // It has been drawn between these times.
+    // Call after each drawing, with the times at which it began and ended.
     void Drawn(ULONGLONG start, ULONGLONG end, bool hasRows);
 
   private:

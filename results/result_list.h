@@ -19,7 +19,7 @@ class ResultList : public ListView, public MatchSink {
     ResultList(WindowObject* parent, PropertySet& properties);
     ~ResultList() override;
 
-    // Makes the icons and the type names ready, which the first row does otherwise: an empty list shows none.
+    // Loads the icons and type names before the first row, which would otherwise load them.
     void LoadIcons();
 
     // While a search fills the list it is redrawn only a few times a second: drawing each row costs a
@@ -29,20 +29,19 @@ class ResultList : public ListView, public MatchSink {
 
     // MatchSink. A row's parameter is the number of rows before it, which it keeps for good.
     void Clear() override;
-    // A list with rows left takes no input meanwhile: they are results of no search any more.
+    // While rows remain the list takes no input: they are no longer results of any search.
     [[nodiscard]] bool ClearSome() override;
     void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override;
     void Refresh() override;
 
     [[nodiscard]] int RowCount() const;
-    // The index of the row with this number; -1 when there is none.
+    // The index of the row with this number; -1 if there is none.
     [[nodiscard]] int RowWithNumber(LPARAM number) const;
 
-    // The index of the selected row; -1 when there is none.
+    // The index of the selected row; -1 if there is none.
     [[nodiscard]] int SelectedRow() const;
 
-    // The same, and its full path is written; -1, with the path left alone, when there is
-    // none.
+    // The same, and writes its full path. Returns -1 and leaves the path alone if there is none.
     int SelectedPath(wchar_t (&path)[MAX_PATH]) const;
 
     void SetCell(int row, ResultColumn column, const wchar_t* text);
@@ -53,20 +52,19 @@ class ResultList : public ListView, public MatchSink {
     void SelectRow(int row);
     [[nodiscard]] int SelectedCount() const;
 
-    // Starts the editing of the row's name in place, which is brought into view first.
+    // Brings the row into view and starts editing its name in place.
     void EditName(int row);
-    // Ends an editing as if its edit were left: what stands in it is taken, and EndLabelEdit is raised before
-    // this returns. Whatever moves, removes or acts on rows calls it first, for the list keeps no more of an
-    // editing than the place of its row.
+    // Ends an edit as if the focus had left it: its text is accepted, and EndLabelEdit is raised before this
+    // returns. Call it before anything that moves, removes or acts on rows, since the control remembers only
+    // the index of the row being edited.
     void EndEditing();
-    // The person goes on to something else, as to a menu: a click on the selected name, which begins an
-    // editing half a second later, does so no more. What runs in the list itself or ends an editing implies
-    // it.
+    // Call when the user has gone on to something else, such as a menu: a click on the selected name, which
+    // would start an edit half a second later, no longer does. Keys in the list and EndEditing imply it.
     void OvertakeClick();
-    // The row whose editing began, wherever it is by now; -1 when it is gone. The one that the list reports,
-    // when it did not tell of the beginning.
+    // The row whose edit began, wherever it is by now; -1 if it is gone. If the list did not report the
+    // beginning, the row that it reports now.
     [[nodiscard]] int EditedRow(const NMLVDISPINFOW& edited) const;
-    // What the editing that the list reports as ended has made of the name; false when it was given up.
+    // The name as edited, when the list reports the end of an edit. Returns false if the edit was cancelled.
     [[nodiscard]] bool EditedName(const NMLVDISPINFOW& edited, std::wstring& name) const;
 
     // LVS_ICON, LVS_SMALLICON or LVS_REPORT.

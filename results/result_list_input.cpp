@@ -1,4 +1,4 @@
-// What a person does in the list by itself: editing a name in place, and the keys.
+// What a user does in the list itself: editing a name in place, and the keys.
 
 #include <cwchar>
 
@@ -9,12 +9,12 @@ namespace {
 // How far an arrow key moves the columns, in pixels.
 constexpr int ScrollStep = 40;
 
-// Of a key's lParam: it was down already, and repeats itself.
+// In a key message's lParam: the key was already down, so this is a repeat.
 constexpr LPARAM KeyWasDown = 1L << 30;
 
 }  // namespace
 
-// The desktop's list edits only while it has the focus.
+// The desktop's list view edits only while it has the focus.
 void ResultList::EditName(int row) {
     SetFocus(Handle());
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
@@ -30,7 +30,7 @@ void ResultList::EndEditing() {
     OvertakeClick();
     if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) == 0) return;
     SetFocus(Handle());
-    // Where the focus could not be moved the editing is given up.
+    // If the focus could not be moved, the edit is cancelled.
     if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) != 0)
         SendMessageW(Handle(), LVM_CANCELEDITLABEL, 0, 0);
 }
@@ -72,7 +72,7 @@ bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) con
         name = edited.item.pszText;
         return true;
     }
-    // So the desktop reports an editing that was given up, but also an empty and an unchanged text.
+    // A null text is how the desktop reports a cancelled edit, but also an empty or unchanged text.
     if (nameEdit_ == nullptr || nameEdit_->Handle() == nullptr || !nameEdit_->IsTaken()) return false;
     name = nameEdit_->Text();
     return true;
@@ -80,10 +80,10 @@ bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) con
 
 LRESULT ResultList::OnKeyDown(MessageRecord& record) {
     OvertakeClick();
-    // A key that is held is one press: a file is opened once.
+    // A held key counts as one press: a file is opened once.
     const bool isRepeated = (record.lParam & KeyWasDown) != 0;
     if (record.wParam == VK_RETURN && isRepeated) return 0;
-    // With Alt as well it is another letter of the keyboard.
+    // Ctrl+Alt is AltGr, which types another character.
     const bool controlAlone = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
     const auto column = static_cast<int>(record.wParam) - L'1';
     if (controlAlone && column >= 0 && column < ResultColumnCount) {
@@ -93,7 +93,7 @@ LRESULT ResultList::OnKeyDown(MessageRecord& record) {
     return ScrollByKey(record.wParam) ? 0 : DefaultProcessing(record);
 }
 
-// The columns are wider than a small screen, and not every list goes sideways by its arrow keys.
+// The columns are wider than a small screen, and not every list view scrolls sideways with the arrow keys.
 bool ResultList::ScrollByKey(WPARAM key) {
     const bool isReport = (GetWindowLongW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
     if (!isReport || (key != VK_LEFT && key != VK_RIGHT)) return false;
@@ -101,7 +101,7 @@ bool ResultList::ScrollByKey(WPARAM key) {
     return true;
 }
 
-// Without a pointer no heading can be clicked: Ctrl with 1 to 5 stands for the click on that column's.
+// Headings can only be clicked with a pointer: Ctrl+1 to Ctrl+5 do the same from the keyboard.
 void ResultList::SortByKey(int column) {
     NMLISTVIEW click{};
     click.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_COLUMNCLICK)};
@@ -110,7 +110,7 @@ void ResultList::SortByKey(int column) {
     SendMessageW(GetParent(Handle()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
 }
 
-// The handheld's list reports Enter with Alt held like any key; the desktop's keeps it to itself.
+// The handheld's list view reports Alt+Enter like any key; the desktop's does not report it.
 LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
     OvertakeClick();
     if (record.wParam != VK_RETURN) return DefaultProcessing(record);
@@ -122,7 +122,7 @@ LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
     return 0;
 }
 
-// The character of the key above would look for a menu of that name and beep.
+// The character of that key would be looked up as a menu's mnemonic, and the system would beep.
 LRESULT ResultList::OnSystemCharacter(MessageRecord& record) {
     return record.wParam == VK_RETURN ? 0 : DefaultProcessing(record);
 }

@@ -17,8 +17,8 @@ struct SortKey {
     };
 };
 
-// The cells of one column as they compare, in the list's present order. Read and folded once: inside a
-// comparison it would be done thirty times for each.
+// The sort keys of one column, in the list's present order. Read and folded once: within the comparison that
+// would happen some thirty times a cell.
 class SortKeys {
   public:
     SortKeys(HWND listView, ResultColumn sortColumn) : list_(listView), column_(sortColumn) {
@@ -36,7 +36,7 @@ class SortKeys {
         });
     }
 
-    // The place of each row, by its number. A row that was deleted has none.
+    // Each row's index, by its number. Deleted rows have none.
     [[nodiscard]] std::vector<std::size_t> Places() const {
         std::size_t rows = 0;
         for (const SortKey& key : keys_)

@@ -12,15 +12,15 @@ namespace {
 constexpr std::int32_t Kilobyte = 1024;
 constexpr std::int32_t Megabyte = 1024 * 1024;
 
-// Given to the system's formatting as the most that a date or a time may take.
+// The longest date or time that the system's formatting may write.
 constexpr int FormatRoom = 255;
 
 bool IsSameDay(const SYSTEMTIME& one, const SYSTEMTIME& other) {
     return one.wYear == other.wYear && one.wMonth == other.wMonth && one.wDay == other.wDay;
 }
 
-// The system takes longer to write a date and a time than the list takes for the rest of a row. What is found
-// together is often of one day, so the last date is kept; and the hours, minutes and seconds are the same two
+// The system takes longer to format a date and a time than the list takes for the rest of a row. Files found
+// together are often of one day, so the last date is kept; and hours, minutes and seconds are the same two
 // digits in every locale.
 const wchar_t* DateText(const SYSTEMTIME& local) {
     static SYSTEMTIME lastDay;
@@ -39,7 +39,7 @@ wchar_t* AppendTwoDigits(wchar_t* text, WORD number) {
     return text;
 }
 
-// Empty, as the system leaves it, for a time that is none.
+// Empty for an invalid time, as the system leaves it.
 void TimeText(const SYSTEMTIME& local, wchar_t (&text)[9]) {
     wchar_t* end = text;
     if (local.wHour < 24 && local.wMinute < 60 && local.wSecond < 60 && local.wMilliseconds < 1000) {

@@ -14,7 +14,7 @@ namespace {
 // Room for a path between double quotes.
 constexpr int QuotedPathCapacity = MAX_PATH + 2;
 
-// What the shortcut is to point to. False when a shortcut's own target cannot be read.
+// What the shortcut is to point to. Returns false if a shortcut's own target cannot be read.
 bool FindTarget(const wchar_t* file, wchar_t (&target)[QuotedPathCapacity]) {
     if (!IsShortcut(file)) {
         FormatText(target, std::size(target), L"%s", file);
@@ -30,7 +30,7 @@ const wchar_t* NameFormat(ShortcutForm form) {
     return InLanguage(L"Shortcut to %s%s.lnk", L"%sへのｼｮｰﾄｶｯﾄ%s.lnk");
 }
 
-// The first free path: Notes.lnk, Notes (2).lnk, Notes (3).lnk, and so on. False when it does not fit.
+// The first free path: Notes.lnk, Notes (2).lnk, Notes (3).lnk, and so on. Returns false if it does not fit.
 bool FindFreePath(const wchar_t* displayName, const wchar_t* folder, ShortcutForm form,
                   wchar_t (&path)[MAX_PATH]) {
     wchar_t suffix[16] = L"";

@@ -14,7 +14,7 @@ namespace {
 
 constexpr DWORD BytesInKilobyte = 1024;
 
-// What a folder as target has no value for.
+// Hidden when the target is a folder, which has no such values.
 constexpr int FileOnlyItems[] = {LABEL_TARGET_SIZE, LABEL_TARGET_MODIFIED, STATIC_TARGET_SIZE,
                                  STATIC_TARGET_MODIFIED};
 

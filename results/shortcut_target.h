@@ -10,9 +10,9 @@ struct ShortcutTarget {
     wchar_t arguments[2 * TargetCapacity];
 };
 
-// The program is what stands between the leading double quotes, or everything up to the next blank or tab.
-// The arguments are the rest behind the blanks and tabs that follow, with every double quote written twice.
-// The target is at most TargetCapacity - 1 units long; what goes beyond is cut.
+// The program is what is between the leading double quotes, or everything up to the next blank or tab. The
+// arguments are the rest after the blanks and tabs that follow, with every double quote doubled. The target
+// is at most TargetCapacity - 1 units long; anything longer is cut.
 [[nodiscard]] ShortcutTarget SplitTarget(const wchar_t* target);
 
 // Whether the path ends in ".lnk", in any case, and has something before that.

@@ -1,7 +1,7 @@
 #pragma once
 
-// How the cells of a column compare: by what they show, not by what the files are. So all files that show 1K
-// are equal, a folder sorts as size 0, and the year 99 comes after 02.
+// How the cells of a column compare: by the text they show, not by the files. So all files that show 1K are
+// equal, a folder sorts as size 0, and the year 99 comes after 02.
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// A map from a text to a word, with a fixed number of buckets. Keys are compared exactly; callers bring them
-// to lower case first where case should not matter. Nothing is ever removed but the whole table.
+// A map from a text to a word, with a fixed number of buckets. Keys are compared exactly; callers lower-case
+// them first where case should not matter. Entries are never removed one by one.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,11 +16,11 @@ class StringHashTable {
     StringHashTable(const StringHashTable&) = delete;
     StringHashTable& operator=(const StringHashTable&) = delete;
 
-    // Keeps a copy of the key. A newer entry of the same key hides an older one; lost silently when there is
-    // no memory for it.
+    // Keeps a copy of the key. A newer entry hides an older one with the same key; without memory the entry
+    // is silently lost.
     void Insert(const wchar_t* key, std::uintptr_t value);
 
-    // The value, or 0 for an unknown key; so 0 is never stored to mean something.
+    // The value, or 0 for an unknown key; so no caller stores 0 as a value.
     [[nodiscard]] std::uintptr_t Lookup(const wchar_t* key) const;
 
     // The sum of the units, each modulo the bucket count, modulo the bucket count.

@@ -1,8 +1,8 @@
 #pragma once
 
-// The shell's names for kinds of files ("Text Document"). A question costs more than the whole rest of a row,
-// so the shell is asked once for each extension, just as it is written: what it says for ".TXT" may be
-// another name than that for ".txt", and two extensions of one registered type may have two.
+// The shell's names for kinds of files ("Text Document"). Asking costs more than the rest of a row, so the
+// shell is asked once for each extension as it is spelled: ".TXT" may have another name than ".txt", and two
+// extensions of one registered type may have two names.
 
 #include <string>
 #include <vector>
@@ -11,8 +11,8 @@
 
 class TypeNames {
   public:
-    // The type name of the file at this path, empty for some types. Empty, and asked for again next time,
-    // where the shell has no answer. The text lives until the next call.
+    // The type name of the file at this path, empty for some types. If the shell has no answer it is empty
+    // and asked for again next time. The text is valid until the next call.
     [[nodiscard]] const wchar_t* Of(const wchar_t* fullPath, DWORD attributes);
 
   private:
@@ -21,6 +21,6 @@ class TypeNames {
         std::wstring text;
     };
 
-    // In the order of the keys: a few dozen as a rule, and 4 KB less of the program than a hash table.
+    // Sorted by key. A few dozen entries as a rule; a hash table would make the program 4 KB larger.
     std::vector<Name> names_;
 };
