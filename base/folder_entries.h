@@ -1,6 +1,6 @@
 #pragma once
 
-// One enumeration of a folder, and the names that no walk looks at.
+// One enumeration of a folder, and the names that every walk passes over.
 
 #include "base/paths.h"
 #include "platform/handles.h"
@@ -22,7 +22,7 @@ class FolderEntries {
     WIN32_FIND_DATAW data_;
 };
 
-// Every walk over a folder calls this before it looks at an entry.
+// Every walk over a folder asks this before it handles an entry.
 // QUIRK: no-name-is-skipped. Windows CE lists no "." and "..", so there is nothing to skip; this is the one
 // place to change for a system that lists them.
 [[nodiscard]] inline bool IsSkippedName(const wchar_t* /*fileName*/) {

@@ -9,9 +9,8 @@ enum class PumpOutcome {
     Empty,
     // One message was taken and dispatched; more may wait.
     Dispatched,
-    // The program is to end, and the work with it. The quit message is posted again for the outer loop, so
-    // every
-    // further call returns the same.
+    // The program is to end, and so is the work. The quit message is posted again for the outer loop, so
+    // every further call returns the same.
     Quit,
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The owning list that patterns, file types and file operations are kept in: a chain with a cursor of its
-// own. The list owns what is appended; destroying it destroys every item, front to back.
+// The list in which patterns, file types and file operations keep their items: a chain with a cursor of its
+// own. It owns what is appended; destroying it destroys every item, front to back.
 
 #include <cstdint>
 
@@ -40,18 +40,18 @@ class ObjectList {
     ObjectList& operator=(const ObjectList&) = delete;
     ~ObjectList();
 
-    // Adds the item (which may be null) at the end and puts the cursor on it. False when there is no memory;
+    // Adds the item (which may be null) at the end and puts the cursor on it. Returns false without memory;
     // the item is then neither kept nor deleted.
     [[nodiscard]] bool Append(ListObject* item);
 
-    // Puts the cursor on the first item and returns it; null when the list is empty.
+    // Puts the cursor on the first item and returns it; null if the list is empty.
     ListObject* First();
 
-    // Moves the cursor on and returns the item there; null, and the cursor stays, when there is none.
+    // Moves the cursor to the next item and returns it; at the end the cursor stays and null is returned.
     // A null item looks the same as the end.
     ListObject* Next();
 
-    // Puts the cursor on the n-th item, counted from 0, and returns it; null when the list ends before.
+    // Puts the cursor on the n-th item, counted from 0, and returns it; null if there are fewer items.
     ListObject* ItemAt(std::uint32_t n);
 
     std::uint32_t Count() const { return count_; }

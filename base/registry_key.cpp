@@ -30,7 +30,7 @@ bool RegistryKey::QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeIn
     }
     const bool isText = type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
     if (isText && size + sizeof(wchar_t) < sizeInBytes) buffer[size / sizeof(wchar_t)] = L'\0';
-    // Whatever was stored, a reader of the buffer finds an end in it.
+    // Whatever was stored, whoever reads the buffer finds a terminator in it.
     buffer[sizeInBytes / sizeof(wchar_t) - 1] = L'\0';
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// One registry key at a time under a root, closed by itself, and the one-shot access to DWORD values.
+// One registry key at a time below a root, closed by the destructor; and reading and writing of single DWORD
+// values.
 
 #include "platform/handles.h"
 #include "platform/windows_ce.h"
@@ -9,14 +10,14 @@ class RegistryKey {
   public:
     explicit RegistryKey(HKEY rootKey) : root_(rootKey) {}
 
-    // False when it cannot be opened or created. A key that is still open is closed first.
+    // Returns false if the key cannot be opened or created. A key that is still open is closed first.
     bool Open(const wchar_t* path);
     bool Create(const wchar_t* path);
     void Close() { key_.Reset(); }
 
-    // Reads a text value; sizeInBytes is the buffer's, of one unit at least. A value that cannot be read or
-    // does not fit leaves an empty text and answers false. Text types are terminated where there is room for
-    // it; others are left as read.
+    // Reads a text value; sizeInBytes is the size of the buffer, at least one unit. A value that cannot be
+    // read or does not fit leaves an empty text, and false is returned. Values of text types are terminated
+    // if there is room; others are left as they were read.
     bool QueryString(const wchar_t* name, wchar_t* buffer, DWORD sizeInBytes) const;
 
     [[nodiscard]] HKEY Handle() const { return key_.Get(); }

@@ -11,14 +11,14 @@ namespace {
 
 constexpr const wchar_t* ComputerClass = L"{000214A0-0000-0000-C000-000000000046}";
 
-// In bytes, of what is read from the registry.
+// Size in bytes of the buffer for the registry's value.
 constexpr DWORD DisplayNameBytes = 260;
 
 }  // namespace
 
 void RootDisplayName(wchar_t (&name)[MAX_PATH]) {
     RegistryKey classes(HKEY_CLASSES_ROOT);
-    // Empty to its end: a value that is no text is taken as it was read, without a terminator.
+    // Zeroed throughout: a value that is not a string is used as it was read, without a terminator.
     std::fill(std::begin(name), std::end(name), L'\0');
     if (classes.Open(ComputerClass) && classes.QueryString(L"DisplayName", name, DisplayNameBytes)) return;
     const wchar_t* fallback = Context().pocketPc ? InLanguage(L"My Pocket PC", L"ﾏｲ ﾎﾟｹｯﾄ PC")

@@ -1,8 +1,8 @@
 #pragma once
 
-// The name of the root folder, as the user knows the device.
+// The name under which the user knows the root folder: that of the device.
 
 #include "platform/system_types.h"
 
-// From the registry; else "My Pocket PC" or "My Handheld PC", or what Japanese calls them.
+// The registry's; otherwise "My Pocket PC" or "My Handheld PC", or their Japanese names.
 void RootDisplayName(wchar_t (&name)[MAX_PATH]);

@@ -76,7 +76,7 @@ LRESULT ConfirmationDialog::OnFill(EventArguments&) {
     return 0;
 }
 
-// A static frees no icon that it was given, and the shell hands out copies.
+// A static control does not free its icon, and the shell hands out copies.
 void ConfirmationDialog::FreeFileIcons() {
     for (HICON& icon : fileIcons_) {
         if (icon != nullptr) DestroyIcon(icon);

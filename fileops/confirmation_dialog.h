@@ -12,10 +12,10 @@ class ConfirmationDialog : public Dialog {
     ConfirmationDialog(WindowObject* owner, const Question& question);
     ~ConfirmationDialog() override;
 
-    // The window that takes the input when the question has been answered, instead of its owner.
+    // The window that is enabled again after the answer, instead of the owner.
     void LeaveInputTo(HWND window) { successor_ = window; }
 
-    // Asks; a dialog that cannot be made or that nobody answers counts as Cancel.
+    // Asks. A dialog that cannot be created, or that ends unanswered, counts as Cancel.
     [[nodiscard]] ConfirmResult Ask();
 
     void End(INT_PTR result) override;
@@ -33,7 +33,7 @@ class ConfirmationDialog : public Dialog {
     Question question_;
     bool answered_ = false;
     HWND successor_ = nullptr;
-    // Of the existing and the new file, from the shell; null where the template's own is shown.
+    // The shell's icons of the existing and the new file; null where the template's own icon is shown.
     HICON fileIcons_[FileIcons] = {};
 };
 

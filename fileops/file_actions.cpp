@@ -10,14 +10,14 @@
 
 namespace {
 
-// What a failure code is called. A "%s" in the text is the first path given to the call.
+// The text for a failure code. A "%s" in it is the first path given to the call.
 struct FailureText {
     DWORD code;
     TextPair text;
 };
 using FailureTexts = std::span<const FailureText>;
 
-// Known to the handheld only.
+// A code that only the handheld has.
 constexpr DWORD ErrorSwapError = 999;
 
 constexpr FailureText DeleteTexts[] = {{ERROR_ACCESS_DENIED, L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"}};
@@ -59,7 +59,7 @@ bool Report(HWND owner, const wchar_t* path, FailureTexts texts, const wchar_t* 
     return false;
 }
 
-// The folder itself; those above it stand.
+// Creates the folder itself; those above it exist.
 bool CreateIfMissing(HWND owner, const wchar_t* folder) {
     if (PathExists(folder)) return IsFolder(folder);
     return CreateDirectoryOrReport(owner, folder, nullptr);
@@ -99,7 +99,7 @@ bool CreateFolderPath(HWND owner, const wchar_t* path) {
     if (PathExists(path)) return IsFolder(path);
     if (std::wcslen(path) >= MAX_PATH) return false;
 
-    // The name of another machine, a drive or nothing stands before the first separator: not to be made.
+    // Before the first separator is another machine's name, a drive or nothing: not to be created.
     const bool isOnAnotherMachine = std::wcsncmp(path, L"\\\\", 2) == 0;
     const wchar_t* separator = std::wcschr(isOnAnotherMachine ? path + 2 : path, L'\\');
     if (separator == nullptr) return false;

@@ -1,8 +1,7 @@
 #pragma once
 
-// The file-system calls that change something, with every failure put into the program's own words. Each
-// shows exactly one box, owned by the given window, when the call fails, and answers false; nothing is
-// retried.
+// The file-system calls that change something, with every failure put into the program's own words. If the
+// call fails, each shows exactly one box, owned by the given window, and returns false; nothing is retried.
 
 #include "platform/system_types.h"
 
@@ -13,7 +12,7 @@ bool CreateDirectoryOrReport(HWND owner, const wchar_t* path, SECURITY_ATTRIBUTE
 bool SetAttributesOrReport(HWND owner, const wchar_t* path, DWORD attributes);
 bool RemoveDirectoryOrReport(HWND owner, const wchar_t* path);
 
-// Makes what is missing of the path. A folder that cannot be made is reported in one box, owned by the
-// window, and the answer is false; so it is, without a word, where a file stands in the way and for a path
-// without a separator.
+// Creates what is missing of the path. A folder that cannot be created is reported in one box, owned by the
+// window, and false is returned. If a file is in the way, or the path has no separator, false is returned
+// without a box.
 [[nodiscard]] bool CreateFolderPath(HWND owner, const wchar_t* path);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What questions and properties say of a file.
+// What questions and properties say about a file.
 
 #include "platform/system_types.h"
 

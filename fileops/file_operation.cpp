@@ -45,7 +45,7 @@ const OperationTexts* TextsOf(FileOperationKind kind) {
     return index < std::size(AllTexts) ? &AllTexts[index] : nullptr;
 }
 
-// Without separators at the end, which no later comparison or joining expects; a root keeps its own.
+// Drops separators at the end, which later comparisons and joins do not expect; a root keeps its own.
 bool CopyPath(PathBuffer& destination, const wchar_t* path) {
     std::size_t units = wcsnlen(path, MAX_PATH);
     if (units >= MAX_PATH) return false;
@@ -92,7 +92,8 @@ INT_PTR FileOperation::RunModal() {
     closeParentAfterwards_ = false;
     const INT_PTR result = JobDialog::RunModal();
     if (closeParentAfterwards_) PostMessageW(ParentHandle(), WM_CLOSE, 0, 0);
-    // Also when the window went under with its owner, or with the program's end before the run began.
+    // Needed as well if the window was destroyed with its owner, or if the program ended before the run
+    // began.
     return HasBegun() || result != -1 ? ResultOk : -1;
 }
 
@@ -109,14 +110,14 @@ LRESULT FileOperation::OnInitDialog(MessageRecord& record) {
     return result;
 }
 
-// The system would post a Cancel, which came a file later.
+// The system would post a Cancel, which would only arrive a file later.
 LRESULT FileOperation::OnWmClose(MessageRecord&) {
     RequestStop();
     return 1;
 }
 
-// The bar's Cancel and the closing of a window are ways to stop; the dialog goes when the run has unwound. A
-// run that has not begun would forget the stop, so the dialog goes at once.
+// The bar's Cancel and closing the window both stop the run; the dialog closes when the run has unwound. If
+// the run has not begun, it would miss the stop, so the dialog closes at once.
 void FileOperation::RequestStop() {
     Stop();
     if (!HasBegun()) End(ResultOk);
@@ -127,7 +128,7 @@ LRESULT FileOperation::OnStop(EventArguments&) {
     return 0;
 }
 
-// A key that is still down from the answer to a question only repeats itself and stops nothing.
+// A key still held down from answering a question only repeats, and stops nothing.
 bool FileOperation::StopsBy(const MessageRecord& key) const {
     return (key.wParam == VK_RETURN || key.wParam == VK_ESCAPE) && (HIWORD(key.lParam) & KF_REPEAT) == 0;
 }

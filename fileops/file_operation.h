@@ -1,8 +1,8 @@
 #pragma once
 
-// Copies, updates, excludes, moves or deletes a list of files and folders inside a small modal dialog, which
-// shows each file and offers Stop. A caller that wants one of the five says what to do and runs it; it is
-// told nothing back, since every failure has been reported to the user by then:
+// Copies, updates, excludes, moves or deletes a list of files and folders under a small modal dialog, which
+// shows each file and offers Stop. A caller says which of the five it wants and runs it. Nothing is returned,
+// since every failure has been reported to the user by then:
 //     operation.ClearSources();
 //     if (!operation.AddSource(L"\\My Documents\\a.txt") || !operation.SetDestination(L"\\Storage Card")) ...
 //     operation.operation = FileOperationKind::Copy;
@@ -25,12 +25,12 @@ class FileOperation : public JobDialog {
     explicit FileOperation(WindowObject* parent);
     ~FileOperation() override;
 
-    // What to process, in this order, by full paths. False for an empty path, for one of MAX_PATH units or
-    // more and when there is no memory; the list is then as it was. Separators at the end are dropped.
+    // Adds a full path to what is processed, in this order. Returns false, leaving the list as it was, for an
+    // empty path, for one of MAX_PATH units or more and without memory. Separators at the end are dropped.
     [[nodiscard]] bool AddSource(const wchar_t* path);
     void ClearSources();
-    // The folder to work on; for a single file also a file's path. Delete ignores it. False for a path of
-    // MAX_PATH units or more. Separators at the end are dropped.
+    // The folder to work on; for a single file it may be a file's path. Delete ignores it. Returns false for
+    // a path of MAX_PATH units or more. Separators at the end are dropped.
     [[nodiscard]] bool SetDestination(const wchar_t* path);
 
     // Any other value does nothing.
@@ -40,13 +40,13 @@ class FileOperation : public JobDialog {
     // The questions offer Yes to All and Cancel.
     bool multiple = true;
 
-    // Returns ResultOk whatever happened, and -1 when the template is missing or a run is under way. The
-    // fields and the list may not be changed meanwhile.
+    // Returns ResultOk whatever happened, or -1 if the template is missing or a run is under way. The fields
+    // and the list must not be changed during a run.
     INT_PTR RunModal() override;
 
     // What the Stop button does: the run ends before the next file. What was done stays done.
     void Stop() { abortRequested_ = true; }
-    // Stops, and closes the parent's window when the run is over. A question that is open is given up, an
+    // Stops, and closes the parent's window when the run is over. An open question is cancelled, an open
     // error box closed.
     void StopAndCloseParent();
 
@@ -66,8 +66,8 @@ class FileOperation : public JobDialog {
     void RunFileOperation();
     [[nodiscard]] bool ProcessSource(const wchar_t* path);
 
-    // Each answers whether to go on with the next entry, also after a skip; false ends the run. The paths may
-    // be extended meanwhile and are given back as they were.
+    // Each returns whether to go on with the next entry, also after a skip; false ends the run. The paths may
+    // be extended meanwhile and are restored.
     [[nodiscard]] bool CopyEntry(PathBuffer& source, PathBuffer& target);
     [[nodiscard]] bool UpdateEntry(PathBuffer& source, PathBuffer& target);
     [[nodiscard]] bool ExcludeEntry(PathBuffer& source, PathBuffer& target);
@@ -82,7 +82,7 @@ class FileOperation : public JobDialog {
     [[nodiscard]] FolderStep PrepareFolder(const wchar_t* folder);
     [[nodiscard]] bool AskFolderDelete(const wchar_t* folder);
 
-    // One file each; answers as above.
+    // One file each; the same results as above.
     [[nodiscard]] bool CopyOneFile(const wchar_t* source, const wchar_t* target);
     [[nodiscard]] bool CopyOneFileIfNewer(const wchar_t* source, const wchar_t* target);
     [[nodiscard]] bool ReplaceByCopy(const wchar_t* source, const wchar_t* target);
@@ -99,7 +99,7 @@ class FileOperation : public JobDialog {
     std::unique_ptr<ObjectList> sources_;
     PathBuffer destination_ = L"";
     bool abortRequested_ = false;
-    // Of folders below the item of the list that is copied or moved.
+    // How deep the walk is below the item of the list that is copied or moved.
     std::int32_t depth_ = 0;
 
     bool closeParentAfterwards_ = false;

@@ -8,14 +8,14 @@
 // Everything that an entered folder lists.
 constexpr const wchar_t* EveryEntry = L"*.*";
 
-// A link to a folder stands for what is kept elsewhere, and may lead back up the tree: no operation enters
-// one. A copy leaves it out, a move takes the link itself along, a deletion removes the link alone.
+// A link to a folder stands for contents kept elsewhere, and may lead back up the tree: no operation enters
+// one. A copy leaves it out, a move takes the link itself along, a deletion removes only the link.
 
 bool FileOperation::CopyEntry(PathBuffer& source, PathBuffer& target) {
     const PathKind kind = KindOf(source);
     if (kind == PathKind::LinkToFolder) return true;
     if (kind != PathKind::Folder) return FileInto(source, target, &FileOperation::CopyOneFile);
-    // Below the item of the list, the name is in the target already.
+    // Below the item of the list, the target already ends in the name.
     const PathExtension named =
         depth_ == 0 ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);
     if (!named.Fits()) return true;
@@ -33,7 +33,8 @@ bool FileOperation::UpdateEntry(PathBuffer& source, PathBuffer& target) {
     return EachEntry(source, source, target, &FileOperation::UpdateEntry);
 }
 
-// QUIRK: exclude-removes-no-file. Walks over the target, not over the source: a file in it always exists.
+// QUIRK: exclude-removes-no-file. It walks over the target, not the source, and a file found there always
+// exists.
 bool FileOperation::ExcludeEntry(PathBuffer& source, PathBuffer& target) {
     const PathKind kind = KindOf(target);
     if (kind == PathKind::File) return true;
@@ -71,7 +72,7 @@ bool FileOperation::DeleteEntry(PathBuffer& path) {
     return RemoveDirectoryOrReport(Handle(), path);
 }
 
-// A file goes to the target or, where a folder stands, to its own name in it.
+// A file goes to the target or, if that is a folder, to its own name in it.
 bool FileOperation::FileInto(const wchar_t* source, PathBuffer& target, FileStep step) {
     const PathExtension named =
         IsFolder(target) ? PathExtension::ByNameOf(source, target) : PathExtension::ByNothing(target);

@@ -12,7 +12,7 @@
 
 namespace {
 
-// False when nothing is found at the path. The time is taken as it is, not as local time.
+// Returns false if nothing is found at the path. The time stays in UTC; it is not made local.
 bool GetLastWriteTime(const wchar_t* path, DosTime& time) {
     WIN32_FIND_DATAW data;
     if (!FindFile(path, data)) return false;
@@ -43,20 +43,21 @@ bool FileOperation::ReplaceByCopy(const wchar_t* source, const wchar_t* target) 
         if (answer == ConfirmResult::No) return true;
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
     }
-    // So that a read-only, hidden or system file can be overwritten; without it the copy is still tried.
+    // So that a read-only, hidden or system file can be overwritten. If this fails, the copy is tried all the
+    // same.
     if (PathExists(target)) SetAttributesOrReport(Handle(), target, FILE_ATTRIBUTE_NORMAL);
     return CopyFileOrReport(Handle(), source, target, false);
 }
 
-// QUIRK: unasked-moves-replace-nothing. An existing target is deleted only after a question. Without one it
-// is left alone and the move fails, unlike a copy.
+// QUIRK: unasked-moves-replace-nothing. An existing target is deleted only after a question. If nothing is
+// asked it is left alone and the move fails, unlike a copy.
 bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
     if (!BeginFile(source, target)) return false;
     if (confirm && PathExists(target)) {
         const ConfirmResult answer = AskFileReplace(source, target);
         if (answer == ConfirmResult::No) return true;
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
-        // Two paths may lead to one file; with the target the source would be gone.
+        // The two paths may lead to one file: deleting the target would delete the source.
         // QUIRK: moves-go-on-after-a-failed-delete
         if (!IsSameFile(source, target)) DeleteFileOrReport(Handle(), target);
     }
@@ -75,11 +76,11 @@ bool FileOperation::DeleteOneFile(const wchar_t* path) {
     return DeleteFileOrReport(Handle(), path);
 }
 
-// Takes one message, which may be Stop, and shows the file. False when the run has to end.
+// Pumps one message, which may be Stop, and shows the file. Returns false if the run has to end.
 bool FileOperation::BeginFile(const wchar_t* source, const wchar_t* target) {
-    // A file takes longer than a look at an empty queue.
+    // A file costs more than a look at an empty queue.
     ExpectMessages();
-    // With the program's end, or with the owner's and the dialog's, the run ends as well.
+    // The run ends with the program, and when the owner or the dialog is destroyed.
     if (PumpOneMessage() == PumpOutcome::Quit || Handle() == nullptr) Stop();
     if (abortRequested_) return false;
     SetDlgItemTextW(Handle(), STATIC_SOURCE, source);
@@ -100,7 +101,7 @@ ConfirmResult FileOperation::AskInRun(const Question& question) {
     ConfirmationDialog dialog(Parent(), question);
     dialog.LeaveInputTo(Handle());
     const ConfirmResult answer = dialog.Ask();
-    // A question that could not be made has not done that.
+    // A question that could not be created has not done that.
     EnableWindow(Handle(), TRUE);
     // QUIRK: yes-to-all-outlasts-the-run. Nothing sets it again.
     if (answer == ConfirmResult::YesToAll) confirm = false;

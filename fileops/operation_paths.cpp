@@ -41,7 +41,7 @@ bool IsInsideSource(const wchar_t* source, const wchar_t* destination) {
 
     const std::size_t sourceLength = std::wcslen(source);
     if (destinationLength < sourceLength || !NamesTheSame(destination, source, sourceLength)) return false;
-    // Everything on it lies inside a root, which ends in its separator.
+    // A root ends in its separator, and everything on the device is inside it.
     if (sourceLength > 0 && IsSeparator(source[sourceLength - 1])) return true;
     const wchar_t following = destination[sourceLength];
     return following == L'\0' || IsSeparator(following);

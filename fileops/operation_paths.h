@@ -1,6 +1,6 @@
 #pragma once
 
-// How the operations work with the texts of paths.
+// Paths as the operations use them: extended by a name, shortened again, and compared.
 
 #include <cstddef>
 
@@ -10,23 +10,22 @@ using PathBuffer = wchar_t[MAX_PATH];
 
 [[nodiscard]] bool IsSeparator(wchar_t unit);
 
-// A path that is longer by a name for as long as this object lives. A walk keeps one buffer for each of its
-// paths whatever its depth; a buffer per level would not fit on the stack of a deep tree.
+// Extends a path by a name for as long as this object lives. A walk needs one buffer for each of its paths,
+// whatever its depth; a buffer per level would overflow the stack in a deep tree.
 class PathExtension {
   public:
-    // The name may not lie in the path.
+    // The name must not be part of the path's own buffer.
     PathExtension(PathBuffer& path, const wchar_t* name);
     ~PathExtension();
     PathExtension(const PathExtension&) = delete;
     PathExtension& operator=(const PathExtension&) = delete;
 
-    // False when there is no room for the name, or the name is none of a file (as "b:x"); the path is then as
-    // it was.
+    // False if the name does not fit or is no file's name (such as "b:x"); the path is then unchanged.
     [[nodiscard]] bool Fits() const { return fits_; }
 
-    // Longer by the last name of another path.
+    // Extends it by the last name of another path.
     [[nodiscard]] static PathExtension ByNameOf(const wchar_t* other, PathBuffer& path);
-    // Not longer at all.
+    // Does not extend it.
     [[nodiscard]] static PathExtension ByNothing(PathBuffer& path);
 
   private:

@@ -7,8 +7,8 @@
 // The id of the button that ended the dialog.
 enum class ConfirmResult { Cancel = 2, Yes = 6, No = 7, YesToAll = 20 };
 
-// A template, and the routine that fills it: title, icon and texts. Another icon that the routine puts in the
-// place of a file's is the dialog's to free. Template name and subject are kept, not copied.
+// A template, and the routine that fills in its title, icon and texts. An icon that the routine sets is freed
+// by the dialog. Template name and subject are not copied and must outlive the question.
 class Question {
   public:
     template <class Subject>

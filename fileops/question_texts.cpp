@@ -81,11 +81,11 @@ void ShowFile(HWND dialog, int detailsId, int iconId, const wchar_t* path) {
     SetDlgItemTextW(dialog, detailsId, details);
     SHFILEINFOW info{};
     ce::SHGetFileInfo(path, 0, &info, sizeof info, ShellIconFlags);
-    // Without one the template's own stays.
+    // Without one the template's own icon stays.
     if (info.hIcon != nullptr) SetIcon(dialog, iconId, info.hIcon);
 }
 
-// QUIRK: delete-question-looks-at-the-folder. At the one that holds the file, not at the file itself.
+// QUIRK: delete-question-looks-at-the-folder. It looks at the folder that holds the file, not at the file.
 const TextPair& FileDeleteText(const wchar_t* folder) {
     if (HasAttribute(folder, FILE_ATTRIBUTE_READONLY)) return DeleteReadOnly;
     if (IsProgramFile(folder)) return DeleteProgram;

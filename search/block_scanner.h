@@ -1,7 +1,7 @@
 #pragma once
 
-// The block scanner: the part of the content prefilter that looks at every byte, whole registers of bytes at
-// a time, as wide as the processor has them.
+// The block scanner: the part of the content prefilter that looks at every byte, a whole register of them at
+// a time, with the widest registers that the processor has.
 
 #include <cstddef>
 #include <cstdint>
@@ -10,8 +10,8 @@
 struct ScannedPattern {
     static constexpr std::size_t WidestRegister = 32;
 
-    // A byte equals the pattern's one when it does so with its case bit set: 0x20 for a letter whose case
-    // does not matter, 0 for everything else.
+    // The case bit is set in a byte before it is compared: 0x20 if the pattern's byte is a letter whose case
+    // does not matter, else 0.
     struct Repeated {
         unsigned char folded[WidestRegister];
         unsigned char caseBit[WidestRegister];

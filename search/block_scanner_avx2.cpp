@@ -7,7 +7,7 @@
 
 #ifdef __x86_64__
 #include <immintrin.h>
-// For the functions from here to the end of the file, and for no function that other files share.
+// Applies to the functions from here to the end of the file, so not to any function that other files share.
 #ifdef __clang__
 #pragma clang attribute push(__attribute__((target("avx2"))), apply_to = function)
 #else

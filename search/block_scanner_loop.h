@@ -102,7 +102,7 @@ class RegisterScan {
             Bytes places[Registers];
             for (std::size_t i = 0; i < Registers; ++i)
                 FindCandidates(places[i], at + i * width, first, second, last, lastIndex);
-            // Asked for all together: a question takes as long as several comparisons.
+            // The masks are tested all at once, because a test costs as much as several comparisons.
             Bytes any = places[0];
             for (std::size_t i = 1; i < Registers; ++i)
                 any |= places[i];

@@ -2,7 +2,7 @@
 
 namespace {
 
-// By month, 1 to 12; the entries 0 and 13 are there so that a step too far finds no days.
+// By month, 1 to 12. The entries 0 and 13 give no days to a step beyond the year.
 constexpr int CommonMonths[14] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31, 0};
 constexpr int LeapMonths[14] = {0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31, 0};
 

@@ -4,8 +4,8 @@
 
 #include "base/program_context.h"
 #include "platform/windows_ce.h"
-#include "search/line_readers.h"
 #include "search/content_prefilter.h"
+#include "search/line_readers.h"
 #include "search/substring_search.h"
 
 namespace {
@@ -16,7 +16,7 @@ const char* ReadLine(const SearchConditions& conditions, ByteReader& reader) {
     return ReadLineUpper(line, LineReaderSize, reader, Context().codeConversionAvailable);
 }
 
-// A reader's null ends the file even where it has more.
+// A null from a reader ends the search of the file even if more follows.
 bool ALineContains(ByteSource& source, const SearchConditions& conditions) {
     const char* const pattern = conditions.contentPattern;
     const auto patternLength = static_cast<int>(std::strlen(pattern));
@@ -61,8 +61,8 @@ FileByteSource::~FileByteSource() {
     if (file_ != nullptr) std::fclose(file_);
 }
 
-// A read that comes short is the last: to read once more, only to be told that there is nothing, would be
-// felt with small files.
+// A short read is the last one: another read, only to learn that nothing is left, would be noticeable with
+// small files.
 std::size_t FileByteSource::Fill(unsigned char* block, std::size_t size) {
     if (ended_) return 0;
     const std::size_t count = ce::ReadBlock(file_, block, size);

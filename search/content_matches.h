@@ -13,7 +13,7 @@
 [[nodiscard]] bool ContentMatches(const SearchConditions& conditions, const wchar_t* fullPath,
                                   const WIN32_FIND_DATAW& entry);
 
-// The bytes of a file on a disk, which is open as long as its source lives.
+// The bytes of a file on disk, which stays open as long as this object lives.
 class FileByteSource final : public ByteSource {
   public:
     explicit FileByteSource(const wchar_t* path);
@@ -21,12 +21,12 @@ class FileByteSource final : public ByteSource {
     FileByteSource& operator=(const FileByteSource&) = delete;
     ~FileByteSource() override;
 
-    // False if the file could not be opened; there are no bytes then.
+    // False if the file could not be opened; it then has no bytes.
     [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
 
     std::size_t Fill(unsigned char* block, std::size_t size) override;
 
-    // Begins again at the file's beginning.
+    // Goes back to the beginning of the file.
     void Rewind();
 
   private:

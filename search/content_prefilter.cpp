@@ -24,7 +24,7 @@ class BlockExaminer {
           scanned_{Repeated(0), Repeated(1), Repeated(sought.length - 1), sought.length - 1},
           scan_(BlockScannerFor(sought.folding)) {}
 
-    // The first finding between begin and end. What needs bytes behind the end is left for the next block.
+    // The first finding between begin and end. What needs bytes beyond the end is left to the next block.
     [[nodiscard]] Finding Examine(const Byte* begin, const Byte* end) {
         start_ = begin;
         stop_ = end;
@@ -102,8 +102,8 @@ class BlockExaminer {
         return true;
     }
 
-    // With some of the pattern's bytes before the carriage returns that end at `behind`, the others from
-    // there on.
+    // Some of the pattern's bytes are before the carriage returns that end at `behind`, the others start
+    // there.
     bool OccursAcross(const Byte* behind) const {
         for (std::size_t before = 1; before < pattern_.length; ++before) {
             if (Matches(*behind, before) && EndsBefore(behind, before) && GoesOnAt(behind, before))
@@ -149,13 +149,13 @@ class BlockExaminer {
     const Byte* stop_ = nullptr;
 };
 
-// A pattern of one byte is nearly everywhere, and one that contains line ends follows rules of its own.
+// A pattern of one byte occurs nearly everywhere, and one that contains line ends follows rules of its own.
 bool CanBeFiltered(const ContentPattern& pattern) {
     return pattern.length >= 2 && std::memchr(pattern.bytes, CarriageReturn, pattern.length) == nullptr &&
            std::memchr(pattern.bytes, LineFeed, pattern.length) == nullptr;
 }
 
-// What the file's beginning tells of its first line; MayOccur if only reading the line can tell.
+// What the beginning of the file says about its first line; MayOccur if only reading the line can tell.
 ContentVerdict FirstLineVerdict(const Byte* begin, std::size_t size, const ContentPattern& pattern) {
     if (size == 0) return ContentVerdict::NoLine;
     if (*begin == CarriageReturn) return ContentVerdict::MayOccur;
@@ -170,8 +170,8 @@ ContentVerdict FirstLineVerdict(const Byte* begin, std::size_t size, const Conte
 
 ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, std::size_t blockSize) {
     if (!CanBeFiltered(pattern)) return ContentVerdict::MayOccur;
-    // The bytes kept from the last block go to the page before the next one. Not initialised, which every
-    // file would pay for.
+    // The bytes kept from the last block are placed right before the next one. Not initialised, since every
+    // file would pay for that.
     Byte room[ByteSource::BlockSize + 2 * ByteSource::PageSize];
     Byte* const block =
         room + 2 * ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize;

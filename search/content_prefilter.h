@@ -17,7 +17,7 @@ struct ContentPattern {
 };
 
 enum class ContentVerdict {
-    // The first line stores nothing, so that not even a search of it takes place.
+    // The first line stores nothing, so not even that line is searched.
     NoLine,
     NoOccurrence,
     // Only the lines can tell.

@@ -10,7 +10,7 @@ constexpr int LineFeed = 10;
 
 char sharedLine[LineBufferSize];
 
-// Terminates the line; null for one in which nothing was stored.
+// Terminates the line; returns null if nothing was stored in it.
 char* FinishLine(char* buffer, int size, int stored) {
     if (size <= 0) return nullptr;
     buffer[stored] = '\0';

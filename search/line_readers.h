@@ -22,7 +22,7 @@ class ByteSource {
 // A source's bytes, one at a time, fetched in blocks of 64 KB.
 class ByteReader {
   public:
-    // The source lives as long as its reader.
+    // The source must outlive the reader.
     explicit ByteReader(ByteSource& byteSource);
     ByteReader(const ByteReader&) = delete;
     ByteReader& operator=(const ByteReader&) = delete;

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Between two steps of the clearing: a window that always has something to do must not hold it up.
+// Between two steps of the clearing. Bounded, since a window that always has messages must not hold it up.
 constexpr int MessagesPerStep = 16;
 
 // The clearing is finished even if the user wants no more: what is left of an earlier search is no result of

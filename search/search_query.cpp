@@ -47,6 +47,6 @@ void FillConditions(const SearchQuery& query, SearchConditions& conditions) {
     FillDateRange(query.dateRange, conditions);
     if (query.typeFilter) conditions.flags |= SearchConditions::TypeFilter;
     FillSizeBound(query.sizeBound, conditions);
-    // Without a new pattern an older one is folded again; nothing reads it.
+    // Without a new pattern the old one is folded once more; nothing reads it.
     if (query.ignoreCase) UpperCaseBytes(conditions.contentPattern, Context().codeConversionAvailable);
 }

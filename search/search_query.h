@@ -22,7 +22,7 @@ struct SearchQuery {
     bool typeFilter = false;
     wchar_t extensions[MAX_PATH] = {};
     wchar_t content[ContentTextSize] = {};
-    // Of the content; a name always keeps its own rule.
+    // For the content only; names follow their own rule.
     bool ignoreCase = false;
     // Empty if any date will do.
     std::optional<DateRange> dateRange;

@@ -12,8 +12,8 @@ class MatchSink {
     // Before the walk: removes what an earlier search found.
     virtual void Clear() = 0;
 
-    // The same in steps of a few milliseconds: false once nothing is left. A receiver that is cleared at once
-    // does not need it.
+    // The same in steps of a few milliseconds; returns false once nothing is left. A receiver that clears at
+    // once does not need it.
     [[nodiscard]] virtual bool ClearSome() {
         Clear();
         return false;

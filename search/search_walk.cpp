@@ -44,17 +44,17 @@ class KeptEntry final : public ListObject {
 
     explicit KeptEntry(unsigned char* usedBytes) : used_(usedBytes) {}
 
-    // The record up to the end of its name.
+    // The record, up to the end of its name.
     unsigned char* used_;
 };
 
-// What one listing leaves for afterwards, each in the order of the listing.
+// What one listing leaves to be handled afterwards, each in the order of the listing.
 struct KeptEntries {
     // KeptEntry objects: what matches a pattern after the first.
     ObjectList laterMatches;
     // StringObjects: the names of the folders to enter.
     ObjectList subFolders;
-    // False when the memory gave out: the folder then has to be listed again.
+    // False if memory ran out: the folder then has to be listed again.
     bool laterMatchesComplete = true;
     bool subFoldersComplete = true;
 };
@@ -78,7 +78,7 @@ bool PatternsStayInFolder(ObjectList& patterns) {
     return true;
 }
 
-// A null item is the end of the patterns, also as the first of them.
+// A null item ends the patterns, even as the first of them.
 const ListObject* FirstLaterPattern(ObjectList& patterns) {
     return patterns.First() != nullptr ? patterns.Next() : nullptr;
 }

@@ -1,4 +1,5 @@
-// The conversion pair that asks the system, apart from those that are compiled for the building machine too.
+// The conversion pair that asks the system. In a file of its own because the others are also compiled for the
+// building machine.
 
 #include "search/text_conversion.h"
 
@@ -20,7 +21,7 @@ void SystemToMultiByte(const wchar_t* source, char* destination, int destination
     if (destinationSize <= 0) return;
     if (WideCharToMultiByte(CP_ACP, 0, source, -1, destination, destinationSize, nullptr, nullptr) > 0)
         return;
-    // Too long: the system leaves open what it wrote, so the longest part that fits is looked for.
+    // Too long: what the system wrote is undefined then, so find the longest part that fits.
     const int room = destinationSize - 1;
     for (int units = LengthUpTo(source, room); units > 0; --units) {
         const int bytes = WideCharToMultiByte(CP_ACP, 0, source, units, destination, room, nullptr, nullptr);

@@ -4,9 +4,9 @@
 // TKCONV.DLL and that of a Japanese system. Each routine has the type, and keeps the promise, of its slot in
 // the program context.
 
-// One unit to a Shift-JIS code of one or two bytes, 0 when there is none.
+// One unit to a Shift-JIS code of one or two bytes; 0 if there is none.
 using UnicodeToSjisFunction = unsigned short (*)(unsigned short unit);
-// A lead byte and its trail byte to one unit, 0 when there is none.
+// A lead byte and its trail byte to one unit; 0 if there is none.
 using SjisToUnicodeFunction = unsigned short (*)(unsigned char lead, unsigned char trail);
 
 // Keeps the low 8 bits of each unit; a unit whose low byte is 0 ends the text early.

@@ -7,7 +7,7 @@
 #include "search/search_conditions.h"
 #include "search/search_receivers.h"
 
-// What a step of the walk answers: Stop once the user or a quit has asked for it.
+// What a step of the walk returns: Stop once the user or a quit has asked for it.
 enum class WalkStep { GoOn, Stop };
 
 // What the walk carries along.
