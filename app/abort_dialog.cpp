@@ -3,7 +3,7 @@
 #include <cwchar>
 
 #include "base/program_context.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 
 namespace {
 

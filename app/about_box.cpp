@@ -7,8 +7,8 @@
 #include "base/program_context.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
-#include "framework/dialog_template.h"
 #include "framework/message_boxes.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include "app/uninstall.h"
 #include "base/program_context.h"
 #include "framework/message_boxes.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "app/product.h"
 #include "app/start_up.h"
 #include "framework/application.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "platform/ce_system.h"
 #include "resources/resource_ids.h"
 

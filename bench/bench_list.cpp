@@ -1,7 +1,7 @@
 #include "bench/bench_list.h"
 
 #include "base/program_context.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

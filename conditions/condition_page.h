@@ -5,7 +5,7 @@
 
 #include "framework/control.h"
 #include "framework/dialog.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 #include "search/search_query.h"
 
 class ConditionPage : public Dialog {

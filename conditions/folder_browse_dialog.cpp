@@ -8,7 +8,7 @@
 #include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 #include "framework/wait_cursor.h"
 #include "resources/resource_ids.h"
 

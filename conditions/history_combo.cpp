@@ -1,6 +1,6 @@
 #include "conditions/history_combo.h"
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "conditions/folder_browse_dialog.h"
 #include "conditions/search_history.h"
 #include "framework/page_fit.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

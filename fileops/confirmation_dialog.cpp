@@ -2,7 +2,7 @@
 
 #include "base/program_context.h"
 #include "framework/dialog_fit.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <new>
 
 #include "base/program_context.h"
-#include "framework/dialog_template.h"
 #include "framework/message_boxes.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "base/program_context.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

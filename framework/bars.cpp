@@ -1,6 +1,6 @@
 #include "framework/bars.h"
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

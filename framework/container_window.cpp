@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "framework/application.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

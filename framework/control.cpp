@@ -1,7 +1,7 @@
 #include "framework/control.h"
 
 #include "framework/application.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "framework/application.h"
 #include "framework/centring.h"
 #include "framework/control.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 namespace {

@@ -1,7 +1,5 @@
 #include "framework/property_set.h"
 
-#include "framework/property_keys.h"
-
 namespace {
 
 bool IsStyleKey(PropertyKey key) {

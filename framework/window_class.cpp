@@ -1,7 +1,7 @@
 #include "framework/window_class.h"
 
 #include "base/program_context.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "platform/windows_ce.h"
 
 namespace {

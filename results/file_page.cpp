@@ -3,8 +3,8 @@
 #include <prsht.h>
 
 #include "framework/control.h"
-#include "framework/dialog_template.h"
 #include "framework/page_fit.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 
 FilePage::FilePage(WindowObject* parentObject, const wchar_t* title, const wchar_t* templateToUse)

@@ -2,7 +2,7 @@
 
 #include "app/product.h"
 #include "app/run.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "tests/app/main_window_test.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "conditions/history_combo.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "tests/support/test_world.h"
 
 using Entries = std::vector<std::wstring>;

@@ -11,7 +11,7 @@
 #include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/container_window.h"
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 // Gives each test an application and a program context of its own: this program's instance, English.
 class FrameworkTest : public testing::Test {

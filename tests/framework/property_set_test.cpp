@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/property_keys.h"
-
 namespace {
 
 TEST(PropertySet, starts_empty) {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "framework/centring.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/framework_test.h"
 

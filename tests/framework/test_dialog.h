@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "framework/dialog.h"
-#include "framework/dialog_template.h"
+#include "framework/property_set.h"
 #include "tests/framework/framework_test.h"
 
 class TestDialog : public Dialog {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <random>
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "resources/resource_ids.h"
 #include "results/result_commands.h"
 #include "tests/results/list_cells.h"

@@ -1,6 +1,6 @@
 #include "tests/results/result_commands_test.h"
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "results/result_list.h"
 #include "tests/results/list_cells.h"
 #include "tests/support/replaced_calls.h"

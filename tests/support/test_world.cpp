@@ -1,6 +1,6 @@
 #include "tests/support/test_world.h"
 
-#include "framework/property_keys.h"
+#include "framework/property_set.h"
 #include "search/text_conversion.h"
 
 namespace {
