@@ -1,9 +1,10 @@
 #pragma once
 
-// The one framework-wide numbering of what controls and windows report. Each control class has a table from
-// its native notification codes to these (framework/native_codes.h).
+// The one framework-wide numbering of what controls and windows report, and the tables that turn the system's
+// notification codes into it: one per control class.
 
 #include <cstdint>
+#include <span>
 
 using EventCode = std::uint32_t;
 
@@ -54,3 +55,21 @@ constexpr EventCode Apply = 202;   // a property sheet's page is to take over it
 constexpr EventCode TabKey = 201;  // the argument is 1 with Shift held, else 0
 
 }  // namespace event
+
+// One pair; a table is sorted by the native code as an unsigned number, so the positive codes come first.
+struct NativeCode {
+    std::uint32_t native;
+    EventCode code;
+};
+using NativeCodeTable = std::span<const NativeCode>;
+
+// The event code of a native code; missing when the table lacks it.
+[[nodiscard]] EventCode TranslateNativeCode(NativeCodeTable table, std::uint32_t native,
+                                            EventCode missing = event::Command);
+
+// The table of a window class, by its exact spelling; empty for an unknown class. The combo box stands in
+// lower case, unlike the others, and is not known by any other spelling (combobox-in-lower-case).
+[[nodiscard]] NativeCodeTable NativeCodesOfClass(const wchar_t* className);
+
+// What every window translates itself before it asks the control: the notifications common to all classes.
+[[nodiscard]] NativeCodeTable CommonNotificationCodes();

@@ -1,4 +1,4 @@
-#include "framework/native_codes.h"
+#include "framework/event_codes.h"
 
 #include <gtest/gtest.h>
 
