@@ -1,12 +1,16 @@
 #pragma once
 
-// The boxes through which the whole program reports errors and asks for confirmation. A formatted text longer
-// than 1,023 units is cut.
+// The boxes through which the whole program reports errors and asks for confirmation. Each returns what
+// MessageBoxW returned. A formatted text longer than 1,023 units is cut.
 
 #include "platform/system_types.h"
 
-// "Error" with the stop icon and OK. Returns what MessageBoxW returned.
+// "Error" with the stop icon and OK.
 int ShowError(HWND owner, const wchar_t* format, ...);
 
 // "Confirmation" with the exclamation icon, OK and Cancel: IDOK or IDCANCEL.
 int AskConfirmation(HWND owner, const wchar_t* format, ...);
+
+// "Fatal" with the stop icon: the framework could not make a window. The program goes on. A text longer than
+// 519 units is cut.
+int ShowFatal(HWND owner, const wchar_t* format, ...);

@@ -5,7 +5,7 @@
 
 #include "base/program_context.h"
 #include "framework/application.h"
-#include "framework/fatal_message.h"
+#include "framework/message_boxes.h"
 #include "framework/property_set.h"
 #include "framework/subclassing.h"
 #include "framework/window_class.h"

@@ -1,4 +1,4 @@
-#include "framework/fatal_message.h"
+#include "framework/message_boxes.h"
 
 #include "framework/control.h"
 #include "tests/framework/framework_test.h"
