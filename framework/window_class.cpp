@@ -1,5 +1,7 @@
 #include "framework/window_class.h"
 
+#include <new>
+
 #include "base/program_context.h"
 #include "framework/property_set.h"
 #include "platform/windows_ce.h"
@@ -11,6 +13,21 @@ constexpr PropertyValue RedrawOnSizeChange = CS_HREDRAW | CS_VREDRAW;
 PropertyValue ValueOr(const PropertySet& properties, PropertyKey key, PropertyValue missing) {
     PropertyValue value = 0;
     return properties.Lookup(key, value) ? value : missing;
+}
+
+struct SubclassedWindow {
+    HWND window;
+    WNDPROC procedure;
+    SubclassedWindow* next;
+};
+
+SubclassedWindow* subclassedWindows = nullptr;
+
+SubclassedWindow** LinkTo(HWND window) {
+    SubclassedWindow** link = &subclassedWindows;
+    while (*link != nullptr && (*link)->window != window)
+        link = &(*link)->next;
+    return link;
 }
 
 }  // namespace
@@ -34,4 +51,25 @@ void RegisterWindowClass(const PropertySet& properties, WNDPROC procedure) {
     windowClass.lpszMenuName = properties.GetText(property::ClassMenuName);
     windowClass.lpszClassName = name;
     ce::RegisterClassW(&windowClass);
+}
+
+// The replacement is not put in twice, not even when something else has been put before it: a procedure that
+// is its own successor never comes back.
+WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement) {
+    if (const SubclassedWindow* known = *LinkTo(window)) return known->procedure;
+    if (!IsWindow(window)) return nullptr;
+    auto* entry = new (std::nothrow) SubclassedWindow{window, nullptr, subclassedWindows};
+    if (entry == nullptr) return nullptr;
+    entry->procedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement)));
+    subclassedWindows = entry;
+    return entry->procedure;
+}
+
+void ForgetProcedure(HWND window) {
+    SubclassedWindow** link = LinkTo(window);
+    SubclassedWindow* entry = *link;
+    if (entry == nullptr) return;
+    *link = entry->next;
+    delete entry;
 }

@@ -7,7 +7,6 @@
 #include "framework/application.h"
 #include "framework/message_boxes.h"
 #include "framework/property_set.h"
-#include "framework/subclassing.h"
 #include "framework/window_class.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "framework/subclassing.h"
+#include "framework/window_class.h"
 
 #include <memory>
 
