@@ -3,7 +3,7 @@
 // The one application object: the product's name, the split command line, the window map and the message
 // loop. It lives on the stack of the run routine (or of a test) for as long as there are window objects.
 
-#include "framework/window_map.h"
+#include "framework/dispatch_tables.h"
 #include "platform/held_keys.h"
 #include "platform/system_types.h"
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <span>
 
+#include "framework/dispatch_tables.h"
 #include "framework/event_codes.h"
-#include "framework/handler_tables.h"
 #include "framework/property_set.h"
 #include "platform/windows_ce.h"
 

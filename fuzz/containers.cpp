@@ -5,13 +5,12 @@
 #include <deque>
 #include <map>
 
-#include "framework/handler_tables.h"
+#include "base/object_list.h"
+#include "framework/dispatch_tables.h"
 #include "framework/property_set.h"
-#include "framework/window_map.h"
 #include "fuzz/fuzz_targets.h"
 #include "fuzz/fuzz_texts.h"
 #include "results/string_hash_table.h"
-#include "base/object_list.h"
 
 namespace {
 

@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-#include "framework/handler_tables.h"
-#include "framework/window_map.h"
+#include "framework/dispatch_tables.h"
 #include "tests/support/refused_memory.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "framework/handler_tables.h"
+#include "framework/dispatch_tables.h"
 
 #include <gtest/gtest.h>
 

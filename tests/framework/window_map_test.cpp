@@ -1,4 +1,4 @@
-#include "framework/window_map.h"
+#include "framework/dispatch_tables.h"
 
 #include <gtest/gtest.h>
 

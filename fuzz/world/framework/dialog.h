@@ -2,7 +2,7 @@
 
 // Dialogs without windows, in the place of framework/dialog.h.
 
-#include "framework/handler_tables.h"
+#include "framework/dispatch_tables.h"
 #include "framework/property_set.h"
 #include "platform/windows_ce.h"
 

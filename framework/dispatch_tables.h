@@ -1,8 +1,11 @@
 #pragma once
 
-// The two tables through which an object's messages and events find their handlers. A handler is a target
-// object, a method of it and an extra word; the newest entry hides older ones.
+// The tables by which a message finds its way: from the window to its object, and from the message or the
+// event that it stands for to the handler. A handler is a target object, a method of it and an extra word; the
+// newest entry hides older ones.
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "framework/event_codes.h"
@@ -84,4 +87,33 @@ class EventTable {
 
   private:
     EventEntry* head_ = nullptr;
+};
+
+// From a window handle to the object that it belongs to. One map exists, made by the application.
+class WindowMap {
+  public:
+    static constexpr std::size_t BucketCount = 113;
+
+    WindowMap() = default;
+    ~WindowMap();
+    WindowMap(const WindowMap&) = delete;
+    WindowMap& operator=(const WindowMap&) = delete;
+
+    // A newer entry of the same handle hides an older one. Answers whether there was memory for it.
+    bool Insert(HWND window, WindowObject* object);
+    [[nodiscard]] WindowObject* Find(HWND window) const;
+    // Removes the newest entry of the handle; answers whether there was one.
+    bool Remove(HWND window);
+    // Removes this object's entry of the handle, be it the newest or not.
+    bool Remove(HWND window, const WindowObject* object);
+
+    [[nodiscard]] static std::size_t BucketOf(HWND window);
+
+  private:
+    struct Entry {
+        HWND window;
+        WindowObject* object;
+        Entry* next;
+    };
+    std::array<Entry*, BucketCount> buckets_{};
 };
