@@ -1,8 +1,8 @@
 #pragma once
 
 // The tables by which a message finds its way: from the window to its object, and from the message or the
-// event that it stands for to the handler. A handler is a target object, a method of it and an extra word; the
-// newest entry hides older ones.
+// event that it stands for to the handler. A handler is a target object, a method of it and an extra word;
+// the newest entry hides older ones.
 
 #include <array>
 #include <cstddef>

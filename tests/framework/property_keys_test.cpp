@@ -2,7 +2,7 @@
 // fills a set.
 
 #include "framework/application_view.h"
-#include "framework/scroll_bar.h"
+#include "framework/scrolling_view.h"
 #include "resources/resource_ids.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/test_dialog.h"
