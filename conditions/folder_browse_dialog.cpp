@@ -5,11 +5,11 @@
 #include "base/program_context.h"
 #include "base/root_name.h"
 #include "conditions/folder_tree.h"
+#include "framework/application.h"
 #include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/property_set.h"
-#include "framework/wait_cursor.h"
 #include "resources/resource_ids.h"
 
 namespace {

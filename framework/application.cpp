@@ -38,3 +38,13 @@ int Application::Run() {
     }
     return static_cast<int>(message.wParam);
 }
+
+WaitCursor::WaitCursor() {
+    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    ShowCursor(TRUE);
+}
+
+WaitCursor::~WaitCursor() {
+    ShowCursor(FALSE);
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}

@@ -1,7 +1,7 @@
 #pragma once
 
-// The one application object: the product's name, the split command line, the window map and the message
-// loop. It lives on the stack of the run routine (or of a test) for as long as there are window objects.
+// The application: the product's name, the split command line, the window map, the message loop and the wait
+// cursor.
 
 #include "framework/dispatch_tables.h"
 #include "platform/held_keys.h"
@@ -25,6 +25,7 @@ class MainView {
     Application* servedBy_ = nullptr;
 };
 
+// There is one, on the stack of the run routine (or of a test), for as long as there are window objects.
 class Application {
   public:
     // The name and the words are kept, not copied.
@@ -54,4 +55,13 @@ class Application {
     MainView* mainView_ = nullptr;
     WindowMap windows_;
     ce::HeldKeys heldKeys_;
+};
+
+// The wait cursor is shown for as long as the object lives.
+class WaitCursor {
+  public:
+    WaitCursor();
+    ~WaitCursor();
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
 };

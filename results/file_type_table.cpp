@@ -5,7 +5,7 @@
 #include <new>
 
 #include "base/registry_key.h"
-#include "framework/wait_cursor.h"
+#include "framework/application.h"
 
 struct FileTypeTable::Shared {
     std::vector<std::unique_ptr<FileTypeInfo>> records;

@@ -7,8 +7,8 @@
 
 #include "base/paths.h"
 #include "base/program_context.h"
+#include "framework/application.h"
 #include "framework/property_set.h"
-#include "framework/wait_cursor.h"
 #include "results/file_type_table.h"
 #include "results/result_sorting.h"
 #include "results/row_texts.h"
