@@ -6,9 +6,9 @@
 #include "base/root_name.h"
 #include "conditions/folder_tree.h"
 #include "framework/application.h"
-#include "framework/centring.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
+#include "framework/layout.h"
 #include "framework/property_set.h"
 #include "resources/resource_ids.h"
 

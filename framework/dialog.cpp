@@ -4,8 +4,8 @@
 
 #include "base/program_context.h"
 #include "framework/application.h"
-#include "framework/centring.h"
 #include "framework/control.h"
+#include "framework/layout.h"
 #include "framework/property_set.h"
 #include "resources/resource_ids.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <climits>
 
-#include "framework/control_place.h"
 #include "framework/dialog_squeeze.h"
+#include "framework/layout.h"
 #include "platform/ce_shell.h"
 #include "platform/ce_windows.h"
 #include "resources/resource_ids.h"

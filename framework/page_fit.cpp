@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "framework/control_place.h"
+#include "framework/layout.h"
 #include "platform/windows_ce.h"
 
 namespace {

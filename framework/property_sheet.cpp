@@ -4,7 +4,7 @@
 
 #include "base/program_context.h"
 #include "framework/application.h"
-#include "framework/centring.h"
+#include "framework/layout.h"
 #include "framework/sheet_fit.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "framework/centring.h"
+#include "framework/layout.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-#include "framework/centring.h"
+#include "framework/layout.h"
 #include "framework/property_set.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/framework_test.h"

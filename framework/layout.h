@@ -1,6 +1,6 @@
 #pragma once
 
-// Where a dialog is placed: in the middle of its parent or of the screen.
+// Where windows and controls are placed.
 
 #include "platform/system_types.h"
 
@@ -12,3 +12,11 @@ constexpr LONG InputPanelSpace = 106;
 // than the screen starts at 0.
 [[nodiscard]] POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, LONG screenWidth,
                                     LONG screenHeight);
+
+// Between a control and the right edge of its dialog or page, in pixels.
+constexpr LONG RightMargin = 3;
+
+// Where the control is, in its parent's client coordinates.
+[[nodiscard]] RECT PlaceOf(HWND control);
+// Puts it there.
+void Place(HWND control, const RECT& place);

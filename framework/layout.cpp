@@ -1,4 +1,4 @@
-#include "framework/centring.h"
+#include "framework/layout.h"
 
 #include <algorithm>
 
@@ -25,4 +25,16 @@ POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, L
     x = std::max(std::min(x, screenWidth - dialogWidth), LONG{0});
     y = std::max(std::min(y, screenHeight - dialogHeight), LONG{0});
     return {x, y};
+}
+
+RECT PlaceOf(HWND control) {
+    RECT place{};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+void Place(HWND control, const RECT& place) {
+    SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
