@@ -1,7 +1,7 @@
 #pragma once
 
-// Fits the controls of a page to the room that its tab control gives it. The templates are made for the
-// narrowest screen; a wider or higher page has room to spare.
+// Fits the controls of a page to the room that its tab control gives it, and shows in tooltips what does not
+// fit. The templates are made for the narrowest screen; a wider or higher page has room to spare.
 
 #include <span>
 
@@ -23,3 +23,23 @@ void GrowDown(HWND page, int id);
 
 // Whether the static's text is shown without dots: on one line or, with any other style, broken into lines.
 [[nodiscard]] bool IsTextWhole(HWND control);
+
+// Tooltips that show the whole of those texts of a page that are cut, while the pointer rests on them.
+class WholeTextTips {
+  public:
+    WholeTextTips() = default;
+    ~WholeTextTips() { Remove(); }
+    WholeTextTips(const WholeTextTips&) = delete;
+    WholeTextTips& operator=(const WholeTextTips&) = delete;
+
+    // One for each of these statics whose text is cut. The texts are set, the statics have their places.
+    void Add(HWND page, std::span<const int> ids);
+    // All of them; to be called before the page goes.
+    void Remove();
+
+  private:
+    [[nodiscard]] bool HasWindow(HWND page);
+    void Add(HWND page, HWND control);
+
+    HWND window_ = nullptr;
+};

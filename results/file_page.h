@@ -4,8 +4,8 @@
 
 #include <span>
 
+#include "framework/page_fit.h"
 #include "framework/property_sheet.h"
-#include "framework/whole_text_tips.h"
 
 class FilePage : public PropertySheetPage {
   public:
