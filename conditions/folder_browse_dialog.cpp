@@ -49,17 +49,7 @@ LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
 
 // The parent is a page, a part of the main window near its top; the system makes the whole window the owner.
 void FolderBrowseDialog::CentreOnMainWindow() {
-    RECT own{};
-    RECT main{};
-    GetWindowRect(Handle(), &own);
-    const HWND owner = GetWindow(Handle(), GW_OWNER);
-    const bool hasOwner = owner != nullptr && GetWindowRect(owner, &main);
-    const LONG width = own.right - own.left;
-    const LONG height = own.bottom - own.top;
-    const POINT corner =
-        CentredPosition(width, height, hasOwner ? &main : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
-                        ce::GetSystemMetrics(SM_CYSCREEN));
-    MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
+    CentreOn(Handle(), GetWindow(Handle(), GW_OWNER));
 }
 
 void FolderBrowseDialog::WatchTreeKeys() {

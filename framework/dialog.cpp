@@ -282,16 +282,7 @@ void Dialog::DestroyMenuBar() {
 }
 
 void Dialog::Centre() {
-    RECT own{};
-    GetWindowRect(Handle(), &own);
-    RECT parentRectangle{};
-    const bool hasParent = ParentHandle() != nullptr && GetWindowRect(ParentHandle(), &parentRectangle);
-    const LONG width = own.right - own.left;
-    const LONG height = own.bottom - own.top;
-    const POINT corner =
-        CentredPosition(width, height, hasParent ? &parentRectangle : nullptr,
-                        ce::GetSystemMetrics(SM_CXSCREEN), ce::GetSystemMetrics(SM_CYSCREEN));
-    MoveWindow(Handle(), corner.x, corner.y, width, height, TRUE);
+    CentreOn(Handle(), ParentHandle());
 }
 
 LRESULT Dialog::OnWmPaint(MessageRecord& record) {

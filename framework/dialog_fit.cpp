@@ -27,39 +27,22 @@ struct LowerPart {
 
 LowerPart PartBelow(HWND dialog, LONG line) {
     LowerPart part;
-    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    ForEachControl(dialog, [&](HWND control) {
         const RECT place = PlaceOf(control);
-        if (place.top < line) continue;
+        if (place.top < line) return;
         part.top = std::min(part.top, place.top);
         part.bottom = std::max(part.bottom, place.bottom);
-    }
+    });
     return part;
 }
 
-void MoveBelow(HWND dialog, LONG line, LONG right, LONG down) {
-    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
-        RECT place = PlaceOf(control);
-        if (place.top < line) continue;
-        OffsetRect(&place, right, down);
-        Place(control, place);
-    }
-}
-
 bool HasCutText(HWND dialog) {
-    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    bool isCut = false;
+    ForEachControl(dialog, [&](HWND control) {
         const RECT place = PlaceOf(control);
-        if (place.top >= TitleLineY && HeightForText(control) > place.bottom - place.top) return true;
-    }
-    return false;
-}
-
-SIZE ClientSizeOf(HWND window) {
-    RECT area{};
-    GetClientRect(window, &area);
-    return {area.right, area.bottom};
+        if (place.top >= TitleLineY && HeightForText(control) > place.bottom - place.top) isCut = true;
+    });
+    return isCut;
 }
 
 // What the window has around its client area.
@@ -84,13 +67,12 @@ bool HasRoomForTwoColumns(HWND dialog) {
 // The screen may be a little narrower than the template.
 void CutToWidth(HWND dialog) {
     const LONG right = std::min(ClientSizeOf(dialog).cx, RoomFor(dialog).cx);
-    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    ForEachControl(dialog, [=](HWND control) {
         RECT place = PlaceOf(control);
-        if (place.right <= right) continue;
+        if (place.right <= right) return;
         place.right = right;
         Place(control, place);
-    }
+    });
 }
 
 void SetClientSize(HWND dialog, SIZE client) {
@@ -105,27 +87,13 @@ void SetClientSize(HWND dialog, SIZE client) {
     SetWindowPos(dialog, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// What the static's text needs: on one line, or broken at the given width.
-SIZE TextSizeOf(HWND control, LONG width, UINT format) {
-    wchar_t text[1024] = L"";
-    const int length = GetWindowTextW(control, text, 1024);
-    const HDC context = GetDC(control);
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = font != nullptr ? SelectObject(context, font) : nullptr;
-    RECT area{0, 0, width, 0};
-    DrawTextW(context, text, length, &area, format | DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS);
-    if (before != nullptr) SelectObject(context, before);
-    ReleaseDC(control, context);
-    return {area.right, area.bottom};
-}
-
 }  // namespace
 
 void WidenToText(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);
     if (control == nullptr) return;
     RECT place = PlaceOf(control);
-    const LONG needed = place.left + TextSizeOf(control, 0, DT_SINGLELINE).cx;
+    const LONG needed = place.left + TextWidth(control);
     const LONG limit = ClientSizeOf(dialog).cx - RightMargin;
     if (needed <= place.right || limit <= place.right) return;
     place.right = std::min(needed, limit);
@@ -135,7 +103,7 @@ void WidenToText(HWND dialog, int id) {
 bool ShowsWholeText(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);
     if (control == nullptr) return true;
-    return TextSizeOf(control, 0, DT_SINGLELINE).cx <= ClientSizeOf(control).cx;
+    return TextWidth(control) <= ClientSizeOf(control).cx;
 }
 
 void GrowToText(HWND dialog, int id) {
@@ -143,8 +111,7 @@ void GrowToText(HWND dialog, int id) {
     if (control == nullptr) return;
     RECT place = PlaceOf(control);
     const LONG line = place.bottom - Rounding;
-    const LONG needed =
-        place.top + TextSizeOf(control, place.right - place.left, DT_WORDBREAK | DT_EDITCONTROL).cy;
+    const LONG needed = place.top + TextHeight(control, place.right - place.left);
     if (needed <= place.bottom) return;
 
     const LowerPart below = PartBelow(dialog, line);
@@ -153,7 +120,7 @@ void GrowToText(HWND dialog, int id) {
     const LONG spare = HasRoomForTwoColumns(dialog) ? room : below.top - GapBelowText + room - below.bottom;
     place.bottom = std::max(place.bottom, std::min(needed, spare));
     const LONG down = place.bottom + GapBelowText - below.top;
-    if (below.bottom > 0 && down > 0) MoveBelow(dialog, line, 0, down);
+    if (below.bottom > 0 && down > 0) MoveControlsBelow(dialog, line, 0, down);
     Place(control, place);
 
     const LONG lowest = PartBelow(dialog, 0).bottom;
@@ -171,7 +138,7 @@ void FitToScreen(HWND dialog, int lastKept) {
     const HWND kept = GetDlgItem(dialog, lastKept);
     if (PartBelow(dialog, 0).bottom > room.cy && kept != nullptr && HasRoomForTwoColumns(dialog)) {
         const LONG line = PlaceOf(kept).bottom - Rounding;
-        MoveBelow(dialog, line, client.cx, ColumnTop - PartBelow(dialog, line).top);
+        MoveControlsBelow(dialog, line, client.cx, ColumnTop - PartBelow(dialog, line).top);
         client.cx *= 2;
     }
     if (PartBelow(dialog, 0).bottom > room.cy || HasCutText(dialog))

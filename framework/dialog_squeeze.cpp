@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <climits>
-#include <iterator>
 #include <utility>
 #include <vector>
 
-#include "platform/windows_ce.h"
+#include "framework/layout.h"
+#include "platform/handles.h"
 
 namespace {
 
@@ -35,25 +35,12 @@ LONG_PTR StyleOf(HWND control) {
     return GetWindowLongPtrW(control, GWL_STYLE);
 }
 
-bool IsOfClass(HWND control, const wchar_t* className) {
-    wchar_t name[32] = L"";
-    ce::GetClassNameW(control, name, 32);
-    return lstrcmpiW(name, className) == 0;
-}
-
 bool IsText(HWND control) {
     return IsOfClass(control, L"Static") && (StyleOf(control) & SS_TYPEMASK) != SS_ICON;
 }
 
 bool IsGroup(HWND control) {
     return IsOfClass(control, L"Button") && (StyleOf(control) & BS_TYPEMASK) == BS_GROUPBOX;
-}
-
-RECT PlaceIn(HWND dialog, HWND control) {
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-    return place;
 }
 
 // In the order of their places, equal ones in that of the controls. A sort of the library's would be 2 KB of
@@ -67,14 +54,8 @@ void Insert(std::vector<Row>& rows, const Row& row) {
 
 std::vector<Row> RowsOf(HWND dialog) {
     std::vector<Row> rows;
-    for (HWND control = GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT))
-        Insert(rows, {control, PlaceIn(dialog, control), {}, LONG_MAX});
+    ForEachControl(dialog, [&](HWND control) { Insert(rows, {control, PlaceOf(control), {}, LONG_MAX}); });
     return rows;
-}
-
-HFONT FontOf(HWND control) {
-    return reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
 }
 
 LONG LettersOf(HWND control) {
@@ -86,24 +67,19 @@ LONG LettersOf(HWND control) {
 // All dialogs share these, as long as the program runs: their templates have one font, in two weights.
 class SmallLetters {
   public:
-    ~SmallLetters() {
-        for (const HFONT font : fonts_) {
-            if (font != nullptr) DeleteObject(font);
-        }
-    }
     HFONT Like(HFONT model, LONG height) {
         LOGFONTW font{};
         if (GetObjectW(model, sizeof font, &font) == 0) return nullptr;
         font.lfHeight = -height;
-        HFONT& shared = fonts_[2 * (height - SmallestLetters) + (font.lfWeight >= FW_BOLD ? 1 : 0)];
-        if (shared == nullptr) shared = CreateFontIndirectW(&font);
-        return shared;
+        UniqueFont& shared = fonts_[2 * (height - SmallestLetters) + (font.lfWeight >= FW_BOLD ? 1 : 0)];
+        if (!shared) shared.Reset(CreateFontIndirectW(&font));
+        return shared.Get();
     }
 
     static constexpr LONG Largest = 16;
 
   private:
-    HFONT fonts_[2 * (Largest - SmallestLetters + 1)] = {};
+    UniqueFont fonts_[2 * (Largest - SmallestLetters + 1)];
 };
 
 void MakeLettersSmaller(const std::vector<Row>& rows, LONG height) {
@@ -113,20 +89,6 @@ void MakeLettersSmaller(const std::vector<Row>& rows, LONG height) {
         const HFONT font = letters.Like(FontOf(row.control), height);
         if (font != nullptr) SendMessageW(row.control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     }
-}
-
-LONG TextHeight(HWND control, const wchar_t* text, int length, LONG width, UINT format) {
-    const HDC context = GetDC(control);
-    const HGDIOBJ before = SelectObject(context, FontOf(control));
-    RECT area{0, 0, width, 0};
-    DrawTextW(context, text, length, &area, format | DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS);
-    SelectObject(context, before);
-    ReleaseDC(control, context);
-    return area.bottom;
-}
-
-LONG LineHeight(HWND control) {
-    return TextHeight(control, L"A", 1, 0, DT_SINGLELINE);
 }
 
 LONG HeightFor(const Row& row) {
@@ -192,12 +154,9 @@ LONG HeightForText(HWND control) {
     RECT place{};
     GetWindowRect(control, &place);
     if (!IsText(control)) return HeightOf(place);
-    wchar_t text[1024] = L"";
-    const int length = GetWindowTextW(control, text, static_cast<int>(std::size(text)));
-    const bool oneLine = (StyleOf(control) & SS_ELLIPSISMASK) != 0;
-    const LONG needed = TextHeight(control, text, length, place.right - place.left,
-                                   oneLine ? DT_SINGLELINE : DT_WORDBREAK | DT_EDITCONTROL);
-    return std::max(needed, LineHeight(control));
+    const bool isOneLine = (StyleOf(control) & SS_ELLIPSISMASK) != 0;
+    return isOneLine ? LineHeight(control)
+                     : std::max(TextHeight(control, place.right - place.left), LineHeight(control));
 }
 
 void SqueezeRows(HWND dialog, LONG columnWidth, LONG height) {

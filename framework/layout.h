@@ -1,11 +1,14 @@
 #pragma once
 
-// Where windows and controls are placed.
+// Where windows and controls are placed, and how much room their texts need.
 
-#include "platform/system_types.h"
+#include "platform/windows_ce.h"
 
 // The space that the soft input panel takes at the bottom of a small screen, in pixels.
 constexpr LONG InputPanelSpace = 106;
+
+// Between a control and the right edge of its dialog or page, in pixels.
+constexpr LONG RightMargin = 3;
 
 // The upper left corner for a dialog of the given size, in screen coordinates. parent is the parent's window
 // rectangle, or null to centre on the screen. The dialog stays on the screen as far as it fits; one larger
@@ -13,10 +16,35 @@ constexpr LONG InputPanelSpace = 106;
 [[nodiscard]] POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, LONG screenWidth,
                                     LONG screenHeight);
 
-// Between a control and the right edge of its dialog or page, in pixels.
-constexpr LONG RightMargin = 3;
+// Moves the window there: to the middle of the other window, or of the screen if there is none.
+void CentreOn(HWND window, HWND other);
 
 // Where the control is, in its parent's client coordinates.
 [[nodiscard]] RECT PlaceOf(HWND control);
 // Puts it there.
 void Place(HWND control, const RECT& place);
+
+[[nodiscard]] SIZE ClientSizeOf(HWND window);
+
+// Calls visit with each child of the window, in their order.
+template <class Visit>
+void ForEachControl(HWND window, Visit visit) {
+    for (HWND control = GetWindow(window, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT))
+        visit(control);
+}
+
+// Moves the controls whose top is not above the line.
+void MoveControlsBelow(HWND window, LONG line, LONG right, LONG down);
+
+// Whether the control's window class is this one, whatever its case.
+[[nodiscard]] bool IsOfClass(HWND control, const wchar_t* className);
+
+// The control's font; null for the system's.
+[[nodiscard]] HFONT FontOf(HWND control);
+
+// What the control's text needs in its font: its width on one line, its height when it is broken into lines
+// of the given width, and the height of any one line.
+[[nodiscard]] LONG TextWidth(HWND control);
+[[nodiscard]] LONG TextHeight(HWND control, LONG width);
+[[nodiscard]] LONG LineHeight(HWND control);

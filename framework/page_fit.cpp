@@ -6,7 +6,7 @@
 
 #include "framework/layout.h"
 #include "platform/ce_windows.h"
-#include "platform/windows_ce.h"
+#include "platform/handles.h"
 
 namespace {
 
@@ -19,22 +19,15 @@ constexpr LONG LeaningLetter = 1;
 constexpr LONG WorthWidening = 8;
 
 LONG RightEdgeOf(HWND page) {
-    RECT area{};
-    GetClientRect(page, &area);
-    return area.right - RightMargin;
-}
-
-bool IsComboBox(HWND control) {
-    wchar_t name[16] = L"";
-    ce::GetClassNameW(control, name, static_cast<int>(std::size(name)));
-    return lstrcmpiW(name, L"ComboBox") == 0;
+    return ClientSizeOf(page).cx - RightMargin;
 }
 
 // The height that a combo box is given is that of its open list.
 LONG HeightToGive(HWND control, const RECT& place) {
     RECT open{};
-    const bool hasList = IsComboBox(control) && SendMessageW(control, CB_GETDROPPEDCONTROLRECT, 0,
-                                                             reinterpret_cast<LPARAM>(&open)) != 0;
+    const bool hasList =
+        IsOfClass(control, L"ComboBox") &&
+        SendMessageW(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&open)) != 0;
     return hasList ? open.bottom - open.top : place.bottom - place.top;
 }
 
@@ -42,27 +35,12 @@ bool IsOneLine(HWND control) {
     return (GetWindowLongPtrW(control, GWL_STYLE) & SS_ELLIPSISMASK) != 0;
 }
 
-// What the static's text takes: on one line, or broken at the given width.
-SIZE TextSize(HWND control, LONG width, UINT lines) {
-    wchar_t text[1024] = L"";
-    const int length = GetWindowTextW(control, text, static_cast<int>(std::size(text)));
-    const HDC surface = GetDC(control);
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = font != nullptr ? SelectObject(surface, font) : nullptr;
-    RECT area{0, 0, width, 0};
-    DrawTextW(surface, text, length, &area, lines | DT_CALCRECT | DT_NOPREFIX);
-    if (before != nullptr) SelectObject(surface, before);
-    ReleaseDC(control, surface);
-    return {area.right, area.bottom};
-}
-
 LONG WidthOnOneLine(HWND control) {
-    return TextSize(control, 0, DT_SINGLELINE).cx + LeaningLetter;
+    return TextWidth(control) + LeaningLetter;
 }
 
 LONG HeightInLines(HWND control) {
-    return TextSize(control, PlaceOf(control).right - PlaceOf(control).left, DT_WORDBREAK | DT_EDITCONTROL)
-        .cy;
+    return TextHeight(control, PlaceOf(control).right - PlaceOf(control).left);
 }
 
 HWND LabelOf(HWND page, int id) {
@@ -92,21 +70,16 @@ bool IsShown(HWND control) {
 
 LONG LowestShown(HWND page) {
     LONG lowest = 0;
-    for (HWND control = GetWindow(page, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    ForEachControl(page, [&](HWND control) {
         if (IsShown(control)) lowest = std::max(lowest, PlaceOf(control).bottom);
-    }
+    });
     return lowest;
 }
 
-void MoveDown(HWND page, LONG line, LONG distance) {
-    for (HWND control = GetWindow(page, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
-        RECT place = PlaceOf(control);
-        if (place.top < line) continue;
-        OffsetRect(&place, 0, distance);
-        Place(control, place);
-    }
+// Whether the static's text is shown without dots: on one line or, with any other style, broken into lines.
+bool IsTextWhole(HWND control) {
+    const SIZE room = ClientSizeOf(control);
+    return IsOneLine(control) ? TextWidth(control) <= room.cx : HeightInLines(control) <= room.cy;
 }
 
 constexpr LONG ScreenMargin = 20;
@@ -132,14 +105,14 @@ std::size_t EndOfLine(const wchar_t* text, std::size_t length, std::size_t fitti
 
 // A path need not have a blank, at which alone a tooltip breaks its text. What does not fit is cut.
 void BreakIntoLines(HWND window, const wchar_t* text, TipText& lines) {
-    const HDC surface = GetDC(window);
-    const HGDIOBJ before =
-        SelectObject(surface, reinterpret_cast<HGDIOBJ>(SendMessageW(window, WM_GETFONT, 0, 0)));
+    const WindowContext context(window);
+    const SelectedObject font(context.Get(), FontOf(window));
     std::size_t used = 0;
     for (std::size_t rest = std::wcslen(text); rest > 0;) {
         int fitting = 0;
         SIZE size{};
-        GetTextExtentExPointW(surface, text, static_cast<int>(rest), WidthOfLine(), &fitting, nullptr, &size);
+        GetTextExtentExPointW(context.Get(), text, static_cast<int>(rest), WidthOfLine(), &fitting, nullptr,
+                              &size);
         const std::size_t taken = EndOfLine(text, rest, static_cast<std::size_t>(std::max(fitting, 1)));
         if (used + taken + 3 > std::size(lines)) break;
         std::wmemcpy(lines + used, text, taken);
@@ -152,8 +125,6 @@ void BreakIntoLines(HWND window, const wchar_t* text, TipText& lines) {
         }
     }
     lines[used] = L'\0';
-    SelectObject(surface, before);
-    ReleaseDC(window, surface);
 }
 
 }  // namespace
@@ -193,22 +164,13 @@ void AlignBehindLabels(HWND page, std::span<const int> ids) {
 void GrowDown(HWND page, int id) {
     const HWND control = GetDlgItem(page, id);
     if (control == nullptr) return;
-    RECT area{};
-    GetClientRect(page, &area);
     RECT place = PlaceOf(control);
     const LONG wanted = HeightInLines(control) - (place.bottom - place.top);
-    const LONG growth = std::min(wanted, area.bottom - LowestShown(page));
+    const LONG growth = std::min(wanted, ClientSizeOf(page).cy - LowestShown(page));
     if (growth <= 0) return;
-    MoveDown(page, place.bottom, growth);
+    MoveControlsBelow(page, place.bottom, 0, growth);
     place.bottom += growth;
     Place(control, place);
-}
-
-bool IsTextWhole(HWND control) {
-    RECT area{};
-    GetClientRect(control, &area);
-    if (IsOneLine(control)) return TextSize(control, 0, DT_SINGLELINE).cx <= area.right;
-    return HeightInLines(control) <= area.bottom;
 }
 
 void WholeTextTips::Add(HWND page, std::span<const int> ids) {

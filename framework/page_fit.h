@@ -21,9 +21,6 @@ void AlignBehindLabels(HWND page, std::span<const int> ids);
 // Gives a text that is broken into lines the height that it needs, as far as what is below it can move down.
 void GrowDown(HWND page, int id);
 
-// Whether the static's text is shown without dots: on one line or, with any other style, broken into lines.
-[[nodiscard]] bool IsTextWhole(HWND control);
-
 // Tooltips that show the whole of those texts of a page that are cut, while the pointer rests on them.
 class WholeTextTips {
   public:

@@ -13,17 +13,7 @@ namespace {
 int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED) return 0;
     FitSheetToScreen(sheet);
-    RECT own{};
-    RECT parent{};
-    GetWindowRect(sheet, &own);
-    const HWND owner = GetWindow(sheet, GW_OWNER);
-    const bool hasOwner = owner != nullptr && GetWindowRect(owner, &parent);
-    const LONG width = own.right - own.left;
-    const LONG height = own.bottom - own.top;
-    const POINT corner =
-        CentredPosition(width, height, hasOwner ? &parent : nullptr, ce::GetSystemMetrics(SM_CXSCREEN),
-                        ce::GetSystemMetrics(SM_CYSCREEN));
-    MoveWindow(sheet, corner.x, corner.y, width, height, TRUE);
+    CentreOn(sheet, GetWindow(sheet, GW_OWNER));
     return 0;
 }
 
