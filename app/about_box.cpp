@@ -1,6 +1,7 @@
 #include "app/about_box.h"
 
 #include <cwchar>
+#include <utility>
 
 #include "app/memory_lines.h"
 #include "app/uninstall.h"
@@ -64,11 +65,6 @@ AboutBox::AboutBox(WindowObject* parentObject)
     OnCommand(BUTTON_UNINSTALL, this, &AboutBox::OnUninstall);
 }
 
-AboutBox::~AboutBox() {
-    DeleteObject(titleFont_);
-    if (smallFont_ != nullptr) DeleteObject(smallFont_);
-}
-
 void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
     makerKey_ = maker;
     productKey_ = product;
@@ -77,7 +73,7 @@ void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
 LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     ShowStrings();
     if (productKey_.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
-    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_),
+    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_.Get()),
                         TRUE);
     ShowMemory();
     KeepTitleLineFree(Handle());
@@ -119,12 +115,11 @@ void AboutBox::ShowMemory() {
 // Large figures can be wider than the box: the lines' font then shrinks by a pixel until they fit.
 void AboutBox::ShrinkMemoryLines() {
     for (int step = 0; step < MostPixelsSmaller && !ShowsWholeMemoryLines(Handle()); ++step) {
-        const HFONT smaller = CreateSmallerFont(DialogItem(*this, STATIC_PROGRAM_MEMORY));
-        if (smaller == nullptr) return;
+        UniqueFont smaller(CreateSmallerFont(DialogItem(*this, STATIC_PROGRAM_MEMORY)));
+        if (!smaller) return;
         for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
-            SendDlgItemMessageW(Handle(), id, WM_SETFONT, reinterpret_cast<WPARAM>(smaller), TRUE);
-        if (smallFont_ != nullptr) DeleteObject(smallFont_);
-        smallFont_ = smaller;
+            SendDlgItemMessageW(Handle(), id, WM_SETFONT, reinterpret_cast<WPARAM>(smaller.Get()), TRUE);
+        smallFont_ = std::move(smaller);
     }
 }
 

@@ -5,11 +5,11 @@
 #include <string>
 
 #include "framework/dialog.h"
+#include "platform/handles.h"
 
 class AboutBox : public Dialog {
   public:
     explicit AboutBox(WindowObject* parent);
-    ~AboutBox() override;
 
     // The registry keys of the maker and the product; without a product key the Uninstall button is hidden.
     void SetRegistryKeys(const wchar_t* maker, const wchar_t* product);
@@ -28,7 +28,7 @@ class AboutBox : public Dialog {
 
     std::wstring makerKey_;
     std::wstring productKey_;
-    HFONT titleFont_;
+    UniqueFont titleFont_;
     // The memory lines' font where the template's is too large for them.
-    HFONT smallFont_ = nullptr;
+    UniqueFont smallFont_;
 };

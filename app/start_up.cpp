@@ -4,6 +4,7 @@
 
 #include "app/product.h"
 #include "base/registry_key.h"
+#include "platform/handles.h"
 #include "platform/windows_ce.h"
 #include "search/text_conversion.h"
 
@@ -13,11 +14,8 @@ constexpr int PocketPcScreenWidth = 240;
 constexpr int PocketPcScreenHeight = 320;
 
 bool ShellHasInputPanel() {
-    const HMODULE shell = ce::LoadLibraryW(L"aygshell.dll");
-    if (shell == nullptr) return false;
-    const bool found = ce::GetProcAddressW(shell, L"SHSipInfo") != nullptr;
-    ce::FreeLibrary(shell);
-    return found;
+    const UniqueLibrary shell(ce::LoadLibraryW(L"aygshell.dll"));
+    return shell && ce::GetProcAddressW(shell.Get(), L"SHSipInfo") != nullptr;
 }
 
 // For a system that is not Japanese: with the library, text is searched for as Shift-JIS; without it, only
@@ -89,9 +87,9 @@ void DecideLanguage(ProgramContext& context) {
 }
 
 void ReleaseConversionLibrary(ProgramContext& context) {
-    if (context.conversionLibrary == nullptr) return;
+    const UniqueLibrary library(context.conversionLibrary);
+    if (!library) return;
     UseConversionLibrary(nullptr, nullptr);
-    ce::FreeLibrary(context.conversionLibrary);
     context.conversionLibrary = nullptr;
 }
 

@@ -1,14 +1,13 @@
 #include "app/uninstall.h"
 
+#include "platform/handles.h"
+
 bool HasSubKey(HKEY root, const wchar_t* path) {
-    HKEY key = nullptr;
-    if (ce::RegOpenKeyExW(root, path, 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
+    UniqueKey key;
+    if (ce::RegOpenKeyExW(root, path, 0, KEY_READ, key.Receive()) != ERROR_SUCCESS) return false;
     wchar_t name[MAX_PATH];
     DWORD length = MAX_PATH;
-    const bool found =
-        RegEnumKeyExW(key, 0, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
-    RegCloseKey(key);
-    return found;
+    return RegEnumKeyExW(key.Get(), 0, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
 }
 
 LONG DeleteRegistryKey(HKEY root, const wchar_t* path) {

@@ -29,10 +29,6 @@ FolderBrowseDialog::FolderBrowseDialog(WindowObject* parentObject, const wchar_t
     OnCommand(IDOK, this, &FolderBrowseDialog::OnOk);
 }
 
-FolderBrowseDialog::~FolderBrowseDialog() {
-    if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
-}
-
 LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
     chosenPath_.reset();
     SetWindowTextW(Handle(), caption_);
@@ -78,15 +74,13 @@ void FolderBrowseDialog::StretchTree() {
 }
 
 void FolderBrowseDialog::LoadImages() {
-    if (folderImages_ != nullptr) ImageList_Destroy(folderImages_);
-    folderImages_ = ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5);
+    folderImages_.Reset(ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5));
     for (const int id : {RootIcon(), ICON_FOLDER, ICON_OPEN_FOLDER}) {
-        const auto icon = static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id), IMAGE_ICON,
-                                                        ImageSize, ImageSize, LR_DEFAULTCOLOR));
-        ImageList_ReplaceIcon(folderImages_, -1, icon);
-        if (icon != nullptr) DestroyIcon(icon);
+        const UniqueIcon icon(static_cast<HICON>(LoadImageW(
+            Context().instance, MAKEINTRESOURCEW(id), IMAGE_ICON, ImageSize, ImageSize, LR_DEFAULTCOLOR)));
+        ImageList_ReplaceIcon(folderImages_.Get(), -1, icon.Get());
     }
-    SendMessageW(folderTree_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages_));
+    SendMessageW(folderTree_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages_.Get()));
 }
 
 // The whole tree is read at once, so that browsing it does not touch the file system.

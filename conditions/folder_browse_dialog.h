@@ -5,12 +5,12 @@
 #include <memory>
 
 #include "framework/dialog.h"
+#include "platform/handles.h"
 
 class FolderBrowseDialog : public Dialog {
   public:
     // The caption is not copied and must outlive the dialog.
     FolderBrowseDialog(WindowObject* parent, const wchar_t* caption);
-    ~FolderBrowseDialog() override;
 
     // The result of the last run: null unless it ended with OK and a folder selected. A null-terminated path
     // of at most 259 units that begins with "\" and does not end in one, unless it is the root itself.
@@ -33,5 +33,5 @@ class FolderBrowseDialog : public Dialog {
     std::unique_ptr<wchar_t[]> chosenPath_;
     HWND folderTree_ = nullptr;
     std::unique_ptr<WindowObject> treeKeys_;
-    HIMAGELIST folderImages_ = nullptr;
+    UniqueImageList folderImages_;
 };

@@ -38,20 +38,18 @@ void ReadText(HWND tree, HTREEITEM treeItem, wchar_t (&text)[MAX_PATH]) {
 }  // namespace
 
 void FillFolderItem(HWND tree, HTREEITEM item, const wchar_t* folder) {
-    wchar_t path[MAX_PATH];
-    if (!JoinPath(path, folder, L"*.*")) return;
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = ce::FindFirstFileW(path, &entry);
-    if (search == INVALID_HANDLE_VALUE) return;
+    FolderEntries entries(folder, L"*.*");
+    if (!entries.HasEntry()) return;
     do {
+        const WIN32_FIND_DATAW& entry = entries.Entry();
         if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
             continue;
         const HTREEITEM child = InsertItem(tree, item, entry.cFileName, FolderImage, OpenFolderImage);
+        wchar_t path[MAX_PATH];
         // QUIRK: links-are-not-entered. The target is elsewhere in the tree, or the link makes a loop.
         if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
             FillFolderItem(tree, child, path);
-    } while (ce::FindNextFileW(search, &entry));
-    ce::FindClose(search);
+    } while (entries.MoveOn());
 }
 
 HTREEITEM FillFolderTree(HWND tree, const wchar_t* rootName) {

@@ -43,10 +43,6 @@ ConfirmationDialog::ConfirmationDialog(WindowObject* owner, const Question& ques
     OnCommand(IDCANCEL, this, &ConfirmationDialog::OnAnswer, IDCANCEL);
 }
 
-ConfirmationDialog::~ConfirmationDialog() {
-    FreeFileIcons();
-}
-
 ConfirmResult ConfirmationDialog::Ask() {
     answered_ = false;
     const INT_PTR result = RunModal();
@@ -61,27 +57,19 @@ LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
 }
 
 LRESULT ConfirmationDialog::OnFill(EventArguments&) {
-    FreeFileIcons();
     HICON before[FileIcons];
     for (int i = 0; i < FileIcons; ++i)
         before[i] = IconIn(Handle(), FileIconStatics[i]);
     question_.Fill(Handle());
     for (int i = 0; i < FileIcons; ++i) {
         const HICON now = IconIn(Handle(), FileIconStatics[i]);
-        fileIcons_[i] = now != before[i] ? now : nullptr;
+        // A static control does not free its icon, and the shell hands out copies.
+        fileIcons_[i].Reset(now != before[i] ? now : nullptr);
     }
     KeepTitleLineFree(Handle());
     GrowToText(Handle(), STATIC_QUESTION);
     FitToScreen(Handle(), STATIC_QUESTION);
     return 0;
-}
-
-// A static control does not free its icon, and the shell hands out copies.
-void ConfirmationDialog::FreeFileIcons() {
-    for (HICON& icon : fileIcons_) {
-        if (icon != nullptr) DestroyIcon(icon);
-        icon = nullptr;
-    }
 }
 
 void ConfirmationDialog::End(INT_PTR result) {

@@ -5,12 +5,12 @@
 
 #include "fileops/question.h"
 #include "framework/dialog.h"
+#include "platform/handles.h"
 
 class ConfirmationDialog : public Dialog {
   public:
     // The owner's window owns the dialog.
     ConfirmationDialog(WindowObject* owner, const Question& question);
-    ~ConfirmationDialog() override;
 
     // The window that is enabled again after the answer, instead of the owner.
     void LeaveInputTo(HWND window) { successor_ = window; }
@@ -28,13 +28,12 @@ class ConfirmationDialog : public Dialog {
 
     LRESULT OnFill(EventArguments& arguments);
     LRESULT OnAnswer(EventArguments& arguments);
-    void FreeFileIcons();
 
     Question question_;
     bool answered_ = false;
     HWND successor_ = nullptr;
     // The shell's icons of the existing and the new file; null where the template's own icon is shown.
-    HICON fileIcons_[FileIcons] = {};
+    UniqueIcon fileIcons_[FileIcons];
 };
 
 // Builds the question, asks it and destroys it.

@@ -59,7 +59,6 @@ Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
 Dialog::~Dialog() {
     Dialog::End(ResultCancel);
     DestroyMenuBar();
-    DeleteObject(font_);
     const HWND window = Handle();
     Detach();
     if (window != nullptr && IsWindow(window)) DestroyWindow(window);
@@ -287,11 +286,9 @@ void Dialog::Centre() {
 
 LRESULT Dialog::OnWmPaint(MessageRecord& record) {
     if (DialogItem(*this, STATIC_TITLE) == nullptr) return DefaultProcessing(record);
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(Handle(), &paint);
+    const PaintContext context(Handle());
     const POINT line[] = {{0, TitleLineY}, {ce::GetSystemMetrics(SM_CXSCREEN), TitleLineY}};
-    Polyline(context, line, static_cast<int>(std::size(line)));
-    EndPaint(Handle(), &paint);
+    Polyline(context.Get(), line, static_cast<int>(std::size(line)));
     return 1;
 }
 

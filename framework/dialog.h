@@ -4,6 +4,7 @@
 // on a Pocket PC, with a small menu bar of Cancel and OK, and its title line is drawn.
 
 #include "framework/container_window.h"
+#include "platform/handles.h"
 
 // Buttons on a dialog's menu bar.
 enum class DialogBar { None = 0, Cancel = 1, CancelAndOk = 2 };
@@ -38,7 +39,7 @@ class Dialog : public ContainerWindow {
 
     [[nodiscard]] HWND MenuBar() const { return menuBar_; }
     // For what a dialog draws or creates itself; a template brings its own.
-    [[nodiscard]] HFONT Font() const { return font_; }
+    [[nodiscard]] HFONT Font() const { return font_.Get(); }
 
     // A dialog procedure's answer for what nobody handles.
     LRESULT DefaultProcessing(MessageRecord& record) override;
@@ -101,7 +102,7 @@ class Dialog : public ContainerWindow {
     std::uintptr_t initArgument_;
     DWORD fullScreenFlags_;
     HWND menuBar_ = nullptr;
-    HFONT font_;
+    UniqueFont font_;
     Initialisation initialisation_;
     bool canEnd_ = false;
 };

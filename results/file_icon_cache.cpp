@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/program_context.h"
+#include "platform/handles.h"
 #include "resources/resource_ids.h"
 #include "results/file_type_table.h"
 
@@ -20,50 +21,42 @@ constexpr int ShortcutOverlay = 1;
 class ImageList {
   public:
     explicit ImageList(int imageSize)
-        : size_(imageSize), handle_(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
-    ~ImageList() { ImageList_Destroy(handle_); }
-    ImageList(const ImageList&) = delete;
-    ImageList& operator=(const ImageList&) = delete;
+        : size_(imageSize), images_(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
 
-    [[nodiscard]] HIMAGELIST Handle() const { return handle_; }
+    [[nodiscard]] HIMAGELIST Handle() const { return images_.Get(); }
 
     void LoadFixedIcons() {
-        ImageList_Remove(handle_, -1);
+        ImageList_Remove(images_.Get(), -1);
         int count = 0;
         for (const int id : FixedIcons) {
-            const auto icon = static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id),
-                                                            IMAGE_ICON, size_, size_, LR_DEFAULTCOLOR));
-            Take(icon);
+            Append(UniqueIcon(static_cast<HICON>(LoadImageW(Context().instance, MAKEINTRESOURCEW(id),
+                                                            IMAGE_ICON, size_, size_, LR_DEFAULTCOLOR))));
             // An icon that cannot be loaded leaves an empty image, so that the others keep their indexes.
             GrowTo(++count);
         }
-        ImageList_SetOverlayImage(handle_, FileIconCache::ShortcutMarkImage, ShortcutOverlay);
+        ImageList_SetOverlayImage(images_.Get(), FileIconCache::ShortcutMarkImage, ShortcutOverlay);
     }
 
-    // Appends the icon, frees it and returns its index.
-    int Take(HICON icon) {
-        const int index = ImageList_ReplaceIcon(handle_, -1, icon);
-        if (icon != nullptr) DestroyIcon(icon);
-        return index;
-    }
+    // Appends the icon and returns its index.
+    int Append(const UniqueIcon& icon) { return ImageList_ReplaceIcon(images_.Get(), -1, icon.Get()); }
 
-    [[nodiscard]] int Count() const { return ImageList_GetImageCount(handle_); }
+    [[nodiscard]] int Count() const { return ImageList_GetImageCount(images_.Get()); }
 
     // Appends empty images up to this many.
     void GrowTo(int count) {
-        if (Count() < count) ImageList_SetImageCount(handle_, static_cast<UINT>(count));
+        if (Count() < count) ImageList_SetImageCount(images_.Get(), static_cast<UINT>(count));
     }
 
     // Appends the shell's icon of a file.
-    int TakeShellIcon(const wchar_t* path, DWORD attributes, UINT flags) {
+    int AppendShellIcon(const wchar_t* path, DWORD attributes, UINT flags) {
         SHFILEINFOW info{};
         ce::SHGetFileInfo(path, attributes, &info, sizeof info, SHGFI_ICON | SHGFI_USEFILEATTRIBUTES | flags);
-        return Take(info.hIcon);
+        return Append(UniqueIcon(info.hIcon));
     }
 
   private:
     int size_;
-    HIMAGELIST handle_;
+    UniqueImageList images_;
 };
 
 bool EndsIn(const std::wstring& path, const wchar_t* suffix) {
@@ -133,8 +126,8 @@ int FileIconCache::ImageOf(const wchar_t* path, DWORD attributes, unsigned kinds
     const std::uintptr_t known = shared->icons->Lookup(key.text.c_str());
     if (known != 0) return static_cast<int>(known);
     if ((kinds & key.kind) == 0) return key.fallback;
-    const int index = shared->large.TakeShellIcon(path, attributes, 0);
-    shared->small.TakeShellIcon(path, attributes, SHGFI_SMALLICON);
+    const int index = shared->large.AppendShellIcon(path, attributes, 0);
+    shared->small.AppendShellIcon(path, attributes, SHGFI_SMALLICON);
     // If the shell has only one of the two, the lists still stay in step.
     shared->large.GrowTo(shared->small.Count());
     shared->small.GrowTo(shared->large.Count());

@@ -3,8 +3,10 @@
 #include <prsht.h>
 
 #include "framework/control.h"
+#include "framework/layout.h"
 #include "framework/page_fit.h"
 #include "framework/property_set.h"
+#include "platform/handles.h"
 #include "resources/resource_ids.h"
 
 FilePage::FilePage(WindowObject* parentObject, const wchar_t* title, const wchar_t* templateToUse)
@@ -48,19 +50,17 @@ LRESULT FilePage::OnDrawName(EventArguments& arguments) {
     const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(arguments.argument);
     wchar_t name[MAX_PATH] = L"";
     const int length = GetWindowTextW(item.hwndItem, name, MAX_PATH);
-    const auto letters = reinterpret_cast<HGDIOBJ>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = letters != nullptr ? SelectObject(item.hDC, letters) : nullptr;
+    const SelectedObject font(item.hDC, FontOf(item.hwndItem));
     RECT area = item.rcItem;
     FillRect(item.hDC, &area, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     DrawTextW(item.hDC, name, length, &area, DT_WORDBREAK | DT_EDITCONTROL | DT_END_ELLIPSIS | DT_NOPREFIX);
-    if (before != nullptr) SelectObject(item.hDC, before);
     return 0;
 }
 
 // A static control does not free its icon.
 LRESULT FilePage::OnWmDestroy(MessageRecord& record) {
-    const LRESULT icon = SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, 0);
-    if (icon != 0) DestroyIcon(reinterpret_cast<HICON>(icon));
+    const UniqueIcon icon(
+        reinterpret_cast<HICON>(SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, 0)));
     tips_.Remove();
     return PropertySheetPage::OnWmDestroy(record);
 }

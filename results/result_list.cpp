@@ -64,18 +64,14 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
     OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemCharacter);
 }
 
-ResultList::~ResultList() {
-    if (font_ != nullptr) DeleteObject(font_);
-}
-
 // The list's own font is that of the desktop's icons, which on a Japanese system may be a fixed-width one.
 void ResultList::UseDialogFont() {
     LOGFONTW description{};
     if (!SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof description, &description, 0)) return;
     std::wcscpy(description.lfFaceName, L"Tahoma");
     description.lfCharSet = DEFAULT_CHARSET;
-    font_ = CreateFontIndirectW(&description);
-    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE);
+    font_.Reset(CreateFontIndirectW(&description));
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
 }
 
 void ResultList::LoadIcons() {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "framework/control.h"
+#include "platform/handles.h"
 #include "results/file_icon_cache.h"
 #include "results/name_edit.h"
 #include "results/refresh_pace.h"
@@ -17,7 +18,6 @@
 class ResultList : public ListView, public MatchSink {
   public:
     ResultList(WindowObject* parent, PropertySet& properties);
-    ~ResultList() override;
 
     // Loads the icons and type names before the first row, which would otherwise load them.
     void LoadIcons();
@@ -101,7 +101,7 @@ class ResultList : public ListView, public MatchSink {
     std::optional<LPARAM> editedNumber_;  // of the row whose name is being edited
     EditingClick editingClick_ = EditingClick::None;
     bool editingByCommand_ = false;
-    HFONT font_ = nullptr;
+    UniqueFont font_;
     bool filling_ = false;
     bool rowsPending_ = false;
     bool hasRows_ = false;  // added since the last clear

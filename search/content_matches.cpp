@@ -51,27 +51,22 @@ bool ContentMatches(const SearchConditions& conditions, const wchar_t* fullPath,
     return source.IsOpen() && FileContains(source, conditions);
 }
 
-FileByteSource::FileByteSource(const wchar_t* path)
-    : file_(ce::OpenForReading(path)), ended_(file_ == nullptr) {
+FileByteSource::FileByteSource(const wchar_t* path) : file_(ce::OpenForReading(path)), ended_(!file_) {
     // Blocks are read past the C library's buffer, so that it need not make one.
-    if (file_ != nullptr) std::setvbuf(file_, nullptr, _IONBF, 0);
-}
-
-FileByteSource::~FileByteSource() {
-    if (file_ != nullptr) std::fclose(file_);
+    if (file_) std::setvbuf(file_.Get(), nullptr, _IONBF, 0);
 }
 
 // A short read is the last one: another read, only to learn that nothing is left, would be noticeable with
 // small files.
 std::size_t FileByteSource::Fill(unsigned char* block, std::size_t size) {
     if (ended_) return 0;
-    const std::size_t count = ce::ReadBlock(file_, block, size);
+    const std::size_t count = ce::ReadBlock(file_.Get(), block, size);
     ended_ = count < size;
     return count;
 }
 
 void FileByteSource::Rewind() {
-    if (file_ == nullptr) return;
-    std::rewind(file_);
+    if (!file_) return;
+    std::rewind(file_.Get());
     ended_ = false;
 }

@@ -2,9 +2,7 @@
 
 // The last and most expensive test of an entry: whether the file holds the content string.
 
-#include <cstdio>
-
-#include "platform/system_types.h"
+#include "platform/handles.h"
 #include "search/line_readers.h"
 #include "search/search_conditions.h"
 
@@ -17,12 +15,9 @@
 class FileByteSource final : public ByteSource {
   public:
     explicit FileByteSource(const wchar_t* path);
-    FileByteSource(const FileByteSource&) = delete;
-    FileByteSource& operator=(const FileByteSource&) = delete;
-    ~FileByteSource() override;
 
     // False if the file could not be opened; it then has no bytes.
-    [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
+    [[nodiscard]] bool IsOpen() const { return static_cast<bool>(file_); }
 
     std::size_t Fill(unsigned char* block, std::size_t size) override;
 
@@ -30,6 +25,6 @@ class FileByteSource final : public ByteSource {
     void Rewind();
 
   private:
-    std::FILE* file_;
+    UniqueStream file_;
     bool ended_;
 };
