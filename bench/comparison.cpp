@@ -2,18 +2,22 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
 
 #include "platform/system_types.h"
 
 namespace {
 
-double MillisecondsOf(const std::function<void()>& work, const std::function<void()>& tidyUp) {
-    const double begin = MillisecondsNow();
-    work();
-    const double end = MillisecondsNow();
-    tidyUp();
-    return end - begin;
+// The middle of the sorted numbers, and the bounds of their middle half.
+struct Spread {
+    double low;
+    double middle;
+    double high;
+};
+
+Spread SpreadOf(std::vector<double> numbers) {
+    std::sort(numbers.begin(), numbers.end());
+    const std::size_t quarter = numbers.size() / 4;
+    return {numbers[quarter], numbers[numbers.size() / 2], numbers[numbers.size() - 1 - quarter]};
 }
 
 }  // namespace
@@ -26,28 +30,49 @@ double MillisecondsNow() {
     return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-void PrintHeading() {
-    std::printf("%-52s %10s %10s %7s %8s\n", "program / bare", "best", "best", "ratio", "medians");
+double MillisecondsOf(const std::function<void()>& work) {
+    const double begin = MillisecondsNow();
+    work();
+    return MillisecondsNow() - begin;
 }
 
-void PrintLine(const std::string& name, double ours, double bare) {
-    std::printf("%-52s %10.1f %10.1f %7.2f\n", name.c_str(), ours, bare, ours / bare);
-    std::fflush(stdout);
+void Pairs::Add(double ours, double bare) {
+    pairs_.push_back({ours, bare});
 }
 
-void MeasureAndPrint(const Comparison& comparison, int runs) {
-    MillisecondsOf(comparison.bare, comparison.tidyUp);
-    MillisecondsOf(comparison.ours, comparison.tidyUp);
+void Pairs::Print(const std::string& name, double goal) const {
+    if (pairs_.empty()) return;
     std::vector<double> ours;
     std::vector<double> bare;
-    for (int run = 0; run < runs; ++run) {
-        bare.push_back(MillisecondsOf(comparison.bare, comparison.tidyUp));
-        ours.push_back(MillisecondsOf(comparison.ours, comparison.tidyUp));
+    std::vector<double> ratios;
+    for (const Pair& pair : pairs_) {
+        ours.push_back(pair.ours);
+        bare.push_back(pair.bare);
+        ratios.push_back(pair.ours / pair.bare);
     }
-    std::sort(ours.begin(), ours.end());
-    std::sort(bare.begin(), bare.end());
-    const std::size_t middle = ours.size() / 2;
-    std::printf("%-52s %10.1f %10.1f %7.2f %8.2f\n", comparison.name.c_str(), ours[0], bare[0],
-                ours[0] / bare[0], ours[middle] / bare[middle]);
+    const Spread ratio = SpreadOf(ratios);
+    std::printf("%-54s %9.1f %9.1f %6.2f  %.2f..%.2f", name.c_str(), SpreadOf(ours).middle,
+                SpreadOf(bare).middle, ratio.middle, ratio.low, ratio.high);
+    if (goal > 0) std::printf("  %5.2f%s", goal, ratio.middle > goal ? " missed" : "");
+    std::printf("\n");
     std::fflush(stdout);
+}
+
+void PrintHeading() {
+    std::printf("%-54s %9s %9s %6s  %-10s  %5s\n", "medians, in milliseconds unless said otherwise",
+                "program", "bare", "ratio", "spread", "reach");
+}
+
+void Compare(const std::string& name, double goal, int turns, const Side& ours, const Side& bare) {
+    static_cast<void>(ours());
+    static_cast<void>(bare());
+    Pairs pairs;
+    double took = 0;
+    double tookBarely = 0;
+    for (int turn = 0; turn < turns; ++turn) {
+        TakeTurn(
+            turn, [&] { took = ours(); }, [&] { tookBarely = bare(); });
+        pairs.Add(took, tookBarely);
+    }
+    pairs.Print(name, goal);
 }

@@ -75,6 +75,12 @@ void CountKinds(const std::wstring& folder, std::size_t& types, std::size_t& ico
     icons = iconSet.size();
 }
 
+void PrintCounts(const char* name, int questions, std::size_t kinds) {
+    Pairs counts;
+    counts.Add(questions, static_cast<double>(kinds));
+    counts.Print(name, 1);
+}
+
 }  // namespace
 
 bool CompareShellQuestions(const BenchTree& tree) {
@@ -90,11 +96,9 @@ bool CompareShellQuestions(const BenchTree& tree) {
     std::size_t types = 0;
     std::size_t icons = 0;
     CountKinds(tree.Kinds(), types, icons);
-    PrintLine("type names asked of the shell / extensions", asked.typeNames, static_cast<double>(types));
-    PrintLine("large icons asked / types, applications, icon files", asked.largeIcons,
-              static_cast<double>(icons));
-    PrintLine("small icons asked / types, applications, icon files", asked.smallIcons,
-              static_cast<double>(icons));
+    PrintCounts("type names asked of the shell / extensions", asked.typeNames, types);
+    PrintCounts("large icons asked / types, applications, icon files", asked.largeIcons, icons);
+    PrintCounts("small icons asked / types, applications, icon files", asked.smallIcons, icons);
     const auto isRight = [](int questions, std::size_t kinds) {
         return static_cast<std::size_t>(questions) == kinds;
     };

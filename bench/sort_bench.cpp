@@ -1,99 +1,75 @@
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include <algorithm>
 #include <cstdio>
-#include <cwchar>
 #include <numeric>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "bench/bench_list.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
-#include "results/result_sorting.h"
+#include "bench/ready_rows.h"
+#include "bench/shipped_program.h"
 
 namespace {
 
-constexpr int SortedRows = 20000;
+constexpr int NameColumn = 0;
+constexpr int ModifiedColumn = 4;
+constexpr const char* ColumnNames[ResultColumnCount] = {"name", "folder", "size", "type", "modified"};
 
-struct Column {
-    int number;
-    const char* name;
+// One number for each row, in two orders that have nothing to do with each other: each sort finds what the
+// other has left.
+class MixedNumbers {
+  public:
+    explicit MixedNumbers(std::size_t count) : now_(count), next_(count) {
+        std::mt19937 random(7);
+        for (std::vector<int>* numbers : {&now_, &next_}) {
+            std::iota(numbers->begin(), numbers->end(), 0);
+            std::shuffle(numbers->begin(), numbers->end(), random);
+        }
+    }
+    const std::vector<int>& Next() {
+        std::swap(now_, next_);
+        return now_;
+    }
+
+  private:
+    std::vector<int> now_;
+    std::vector<int> next_;
 };
-constexpr Column Columns[] = {{0, "name"}, {1, "folder"}, {2, "size"}, {3, "type"}, {4, "modified"}};
 
-// Rows as a search of a full card would leave them: many folders, few types, all names and times different.
-void AddRandomRows(ResultList& list) {
-    std::mt19937 random(20020715);
-    SendMessageW(list.Handle(), WM_SETREDRAW, FALSE, 0);
-    for (int row = 0; row < SortedRows; ++row) {
-        WIN32_FIND_DATAW entry = {};
-        entry.dwFileAttributes = FILE_ATTRIBUTE_ARCHIVE;
-        entry.nFileSizeLow = static_cast<DWORD>(random() >> (random() % 31));
-        entry.ftLastWriteTime = {random(), 0x01C00000};
-        std::swprintf(entry.cFileName, MAX_PATH, L"file %08x.%ls", random(), row % 3 == 0 ? L"txt" : L"dat");
-        const std::wstring folder = L"\\folder " + std::to_wstring(random() % 400);
-        list.AddMatch((folder + L"\\" + entry.cFileName).c_str(), entry);
-    }
-    SendMessageW(list.Handle(), WM_SETREDRAW, TRUE, 0);
+// By another column first, so that the rows are never in the order that is asked for, or its reverse.
+double SortInProgram(ShippedProgram& program, int column) {
+    program.Raise();
+    program.ClickHeading(column == NameColumn ? ModifiedColumn : NameColumn);
+    return program.ClickHeading(column);
 }
 
-int CALLBACK CompareNumbers(LPARAM first, LPARAM second, LPARAM parameter) {
-    const auto& numbers = *reinterpret_cast<const std::vector<int>*>(parameter);
-    const int one = numbers[static_cast<std::size_t>(first)];
-    const int other = numbers[static_cast<std::size_t>(second)];
-    return one < other ? -1 : one > other ? 1 : 0;
-}
-
-// One number for each row.
-std::vector<int> Numbers() {
-    std::vector<int> numbers(SortedRows);
-    std::iota(numbers.begin(), numbers.end(), 0);
-    return numbers;
-}
-
-bool IsInOrderOfFinding(HWND list) {
-    for (int row = 0; row < SortedRows; ++row) {
-        LVITEMW item = {};
-        item.mask = LVIF_PARAM;
-        item.iItem = row;
-        SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        if (item.lParam != row) return false;
-    }
-    return true;
+double SortPlainly(PlainList& list, const std::vector<int>& numbers) {
+    list.Raise();
+    return MillisecondsOf([&] { list.Sort(numbers); });
 }
 
 }  // namespace
 
-bool CompareSorting(int runs) {
-    BenchList bench;
-    ResultList& list = bench.List();
-    AddRandomRows(list);
-    // Each side sorts what the other one has left, so neither may leave an order that the other likes.
-    const auto sortBy = [&](const std::vector<int>& numbers) {
-        SendMessageW(list.Handle(), LVM_SORTITEMS, reinterpret_cast<WPARAM>(&numbers),
-                     reinterpret_cast<LPARAM>(&CompareNumbers));
-    };
-    std::mt19937 random(7);
-    std::vector<int> mixed = Numbers();
-    std::vector<int> mixedOtherwise = mixed;
-    std::shuffle(mixed.begin(), mixed.end(), random);
-    std::shuffle(mixedOtherwise.begin(), mixedOtherwise.end(), random);
-    // Rows that are all equal stay as they are.
-    const auto sortByIntegers = [&] {
-        std::swap(mixed, mixedOtherwise);
-        sortBy(mixed);
-    };
-    for (const Column& column : Columns) {
-        MeasureAndPrint({std::string("sort 20,000 rows by ") + column.name + " / by an integer",
-                         [&] { SortRows(list.Handle(), column.number, false); }, sortByIntegers},
-                        runs);
+bool CompareSorting(const BenchTree& tree, int files, double goal, int turns) {
+    const std::vector<ReadyRow> rows = RowsBelow(tree.Rows(files));
+    ShippedProgram program;
+    program.Ask(tree.Rows(files));
+    program.Find();
+    PlainList list(program.ListPlace());
+    list.Insert(rows);
+    if (rows.empty() || program.Rows() != list.Rows()) {
+        std::printf("the lists have %d and %d rows\n", program.Rows(), list.Rows());
+        return false;
     }
-    sortBy(Numbers());
-    if (list.RowCount() == SortedRows && IsInOrderOfFinding(list.Handle())) return true;
-    std::printf("the sorted list has lost rows\n");
-    return false;
+    MixedNumbers numbers(rows.size());
+    for (int column = 0; column < ResultColumnCount; ++column) {
+        Compare(
+            "sort of " + std::to_string(files) + " rows by " + ColumnNames[column] + " / by an integer", goal,
+            turns, [&] { return SortInProgram(program, column); },
+            [&] { return SortPlainly(list, numbers.Next()); });
+    }
+    const bool complete = program.Rows() == list.Rows();
+    program.Close();
+    return complete;
 }

@@ -1,42 +1,53 @@
 #include <cstdio>
 
-#include "bench/bench_search.h"
 #include "bench/benches.h"
 #include "bench/comparison.h"
+#include "bench/shipped_program.h"
 
 namespace {
 
-AskedQuery OfTwoExtensions(const std::wstring& folder) {
-    AskedQuery query = SearchBelow(folder);
-    query.typeFilter = true;
-    query.extensions = L".nosuch.neither";
-    return query;
-}
+constexpr wchar_t NoSuchName[] = L"no such name";
+
+struct Walk {
+    double find;
+    double listing;
+    double dialog;
+};
 
 }  // namespace
 
-bool CompareWalk(const char* what, const std::wstring& folder, int runs) {
-    const std::string where = std::string("walk of ") + what;
-    CountingSink sink;
-    SilentProgress progress;
-    SearchConditions conditions;
-    RunSearch(conditions, SearchBelow(folder), sink, progress);
+// A walk is what the search takes above one of an empty folder, whose time is that of the dialog.
+bool CompareWalk(const char* what, const BenchTree& tree, const std::wstring& folder, int turns) {
     const std::size_t entries = CountBarely(folder);
-    if (sink.matches != entries || entries == 0) {
-        std::printf("the %s found %zu of %zu entries\n", where.c_str(), sink.matches, entries);
+    ShippedProgram program;
+    program.Ask(folder);
+    program.Find();
+    if (entries == 0 || program.Rows() != static_cast<int>(entries)) {
+        std::printf("the walk of %s found %d of %zu entries\n", what, program.Rows(), entries);
         return false;
     }
-    std::printf("%s: %zu entries in %zu folders\n", where.c_str(), entries, progress.folders);
-    const auto compare = [&](const char* by, const AskedQuery& query) {
-        MeasureAndPrint({where + ", " + by, [&] { RunSearch(conditions, query, sink, progress); },
-                         [&] { static_cast<void>(CountBarely(folder)); }},
-                        runs);
+    const auto find = [&](const std::wstring& where) {
+        program.Ask(where, NoSuchName);
+        return program.Find();
     };
-    AskedQuery query = SearchBelow(folder);
-    query.name = L"no such name";
-    compare("by a name", query);
-    query.name = L"no*such?name";
-    compare("by a wildcard", query);
-    compare("by two extensions", OfTwoExtensions(folder));
-    return sink.matches == 0;
+    find(folder);
+    Pairs whole, walks;
+    for (int turn = 0; turn < turns; ++turn) {
+        Walk took = {};
+        TakeTurn(
+            turn,
+            [&] {
+                took.dialog = find(tree.Empty());
+                took.find = find(folder);
+            },
+            [&] { took.listing = MillisecondsOf([&] { static_cast<void>(CountBarely(folder)); }); });
+        walks.Add(took.find - took.dialog, took.listing);
+        whole.Add(took.find, took.listing);
+    }
+    const std::string text = std::to_string(entries) + " entries" + what;
+    walks.Print("walk of " + text + ", without the dialog", 1.1);
+    whole.Print("the whole find, with the dialog", 0);
+    const bool foundNothing = program.Rows() == 0;
+    program.Close();
+    return foundNothing;
 }
