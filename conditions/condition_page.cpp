@@ -1,5 +1,7 @@
 #include "conditions/condition_page.h"
 
+#include "platform/dropped_list.h"
+
 LRESULT ConditionPage::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
     SetUpControls();
@@ -13,6 +15,8 @@ void ConditionPage::Move(int x, int y, int width, int height) {
 }
 
 LRESULT ConditionPage::OnWmCommand(MessageRecord& record) {
+    // Other controls have other meanings for that number, and no list.
+    if (HIWORD(record.wParam) == CBN_DROPDOWN) ce::FitDroppedList(reinterpret_cast<HWND>(record.lParam));
     const bool isCancel = record.lParam == 0 && LOWORD(record.wParam) == IDCANCEL;
     return isCancel ? 0 : Dialog::OnWmCommand(record);
 }

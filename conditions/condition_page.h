@@ -31,7 +31,7 @@ class ConditionPage : public Dialog {
     // Widens the fields; the templates are made for the narrowest screen.
     virtual void LayOut() {}
     LRESULT OnInitDialog(MessageRecord& record) override;
-    // A page cannot be cancelled.
+    // A page cannot be cancelled, and a list that it drops shows whole entries.
     LRESULT OnWmCommand(MessageRecord& record) override;
 
     [[nodiscard]] HWND Item(int id) const { return DialogItem(*this, id); }
