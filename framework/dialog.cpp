@@ -46,9 +46,6 @@ DWORD FullScreenFlagsOf(const PropertySet& properties) {
 
 }  // namespace
 
-Dialog* Dialog::pendingModal = nullptr;
-Dialog* Dialog::pendingModeless = nullptr;
-
 Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
     : ContainerWindow(parentObject, nullptr, Ownership::Wrapped),
       templateName_(properties.GetText(property::DialogTemplate)),
@@ -76,10 +73,8 @@ void Dialog::CreateModeless() {
     if (Handle() != nullptr) return;
     const DLGTEMPLATE* dialogTemplate = FindTemplate();
     if (dialogTemplate == nullptr) return;
-    pendingModeless = this;
-    const HWND created =
-        CreateDialogIndirectParamW(Context().instance, dialogTemplate, ParentHandle(), &ModelessProcedure, 0);
-    pendingModeless = nullptr;
+    const HWND created = CreateDialogIndirectParamW(Context().instance, dialogTemplate, ParentHandle(),
+                                                    &ModelessProcedure, reinterpret_cast<LPARAM>(this));
     // A dialog that its messages do not find would answer nobody.
     if (created != nullptr && ObjectOf(created) == nullptr) DestroyWindow(created);
 }
@@ -94,11 +89,8 @@ INT_PTR Dialog::RunModal() {
     if (Handle() != nullptr) return -1;
     const DLGTEMPLATE* dialogTemplate = FindTemplate();
     if (dialogTemplate == nullptr) return -1;
-    pendingModal = this;
-    const INT_PTR result =
-        DialogBoxIndirectParamW(Context().instance, dialogTemplate, ParentHandle(), &ModalProcedure, 0);
-    pendingModal = nullptr;
-    return result;
+    return DialogBoxIndirectParamW(Context().instance, dialogTemplate, ParentHandle(), &ModalProcedure,
+                                   reinterpret_cast<LPARAM>(this));
 }
 
 void Dialog::End(INT_PTR result) {
@@ -109,9 +101,9 @@ void Dialog::End(INT_PTR result) {
 }
 
 INT_PTR CALLBACK Dialog::ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG && pendingModal != nullptr) {
-        Dialog* created = pendingModal;
-        if (!TakeWindow(pendingModal, window)) {
+    if (TellsOfCreation(window, message)) {
+        auto* created = reinterpret_cast<Dialog*>(lParam);
+        if (!created->TakeWindow(window)) {
             EndDialog(window, -1);
             return 0;
         }
@@ -125,20 +117,23 @@ INT_PTR CALLBACK Dialog::ModalProcedure(HWND window, UINT message, WPARAM wParam
 }
 
 INT_PTR CALLBACK Dialog::ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG && pendingModeless != nullptr) {
-        if (!TakeWindow(pendingModeless, window)) return 0;
+    if (TellsOfCreation(window, message)) {
+        if (!reinterpret_cast<Dialog*>(lParam)->TakeWindow(window)) return 0;
     }
     const INT_PTR result = DispatchToObject(window, message, wParam, lParam);
     if (message == WM_NCDESTROY) WindowIsGone(window);
     return result;
 }
 
-bool Dialog::TakeWindow(Dialog*& pending, HWND window) {
-    Dialog* created = pending;
-    pending = nullptr;
-    created->ForgetFocus();
-    const bool found = created->Attach(window);
-    if (!found) created->Detach();
+bool Dialog::TellsOfCreation(HWND window, UINT message) {
+    return message == WM_INITDIALOG && GetWindowLongPtrW(window, DWLP_USER) == 0;
+}
+
+bool Dialog::TakeWindow(HWND window) {
+    SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
+    ForgetFocus();
+    const bool found = Attach(window);
+    if (!found) Detach();
     return found;
 }
 

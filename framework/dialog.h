@@ -61,6 +61,14 @@ class Dialog : public ContainerWindow {
     void LoseWindow() override;
     void Forget(const WindowObject* gone) override;
 
+    // Takes the window that has just been created, of which the system tells its dialog procedure before it
+    // returns the handle. False if messages could not find the object.
+    [[nodiscard]] bool TakeWindow(HWND window);
+    // Whether this is the message with which the system tells of it. Anybody can send another one.
+    [[nodiscard]] static bool TellsOfCreation(HWND window, UINT message);
+    // Hands a dialog procedure's message to the window's object; 0 if there is none.
+    static INT_PTR DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
     // The resource of the template, or null.
     [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
 
@@ -82,9 +90,6 @@ class Dialog : public ContainerWindow {
 
     static INT_PTR CALLBACK ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR CALLBACK ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static INT_PTR DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    // Gives the dialog that is being created its window; false when messages could not find it.
-    static bool TakeWindow(Dialog*& pending, HWND window);
 
     // A tooltip, another dialog or a window that is gone is none.
     [[nodiscard]] bool IsOwnControl(HWND window) const;
@@ -92,11 +97,6 @@ class Dialog : public ContainerWindow {
     void ShowIconOfOwner();
     void CreateMenuBar(DialogBar bar);
     void DestroyMenuBar();
-
-    // The object whose dialog is being created: the system calls the dialog procedure before it returns the
-    // handle.
-    static Dialog* pendingModal;
-    static Dialog* pendingModeless;
 
     const wchar_t* templateName_;
     std::uintptr_t initArgument_;

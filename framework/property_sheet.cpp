@@ -43,16 +43,12 @@ UINT CALLBACK PropertySheetPage::PageCallback(HWND, UINT, PROPSHEETPAGEW*) {
 }
 
 INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG) {
+    if (TellsOfCreation(window, message)) {
         const auto* page = reinterpret_cast<const PROPSHEETPAGEW*>(lParam);
-        auto* created = reinterpret_cast<PropertySheetPage*>(page->lParam);
         // Without its map entry the page shows its template and changes nothing.
-        if (!created->Attach(window)) created->Detach();
+        if (!reinterpret_cast<PropertySheetPage*>(page->lParam)->TakeWindow(window)) return 0;
     }
-    WindowObject* object = ObjectOf(window);
-    if (object == nullptr) return 0;
-    MessageRecord record{message, wParam, lParam, 0, 0};
-    const INT_PTR result = object->Dispatch(record);
+    const INT_PTR result = DispatchToObject(window, message, wParam, lParam);
     if (message == WM_DESTROY || message == WM_NCDESTROY) WindowIsGone(window);
     return result;
 }

@@ -35,6 +35,18 @@ TEST_F(ModalDialogs, have_a_window_in_the_map_only_while_they_run) {
     EXPECT_EQ(Application::Windows()->Find(seen), nullptr);
 }
 
+TEST_F(ModalDialogs, keep_their_object_when_they_are_told_once_more_that_they_were_created) {
+    TestDialog dialog(L"Plain_E");
+    EXPECT_EQ(dialog.RunWith([&] {
+        const HWND window = dialog.Handle();
+        SendMessageW(window, WM_INITDIALOG, 0, 0);
+        EXPECT_EQ(dialog.Handle(), window);
+        EXPECT_EQ(Application::Windows()->Find(window), &dialog);
+        dialog.End(17);
+    }),
+              17);
+}
+
 TEST_F(ModalDialogs, can_be_run_again) {
     TestDialog dialog(L"Plain_E");
     dialog.OnInitialise(&listener_, &Listener::TakeEvent);

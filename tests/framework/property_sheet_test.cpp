@@ -101,6 +101,20 @@ TEST_F(Sheets, have_ok_and_cancel_alone_in_the_middle_of_their_owner) {
     EXPECT_GT(sheetsSeen, 0);
 }
 
+TEST_F(Sheets, keep_their_pages_when_a_page_is_told_once_more_that_it_was_created) {
+    TestPage page(L"Page_E");
+    // The system would swallow an access violation in what a timer does.
+    bool cameBack = false;
+    doing = [&](HWND) {
+        const HWND window = page.Handle();
+        SendMessageW(window, WM_INITDIALOG, 0, 0);
+        EXPECT_EQ(Application::Windows()->Find(window), &page);
+        cameBack = true;
+    };
+    Run({&page});
+    EXPECT_TRUE(cameBack);
+}
+
 TEST_F(Sheets, are_not_shown_when_no_page_has_its_template) {
     TestPage missing(L"NoSuchTemplate_E");
     EXPECT_EQ(missing.CreatePage(), nullptr);
