@@ -14,7 +14,7 @@ int MaximumOf(const PropertySet& properties) {
 }  // namespace
 
 HistoryCombo::HistoryCombo(WindowObject* parentObject, HWND existing, const PropertySet& properties)
-    : ComboBox(parentObject, existing),
+    : ComboBoxControl(parentObject, existing),
       maximum_(MaximumOf(properties)),
       refuseEmpty_(properties.Has(property::RefuseEmpty)) {
     if (properties.Has(property::TabNotification)) TurnOnTabNotification();

@@ -2,9 +2,9 @@
 
 // A combo box that keeps what was entered, the latest on top.
 
-#include "framework/control.h"
+#include "framework/combo_box.h"
 
-class HistoryCombo : public ComboBox {
+class HistoryCombo : public ComboBoxControl {
   public:
     // The maximum, the Tab notification and the refusal of empty texts come from the set.
     HistoryCombo(WindowObject* parent, HWND handle, const PropertySet& properties);

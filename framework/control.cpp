@@ -1,21 +1,14 @@
 #include "framework/control.h"
 
-#include "framework/application.h"
 #include "framework/property_set.h"
 
 namespace {
-
-constexpr EventCode KeyEvents[] = {event::EnterKey, event::TabKey};
 
 PropertySet& WithControlDefaults(PropertySet& properties, const wchar_t* className) {
     properties.Add(property::Style, WS_CHILD | WS_VISIBLE);
     properties.Add(property::ClassIsRegistered, 1);
     properties.AddText(property::ClassName, className);
     return properties;
-}
-
-bool IsShiftDown() {
-    return GetKeyState(VK_SHIFT) < 0;
 }
 
 }  // namespace
@@ -53,92 +46,4 @@ RECT TabControl::DisplayArea() const {
     GetClientRect(Handle(), &area);
     SendMessageW(Handle(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
     return area;
-}
-
-TextField::TextField(WindowObject* parentObject, HWND edit, Ownership ownership)
-    : Control(parentObject, edit, L"Edit", ownership) {
-    Subclass();
-    OnMessage(WM_KEYDOWN, this, &TextField::OnKeyDown);
-    OnMessage(WM_CHAR, this, &TextField::OnCharacter);
-    OnMessage(WM_GETDLGCODE, this, &TextField::OnGetDialogCode);
-    OnMessage(WM_IME_STARTCOMPOSITION, this, &TextField::OnComposition, TRUE);
-    OnMessage(WM_IME_ENDCOMPOSITION, this, &TextField::OnComposition, FALSE);
-}
-
-std::span<const EventCode> TextField::OwnEvents() const {
-    return KeyEvents;
-}
-
-bool TextField::Takes(WPARAM key) const {
-    return key == VK_RETURN || (key == VK_TAB && tabNotification_);
-}
-
-// While an input method composes, the keys are its own. Most arrive as VK_PROCESSKEY; some methods leave
-// Enter and Tab as they are.
-LRESULT TextField::OnKeyDown(MessageRecord& record) {
-    if (!Takes(record.wParam)) return DefaultProcessing(record);
-    if (composing_) return 0;
-    const auto source = reinterpret_cast<EventSource>(Handle());
-    if (record.wParam == VK_RETURN) {
-        RaiseEvent(event::EnterKey, source, 0, record);
-    } else {
-        RaiseEvent(event::TabKey, source, IsShiftDown() ? 1 : 0, record);
-    }
-    return 0;
-}
-
-// The characters of the keys above; an edit would beep at them.
-LRESULT TextField::OnCharacter(MessageRecord& record) {
-    return Takes(record.wParam) ? 0 : DefaultProcessing(record);
-}
-
-// Asked by the dialog keyboard rules for each key: the keys above are the field's own.
-LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
-    const LRESULT usual = DefaultProcessing(record);
-    const auto* message = reinterpret_cast<const MSG*>(record.lParam);
-    const bool wanted = message != nullptr &&
-                        (message->message == WM_KEYDOWN || message->message == WM_CHAR) &&
-                        Takes(message->wParam);
-    return wanted ? usual | DLGC_WANTMESSAGE : usual;
-}
-
-LRESULT TextField::OnComposition(MessageRecord& record) {
-    composing_ = record.extra != FALSE;
-    return DefaultProcessing(record);
-}
-
-ComboBox::ComboBox(WindowObject* parentObject, HWND existing)
-    : Control(parentObject, existing, L"combobox"),
-      edit_(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
-    edit_.OnNotification(event::EnterKey, this, &ComboBox::OnEditKey, event::EnterKey);
-    edit_.OnNotification(event::TabKey, this, &ComboBox::OnEditKey, event::TabKey);
-}
-
-std::span<const EventCode> ComboBox::OwnEvents() const {
-    return KeyEvents;
-}
-
-LRESULT ComboBox::OnEditKey(EventArguments& arguments) {
-    if (IsListOpen()) {
-        // The first Enter takes the entry chosen in the open list, as in any combo box. The parent hears of
-        // it meanwhile, and may delete this object.
-        const HWND box = Handle();
-        const bool enter = arguments.extra == event::EnterKey;
-        if (enter) SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
-        SendMessageW(box, CB_SHOWDROPDOWN, FALSE, 0);
-        if (enter || !IsObjectOf(box)) return 0;
-    }
-    RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()),
-               arguments.argument, arguments.record);
-    return arguments.record.result;
-}
-
-// Asks nothing of the object itself.
-bool ComboBox::IsObjectOf(HWND window) const {
-    const WindowMap* map = Application::Windows();
-    return map != nullptr && map->Find(window) == this;
-}
-
-bool ComboBox::IsListOpen() const {
-    return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }

@@ -23,10 +23,10 @@ class Control : public WindowObject {
 };
 
 // A list view. The system's macros serve for its messages; here is only what has rules of the house.
-class ListView : public Control {
+class ListViewControl : public Control {
   public:
     static constexpr const wchar_t* ClassName = L"SysListView32";
-    ListView(WindowObject* parentObject, PropertySet& properties)
+    ListViewControl(WindowObject* parentObject, PropertySet& properties)
         : Control(parentObject, ClassName, properties) {}
 };
 
@@ -43,43 +43,4 @@ class TabControl : public Control {
     void Select(int index);
     // Where a page may stand, in client coordinates of the tab control.
     [[nodiscard]] RECT DisplayArea() const;
-};
-
-// A one-line text field that raises Enter and, when asked to, Tab on itself instead of letting the system
-// make something else of them.
-class TextField : public Control {
-  public:
-    // The edit may be a dialog's own or, wrapped, the one inside a combo box.
-    TextField(WindowObject* parent, HWND edit, Ownership ownership = Ownership::FollowsParent);
-
-    void TurnOnTabNotification() { tabNotification_ = true; }
-    [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
-
-  private:
-    LRESULT OnKeyDown(MessageRecord& record);
-    LRESULT OnCharacter(MessageRecord& record);
-    LRESULT OnGetDialogCode(MessageRecord& record);
-    LRESULT OnComposition(MessageRecord& record);
-
-    [[nodiscard]] bool Takes(WPARAM key) const;
-
-    bool tabNotification_ = false;
-    bool composing_ = false;
-};
-
-// A combo box with an edit, which raises the edit's Enter and Tab on itself.
-class ComboBox : public Control {
-  public:
-    ComboBox(WindowObject* parent, HWND handle);
-
-    void TurnOnTabNotification() { edit_.TurnOnTabNotification(); }
-    [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
-    [[nodiscard]] TextField& Edit() { return edit_; }
-
-  private:
-    LRESULT OnEditKey(EventArguments& arguments);
-    [[nodiscard]] bool IsListOpen() const;
-    [[nodiscard]] bool IsObjectOf(HWND window) const;
-
-    TextField edit_;
 };

@@ -47,7 +47,7 @@ PropertySet& WithListStyle(PropertySet& properties) {
 }  // namespace
 
 ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
-    : ListView(parentObject, WithListStyle(properties)) {
+    : ListViewControl(parentObject, WithListStyle(properties)) {
     const LRESULT style = SendMessageW(Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, style | LVS_EX_FULLROWSELECT);
     UseDialogFont();

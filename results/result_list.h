@@ -15,7 +15,7 @@
 #include "results/type_names.h"
 #include "search/search_receivers.h"
 
-class ResultList : public ListView, public MatchSink {
+class ResultList : public ListViewControl, public MatchSink {
   public:
     ResultList(WindowObject* parent, PropertySet& properties);
 

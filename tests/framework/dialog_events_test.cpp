@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "framework/control.h"
+#include "framework/combo_box.h"
 #include "framework/dialog.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/test_dialog.h"
@@ -277,7 +277,7 @@ TEST_F(DialogControls, raise_enter_in_a_field_instead_of_the_default_command) {
 
 TEST_F(DialogControls, pass_tab_on_to_the_next_control_unless_a_field_asks_for_it) {
     TextField field(&dialog_, dialog_.Item(PLAIN_FIRST_EDIT));
-    ComboBox combo(&dialog_, dialog_.Item(PLAIN_COMBO));
+    ComboBoxControl combo(&dialog_, dialog_.Item(PLAIN_COMBO));
     field.OnNotification(event::TabKey, &listener_, &Listener::TakeEvent);
     SetFocus(field.Handle());
     TypeKey(field.Handle(), VK_TAB, dialog_.Handle());
@@ -292,7 +292,7 @@ TEST_F(DialogControls, pass_tab_on_to_the_next_control_unless_a_field_asks_for_i
 }
 
 TEST_F(DialogControls, raise_a_combo_box_s_keys_under_the_dialog_s_keyboard_rules) {
-    ComboBox combo(&dialog_, dialog_.Item(PLAIN_COMBO));
+    ComboBoxControl combo(&dialog_, dialog_.Item(PLAIN_COMBO));
     combo.TurnOnTabNotification();
     Listener tabs;
     combo.OnNotification(event::EnterKey, &listener_, &Listener::TakeEvent);
@@ -310,7 +310,7 @@ TEST_F(DialogControls, of_a_wrapped_combo_box_outlive_the_wrapper) {
     const HWND edit = GetWindow(box, GW_CHILD);
     ASSERT_NE(edit, nullptr);
     {
-        ComboBox wrapper(&dialog_, box);
+        ComboBoxControl wrapper(&dialog_, box);
         EXPECT_EQ(wrapper.Edit().Handle(), edit);
         EXPECT_FALSE(wrapper.OwnsHandle());
         EXPECT_FALSE(wrapper.Edit().OwnsHandle());

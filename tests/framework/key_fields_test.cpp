@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "framework/control.h"
+#include "framework/combo_box.h"
 #include "tests/framework/framework_test.h"
 
 namespace {
@@ -148,7 +148,7 @@ class ComboBoxes : public KeyFields {
     }
     void OpenList() { SendMessageW(combo_.Handle(), CB_SHOWDROPDOWN, TRUE, 0); }
 
-    ComboBox combo_;
+    ComboBoxControl combo_;
 };
 
 TEST_F(ComboBoxes, raise_their_edit_s_enter_on_themselves) {
@@ -211,9 +211,9 @@ TEST_F(ComboBoxes, close_the_open_list_on_escape_without_an_event) {
 }
 
 TEST_F(ComboBoxes, without_an_edit_are_harmless) {
-    const ComboBox list(&window_, MakeControl(L"ComboBox", CBS_DROPDOWNLIST));
+    const ComboBoxControl list(&window_, MakeControl(L"ComboBox", CBS_DROPDOWNLIST));
     EXPECT_NE(list.Handle(), nullptr);
-    ComboBox none(&window_, nullptr);
+    ComboBoxControl none(&window_, nullptr);
     EXPECT_EQ(none.Handle(), nullptr);
     EXPECT_EQ(none.Edit().Handle(), nullptr);
 }

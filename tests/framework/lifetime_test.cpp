@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "framework/control.h"
+#include "framework/combo_box.h"
 #include "tests/framework/dialog_ids.h"
 #include "tests/framework/foreign_window.h"
 #include "tests/framework/test_dialog.h"
@@ -207,9 +207,9 @@ TEST_F(LostObjects, may_go_with_their_window_in_the_middle_of_a_click_on_it) {
 }
 
 // One whose memory is overwritten when it goes: whoever still asks it falls over.
-class SpoiledComboBox : public ComboBox {
+class SpoiledComboBox : public ComboBoxControl {
   public:
-    using ComboBox::ComboBox;
+    using ComboBoxControl::ComboBoxControl;
     static void operator delete(void* memory) {
         auto* bytes = static_cast<volatile unsigned char*>(memory);
         for (std::size_t i = 0; i < sizeof(SpoiledComboBox); ++i)
