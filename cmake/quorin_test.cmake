@@ -19,12 +19,17 @@ target_compile_options(test_headers PRIVATE ${QUORIN_TEST_OPTIONS})
 target_precompile_headers(test_headers PRIVATE
     <gtest/gtest.h> $<$<BOOL:${WIN32}>:${CMAKE_SOURCE_DIR}/platform/windows_ce.h>)
 
-# quorin_test(NAME SOURCES... LIBRARIES...): one test program, linked with GoogleTest and tests/support.
+# quorin_test(NAME [ANY_SCREEN] SOURCES... LIBRARIES...): one test program, linked with GoogleTest and tests/support.
+# ANY_SCREEN: what it tests does not depend on the screen, so that one screen a language is enough.
 function(quorin_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "ANY_SCREEN" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES} test_support quorin_gtest project_options)
     target_compile_options(${name} PRIVATE ${QUORIN_TEST_OPTIONS})
     target_precompile_headers(${name} REUSE_FROM test_headers)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    test_places(places ${name} ${ARG_ANY_SCREEN})
+    foreach(place ${places})
+        declare_test(${place} ${name})
+    endforeach()
 endfunction()

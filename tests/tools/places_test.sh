@@ -86,6 +86,7 @@ test_a_chinese_system() { expect_language zh_CN; }
 arm_cleanups
 at_exit rm -rf "$scratch"
 prefixDir=$buildDir/wine
-open_world places en 240x320
+worldsOf='places'
+open_world en-240x320
 at_exit rm -rf "$WINEPREFIX" "$scratchDevice"
 run_test_functions Places
