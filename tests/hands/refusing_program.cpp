@@ -105,8 +105,7 @@ void RefusingProgram::Settle() {
         }
         const HWND window = Window();
         if (window == nullptr || !IsWindowVisible(window) || !IsWindowEnabled(window)) return false;
-        if (!Connects()) return false;
-        WaitForQueue();
+        if (!Connects() || !TakesMessages()) return false;
         return OpenDialog() == nullptr && IsWindowEnabled(window) != FALSE;
     });
 }
@@ -116,6 +115,16 @@ bool RefusingProgram::Connects() {
     if (link_ != nullptr) return true;
     try {
         link_ = std::make_unique<ProbeLink>(Window());
+    } catch (const DriverError&) {
+        return false;
+    }
+    return true;
+}
+
+// One whose end has begun takes no more messages.
+bool RefusingProgram::TakesMessages() {
+    try {
+        WaitForQueue();
     } catch (const DriverError&) {
         return false;
     }

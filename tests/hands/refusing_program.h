@@ -56,6 +56,7 @@ class RefusingProgram {
   private:
     void Answer(HWND box);
     [[nodiscard]] bool Connects();
+    [[nodiscard]] bool TakesMessages();
 
     HANDLE section_ = nullptr;
     probe::Refusals* refusals_ = nullptr;

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr DWORD PauseBetweenLooks = 100;
+
 std::wstring OwnFolder() {
     wchar_t path[MAX_PATH] = L"";
     GetModuleFileNameW(nullptr, path, MAX_PATH);
@@ -113,9 +115,15 @@ void ProbeLink::WaitForQueue() {
     const HANDLE taken = NamedEvent(probe::SyncEventNameFormat);
     ResetEvent(taken);
     PostMessageW(window_, RegisterWindowMessageW(probe::SyncMessageName), 0, 0);
-    const DWORD answer = WaitForSingleObject(taken, StepDeadline);
+    bool isGone = false;
+    const bool ended = HoldsWithin(StepDeadline, [&] {
+        if (WaitForSingleObject(taken, PauseBetweenLooks) == WAIT_OBJECT_0) return true;
+        isGone = !IsWindow(window_);
+        return isGone;
+    });
     CloseHandle(taken);
-    if (answer != WAIT_OBJECT_0) throw DriverError("the program does not take messages from its queue");
+    if (isGone) throw DriverError("the window is gone that was to take a message");
+    if (!ended) throw DriverError("the program does not take messages from its queue");
 }
 
 bool ProbeLink::WaitForHold(DWORD milliseconds) {
