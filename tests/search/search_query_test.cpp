@@ -46,10 +46,10 @@ void WritesAbc(const wchar_t*, char* destination, int destinationSize) {
     strcpy(destination, "aBc");
 }
 
-class FillConditionsTest : public testing::Test {
+class SearchQueryTest : public testing::Test {
   protected:
-    FillConditionsTest() { ce::systemCalls.localFileTimeToFileTime = FromNineHoursEast; }
-    ~FillConditionsTest() override {
+    SearchQueryTest() { ce::systemCalls.localFileTimeToFileTime = FromNineHoursEast; }
+    ~SearchQueryTest() override {
         ce::systemCalls = systemCallsBefore_;
         ContextForStartUp() = contextBefore_;
     }
@@ -66,41 +66,41 @@ class FillConditionsTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(FillConditionsTest, a_query_without_a_condition_leaves_every_bit_clear) {
+TEST_F(SearchQueryTest, a_query_without_a_condition_leaves_every_bit_clear) {
     conditions_.flags = 0xFFFF;
     Fill();
     EXPECT_EQ(conditions_.flags, 0);
 }
 
-TEST_F(FillConditionsTest, a_content_text_sets_its_bit_and_becomes_bytes) {
+TEST_F(SearchQueryTest, a_content_text_sets_its_bit_and_becomes_bytes) {
     query_.content = L"a\u00E9\u65E5";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "a\xE9\xE5");
 }
 
-TEST_F(FillConditionsTest, a_content_text_of_spaces_counts) {
+TEST_F(SearchQueryTest, a_content_text_of_spaces_counts) {
     query_.content = L"   ";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "   ");
 }
 
-TEST_F(FillConditionsTest, a_content_text_that_converts_to_nothing_still_sets_its_bit) {
+TEST_F(SearchQueryTest, a_content_text_that_converts_to_nothing_still_sets_its_bit) {
     query_.content = L"\u0100abc";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
     EXPECT_STREQ(conditions_.contentPattern, "");
 }
 
-TEST_F(FillConditionsTest, the_conversion_of_the_start_up_record_is_used_with_520_bytes) {
+TEST_F(SearchQueryTest, the_conversion_of_the_start_up_record_is_used_with_520_bytes) {
     ContextForStartUp().toMultiByte = WritesAbc;
     query_.content = L"x";
     Fill();
     EXPECT_STREQ(conditions_.contentPattern, "aBc");
 }
 
-TEST_F(FillConditionsTest, the_pattern_is_folded_only_if_case_is_ignored) {
+TEST_F(SearchQueryTest, the_pattern_is_folded_only_if_case_is_ignored) {
     query_.content = L"abc";
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::ContentString);
@@ -111,7 +111,7 @@ TEST_F(FillConditionsTest, the_pattern_is_folded_only_if_case_is_ignored) {
     EXPECT_STREQ(conditions_.contentPattern, "ABC");
 }
 
-TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_conversion_library) {
+TEST_F(SearchQueryTest, double_byte_characters_are_folded_only_without_the_conversion_library) {
     ContextForStartUp().toMultiByte = [](const wchar_t*, char* destination, int) {
         strcpy(destination, "a\x83\x61");
     };
@@ -124,7 +124,7 @@ TEST_F(FillConditionsTest, double_byte_characters_are_folded_only_without_the_co
     EXPECT_STREQ(conditions_.contentPattern, "A\x83\x61");
 }
 
-TEST_F(FillConditionsTest, an_older_pattern_is_folded_although_there_is_no_content_text) {
+TEST_F(SearchQueryTest, an_older_pattern_is_folded_although_there_is_no_content_text) {
     strcpy(conditions_.contentPattern, "old");
     query_.ignoreCase = true;
     Fill();
@@ -132,19 +132,19 @@ TEST_F(FillConditionsTest, an_older_pattern_is_folded_although_there_is_no_conte
     EXPECT_STREQ(conditions_.contentPattern, "OLD");
 }
 
-TEST_F(FillConditionsTest, the_type_filter_sets_its_bit) {
+TEST_F(SearchQueryTest, the_type_filter_sets_its_bit) {
     query_.typeFilter = true;
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::TypeFilter);
 }
 
-TEST_F(FillConditionsTest, sub_folders_set_their_bit) {
+TEST_F(SearchQueryTest, sub_folders_set_their_bit) {
     query_.subFolders = true;
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SubFolders);
 }
 
-TEST_F(FillConditionsTest, the_ends_of_a_date_range_are_taken_as_local_times) {
+TEST_F(SearchQueryTest, the_ends_of_a_date_range_are_taken_as_local_times) {
     query_.dateRange = BetweenDates({2002, 1, 0, 10, 5, 5, 5, 5}, {2002, 1, 0, 12, 5, 5, 5, 5});
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::DateRange);
@@ -153,7 +153,7 @@ TEST_F(FillConditionsTest, the_ends_of_a_date_range_are_taken_as_local_times) {
     EXPECT_EQ(TicksOf(conditions_.toTime), UtcTicks({2002, 1, 0, 11, 15, 0, 0, 0}));
 }
 
-TEST_F(FillConditionsTest, between_a_day_and_itself_only_its_first_local_instant_passes) {
+TEST_F(SearchQueryTest, between_a_day_and_itself_only_its_first_local_instant_passes) {
     query_.dateRange = BetweenDates({2002, 1, 0, 10, 0, 0, 0, 0}, {2002, 1, 0, 10, 0, 0, 0, 0});
     Fill();
     const ULONGLONG midnight = UtcTicks({2002, 1, 0, 9, 15, 0, 0, 0});
@@ -166,7 +166,7 @@ TEST_F(FillConditionsTest, between_a_day_and_itself_only_its_first_local_instant
     EXPECT_FALSE(PassesDateAndSize(conditions_, entry));
 }
 
-TEST_F(FillConditionsTest, past_0_days_at_one_in_the_morning_nine_hours_east_ends_nine_hours_ago) {
+TEST_F(SearchQueryTest, past_0_days_at_one_in_the_morning_nine_hours_east_ends_nine_hours_ago) {
     // 01:00 local of 10 January is 16:00 UTC of 9 January.
     const SYSTEMTIME nowUtc = {2002, 1, 3, 9, 16, 0, 0, 0};
     query_.dateRange = PastDays(nowUtc, 0);
@@ -176,7 +176,7 @@ TEST_F(FillConditionsTest, past_0_days_at_one_in_the_morning_nine_hours_east_end
     EXPECT_EQ(TicksOf(conditions_.toTime), UtcTicks(nowUtc) - 9 * HourTicks);
 }
 
-TEST_F(FillConditionsTest, a_date_that_cannot_be_converted_is_not_noticed) {
+TEST_F(SearchQueryTest, a_date_that_cannot_be_converted_is_not_noticed) {
     ce::systemCalls.localFileTimeToFileTime = [](const FILETIME*, FILETIME*) -> BOOL { return FALSE; };
     conditions_.fromTime = TimeOf(77);
     query_.dateRange = DateRange{};
@@ -185,7 +185,7 @@ TEST_F(FillConditionsTest, a_date_that_cannot_be_converted_is_not_noticed) {
     EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
 }
 
-TEST_F(FillConditionsTest, without_a_range_the_older_times_stay_and_the_bit_is_clear) {
+TEST_F(SearchQueryTest, without_a_range_the_older_times_stay_and_the_bit_is_clear) {
     conditions_.flags = SearchConditions::DateRange;
     conditions_.fromTime = TimeOf(77);
     Fill();
@@ -193,21 +193,21 @@ TEST_F(FillConditionsTest, without_a_range_the_older_times_stay_and_the_bit_is_c
     EXPECT_EQ(TicksOf(conditions_.fromTime), 77U);
 }
 
-TEST_F(FillConditionsTest, min_with_10_sets_size_above_and_10240_bytes) {
+TEST_F(SearchQueryTest, min_with_10_sets_size_above_and_10240_bytes) {
     query_.sizeBound = SizeBoundOf(1, 10);
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SizeAbove);
     EXPECT_EQ(conditions_.sizeBound, 10240U);
 }
 
-TEST_F(FillConditionsTest, max_with_10_sets_size_below_and_10240_bytes) {
+TEST_F(SearchQueryTest, max_with_10_sets_size_below_and_10240_bytes) {
     query_.sizeBound = SizeBoundOf(2, 10);
     Fill();
     EXPECT_EQ(conditions_.flags, SearchConditions::SizeBelow);
     EXPECT_EQ(conditions_.sizeBound, 10240U);
 }
 
-TEST_F(FillConditionsTest, the_empty_size_entry_writes_a_bound_of_0_and_no_selection_keeps_the_older_one) {
+TEST_F(SearchQueryTest, the_empty_size_entry_writes_a_bound_of_0_and_no_selection_keeps_the_older_one) {
     conditions_.sizeBound = 77;
     query_.sizeBound = SizeBoundOf(-1, 10);
     Fill();
@@ -218,7 +218,7 @@ TEST_F(FillConditionsTest, the_empty_size_entry_writes_a_bound_of_0_and_no_selec
     EXPECT_EQ(conditions_.flags, 0);
 }
 
-TEST_F(FillConditionsTest, all_conditions_stand_together) {
+TEST_F(SearchQueryTest, all_conditions_stand_together) {
     query_.content = L"x";
     query_.ignoreCase = true;
     query_.subFolders = true;
@@ -229,7 +229,7 @@ TEST_F(FillConditionsTest, all_conditions_stand_together) {
     EXPECT_EQ(conditions_.flags, 0x1307);
 }
 
-TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_conversion) {
+TEST_F(SearchQueryTest, the_260th_unit_of_the_content_text_counts_in_every_conversion) {
     const std::string bytes = std::string(259, 'x') + 'y';
     query_.content = std::wstring(bytes.begin(), bytes.end());
     for (const ToMultiByteRoutine conversion :
@@ -240,7 +240,7 @@ TEST_F(FillConditionsTest, the_260th_unit_of_the_content_text_counts_in_every_co
     }
 }
 
-TEST_F(FillConditionsTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_last_character_that_fits) {
+TEST_F(SearchQueryTest, a_content_text_of_more_than_519_bytes_is_cut_at_the_last_character_that_fits) {
     UseConversionLibrary([](unsigned short unit) -> unsigned short { return unit == L'あ' ? 0x82A0 : 0; },
                          nullptr);
     ContextForStartUp().toMultiByte = &LibraryToMultiByte;

@@ -12,7 +12,7 @@ done
 letterTests=(
     platform_names_tests '*'
     search_rules_tests '*'
-    fill_conditions_tests '*'
+    search_query_tests '*'
     results_rules_tests '*'
     results_tests 'Sort*:FileTypeTable*:TypeNames*'
     conditions_tests 'History*'
