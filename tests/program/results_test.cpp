@@ -24,22 +24,10 @@ constexpr DWORD TimeToStart = 1500;
 
 int testsBegun = 0;
 
-std::wstring RecorderPath() {
-    wchar_t path[MAX_PATH] = L"";
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    std::wstring folder = path;
-    folder.resize(folder.find_last_of(L'\\'));
-    return folder + L"\\started_recorder.exe";
-}
-
 std::wstring LogPath() {
     wchar_t folder[MAX_PATH] = L"";
     GetTempPathW(MAX_PATH, folder);
     return std::wstring(folder) + L"quorin-started-" + std::to_wstring(GetCurrentProcessId()) + L".log";
-}
-
-void SetKey(const std::wstring& path, const std::wstring& value) {
-    RegSetValueW(HKEY_CLASSES_ROOT, path.c_str(), REG_SZ, value.c_str(), 0);
 }
 
 std::string ReadWhole(const std::wstring& path) {
@@ -70,18 +58,41 @@ HWND ListOf(HWND mainWindow) {
     return FindWindowExW(mainWindow, nullptr, WC_LISTVIEWW, nullptr);
 }
 
+void SetKey(const std::wstring& path, const std::wstring& value) {
+    RegSetValueW(HKEY_CLASSES_ROOT, path.c_str(), REG_SZ, value.c_str(), 0);
+}
+
 }  // namespace
+
+std::wstring RecorderPath() {
+    wchar_t path[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    std::wstring folder = path;
+    folder.resize(folder.find_last_of(L'\\'));
+    return folder + L"\\started_recorder.exe";
+}
+
+void RegisterKinds() {
+    for (const Kind& kind : Kinds) {
+        SetKey(kind.extension, kind.key);
+        SetKey(kind.key, kind.name);
+        SetKey(std::wstring(kind.key) + L"\\shell\\open\\command", L"\"" + RecorderPath() + L"\" \"%1\"");
+    }
+}
+
+void ForgetKinds() {
+    for (const Kind& kind : Kinds) {
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, kind.extension);
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, kind.key);
+    }
+}
 
 POINT CentreOf(const RECT& rectangle) {
     return {(rectangle.left + rectangle.right) / 2, (rectangle.top + rectangle.bottom) / 2};
 }
 
 void ResultsTest::SetUpTestSuite() {
-    for (const Kind& kind : Kinds) {
-        SetKey(kind.extension, kind.key);
-        SetKey(kind.key, kind.name);
-        SetKey(std::wstring(kind.key) + L"\\shell\\open\\command", L"\"" + RecorderPath() + L"\" \"%1\"");
-    }
+    RegisterKinds();
     // Inherited by the program and by what it starts.
     SetEnvironmentVariableW(L"QUORIN_STARTED_LOG", LogPath().c_str());
     ProgramTest::SetUpTestSuite();
@@ -89,10 +100,7 @@ void ResultsTest::SetUpTestSuite() {
 
 void ResultsTest::TearDownTestSuite() {
     ProgramTest::TearDownTestSuite();
-    for (const Kind& kind : Kinds) {
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, kind.extension);
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, kind.key);
-    }
+    ForgetKinds();
     DeleteFileW(LogPath().c_str());
 }
 

@@ -12,6 +12,12 @@ constexpr int SizeColumn = 2;
 constexpr int TypeColumn = 3;
 constexpr int ModifiedColumn = 4;
 
+// ".qsa" is an "Alpha kind", ".qsb" a "beta kind" and ".qsc" a "Gamma kind", all opened by the recorder.
+void RegisterKinds();
+void ForgetKinds();
+// The program that records how it was started.
+[[nodiscard]] std::wstring RecorderPath();
+
 class ResultsTest : public ProgramTest {
   public:
     // The kinds are registered before the program starts: ".qsa" is an "Alpha kind", ".qsb" a "beta kind" and

@@ -233,3 +233,11 @@ void ProgramDriver::SelectTreeItem(int place) {
 void ProgramDriver::Repaint() {
     link_->Ask(probe::Question::Repaint);
 }
+
+void ProgramDriver::DestroyWindowOf(HWND window) {
+    link_->Ask(probe::Question::Destroy, static_cast<int>(reinterpret_cast<INT_PTR>(window)));
+}
+
+void ProgramDriver::Notify(HWND control, int code) {
+    link_->Ask(probe::Question::Notify, static_cast<int>(reinterpret_cast<INT_PTR>(control)), code);
+}

@@ -38,6 +38,8 @@ class ProgramDriver {
     void Kill();
     [[nodiscard]] bool IsRunning() const { return program_ != nullptr && program_->IsRunning(); }
     [[nodiscard]] HWND Window() const { return window_; }
+    // Of a page, or of the search's dialog. Throws DriverError when there is none.
+    [[nodiscard]] HWND ControlWindow(int page, int id);
 
     // Conditions, through the controls' own messages.
     void Fill(const NameConditions& conditions);
@@ -81,6 +83,11 @@ class ProgramDriver {
     // The item at this place of Tree().
     void SelectTreeItem(int place);
 
+    // What only the program itself does in a quiet world: destroys one of its windows, sends a notification
+    // of one of its controls with nothing but a header.
+    void DestroyWindowOf(HWND window);
+    void Notify(HWND control, int code);
+
     // Reading back.
     std::vector<RowState> Rows();
     std::vector<std::wstring> RowPaths();  // folder joined with name, in the order of the rows
@@ -111,7 +118,6 @@ class ProgramDriver {
   private:
     [[nodiscard]] bool FindAndHold(int rows, DWORD longest, bool staysAwake);
     void Connect();
-    [[nodiscard]] HWND ControlWindow(int page, int id);
 
     std::unique_ptr<RunningProgram> program_;
     std::unique_ptr<ProbeLink> link_;

@@ -99,6 +99,10 @@ void DragPointer(POINT from, POINT to) {
 
 void TurnWheelAt(POINT point, int notches) {
     MovePointerTo(point);
+    UseWheel(point, notches);
+}
+
+void UseWheel(POINT point, int notches) {
     INPUT input = Mouse(MOUSEEVENTF_WHEEL, point);
     input.mi.dwFlags &= ~static_cast<DWORD>(MOUSEEVENTF_ABSOLUTE);
     input.mi.dx = input.mi.dy = 0;
@@ -144,6 +148,10 @@ void HoldKeys(std::initializer_list<WORD> keys, DWORD flags) {
 
 void PressKey(WORD key, std::initializer_list<WORD> modifiers) {
     WaitForFocus();
+    StrikeKey(key, modifiers);
+}
+
+void StrikeKey(WORD key, std::initializer_list<WORD> modifiers) {
     std::vector<INPUT> inputs;
     for (const WORD modifier : modifiers)
         inputs.push_back(Key(modifier, 0, 0));
@@ -206,4 +214,12 @@ void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers) {
     // Let go of later than the button, as by a hand.
     if (modifiers.size() > 0) Sleep(4 * MousePause);
     HoldKeys(modifiers, KEYEVENTF_KEYUP);
+}
+
+void FlickPointerTo(POINT point) {
+    SendOne(Mouse(MOUSEEVENTF_MOVE, point));
+}
+
+void UseButtons(POINT point, DWORD flags) {
+    SendOne(Mouse(MOUSEEVENTF_MOVE | flags, point));
 }

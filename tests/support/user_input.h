@@ -39,3 +39,10 @@ void TurnWheelAt(POINT point, int notches);
 
 // Two clicks in short order while the modifiers are held down.
 void DoubleClickAt(POINT point, std::initializer_list<WORD> modifiers = {});
+
+// At once, without a look at whether anybody is there to take it.
+void FlickPointerTo(POINT point);
+// Presses or lets go of buttons (MOUSEEVENTF_LEFTDOWN, ...) at the point.
+void UseButtons(POINT point, DWORD flags);
+void UseWheel(POINT point, int notches);
+void StrikeKey(WORD key, std::initializer_list<WORD> modifiers = {});

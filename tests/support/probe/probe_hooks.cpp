@@ -3,12 +3,31 @@
 #include <windows.h>
 
 #include "tests/support/probe/answers.h"
+#include "tests/support/probe/journal.h"
 #include "tests/support/probe/probe_protocol.h"
 #include "tests/support/probe/refusals.h"
 #include "tests/support/probe/search_watch.h"
 
 namespace probe {
 namespace {
+
+// The handles of windows are numbers of 32 bits, whatever the process.
+HWND WindowOf(int number) {
+    return reinterpret_cast<HWND>(static_cast<INT_PTR>(number));
+}
+
+// What follows the header is empty, and as long as that of any notification.
+void Notify(HWND control, int code) {
+    union {
+        NMHDR header;
+        BYTE room[1024];
+    } notification = {};
+    notification.header.hwndFrom = control;
+    notification.header.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID(control));
+    notification.header.code = static_cast<UINT>(code);
+    SendMessageW(GetParent(control), WM_NOTIFY, notification.header.idFrom,
+                 reinterpret_cast<LPARAM>(&notification));
+}
 
 void Answer(Exchange& exchange) {
     AnswerWriter writer(exchange);
@@ -74,6 +93,12 @@ void Answer(Exchange& exchange) {
         case Question::SelectItem:
             SelectTreeItem(numbers[0]);
             break;
+        case Question::Destroy:
+            DestroyWindow(WindowOf(numbers[0]));
+            break;
+        case Question::Notify:
+            Notify(WindowOf(numbers[0]), numbers[1]);
+            break;
         default:
             return;
     }
@@ -104,6 +129,7 @@ __declspec(dllexport) LRESULT CALLBACK ProbeSentMessage(int code, WPARAM wParam,
     if (code == HC_ACTION) {
         const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
         if (message.message == question) probe::AnswerThroughSection();
+        probe::NoteMessage(message.hwnd, message.message, message.wParam, message.lParam);
         probe::WatchSentMessage(message);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
@@ -111,7 +137,9 @@ __declspec(dllexport) LRESULT CALLBACK ProbeSentMessage(int code, WPARAM wParam,
 
 __declspec(dllexport) LRESULT CALLBACK ProbeTakenMessage(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE) {
-        probe::WatchTakenMessage(*reinterpret_cast<const MSG*>(lParam));
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        probe::NoteMessage(message.hwnd, message.message, message.wParam, message.lParam);
+        probe::WatchTakenMessage(message);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -123,6 +151,7 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
         GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
                            reinterpret_cast<const wchar_t*>(instance), &pinned);
         probe::PrepareRefusals();
+        probe::PrepareJournal();
     }
     return TRUE;
 }

@@ -42,6 +42,8 @@ enum class Question : DWORD {
     Repaint,     // nothing
     Tree,        // a record an item of the folder browser, parents first: depth, state, two images, text
     SelectItem,  // numbers: an item's place in that order -> nothing
+    Destroy,     // numbers: a window -> nothing
+    Notify,      // numbers: a control, a code; sends its parent the notification -> nothing
 };
 
 // Pages are told by number; these two are no pages.

@@ -1,0 +1,147 @@
+// Whole ways of a person through the program: without them the hands would seldom get deep into it.
+
+#include <commctrl.h>
+
+#include "resources/resource_ids.h"
+#include "tests/monkey/random_hands.h"
+#include "tests/support/user_input.h"
+
+namespace {
+
+constexpr DWORD TimeToOpen = 80;
+constexpr DWORD LongestRest = 60000;
+
+constexpr int Answers[] = {IDYES, IDYES, IDNO, IDOK, IDOK, IDCANCEL, IDRETRY};
+
+bool IsDialog(HWND window) {
+    wchar_t name[16] = L"";
+    GetClassNameW(window, name, 16);
+    return lstrcmpW(name, L"#32770") == 0;
+}
+
+}  // namespace
+
+void RandomHands::SendCommand(HWND window, UINT command, UINT code) {
+    ++figures_.commands;
+    Note("command " + std::to_string(command) + (code != 0 ? " code " + std::to_string(code) : ""));
+    PostMessageW(window, WM_COMMAND, MAKEWPARAM(command, code), 0);
+}
+
+void RandomHands::Search(Random& random) {
+    if (random.Chance(50)) {
+        SendCommand(program_.Window(), COMMAND_FIND);
+    } else {
+        Press(VK_RETURN);
+    }
+    if (random.Chance(30)) return;
+    Sleep(static_cast<DWORD>(random.Below(60)));
+    if (random.Chance(40)) Press(random.Chance(50) ? VK_ESCAPE : VK_RETURN);
+    if (random.Chance(10)) LeaveDialog(random);
+}
+
+// By the controls' messages, so that what is looked for is there to be found.
+void RandomHands::FillAndSearch(Random& random) {
+    if (!IsWindowEnabled(program_.Window())) return;
+    const std::wstring names[] = {L"", L"", L"*", L"a", L"*.qsa", L"note", RandomWord(random)};
+    const std::wstring texts[] = {L"", L"", L"", L"abc", L"line", RandomWord(random)};
+    NameConditions conditions;
+    conditions.name = random.Of(names);
+    conditions.contains = random.Of(texts);
+    conditions.location = random.Chance(85) ? random.Of(Device::Folders()) : RandomWord(random);
+    conditions.subFolders = random.Chance(40);
+    program_.Fill(conditions);
+    Search(random);
+}
+
+void RandomHands::Delete(Random& random) {
+    WalkList(random);
+    SendCommand(program_.Window(), COMMAND_DELETE);
+    Sleep(TimeToOpen);
+    if (random.Chance(60)) Press('Y');
+    if (random.Chance(40)) Press(random.Chance(50) ? 'N' : VK_ESCAPE);
+}
+
+void RandomHands::Rename(Random& random) {
+    if (random.Chance(70)) WalkList(random);
+    SendCommand(program_.Window(), COMMAND_RENAME);
+    Sleep(TimeToOpen);
+    TypeWord(random.Chance(70) ? RandomName(random) : RandomWord(random));
+    if (random.Chance(70)) Press(random.Chance(80) ? VK_RETURN : VK_ESCAPE);
+    if (random.Chance(30)) ClickOn(AnyPoint(random), MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP);
+}
+
+void RandomHands::ShowProperties(Random& random) {
+    WalkList(random);
+    SendCommand(program_.Window(), COMMAND_PROPERTIES);
+    Sleep(2 * TimeToOpen);
+    for (int step = random.Below(4); step > 0; --step) {
+        ClickControl(random);
+        Sleep(20);
+    }
+    if (random.Chance(20)) Press(VK_TAB, {VK_CONTROL});
+    if (random.Chance(70)) Press(random.Chance(50) ? VK_RETURN : VK_ESCAPE);
+}
+
+void RandomHands::Browse(Random& random) {
+    SendCommand(GetParent(program_.ControlWindow(NamePage, BUTTON_BROWSE)), BUTTON_BROWSE);
+    Sleep(TimeToOpen);
+    constexpr WORD Steps[] = {VK_DOWN, VK_RIGHT, VK_UP, VK_LEFT, VK_ADD, VK_MULTIPLY};
+    for (int step = random.Between(1, 8); step > 0; --step)
+        Press(random.Of(Steps));
+    if (random.Chance(70)) Press(random.Chance(70) ? VK_RETURN : VK_ESCAPE);
+}
+
+void RandomHands::ShowAbout(Random& random) {
+    Press(VK_F1);
+    Sleep(TimeToOpen);
+    // Now and then with its button Uninstall.
+    if (random.Chance(10)) SendCommand(Front(), BUTTON_UNINSTALL);
+    if (random.Chance(70)) Press(VK_ESCAPE);
+}
+
+void RandomHands::Answer(Random& random) {
+    const HWND front = Front();
+    if (IsDialog(front)) SendCommand(front, static_cast<UINT>(random.Of(Answers)));
+}
+
+void RandomHands::LeaveDialog(Random& random) {
+    const HWND front = Front();
+    if (!IsDialog(front)) return;
+    if (random.Chance(50)) {
+        Press(VK_ESCAPE);
+    } else {
+        ++figures_.messages;
+        Note("close the dialog");
+        PostMessageW(front, WM_CLOSE, 0, 0);
+    }
+}
+
+// Each dialog is left in one of several ways, since a dialog without its buttons does not know them all.
+bool RandomHands::Rest() {
+    int tries = 0;
+    return HoldsWithin(LongestRest, [&] {
+        const HWND window = program_.Window();
+        if (!IsWindow(window) || !program_.IsRunning()) return true;
+        const HWND front = Front();
+        if (front == window && IsWindowEnabled(window)) {
+            if (IsIconic(window) || !IsWindowVisible(window)) ShowWindowAsync(window, SW_RESTORE);
+            DWORD_PTR answer = 0;
+            SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, StepDeadline, &answer);
+            program_.WaitForQueue();
+            return Front() == window && IsWindowEnabled(window) && IsWindowVisible(window);
+        }
+        ++tries;
+        ComeForward();
+        if (!IsDialog(front) || tries % 4 == 0) {
+            StrikeKey(VK_ESCAPE);
+        } else if (tries % 4 == 1) {
+            PostMessageW(front, WM_COMMAND, IDCANCEL, 0);
+        } else if (tries % 4 == 2) {
+            PostMessageW(front, WM_CLOSE, 0, 0);
+        } else {
+            PostMessageW(front, WM_COMMAND, IDOK, 0);
+        }
+        Sleep(TimeToOpen);
+        return false;
+    });
+}
