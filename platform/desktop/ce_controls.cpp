@@ -15,7 +15,7 @@ constexpr std::size_t LettersOfShortYear = 3;
 constexpr unsigned long LargestPosition = 0xFFFF;
 constexpr DWORD NoNumber = 0x10000;
 
-// What the control puts between the thousands of a number.
+// What stands between the thousands of a number on this system.
 wchar_t ThousandsSeparator() {
     wchar_t separator[2];
     return GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 2) == 2 ? separator[0] : L',';
@@ -74,7 +74,8 @@ DWORD ce::SpinPosition(HWND spin) {
     WORD position = 0;
     // QUIRK: typed-numbers-are-not-clamped
     if (PositionIn(text, position)) return position;
-    return LOWORD(answer) | NoNumber;
+    // Not every system's control groups the thousands as the system does; it knows its own groups.
+    return HIWORD(answer) == 0 ? answer : LOWORD(answer) | NoNumber;
 }
 
 UINT ce::MenuItemState(HMENU menu, UINT command) {

@@ -116,6 +116,20 @@ TEST_F(SpinPosition, the_groups_of_thousands_that_the_spin_writes_are_read_back)
     EXPECT_EQ(ce::SpinPosition(spin_), 12345U);
 }
 
+TEST_F(SpinPosition, the_groups_that_the_spin_writes_are_read_back_whatever_the_system_puts_between_them) {
+    wchar_t before[8] = L"";
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, before, 8);
+    SendMessageW(spin_, UDM_SETRANGE, 0, MAKELPARAM(32767, 0));
+    for (const wchar_t* separator : {L".", L",", L"'", L"\u00A0"}) {
+        ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator));
+        SendMessageW(spin_, UDM_SETPOS, 0, 1);
+        SendMessageW(spin_, UDM_SETPOS, 0, 12345);
+        EXPECT_EQ(ce::SpinPosition(spin_), 12345U) << testing::PrintToString(std::wstring(separator));
+        EXPECT_EQ(PositionOf(L"1x"), 0x10000U + 12345U);
+    }
+    SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, before);
+}
+
 TEST_F(SpinPosition, a_spin_without_a_buddy_answers_for_itself) {
     const HWND alone = Child(UPDOWN_CLASSW, 0);
     SendMessageW(alone, UDM_SETRANGE, 0, MAKELPARAM(50, 0));
