@@ -1,6 +1,7 @@
 #include "platform/desktop/folder_entry.h"
 
 #include <cwchar>
+#include <iterator>
 
 #include "platform/desktop/system_handles.h"
 #include "platform/desktop/system_path.h"
@@ -18,8 +19,9 @@ bool Identify(const UniqueFile& file, BY_HANDLE_FILE_INFORMATION& identity) {
     return file && GetFileInformationByHandle(file.Get(), &identity);
 }
 
-constexpr int LongestThirdName = 24;
-using Path = wchar_t[LiteralPathSize + LongestThirdName];
+// A third name has so many units more than the name at most.
+constexpr int ThirdNameMark = 24;
+using Path = wchar_t[LiteralPathSize + ThirdNameMark];
 
 const wchar_t* NameIn(const wchar_t* path) {
     const wchar_t* const separator = std::wcsrchr(path, L'\\');
@@ -43,12 +45,23 @@ bool IsFree(const wchar_t* path) {
     return GetFileAttributesW(path) == INVALID_FILE_ATTRIBUTES;
 }
 
+// What of the name has room in the third one, no character cut in half.
+int UnitsToKeep(const wchar_t* name) {
+    constexpr std::size_t MostUnits = 60;
+    const std::size_t units = std::wcslen(name);
+    if (units <= MostUnits) return static_cast<int>(units);
+    return static_cast<int>(IS_HIGH_SURROGATE(name[MostUnits - 1]) ? MostUnits - 1 : MostUnits);
+}
+
+// Whoever finds a file under its third name, because the power went in the middle, is to know it again.
 bool FindThirdName(Path& path, const wchar_t* beside) {
     constexpr int MostTries = 1000;
     CopyFolder(path, beside);
+    const wchar_t* const name = NameIn(beside);
     const std::size_t units = std::wcslen(path);
     for (int counter = 1; counter <= MostTries; ++counter) {
-        _snwprintf(path + units, LongestThirdName, L"rename~%d.tmp", counter);
+        _snwprintf(path + units, std::size(path) - units, L"rename~%d %.*s", counter, UnitsToKeep(name),
+                   name);
         if (IsFree(path)) return true;
     }
     SetLastError(ERROR_ALREADY_EXISTS);

@@ -25,6 +25,13 @@ BOOL WINAPI MoveOrFail(const wchar_t* from, const wchar_t* to) {
     return FALSE;
 }
 
+// Nothing is done from the call of this number on.
+int lastCall = 0;
+
+BOOL WINAPI MoveUntilTheEnd(const wchar_t* from, const wchar_t* to) {
+    return ++calls <= lastCall && MoveFileW(from, to);
+}
+
 }  // namespace
 
 TEST(RenamingByCase, changes_the_name_in_the_folder) {
@@ -54,9 +61,9 @@ TEST(RenamingByCase, changes_the_name_of_a_folder_and_nothing_in_it) {
 TEST(RenamingByCase, leaves_files_alone_that_have_the_third_name) {
     TempTree tree;
     tree.AddFile(L"a", "1");
-    tree.AddFile(L"rename~1.tmp", "2");
+    tree.AddFile(L"rename~1 a", "2");
     EXPECT_TRUE(Renames(tree, L"a", L"A")) << GetLastError();
-    EXPECT_EQ(NamesIn(tree), (Names{L"A", L"rename~1.tmp"}));
+    EXPECT_EQ(NamesIn(tree), (Names{L"A", L"rename~1 a"}));
 }
 
 TEST(RenamingByCase, to_the_very_same_name_changes_nothing) {
@@ -104,6 +111,33 @@ TEST(RenamingByCase, is_undone_whichever_of_its_steps_fails) {
         EXPECT_FALSE(renamed);
         EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_SHARING_VIOLATION));
         EXPECT_EQ(NamesIn(tree), Names{L"a"}) << "step " << failingCall;
+    }
+}
+
+TEST(RenamingByCase, that_ends_in_the_middle_leaves_a_name_with_the_whole_old_one_in_it) {
+    for (const std::wstring& name : {std::wstring(L"notes.txt"), std::wstring(60, L'n')}) {
+        TempTree tree;
+        const std::wstring from = Literal(tree.AddFile(name, "1"));
+        std::wstring upper = name;
+        CharUpperW(upper.data());
+        calls = 0;
+        lastCall = 2;
+        const BOOL renamed = RespellEntry(from.c_str(), Literal(tree.Path(upper)).c_str(), &MoveUntilTheEnd);
+        EXPECT_EQ(NamesIn(tree), Names{renamed ? upper : L"rename~1 " + name});
+    }
+}
+
+TEST(RenamingByCase, of_the_longest_names_ends_with_the_new_one) {
+    TempTree tree;
+    // 255 bytes, more than which many file systems have no room for; one begins in the middle of a character.
+    for (const wchar_t* begin : {L"", L"x"}) {
+        std::wstring name = begin;
+        while (name.size() < 116)
+            name += L"\U0001F600";
+        tree.AddFile(name + L"a", "1");
+        EXPECT_TRUE(Renames(tree, (name + L"a").c_str(), (name + L"A").c_str())) << GetLastError();
+        EXPECT_EQ(NamesIn(tree), Names{name + L"A"});
+        EXPECT_TRUE(DeleteFileW(Literal(tree.Path(name + L"A")).c_str()));
     }
 }
 
