@@ -13,6 +13,7 @@
 
 #include "tests/resources/dialog_expectations.h"
 #include "tests/resources/dialog_template.h"
+#include "tests/resources/program_module.h"
 
 namespace {
 
@@ -135,6 +136,29 @@ TEST(DialogTemplates, every_template_is_set_in_tahoma_9) {
         EXPECT_EQ(dialog.fontName, L"Tahoma");
         EXPECT_EQ(dialog.fontSize, 9);
     }
+}
+
+// Half-width letters have no room of their own in front of them.
+TEST(DialogTemplates, no_text_touches_the_left_edge) {
+    int texts = 0;
+    const auto expectRoom = [&](LPWSTR name) {
+        DialogTemplate dialog;
+        EXPECT_TRUE(ReadDialogTemplate(name, dialog)) << testing::PrintToString(std::wstring(name));
+        for (const TemplateControl& control : dialog.controls) {
+            if (control.className != L"Static" || control.text.empty() || control.text[0] == L'#') continue;
+            EXPECT_GE(control.x, 1) << testing::PrintToString(control.text);
+            ++texts;
+        }
+    };
+    using ExpectRoom = decltype(expectRoom);
+    EnumResourceNamesW(
+        ProgramModule(), RT_DIALOG,
+        [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR expect) -> BOOL {
+            (*reinterpret_cast<const ExpectRoom*>(expect))(name);
+            return TRUE;
+        },
+        reinterpret_cast<LONG_PTR>(&expectRoom));
+    EXPECT_GT(texts, 50);
 }
 
 TEST(DialogTemplates, a_page_is_a_child_without_title_that_joins_its_parents_tab_order) {
