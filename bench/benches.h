@@ -11,11 +11,11 @@
 [[nodiscard]] bool CompareRows(const BenchTree& tree, int files, int turns);
 
 // The private memory that so many rows take, against that of the same rows in a plain list.
-[[nodiscard]] bool CompareMemory(const BenchTree& tree, int files, int turns);
+[[nodiscard]] bool CompareMemory(const BenchTree& tree, int files);
 
-// The part of it that runs in a process of its own: the kilobytes that the folder's rows take in a plain
-// list.
-[[nodiscard]] int MemoryOfPlainRows(const std::wstring& folder);
+// The part of it that runs in a process of its own: the kilobytes that the folder's rows take in a plain list
+// that has been filled with them so many times.
+[[nodiscard]] int MemoryOfPlainRows(const std::wstring& folder, int times);
 
 // A sort by a click on each heading, against the control's own sort of the same rows by an integer.
 [[nodiscard]] bool CompareSorting(const BenchTree& tree, int files, double goal, int turns);

@@ -55,7 +55,7 @@ std::vector<Part> PartsOf(const BenchTree& tree, int turns) {
         {L"rows-1000", [=] { return CompareRows(tree, Few, turns); }},
         {L"rows-20000", [=] { return CompareRows(tree, Many, turns); }},
         {L"rows-100000", [=] { return CompareRows(tree, VeryMany, fewer); }},
-        {L"memory", [=] { return CompareMemory(tree, Many, 3) && CompareMemory(tree, VeryMany, 1); }},
+        {L"memory", [=] { return CompareMemory(tree, Many) && CompareMemory(tree, VeryMany); }},
         {L"sort-20000", [=] { return CompareSorting(tree, Many, 2.7, turns); }},
         {L"sort-100000", [=] { return CompareSorting(tree, VeryMany, 1.7, fewer); }},
         {L"walk", [=] { return CompareWalk("", tree, tree.Files(), turns); }},
@@ -92,7 +92,8 @@ int RunParts(const Options& options) {
 
 int wmain(int count, wchar_t** words) {
     ContextForStartUp().instance = GetModuleHandleW(nullptr);
-    if (count == 3 && std::wstring(words[1]) == L"--memory-of-rows") return MemoryOfPlainRows(words[2]);
+    if (count == 4 && std::wstring(words[1]) == L"--memory-of-rows")
+        return MemoryOfPlainRows(words[2], static_cast<int>(std::wcstol(words[3], nullptr, 10)));
     Options options;
     if (!ReadOptions(count, words, options)) {
         std::printf("usage: quorin_bench [--runs N] FOLDER [PART...]\n");

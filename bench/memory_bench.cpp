@@ -19,20 +19,31 @@ std::wstring OwnPath() {
     return path;
 }
 
-double KilobytesInProgram(const std::wstring& folder) {
+// What the rows take in a fresh heap, and what they take where others have been before: the list's arrays
+// grow by a few places at a time and leave holes behind, more or fewer of them by accident.
+struct Kilobytes {
+    double first;
+    double second;
+};
+
+Kilobytes KilobytesInProgram(const BenchTree& tree, const std::wstring& folder) {
     ShippedProgram program;
     program.Ask(folder);
     const double before = program.PrivateBytes();
     program.Find();
-    const double after = program.PrivateBytes();
+    const double first = program.PrivateBytes();
+    program.Ask(tree.Empty());
+    program.Find();
+    program.Ask(folder);
+    program.Find();
+    const double second = program.PrivateBytes();
     program.Close();
-    return (after - before) / Kilobyte;
+    return {(first - before) / Kilobyte, (second - before) / Kilobyte};
 }
 
-// In a process of its own: memory that rows have left behind in this one would be filled first. The exit code
-// is the answer.
-double KilobytesInPlainList(const std::wstring& folder) {
-    std::wstring commandLine = L"\"" + OwnPath() + L"\" --memory-of-rows \"" + folder + L"\"";
+// In a process of its own, whose exit code is the answer.
+double KilobytesOfFilling(const std::wstring& folder, const wchar_t* times) {
+    std::wstring commandLine = L"\"" + OwnPath() + L"\" --memory-of-rows \"" + folder + L"\" " + times;
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION started = {};
@@ -50,23 +61,25 @@ double KilobytesInPlainList(const std::wstring& folder) {
 
 }  // namespace
 
-int MemoryOfPlainRows(const std::wstring& folder) {
-    const std::vector<ReadyRow> rows = RowsBelow(folder);
+int MemoryOfPlainRows(const std::wstring& folder, int times) {
     PlainList list(ListPlace);
     const double before = PrivateBytesOf(GetCurrentProcessId());
-    list.Insert(rows);
+    for (int filling = 0; filling < times; ++filling) {
+        list.DeleteAll();
+        list.InsertBelow(folder);
+    }
     return static_cast<int>((PrivateBytesOf(GetCurrentProcessId()) - before) / Kilobyte);
 }
 
-bool CompareMemory(const BenchTree& tree, int files, int turns) {
+bool CompareMemory(const BenchTree& tree, int files) {
     const std::wstring folder = tree.Rows(files);
-    Pairs pairs;
-    for (int turn = 0; turn < turns; ++turn) {
-        const double ours = KilobytesInProgram(folder);
-        const double bare = KilobytesInPlainList(folder);
-        if (ours <= 0 || bare <= 0) return false;
-        pairs.Add(ours, bare);
-    }
-    pairs.Print("memory of " + std::to_string(files) + " rows, in KB", 1.2);
+    const Kilobytes ours = KilobytesInProgram(tree, folder);
+    const Kilobytes bare = {KilobytesOfFilling(folder, L"1"), KilobytesOfFilling(folder, L"2")};
+    if (ours.first <= 0 || bare.first <= 0 || bare.second <= 0) return false;
+    Pairs first, second;
+    first.Add(ours.first, bare.first);
+    second.Add(ours.second, bare.second);
+    first.Print("KB of " + std::to_string(files) + " rows after the first find", 1.2);
+    second.Print("KB of " + std::to_string(files) + " rows after the second find", 1.2);
     return true;
 }

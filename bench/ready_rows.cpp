@@ -51,14 +51,18 @@ HFONT MakeFont() {
 
 }  // namespace
 
-std::vector<ReadyRow> RowsBelow(const std::wstring& folder) {
+void ForEachRowBelow(const std::wstring& folder, const std::function<void(const ReadyRow&)>& visit) {
     TypeNames types;
-    std::vector<ReadyRow> rows;
     Enumerate(folder, [&](const std::wstring& place, const WIN32_FIND_DATAW& entry) {
         const std::wstring path = place + L"\\" + entry.cFileName;
-        rows.push_back({{entry.cFileName, place, SizeText(entry),
-                         types.Of(path.c_str(), entry.dwFileAttributes), TimeText(entry)}});
+        visit({{entry.cFileName, place, SizeText(entry), types.Of(path.c_str(), entry.dwFileAttributes),
+                TimeText(entry)}});
     });
+}
+
+std::vector<ReadyRow> RowsBelow(const std::wstring& folder) {
+    std::vector<ReadyRow> rows;
+    ForEachRowBelow(folder, [&](const ReadyRow& row) { rows.push_back(row); });
     return rows;
 }
 
@@ -96,23 +100,42 @@ void PlainList::InsertColumns() const {
     }
 }
 
-void PlainList::Insert(const std::vector<ReadyRow>& rows) {
+void PlainList::BeginInserting() {
     Call(WM_SETREDRAW, FALSE, nullptr);
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        LVITEMW item = {};
-        item.mask = LVIF_TEXT | LVIF_PARAM;
-        item.iItem = static_cast<int>(row);
-        item.lParam = static_cast<LPARAM>(row);
-        item.pszText = const_cast<wchar_t*>(rows[row].cells[0].c_str());
-        Call(LVM_INSERTITEMW, 0, &item);
-        for (int column = 1; column < ResultColumnCount; ++column) {
-            item.iSubItem = column;
-            item.pszText = const_cast<wchar_t*>(rows[row].cells[column].c_str());
-            Call(LVM_SETITEMTEXTW, row, &item);
-        }
-    }
+    rows_ = Rows();
+}
+
+void PlainList::EndInserting() {
     Call(WM_SETREDRAW, TRUE, nullptr);
     RedrawWindow(list_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+}
+
+void PlainList::Append(const ReadyRow& row) {
+    LVITEMW item = {};
+    item.mask = LVIF_TEXT | LVIF_PARAM;
+    item.iItem = rows_;
+    item.lParam = rows_;
+    item.pszText = const_cast<wchar_t*>(row.cells[0].c_str());
+    Call(LVM_INSERTITEMW, 0, &item);
+    for (int column = 1; column < ResultColumnCount; ++column) {
+        item.iSubItem = column;
+        item.pszText = const_cast<wchar_t*>(row.cells[column].c_str());
+        Call(LVM_SETITEMTEXTW, static_cast<WPARAM>(rows_), &item);
+    }
+    ++rows_;
+}
+
+void PlainList::Insert(const std::vector<ReadyRow>& rows) {
+    BeginInserting();
+    for (const ReadyRow& row : rows)
+        Append(row);
+    EndInserting();
+}
+
+void PlainList::InsertBelow(const std::wstring& folder) {
+    BeginInserting();
+    ForEachRowBelow(folder, [this](const ReadyRow& row) { Append(row); });
+    EndInserting();
 }
 
 void PlainList::DeleteAll() {

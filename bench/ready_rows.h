@@ -6,6 +6,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct ReadyRow {
 
 // One for each entry below the folder, in the order in which a bare enumeration comes to them.
 [[nodiscard]] std::vector<ReadyRow> RowsBelow(const std::wstring& folder);
+
+// The same one after the other, none of them kept.
+void ForEachRowBelow(const std::wstring& folder, const std::function<void(const ReadyRow&)>& visit);
 
 class PlainList {
   public:
@@ -30,6 +34,8 @@ class PlainList {
     void Raise();
     // Drawing is suspended for all of them, and what is seen is drawn once behind the last.
     void Insert(const std::vector<ReadyRow>& rows);
+    // The same for the rows below the folder as they are found.
+    void InsertBelow(const std::wstring& folder);
     void DeleteAll();
     // By a number for each row, which are to be found by the number that the row was inserted as.
     void Sort(const std::vector<int>& numbers);
@@ -39,9 +45,13 @@ class PlainList {
   private:
     LRESULT Call(UINT message, WPARAM wParam, const void* argument) const;
     void InsertColumns() const;
+    void Append(const ReadyRow& row);
+    void BeginInserting();
+    void EndInserting();
 
     HWND window_ = nullptr;
     HWND list_ = nullptr;
     HFONT font_ = nullptr;
     WNDPROC procedure_ = nullptr;
+    int rows_ = 0;
 };

@@ -18,6 +18,8 @@ constexpr DWORD ShortPause = 1;
 
 // Of the result list, from the left.
 constexpr int ColumnWidths[ResultColumnCount] = {100, 140, 40, 74, 104};
+constexpr int AllColumns = 100 + 140 + 40 + 74 + 104;
+constexpr int FirstRightColumn = 2;
 constexpr int HeadingY = 5;
 
 struct WantedPage {
@@ -130,11 +132,25 @@ int ShippedProgram::Rows() const {
 double ShippedProgram::ClickHeading(int column) {
     const auto header = reinterpret_cast<HWND>(SendMessageW(list_, LVM_GETHEADER, 0, 0));
     const LPARAM place = MiddleOfHeading(column);
+    // As far to the left as it will go, and as far to the right: a heading takes clicks where it is seen.
+    SendMessageW(list_, LVM_SCROLL, static_cast<WPARAM>(column < FirstRightColumn ? -AllColumns : AllColumns),
+                 0);
+    Draw();
     return MillisecondsOf([&] {
         SendMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, place);
         SendMessageW(header, WM_LBUTTONUP, 0, place);
         Draw();
     });
+}
+
+void ShippedProgram::SelectLastRow() {
+    SendMessageW(list_, WM_KEYDOWN, VK_END, 0);
+    SendMessageW(list_, WM_KEYUP, VK_END, 0);
+}
+
+int ShippedProgram::SelectedRow() const {
+    return static_cast<int>(
+        SendMessageW(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_SELECTED, 0)));
 }
 
 double ShippedProgram::PrivateBytes() const {

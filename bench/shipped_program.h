@@ -29,6 +29,10 @@ class ShippedProgram {
     // A click on a heading of the list: until the rows are on the screen in their new order.
     double ClickHeading(int column);
 
+    void SelectLastRow();
+    // A sort takes the selected row along.
+    [[nodiscard]] int SelectedRow() const;
+
     // The process's memory that it shares with none, in bytes.
     [[nodiscard]] double PrivateBytes() const;
 
