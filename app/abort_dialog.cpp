@@ -64,7 +64,7 @@ bool AbortDialog::StopsBy(const MessageRecord& key) const {
 void AbortDialog::EnterFolder(const wchar_t* folder) {
     std::wcsncpy(folderText_, folder, MAX_PATH - 1);
     folderPending_ = true;
-    if (GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
+    if (ce::GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
 }
 
 void AbortDialog::BeforeLongFile() {
@@ -72,7 +72,7 @@ void AbortDialog::BeforeLongFile() {
 }
 
 bool AbortDialog::StopRequested() {
-    if (folderPending_ && GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
+    if (folderPending_ && ce::GetTickCount64() - lastShown_ >= ShowInterval) ShowFolder();
     return abortRequested_;
 }
 
@@ -80,5 +80,5 @@ void AbortDialog::ShowFolder() {
     folderPending_ = false;
     SetDlgItemTextW(Handle(), STATIC_FOLDER, folderText_);
     UpdateWindow(Handle());
-    lastShown_ = GetTickCount64();
+    lastShown_ = ce::GetTickCount64();
 }

@@ -38,6 +38,6 @@ class AbortDialog : public JobDialog, public SearchProgress {
 
     bool abortRequested_ = false;
     bool folderPending_ = false;
-    ULONGLONG lastShown_ = 0;  // in milliseconds of GetTickCount64
+    ULONGLONG lastShown_ = 0;  // in milliseconds of ce::GetTickCount64
     wchar_t folderText_[MAX_PATH] = L"";
 };

@@ -88,7 +88,7 @@ class MainWindow : public ApplicationView {
     SearchConditions conditions_;
     int currentPage_ = 0;
     bool closeAfterSearch_ = false;
-    // Until when an Enter in the list still belongs to a search; in milliseconds of GetTickCount64.
+    // Until when an Enter in the list still belongs to a search; in milliseconds of ce::GetTickCount64.
     ULONGLONG searchKeysEnd_ = 0;
     // Set once they are saved, and by an uninstall, so that the keys just removed are not written again.
     bool skipSaving_ = false;

@@ -109,7 +109,7 @@ LRESULT MainWindow::OnResultDoubleClick(EventArguments&) {
 
 LRESULT MainWindow::OnResultKeyDown(EventArguments& arguments) {
     if (reinterpret_cast<const NMLVKEYDOWN*>(arguments.argument)->wVKey != VK_RETURN) return 0;
-    if (!BelongsToSearch(GetTickCount64())) Activate();
+    if (!BelongsToSearch(ce::GetTickCount64())) Activate();
     return 0;
 }
 
@@ -131,7 +131,7 @@ LRESULT MainWindow::OnResultRenamed(EventArguments& arguments) {
 void MainWindow::Find() {
     const bool startedByEnter = GetKeyState(VK_RETURN) < 0;
     abortDialog_->RunModal();
-    searchKeysEnd_ = startedByEnter ? GetTickCount64() + GetDoubleClickTime() : 0;
+    searchKeysEnd_ = startedByEnter ? ce::GetTickCount64() + GetDoubleClickTime() : 0;
     UpdateWindow(Handle());
     results_->SelectRow(0);
     if (results_->SelectedCount() == 0) EnableResultCommands(false);

@@ -13,8 +13,8 @@ namespace {
 constexpr UINT OutOfMemory = 3;
 
 [[noreturn]] void EndProgram() {
-    TerminateProcess(GetCurrentProcess(), OutOfMemory);
-    std::abort();
+    while (true)
+        TerminateProcess(GetCurrentProcess(), OutOfMemory);
 }
 
 void* Allocate(std::size_t size) {

@@ -47,7 +47,7 @@ const OperationTexts* TextsOf(FileOperationKind kind) {
 
 // Drops separators at the end, which later comparisons and joins do not expect; a root keeps its own.
 bool CopyPath(PathBuffer& destination, const wchar_t* path) {
-    std::size_t units = wcsnlen(path, MAX_PATH);
+    std::size_t units = std::wcslen(path);
     if (units >= MAX_PATH) return false;
     const std::size_t root = units > 1 && path[1] == L':' ? 3 : 1;
     while (units > root && IsSeparator(path[units - 1]))

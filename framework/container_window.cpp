@@ -120,7 +120,7 @@ bool ContainerWindow::HoldsWindow(HWND window) const {
 
 bool ContainerWindow::CanTakeFocus(HWND control) const {
     for (; control != nullptr && control != Handle(); control = GetParent(control)) {
-        const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
+        const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
         if ((style & WS_VISIBLE) == 0 || (style & WS_DISABLED) != 0) return false;
     }
     return control == Handle();

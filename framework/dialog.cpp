@@ -62,11 +62,7 @@ Dialog::~Dialog() {
 }
 
 const DLGTEMPLATE* Dialog::FindTemplate() const {
-    const HINSTANCE instance = Context().instance;
-    const HRSRC resource = FindResourceW(instance, templateName_, RT_DIALOG);
-    return resource != nullptr
-               ? static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(instance, resource)))
-               : nullptr;
+    return static_cast<const DLGTEMPLATE*>(ce::ResourceBytes(Context().instance, templateName_, RT_DIALOG));
 }
 
 void Dialog::CreateModeless() {
@@ -126,11 +122,11 @@ INT_PTR CALLBACK Dialog::ModelessProcedure(HWND window, UINT message, WPARAM wPa
 }
 
 bool Dialog::TellsOfCreation(HWND window, UINT message) {
-    return message == WM_INITDIALOG && GetWindowLongPtrW(window, DWLP_USER) == 0;
+    return message == WM_INITDIALOG && GetWindowLongW(window, DWLP_USER) == 0;
 }
 
 bool Dialog::TakeWindow(HWND window) {
-    SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongW(window, DWLP_USER, 1);
     ForgetFocus();
     const bool found = Attach(window);
     if (!found) Detach();

@@ -31,8 +31,8 @@ LONG HeightOf(const RECT& place) {
     return place.bottom - place.top;
 }
 
-LONG_PTR StyleOf(HWND control) {
-    return GetWindowLongPtrW(control, GWL_STYLE);
+LONG StyleOf(HWND control) {
+    return GetWindowLongW(control, GWL_STYLE);
 }
 
 bool IsText(HWND control) {

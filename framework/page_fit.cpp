@@ -32,7 +32,7 @@ LONG HeightToGive(HWND control, const RECT& place) {
 }
 
 bool IsOneLine(HWND control) {
-    return (GetWindowLongPtrW(control, GWL_STYLE) & SS_ELLIPSISMASK) != 0;
+    return (GetWindowLongW(control, GWL_STYLE) & SS_ELLIPSISMASK) != 0;
 }
 
 LONG WidthOnOneLine(HWND control) {
@@ -65,7 +65,7 @@ void AlignBehindLabel(HWND value, HWND label, LONG column, LONG right) {
 }
 
 bool IsShown(HWND control) {
-    return (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+    return (GetWindowLongW(control, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
 LONG LowestShown(HWND page) {

@@ -64,7 +64,7 @@ LRESULT PropertySheetPage::OnWmNotify(MessageRecord& record) {
     const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
     if (header == nullptr || header->code != static_cast<UINT>(PSN_APPLY)) return Dialog::OnWmNotify(record);
     RaiseEvent(event::Apply, 0, record.lParam, record);
-    SetWindowLongPtrW(Handle(), DWLP_MSGRESULT, PSNRET_NOERROR);
+    ce::SetDialogResult(Handle(), PSNRET_NOERROR);
     return 1;
 }
 

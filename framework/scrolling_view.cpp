@@ -117,7 +117,7 @@ ScrollingView::ScrollingView(WindowObject* parentObject, const wchar_t* title, P
       thumbTracking_(properties.Get(property::ThumbTracking) != 0) {
     SetUpBars(properties);
     if (properties.Has(property::ViewIcon)) {
-        SetClassLongPtrW(Handle(), GCLP_HICON, static_cast<LONG_PTR>(properties.Get(property::ViewIcon)));
+        ce::SetClassIcon(Handle(), reinterpret_cast<HICON>(properties.Get(property::ViewIcon)));
     }
     OnMessage(WM_HSCROLL, this, &ScrollingView::OnWmHScroll);
     OnMessage(WM_VSCROLL, this, &ScrollingView::OnWmVScroll);

@@ -4,6 +4,7 @@
 
 #include "base/program_context.h"
 #include "framework/property_set.h"
+#include "platform/ce_windows.h"
 #include "platform/windows_ce.h"
 
 namespace {
@@ -60,8 +61,7 @@ WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement) {
     if (!IsWindow(window)) return nullptr;
     auto* entry = new (std::nothrow) SubclassedWindow{window, nullptr, subclassedWindows};
     if (entry == nullptr) return nullptr;
-    entry->procedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement)));
+    entry->procedure = ce::SetWindowProcedure(window, replacement);
     subclassedWindows = entry;
     return entry->procedure;
 }

@@ -47,6 +47,13 @@ inline BOOL FileTimeToLocalFileTime(const FILETIME* utc, FILETIME* local) {
     return systemCalls.fileTimeToLocalFileTime(utc, local);
 }
 
+// Milliseconds since the system started. Unlike those of GetTickCount they never begin at 0 again.
+[[nodiscard]] ULONGLONG GetTickCount64();
+
+// The bytes of a resource, which stay as long as its module is loaded; null if there is none of that name and
+// type. The handheld's LoadResource answers them; the desktop's answers a handle.
+[[nodiscard]] const void* ResourceBytes(HINSTANCE module, const wchar_t* name, const wchar_t* type);
+
 // Counts of bytes.
 struct FreeAndTotal {
     std::uint64_t free = 0;

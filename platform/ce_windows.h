@@ -20,6 +20,17 @@ HWND CreateWindowExW(DWORD extendedStyle, const wchar_t* className, const wchar_
                      int y, int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
                      void* parameter);
 
+// The procedure that takes the window's messages, and putting another one in its place, which answers the one
+// before (null where there is no such window). A window's long word holds a pointer on the handheld only.
+[[nodiscard]] WNDPROC WindowProcedure(HWND window);
+WNDPROC SetWindowProcedure(HWND window, WNDPROC procedure);
+
+// What a dialog answers to the message that it has just handled (DWL_MSGRESULT).
+void SetDialogResult(HWND dialog, LRESULT result);
+
+// The icon of all windows of this window's class.
+void SetClassIcon(HWND window, HICON icon);
+
 // Registers the class; a background brush given as index with the flag is brought to the desktop's form, and
 // a class without a cursor gets the arrow.
 ATOM RegisterClassW(const WNDCLASSW* windowClass);
@@ -30,7 +41,6 @@ HBRUSH GetSysColorBrush(int index);
 
 // The part of the screen that windows may fill: the screen, of the size that ce::GetSystemMetrics tells,
 // without what the system keeps for its own bars.
-// The screen, of the size that ce::GetSystemMetrics tells, without what the system keeps for its own bars.
 [[nodiscard]] RECT ScreenArea();
 
 }  // namespace ce

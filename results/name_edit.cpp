@@ -61,8 +61,7 @@ LRESULT NameEdit::OnComposition(MessageRecord& record) {
 // of the two messages is the last that is seen.
 LRESULT NameEdit::OnDestroyed(MessageRecord& record) {
     const LRESULT result = DefaultProcessing(record);
-    const auto now = GetWindowLongPtrW(Handle(), GWLP_WNDPROC);
-    const bool bypassed = now != reinterpret_cast<LONG_PTR>(&FrameworkWindowProcedure);
+    const bool bypassed = ce::WindowProcedure(Handle()) != &FrameworkWindowProcedure;
     if (record.message == WM_NCDESTROY || bypassed) Detach();
     return result;
 }

@@ -5,7 +5,7 @@
 
 #include "platform/system_types.h"
 
-// Times are in milliseconds of GetTickCount64.
+// Times are in milliseconds of ce::GetTickCount64.
 class RefreshPace {
   public:
     // Call when filling begins, with the list empty.

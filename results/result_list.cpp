@@ -101,7 +101,7 @@ void ResultList::BeginFilling() {
     if (filling_ || Handle() == nullptr) return;
     filling_ = true;
     rowsPending_ = false;
-    pace_.Begin(GetTickCount64());
+    pace_.Begin(ce::GetTickCount64());
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
 }
 
@@ -133,15 +133,15 @@ bool ResultList::ClearSome() {
     if (Handle() != nullptr) EnableWindow(Handle(), TRUE);
     hasRows_ = false;
     rowsPending_ = true;
-    pace_.Begin(GetTickCount64());
+    pace_.Begin(ce::GetTickCount64());
     return false;
 }
 
 // So many at most, and as many as the time of one step allows.
 void ResultList::DeleteLastRows(int rows) {
-    const ULONGLONG start = GetTickCount64();
+    const ULONGLONG start = ce::GetTickCount64();
     auto last = static_cast<WPARAM>(RowCount());
-    for (; rows > 0 && GetTickCount64() - start < ClearingStep; --rows)
+    for (; rows > 0 && ce::GetTickCount64() - start < ClearingStep; --rows)
         CallControl(LVM_DELETEITEM, --last, 0);
 }
 
@@ -181,16 +181,17 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
 }
 
 void ResultList::Refresh() {
-    if (filling_ && rowsPending_ && pace_.IsDue(GetTickCount64(), hasRows_)) ShowPending();
+    if (filling_ && rowsPending_ && pace_.IsDue(ce::GetTickCount64(), hasRows_)) ShowPending();
 }
 
 void ResultList::ShowPending() {
-    const ULONGLONG start = GetTickCount64();
+    const ULONGLONG start = ce::GetTickCount64();
     SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
-    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    InvalidateRect(Handle(), nullptr, TRUE);
+    UpdateWindow(Handle());
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
     rowsPending_ = false;
-    pace_.Drawn(start, GetTickCount64(), hasRows_);
+    pace_.Drawn(start, ce::GetTickCount64(), hasRows_);
 }
 
 int ResultList::RowCount() const {
@@ -264,9 +265,8 @@ int ResultList::SelectedCount() const {
 }
 
 void ResultList::SetView(DWORD view) {
-    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
-    SetWindowLongPtrW(Handle(), GWL_STYLE,
-                      (style & ~static_cast<LONG_PTR>(ViewMask)) | static_cast<LONG_PTR>(view));
+    const LONG style = GetWindowLongW(Handle(), GWL_STYLE);
+    SetWindowLongW(Handle(), GWL_STYLE, (style & ~static_cast<LONG>(ViewMask)) | static_cast<LONG>(view));
     // The desktop's list draws the new view over the old one.
     if (Handle() != nullptr) InvalidateRect(Handle(), nullptr, TRUE);
 }

@@ -67,6 +67,6 @@ std::size_t FileByteSource::Fill(unsigned char* block, std::size_t size) {
 
 void FileByteSource::Rewind() {
     if (!file_) return;
-    std::rewind(file_.Get());
+    std::fseek(file_.Get(), 0, SEEK_SET);
     ended_ = false;
 }

@@ -104,3 +104,13 @@ ce::StorageCalls ce::storageCalls = {ProgramMemory, ObjectStore, StorageCard, Di
 void ce::SuppressDiskPrompts() {
     SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
 }
+
+ULONGLONG ce::GetTickCount64() {
+    return ::GetTickCount64();
+}
+
+const void* ce::ResourceBytes(HINSTANCE module, const wchar_t* name, const wchar_t* type) {
+    const HRSRC place = FindResourceW(module, name, type);
+    const HGLOBAL resource = place != nullptr ? LoadResource(module, place) : nullptr;
+    return resource != nullptr ? LockResource(resource) : nullptr;
+}

@@ -91,6 +91,23 @@ HWND CreateWindowExW(DWORD extendedStyle, const wchar_t* className, const wchar_
                              parameter);
 }
 
+WNDPROC WindowProcedure(HWND window) {
+    return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
+}
+
+WNDPROC SetWindowProcedure(HWND window, WNDPROC procedure) {
+    return reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
+void SetDialogResult(HWND dialog, LRESULT result) {
+    SetWindowLongPtrW(dialog, DWLP_MSGRESULT, result);
+}
+
+void SetClassIcon(HWND window, HICON icon) {
+    SetClassLongPtrW(window, GCLP_HICON, reinterpret_cast<LONG_PTR>(icon));
+}
+
 ATOM RegisterClassW(const WNDCLASSW* windowClass) {
     WNDCLASSW desktopClass = *windowClass;
     const auto brush = reinterpret_cast<ULONG_PTR>(desktopClass.hbrBackground);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/windows_ce.h"
+#include "tests/platform/bar_ids.h"
 #include "tests/support/replaced_calls.h"
 
 namespace {
@@ -188,6 +189,54 @@ TEST(ChildWindow, is_made_as_asked) {
     GetWindowRect(child, &rectangle);
     MapWindowPoints(HWND_DESKTOP, parent.Handle(), reinterpret_cast<POINT*>(&rectangle), 2);
     ExpectSame(rectangle, RECT{5, 6, 12, 14});
+}
+
+LRESULT CALLBACK AnswerSeven(HWND, UINT, WPARAM, LPARAM) {
+    return 7;
+}
+
+TEST(WindowProcedures, take_each_other_s_place) {
+    const SystemWindow window(L"static");
+    const WNDPROC own = ce::WindowProcedure(window.Handle());
+    EXPECT_NE(own, nullptr);
+    EXPECT_EQ(ce::SetWindowProcedure(window.Handle(), &AnswerSeven), own);
+    EXPECT_EQ(ce::WindowProcedure(window.Handle()), &AnswerSeven);
+    EXPECT_EQ(SendMessageW(window.Handle(), WM_USER, 0, 0), 7);
+    EXPECT_EQ(ce::SetWindowProcedure(window.Handle(), own), &AnswerSeven);
+    EXPECT_EQ(SendMessageW(window.Handle(), WM_USER, 0, 0), 0);
+}
+
+TEST(WindowProcedures, of_no_window_are_null) {
+    EXPECT_EQ(ce::WindowProcedure(nullptr), nullptr);
+    EXPECT_EQ(ce::SetWindowProcedure(nullptr, &AnswerSeven), nullptr);
+}
+
+TEST(DialogResults, are_what_the_dialog_s_procedure_answers) {
+    const auto procedure = [](HWND dialog, UINT message, WPARAM, LPARAM) -> INT_PTR {
+        if (message != WM_USER) return FALSE;
+        ce::SetDialogResult(dialog, 12);
+        return TRUE;
+    };
+    const HWND dialog =
+        CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(DIALOG_PLAIN), nullptr, procedure, 0);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(SendMessageW(dialog, WM_USER, 0, 0), 12);
+    DestroyWindow(dialog);
+}
+
+TEST(Resources, are_read_where_they_are) {
+    const HMODULE module = GetModuleHandleW(nullptr);
+    const auto* bar =
+        static_cast<const WORD*>(ce::ResourceBytes(module, MAKEINTRESOURCEW(BAR_ENGLISH), RT_RCDATA));
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(bar[0], BAR_ENGLISH);
+    EXPECT_EQ(bar[1], 3);
+}
+
+TEST(Resources, that_are_missing_have_no_bytes) {
+    const HMODULE module = GetModuleHandleW(nullptr);
+    EXPECT_EQ(ce::ResourceBytes(module, MAKEINTRESOURCEW(BAR_MISSING), RT_RCDATA), nullptr);
+    EXPECT_EQ(ce::ResourceBytes(module, MAKEINTRESOURCEW(BAR_ENGLISH), RT_BITMAP), nullptr);
 }
 
 }  // namespace
