@@ -90,8 +90,7 @@ void MainWindow::CreateTabControl(const RECT& area) {
     PlaceProperties(properties, area.left, area.top, area.right - area.left, TabControlHeight);
     properties.Set(property::Style, WS_TABSTOP | WS_CLIPSIBLINGS);
     tabControl_ = std::make_unique<TabControl>(this, properties);
-    SendMessageW(tabControl_->Handle(), WM_SETFONT,
-                 reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    SendMessageW(tabControl_->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(ce::ControlFont()), FALSE);
     tabControl_->Subclass();
     tabControl_->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
     tabControl_->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);

@@ -74,7 +74,7 @@ void FolderBrowseDialog::StretchTree() {
 }
 
 void FolderBrowseDialog::LoadImages() {
-    folderImages_.Reset(ImageList_Create(ImageSize, ImageSize, ILC_COLOR32 | ILC_MASK, 0, 5));
+    folderImages_ = ce::CreateIconList(ImageSize, 0, 5);
     for (const int id : {RootIcon(), ICON_FOLDER, ICON_OPEN_FOLDER}) {
         const UniqueIcon icon(static_cast<HICON>(LoadImageW(
             Context().instance, MAKEINTRESOURCEW(id), IMAGE_ICON, ImageSize, ImageSize, LR_DEFAULTCOLOR)));

@@ -294,7 +294,7 @@ LRESULT Dialog::OnWmCtlColorStatic(MessageRecord& record) {
     return reinterpret_cast<LRESULT>(WhiteBrush());
 }
 
-// Dialogs are white on the handheld, whatever the desktop's colour for them is.
+// Dialogs are white, whatever the system's colour for them is.
 LRESULT Dialog::OnWmCtlColorDialog(MessageRecord&) {
     return reinterpret_cast<LRESULT>(WhiteBrush());
 }

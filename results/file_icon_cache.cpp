@@ -17,11 +17,10 @@ constexpr int SmallSize = 16;
 constexpr int FixedIcons[] = {ICON_DOCUMENT, ICON_APPLICATION, ICON_FOLDER, ICON_SHORTCUT_MARK};
 constexpr int ShortcutOverlay = 1;
 
-// Owns an image list. The desktop's hold 16 colours unless more are asked for.
+// Owns an image list.
 class ImageList {
   public:
-    explicit ImageList(int imageSize)
-        : size_(imageSize), images_(ImageList_Create(imageSize, imageSize, ILC_COLOR32 | ILC_MASK, 5, 10)) {}
+    explicit ImageList(int imageSize) : size_(imageSize), images_(ce::CreateIconList(imageSize, 5, 10)) {}
 
     [[nodiscard]] HIMAGELIST Handle() const { return images_.Get(); }
 

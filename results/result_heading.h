@@ -1,6 +1,6 @@
 #pragma once
 
-// The headings of the result list. Each click on one counts, however soon it follows the last: the desktop
+// The headings of the result list. Each click on one counts, however soon it follows the last: the system
 // makes two quick ones a double click, of which a heading knows nothing.
 
 #include "framework/control.h"

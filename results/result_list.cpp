@@ -28,8 +28,6 @@ constexpr ColumnDescription Columns[ResultColumnCount] = {
     {L"Modified", L"更新日時", 104, LVCFMT_LEFT},
 };
 
-constexpr DWORD ViewMask = 3;
-
 // A list of so many rows is emptied in less than half of the time in which an Abort has to be answered, and
 // all at once it costs less than row by row.
 constexpr int RowsClearedAtOnce = 6000;
@@ -50,7 +48,7 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
     : ListViewControl(parentObject, WithListStyle(properties)) {
     const LRESULT style = SendMessageW(Handle(), LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
     SendMessageW(Handle(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, style | LVS_EX_FULLROWSELECT);
-    UseDialogFont();
+    SetListFont();
     InsertColumns();
     const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
     if (header != nullptr) heading_.reset(new (std::nothrow) ResultHeading(this, header));
@@ -60,18 +58,13 @@ ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
     OnMessage(WM_LBUTTONDOWN, this, &ResultList::OnLeftButtonDown);
     OnMessage(WM_KILLFOCUS, this, &ResultList::OnFocusLost);
     OnMessage(WM_KEYDOWN, this, &ResultList::OnKeyDown);
-    OnMessage(WM_SYSKEYDOWN, this, &ResultList::OnSystemKeyDown);
-    OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemCharacter);
+    OnMessage(WM_SYSKEYDOWN, this, &ResultList::OnSystemKey);
+    OnMessage(WM_SYSCHAR, this, &ResultList::OnSystemKey);
 }
 
-// The list's own font is that of the desktop's icons, which on a Japanese system may be a fixed-width one.
-void ResultList::UseDialogFont() {
-    LOGFONTW description{};
-    if (!SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof description, &description, 0)) return;
-    std::wcscpy(description.lfFaceName, L"Tahoma");
-    description.lfCharSet = DEFAULT_CHARSET;
-    font_.Reset(CreateFontIndirectW(&description));
-    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
+void ResultList::SetListFont() {
+    font_ = ce::ListFont();
+    if (font_) SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
 }
 
 void ResultList::LoadIcons() {
@@ -265,10 +258,7 @@ int ResultList::SelectedCount() const {
 }
 
 void ResultList::SetView(DWORD view) {
-    const LONG style = GetWindowLongW(Handle(), GWL_STYLE);
-    SetWindowLongW(Handle(), GWL_STYLE, (style & ~static_cast<LONG>(ViewMask)) | static_cast<LONG>(view));
-    // The desktop's list draws the new view over the old one.
-    if (Handle() != nullptr) InvalidateRect(Handle(), nullptr, TRUE);
+    ce::SetListView(Handle(), view);
 }
 
 LRESULT ResultList::OnColumnClick(EventArguments& arguments) {

@@ -74,7 +74,7 @@ class ResultList : public ListViewControl, public MatchSink {
     // Of the last click.
     enum class EditingClick { None, Awaited, Overtaken };
 
-    void UseDialogFont();
+    void SetListFont();
     void InsertColumns();
     LRESULT CallControl(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnColumnClick(EventArguments& arguments);
@@ -85,8 +85,7 @@ class ResultList : public ListViewControl, public MatchSink {
     LRESULT OnKeyDown(MessageRecord& record);
     bool ScrollByKey(WPARAM key);
     void SortByKey(int column);
-    LRESULT OnSystemKeyDown(MessageRecord& record);
-    LRESULT OnSystemCharacter(MessageRecord& record);
+    LRESULT OnSystemKey(MessageRecord& record);
     void ShowPending();
     void DeleteLastRows(int rows);
 

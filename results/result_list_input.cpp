@@ -14,7 +14,7 @@ constexpr LPARAM KeyWasDown = 1L << 30;
 
 }  // namespace
 
-// The desktop's list view edits only while it has the focus.
+// A list view edits only while it has the focus.
 void ResultList::EditName(int row) {
     SetFocus(Handle());
     SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
@@ -72,7 +72,7 @@ bool ResultList::EditedName(const NMLVDISPINFOW& edited, std::wstring& name) con
         name = edited.item.pszText;
         return true;
     }
-    // A null text is how the desktop reports a cancelled edit, but also an empty or unchanged text.
+    // A null text is how the list view reports a cancelled edit, but also an empty or unchanged text.
     if (nameEdit_ == nullptr || nameEdit_->Handle() == nullptr || !nameEdit_->IsTaken()) return false;
     name = nameEdit_->Text();
     return true;
@@ -110,19 +110,8 @@ void ResultList::SortByKey(int column) {
     SendMessageW(GetParent(Handle()), WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
 }
 
-// The handheld's list view reports Alt+Enter like any key; the desktop's does not report it.
-LRESULT ResultList::OnSystemKeyDown(MessageRecord& record) {
-    OvertakeClick();
-    if (record.wParam != VK_RETURN) return DefaultProcessing(record);
-    if ((record.lParam & KeyWasDown) != 0) return 0;
-    NMLVKEYDOWN key{};
-    key.hdr = {Handle(), static_cast<UINT_PTR>(GetDlgCtrlID(Handle())), static_cast<UINT>(LVN_KEYDOWN)};
-    key.wVKey = VK_RETURN;
-    SendMessageW(GetParent(Handle()), WM_NOTIFY, key.hdr.idFrom, reinterpret_cast<LPARAM>(&key));
-    return 0;
-}
-
-// The character of that key would be looked up as a menu's mnemonic, and the system would beep.
-LRESULT ResultList::OnSystemCharacter(MessageRecord& record) {
-    return record.wParam == VK_RETURN ? 0 : DefaultProcessing(record);
+LRESULT ResultList::OnSystemKey(MessageRecord& record) {
+    if (record.message == WM_SYSKEYDOWN) OvertakeClick();
+    const bool taken = ce::TakeAltEnter(Handle(), record.message, record.wParam, record.lParam);
+    return taken ? 0 : DefaultProcessing(record);
 }

@@ -15,6 +15,9 @@ constexpr std::size_t LettersOfShortYear = 3;
 constexpr unsigned long LargestPosition = 0xFFFF;
 constexpr DWORD NoNumber = 0x10000;
 
+// Of a key's lParam: it was down already, and repeats itself.
+constexpr LPARAM KeyWasDown = 1L << 30;
+
 // What stands between the thousands of a number on this system.
 wchar_t ThousandsSeparator() {
     wchar_t separator[2];
@@ -102,6 +105,38 @@ void ce::SetPickerFormat(HWND picker, const wchar_t* format) {
     wchar_t changeable[FormatCapacity];
     SpellOutYear(format, changeable);
     SendMessageW(picker, DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(changeable));
+}
+
+void ce::SetListView(HWND list, DWORD view) {
+    const LONG style = GetWindowLongW(list, GWL_STYLE);
+    SetWindowLongW(list, GWL_STYLE, (style & ~LONG{LVS_TYPEMASK}) | static_cast<LONG>(view));
+    if (list != nullptr) InvalidateRect(list, nullptr, TRUE);
+}
+
+UniqueFont ce::ListFont() {
+    LOGFONTW description{};
+    if (!SystemParametersInfoW(SPI_GETICONTITLELOGFONT, sizeof description, &description, 0)) return {};
+    std::wcscpy(description.lfFaceName, L"Tahoma");
+    description.lfCharSet = DEFAULT_CHARSET;
+    return UniqueFont(CreateFontIndirectW(&description));
+}
+
+HFONT ce::ControlFont() {
+    return static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+bool ce::TakeAltEnter(HWND list, UINT message, WPARAM key, LPARAM state) {
+    if (key != VK_RETURN) return false;
+    if (message != WM_SYSKEYDOWN || (state & KeyWasDown) != 0) return true;
+    NMLVKEYDOWN press{};
+    press.hdr = {list, static_cast<UINT_PTR>(GetDlgCtrlID(list)), static_cast<UINT>(LVN_KEYDOWN)};
+    press.wVKey = VK_RETURN;
+    SendMessageW(GetParent(list), WM_NOTIFY, press.hdr.idFrom, reinterpret_cast<LPARAM>(&press));
+    return true;
+}
+
+UniqueImageList ce::CreateIconList(int size, int initial, int growth) {
+    return UniqueImageList(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, initial, growth));
 }
 
 int ce::FindComboEntry(HWND combo, int start, const wchar_t* text) {

@@ -11,7 +11,7 @@ namespace {
 class Controls : public testing::Test {
   protected:
     Controls() {
-        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_UPDOWN_CLASS};
+        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_UPDOWN_CLASS | ICC_LISTVIEW_CLASSES};
         InitCommonControlsEx(&classes);
         parent_ =
             CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
@@ -23,7 +23,6 @@ class Controls : public testing::Test {
                                nullptr);
     }
 
-  private:
     HWND parent_;
 };
 
@@ -75,6 +74,100 @@ class PickerFormat : public Controls {
 
     static inline std::wstring given;
 };
+
+// What a list view says of its keys.
+class ListKeys : public Controls {
+  protected:
+    static constexpr LPARAM Pressed = 1;
+    static constexpr LPARAM Repeated = 1 | 1L << 30;
+
+    ListKeys() : list_(Child(WC_LISTVIEWW, LVS_REPORT)) {
+        reported = 0;
+        otherParent = ce::SetWindowProcedure(parent_, &NoteKeys);
+    }
+
+    HWND list_;
+    static inline int reported = 0;
+
+  private:
+    static LRESULT CALLBACK NoteKeys(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == UINT{LVN_KEYDOWN} &&
+            reinterpret_cast<const NMLVKEYDOWN*>(lParam)->wVKey == VK_RETURN)
+            ++reported;
+        return CallWindowProcW(otherParent, window, message, wParam, lParam);
+    }
+    static inline WNDPROC otherParent = nullptr;
+};
+
+TEST_F(ListKeys, enter_with_alt_is_reported_like_any_key) {
+    EXPECT_TRUE(ce::TakeAltEnter(list_, WM_SYSKEYDOWN, VK_RETURN, Pressed));
+    EXPECT_EQ(reported, 1);
+}
+
+TEST_F(ListKeys, enter_with_alt_is_reported_once_while_it_is_held) {
+    EXPECT_TRUE(ce::TakeAltEnter(list_, WM_SYSKEYDOWN, VK_RETURN, Pressed));
+    EXPECT_TRUE(ce::TakeAltEnter(list_, WM_SYSKEYDOWN, VK_RETURN, Repeated));
+    EXPECT_EQ(reported, 1);
+}
+
+TEST_F(ListKeys, the_character_of_enter_with_alt_is_taken_and_not_reported) {
+    EXPECT_TRUE(ce::TakeAltEnter(list_, WM_SYSCHAR, VK_RETURN, Pressed));
+    EXPECT_EQ(reported, 0);
+}
+
+TEST_F(ListKeys, other_keys_with_alt_are_the_list_s_own) {
+    EXPECT_FALSE(ce::TakeAltEnter(list_, WM_SYSKEYDOWN, VK_F4, Pressed));
+    EXPECT_FALSE(ce::TakeAltEnter(list_, WM_SYSCHAR, L'o', Pressed));
+    EXPECT_EQ(reported, 0);
+}
+
+class ListLook : public Controls {
+  protected:
+    ListLook() : list_(Child(WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | WS_VISIBLE)) {
+        ShowWindow(parent_, SW_SHOWNOACTIVATE);
+        UpdateWindow(list_);
+    }
+    HWND list_;
+};
+
+TEST_F(ListLook, a_view_takes_the_place_of_the_one_before_and_leaves_the_other_styles) {
+    ce::SetListView(list_, LVS_SMALLICON);
+    const LONG style = GetWindowLongW(list_, GWL_STYLE);
+    EXPECT_EQ(style & LVS_TYPEMASK, LVS_SMALLICON);
+    EXPECT_NE(style & LVS_SINGLESEL, 0);
+}
+
+TEST_F(ListLook, a_new_view_is_drawn_on_a_clean_ground) {
+    ce::SetListView(list_, LVS_ICON);
+    RECT everything{};
+    RECT toBeDrawn{};
+    GetClientRect(list_, &everything);
+    ASSERT_TRUE(GetUpdateRect(list_, &toBeDrawn, FALSE));
+    EXPECT_TRUE(EqualRect(&toBeDrawn, &everything));
+}
+
+TEST_F(ListLook, no_list_has_no_view) {
+    ce::SetListView(nullptr, LVS_ICON);
+    RECT toBeDrawn{};
+    EXPECT_FALSE(GetUpdateRect(list_, &toBeDrawn, FALSE));
+}
+
+TEST_F(ListLook, rows_are_written_in_tahoma_whatever_the_system_s_icons_have) {
+    const UniqueFont font = ce::ListFont();
+    LOGFONTW measures{};
+    ASSERT_NE(GetObjectW(font.Get(), sizeof measures, &measures), 0);
+    EXPECT_STREQ(measures.lfFaceName, L"Tahoma");
+}
+
+TEST(IconList, keeps_the_colours_of_its_icons) {
+    const UniqueImageList images = ce::CreateIconList(16, 1, 1);
+    IMAGEINFO image{};
+    ImageList_ReplaceIcon(images.Get(), -1, LoadIconW(nullptr, IDI_WARNING));
+    ASSERT_TRUE(ImageList_GetImageInfo(images.Get(), 0, &image));
+    BITMAP bitmap{};
+    GetObjectW(image.hbmImage, sizeof bitmap, &bitmap);
+    EXPECT_EQ(bitmap.bmBitsPixel, 32);
+}
 
 }  // namespace
 
