@@ -8,6 +8,7 @@
 #include "base/program_context.h"
 #include "framework/control.h"
 #include "framework/dialog_fit.h"
+#include "framework/layout.h"
 #include "framework/message_boxes.h"
 #include "framework/property_set.h"
 #include "resources/resource_ids.h"
@@ -41,9 +42,8 @@ HFONT CreateTitleFont() {
 
 // The control's font, one pixel lower.
 HFONT CreateSmallerFont(HWND control) {
-    const auto own = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
     LOGFONTW font{};
-    if (GetObjectW(own, sizeof font, &font) == 0) return nullptr;
+    if (GetObjectW(FontOf(control), sizeof font, &font) == 0) return nullptr;
     font.lfHeight += font.lfHeight < 0 ? 1 : -1;
     return CreateFontIndirectW(&font);
 }
@@ -73,8 +73,7 @@ void AboutBox::SetRegistryKeys(const wchar_t* maker, const wchar_t* product) {
 LRESULT AboutBox::OnInitDialog(MessageRecord& record) {
     ShowStrings();
     if (productKey_.empty()) ShowWindow(DialogItem(*this, BUTTON_UNINSTALL), SW_HIDE);
-    SendDlgItemMessageW(Handle(), STATIC_PRODUCT_NAME, WM_SETFONT, reinterpret_cast<WPARAM>(titleFont_.Get()),
-                        TRUE);
+    SetFont(DialogItem(*this, STATIC_PRODUCT_NAME), titleFont_.Get());
     ShowMemory();
     KeepTitleLineFree(Handle());
     FitToScreen(Handle(), STATIC_CONTACT_2);
@@ -118,7 +117,7 @@ void AboutBox::ShrinkMemoryLines() {
         UniqueFont smaller(CreateSmallerFont(DialogItem(*this, STATIC_PROGRAM_MEMORY)));
         if (!smaller) return;
         for (int id = STATIC_PROGRAM_MEMORY; id <= STATIC_SECOND_STORAGE_CARD; ++id)
-            SendDlgItemMessageW(Handle(), id, WM_SETFONT, reinterpret_cast<WPARAM>(smaller.Get()), TRUE);
+            SetFont(DialogItem(*this, id), smaller.Get());
         smallFont_ = std::move(smaller);
     }
 }

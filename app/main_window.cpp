@@ -4,6 +4,7 @@
 #include "app/product.h"
 #include "app/uninstall.h"
 #include "base/program_context.h"
+#include "framework/layout.h"
 #include "framework/message_boxes.h"
 #include "framework/property_set.h"
 #include "resources/resource_ids.h"
@@ -90,7 +91,7 @@ void MainWindow::CreateTabControl(const RECT& area) {
     PlaceProperties(properties, area.left, area.top, area.right - area.left, TabControlHeight);
     properties.Set(property::Style, WS_TABSTOP | WS_CLIPSIBLINGS);
     tabControl_ = std::make_unique<TabControl>(this, properties);
-    SendMessageW(tabControl_->Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(ce::ControlFont()), FALSE);
+    SetFont(tabControl_->Handle(), ce::ControlFont());
     tabControl_->Subclass();
     tabControl_->OnMessage(WM_KEYDOWN, this, &MainWindow::OnTabControlKeyDown);
     tabControl_->OnMessage(WM_CHAR, this, &MainWindow::OnTabControlChar);

@@ -83,7 +83,7 @@ bool CompareBrowser(const BenchTree& tree, int turns) {
         CreateWindowExW(0, WC_TREEVIEWW, L"", WS_POPUP | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES, 0, 0,
                         TreeWidth, TreeHeight, nullptr, nullptr, nullptr, nullptr);
     const std::wstring folder = tree.Folders();
-    const auto browse = [&](HTREEITEM root) { FillFolderItem(view, root, folder.c_str()); };
+    const auto browse = [&](HTREEITEM root) { FillFolderItem(TreeView(view), root, folder.c_str()); };
     const auto barely = [&](HTREEITEM root) { InsertBarely(view, root, ListBarely(folder)); };
 
     Refill(view, browse);

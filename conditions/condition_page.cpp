@@ -21,10 +21,6 @@ LRESULT ConditionPage::OnWmCommand(MessageRecord& record) {
     return isCancel ? 0 : Dialog::OnWmCommand(record);
 }
 
-LRESULT ConditionPage::SendToItem(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
-    return SendMessageW(Item(id), message, wParam, lParam);
-}
-
 bool ConditionPage::IsChecked(int id) const {
-    return SendToItem(id, BM_GETCHECK) != 0;
+    return CheckBox(Item(id)).IsChecked();
 }

@@ -35,6 +35,5 @@ class ConditionPage : public Dialog {
     LRESULT OnWmCommand(MessageRecord& record) override;
 
     [[nodiscard]] HWND Item(int id) const { return DialogItem(*this, id); }
-    LRESULT SendToItem(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     [[nodiscard]] bool IsChecked(int id) const;
 };

@@ -37,8 +37,8 @@ DatePage::DatePage(WindowObject* parentObject)
 void DatePage::SetUpControls() {
     // QUIRK: year-of-three-letters. The handheld's picker shows four digits for them.
     for (const int picker : {PICKER_FROM, PICKER_TO})
-        ce::SetPickerFormat(Item(picker), L"yyy/MM/dd");
-    SendToItem(SPIN_DAYS, UDM_SETRANGE, 0, DaysRange);
+        DatePicker(Item(picker)).SetFormat(L"yyy/MM/dd");
+    Spin(Item(SPIN_DAYS)).SetRange(DaysRange);
     Reset();
 }
 
@@ -47,7 +47,7 @@ void DatePage::Reset() {
     SetPickersFromClock();
     EnablePickers(false);
     EnableDays(false);
-    SendToItem(SPIN_DAYS, UDM_SETPOS, 0, 1);
+    Spin(Item(SPIN_DAYS)).SetPosition(1);
 }
 
 void DatePage::SetPickersFromClock() {
@@ -56,8 +56,8 @@ void DatePage::SetPickersFromClock() {
     ce::GetSystemTime(&now);
     // QUIRK: three-months-earlier-keeps-the-day. One that the month lacks is for the picker to refuse.
     const SYSTEMTIME earlier = ThreeMonthsEarlier(now);
-    SendToItem(PICKER_TO, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&now));
-    SendToItem(PICKER_FROM, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&earlier));
+    DatePicker(Item(PICKER_TO)).SetDate(now);
+    DatePicker(Item(PICKER_FROM)).SetDate(earlier);
 }
 
 LRESULT DatePage::OnAllFiles(EventArguments&) {
@@ -105,16 +105,11 @@ void DatePage::FillQuery(SearchQuery& query) const {
 
 std::optional<DateRange> DatePage::ChosenRange() const {
     if (Handle() == nullptr || IsChecked(RADIO_ALL_FILES)) return std::nullopt;
-    if (IsChecked(RADIO_BETWEEN)) return BetweenDates(PickedDate(PICKER_FROM), PickedDate(PICKER_TO));
+    if (IsChecked(RADIO_BETWEEN))
+        return BetweenDates(DatePicker(Item(PICKER_FROM)).Date(), DatePicker(Item(PICKER_TO)).Date());
     // QUIRK: nothing-checked-is-a-range. Its ends are not set.
     if (!IsChecked(RADIO_PAST)) return DateRange{};
     SYSTEMTIME now{};
     ce::GetSystemTime(&now);
-    return PastDays(now, ce::SpinPosition(Item(SPIN_DAYS)));
-}
-
-SYSTEMTIME DatePage::PickedDate(int picker) const {
-    SYSTEMTIME date{};
-    SendToItem(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&date));
-    return date;
+    return PastDays(now, Spin(Item(SPIN_DAYS)).Position());
 }

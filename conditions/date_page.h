@@ -24,7 +24,6 @@ class DatePage : public ConditionPage {
     void SetPickersFromClock();
     void EnablePickers(bool enable);
     void EnableDays(bool enable);
-    [[nodiscard]] SYSTEMTIME PickedDate(int picker) const;
 
     ce::DroppedCalendar calendar_;
 };

@@ -80,31 +80,32 @@ void FolderBrowseDialog::LoadImages() {
             Context().instance, MAKEINTRESOURCEW(id), IMAGE_ICON, ImageSize, ImageSize, LR_DEFAULTCOLOR)));
         ImageList_ReplaceIcon(folderImages_.Get(), -1, icon.Get());
     }
-    SendMessageW(folderTree_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(folderImages_.Get()));
+    TreeView(folderTree_).SetImages(folderImages_.Get());
 }
 
 // The whole tree is read at once, so that browsing it does not touch the file system.
 void FolderBrowseDialog::BuildTree() {
     wchar_t rootName[MAX_PATH];
     RootDisplayName(rootName);
+    const TreeView tree(folderTree_);
     HTREEITEM root = nullptr;
-    SendMessageW(folderTree_, WM_SETREDRAW, FALSE, 0);
+    tree.SetDrawing(false);
     {
         const WaitCursor waiting;
-        root = FillFolderTree(folderTree_, rootName);
+        root = FillFolderTree(tree, rootName);
     }
-    SendMessageW(folderTree_, WM_SETREDRAW, TRUE, 0);
+    tree.SetDrawing(true);
     InvalidateRect(folderTree_, nullptr, TRUE);
-    SendMessageW(folderTree_, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(root));
+    tree.Expand(root);
 }
 
 // With nothing selected the dialog stays open.
 LRESULT FolderBrowseDialog::OnOk(EventArguments&) {
-    const auto selected =
-        reinterpret_cast<HTREEITEM>(SendMessageW(folderTree_, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    const TreeView tree(folderTree_);
+    const HTREEITEM selected = tree.Selected();
     if (selected == nullptr) return 0;
     wchar_t path[MAX_PATH];
-    if (!PathOfItem(folderTree_, selected, path)) return 0;
+    if (!PathOfItem(tree, selected, path)) return 0;
     chosenPath_.reset(new (std::nothrow) wchar_t[MAX_PATH]);
     if (chosenPath_ == nullptr) return 0;
     std::copy(std::begin(path), std::end(path), chosenPath_.get());

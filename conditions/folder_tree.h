@@ -2,7 +2,7 @@
 
 // The tree of all folders in a tree view, and the way from an item back to its path.
 
-#include "platform/windows_ce.h"
+#include "framework/tree_view.h"
 
 constexpr int RootImage = 0;
 constexpr int FolderImage = 1;
@@ -10,10 +10,10 @@ constexpr int OpenFolderImage = 2;
 
 // Inserts the root item and, below it, every folder of the device, each level in the reverse of the order in
 // which the system lists it. Returns the root item.
-HTREEITEM FillFolderTree(HWND tree, const wchar_t* rootName);
+HTREEITEM FillFolderTree(TreeView tree, const wchar_t* rootName);
 
 // Inserts every folder below this one under the item, as above.
-void FillFolderItem(HWND tree, HTREEITEM item, const wchar_t* folder);
+void FillFolderItem(TreeView tree, HTREEITEM item, const wchar_t* folder);
 
 // The full path of the item: "\" for the root. False when it does not fit.
-[[nodiscard]] bool PathOfItem(HWND tree, HTREEITEM item, wchar_t (&path)[MAX_PATH]);
+[[nodiscard]] bool PathOfItem(TreeView tree, HTREEITEM item, wchar_t (&path)[MAX_PATH]);

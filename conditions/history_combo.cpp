@@ -22,17 +22,15 @@ HistoryCombo::HistoryCombo(WindowObject* parentObject, HWND existing, const Prop
 
 bool HistoryCombo::AddToHistory(const wchar_t* text) {
     if (refuseEmpty_ && text[0] == L'\0') return false;
-    const auto textParameter = reinterpret_cast<LPARAM>(text);
+    const ComboBox box = Box();
     // QUIRK: history-forgets-by-beginning. An entry that begins with the text goes: adding \Data removes
     // \Data\Old. QUIRK: top-entry-is-looked-at-last. The search starts behind entry 0.
-    const int older = ce::FindComboEntry(Handle(), 0, text);
-    if (older != CB_ERR) SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(older), 0);
+    const int older = box.Find(0, text);
+    if (older != CB_ERR) box.Delete(older);
     // QUIRK: maximum-of-9-keeps-10. The entry at this index is removed, and only a list of more than nine has
     // one.
-    if (SendMessageW(Handle(), CB_GETCOUNT, 0, 0) + 1 >= maximum_) {
-        SendMessageW(Handle(), CB_DELETESTRING, static_cast<WPARAM>(maximum_), 0);
-    }
-    SendMessageW(Handle(), CB_INSERTSTRING, 0, textParameter);
-    SendMessageW(Handle(), CB_SETCURSEL, 0, 0);
+    if (box.Count() + 1 >= maximum_) box.Delete(maximum_);
+    box.Insert(0, text);
+    box.Select(0);
     return true;
 }

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr WPARAM ContentLimit = ContentTextSize - 1;
+constexpr std::size_t ContentLimit = ContentTextSize - 1;
 
 constexpr const wchar_t* SubFolderValue = L"Sub Folder";
 
@@ -42,13 +42,12 @@ void NamePage::SetUpControls() {
     name_->AddToHistory(L"*.txt");
     name_->AddToHistory(L"*.log");
 
-    SendToItem(EDIT_CONTENT, EM_LIMITTEXT, ContentLimit);
-
     location_ = std::make_unique<HistoryCombo>(this, Item(COMBO_LOCATION), comboProperties);
     location_->OnNotification(event::TabKey, this, &NamePage::OnTabInLocation);
     location_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInCombo, COMBO_LOCATION);
 
     content_ = std::make_unique<TextField>(this, Item(EDIT_CONTENT));
+    content_->LimitText(ContentLimit);
     content_->OnNotification(event::EnterKey, this, &NamePage::OnEnterInContent);
 
     OnCommand(BUTTON_BROWSE, this, &NamePage::OnBrowse);
@@ -73,7 +72,7 @@ void NamePage::LoadSettings(const wchar_t* registryPath) {
     DWORD subFolders = 0;
     if (ReadRegistryDword(HKEY_CURRENT_USER, registryPath, SubFolderValue, subFolders) != ERROR_SUCCESS)
         subFolders = 0;
-    SendToItem(CHECK_SUBFOLDERS, BM_SETCHECK, subFolders != 0 ? BST_CHECKED : BST_UNCHECKED);
+    CheckBox(Item(CHECK_SUBFOLDERS)).Check(subFolders != 0);
 }
 
 void NamePage::SaveSettings(const wchar_t* registryPath) const {

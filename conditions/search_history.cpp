@@ -19,19 +19,12 @@ struct ValueName {
     wchar_t text[16];
 };
 
-// The combo's entry, or an empty text if it is longer than an entry may be.
-void ReadEntry(const HistoryCombo& combo, WPARAM index, wchar_t (&text)[EntryCapacity]) {
-    text[0] = L'\0';
-    if (SendMessageW(combo.Handle(), CB_GETLBTEXTLEN, index, 0) >= EntryCapacity) return;
-    SendMessageW(combo.Handle(), CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text));
-}
-
 }  // namespace
 
 bool LoadHistory(HistoryCombo& combo, HKEY root, const wchar_t* path) {
     RegistryKey key(root);
     if (!key.Open(path)) return false;
-    SendMessageW(combo.Handle(), CB_RESETCONTENT, 0, 0);
+    combo.Box().Clear();
     for (int n = 0; n < MostLoadedEntries; ++n) {
         // Zeroed throughout: a value that is not a string is used as it was read, without a terminator.
         wchar_t text[EntryCapacity] = L"";
@@ -44,11 +37,12 @@ bool LoadHistory(HistoryCombo& combo, HKEY root, const wchar_t* path) {
 bool SaveHistory(const HistoryCombo& combo, HKEY root, const wchar_t* path) {
     RegistryKey key(root);
     if (!key.Create(path)) return false;
-    const auto count = static_cast<int>(SendMessageW(combo.Handle(), CB_GETCOUNT, 0, 0));
+    const int count = combo.Box().Count();
     // QUIRK: longer-history-stays-stored. Values from the count on are left alone.
     for (int n = 0; n < count; ++n) {
         wchar_t text[EntryCapacity];
-        ReadEntry(combo, static_cast<WPARAM>(count - 1 - n), text);
+        // One that is longer than an entry may be is saved empty.
+        combo.Box().ReadText(count - 1 - n, text);
         const auto size = static_cast<DWORD>((std::wcslen(text) + 1) * sizeof(wchar_t));
         RegSetValueExW(key.Handle(), ValueName(n).text, 0, REG_SZ, reinterpret_cast<const BYTE*>(text), size);
     }

@@ -1,6 +1,7 @@
 #include "fileops/confirmation_dialog.h"
 
 #include "base/program_context.h"
+#include "framework/control.h"
 #include "framework/dialog_fit.h"
 #include "framework/property_set.h"
 #include "resources/resource_ids.h"
@@ -11,10 +12,6 @@ namespace {
 constexpr UINT Answers[] = {1, 3, 4, 5, 6, 7, 20};
 
 constexpr int FileIconStatics[] = {STATIC_EXISTING_ICON, STATIC_NEW_ICON};
-
-HICON IconIn(HWND dialog, int id) {
-    return reinterpret_cast<HICON>(SendDlgItemMessageW(dialog, id, STM_GETIMAGE, IMAGE_ICON, 0));
-}
 
 }  // namespace
 
@@ -59,10 +56,10 @@ LRESULT ConfirmationDialog::OnInitDialog(MessageRecord& record) {
 LRESULT ConfirmationDialog::OnFill(EventArguments&) {
     HICON before[FileIcons];
     for (int i = 0; i < FileIcons; ++i)
-        before[i] = IconIn(Handle(), FileIconStatics[i]);
+        before[i] = StaticIcon(DialogItem(*this, FileIconStatics[i])).Get();
     question_.Fill(Handle());
     for (int i = 0; i < FileIcons; ++i) {
-        const HICON now = IconIn(Handle(), FileIconStatics[i]);
+        const HICON now = StaticIcon(DialogItem(*this, FileIconStatics[i])).Get();
         // A static control does not free its icon, and the shell hands out copies.
         fileIcons_[i].Reset(now != before[i] ? now : nullptr);
     }

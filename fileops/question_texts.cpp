@@ -7,7 +7,7 @@
 #include "base/program_context.h"
 #include "fileops/file_details.h"
 #include "fileops/file_facts.h"
-#include "platform/windows_ce.h"
+#include "framework/control.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -67,7 +67,7 @@ void SetTitle(HWND dialog, const wchar_t* english, const wchar_t* japanese) {
 }
 
 void SetIcon(HWND dialog, int id, HICON icon) {
-    SendDlgItemMessageW(dialog, id, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+    StaticIcon(GetDlgItem(dialog, id)).Set(icon);
 }
 
 void SetProgramIcon(HWND dialog, int resource) {

@@ -64,6 +64,23 @@ LRESULT TextField::OnComposition(MessageRecord& record) {
     return DefaultProcessing(record);
 }
 
+void ComboBox::ReadText(int index, std::span<wchar_t> text) const {
+    text[0] = L'\0';
+    if (Send(CB_GETLBTEXTLEN, index) < static_cast<LRESULT>(text.size()))
+        Send(CB_GETLBTEXT, index, text.data());
+}
+
+const void* ComboBox::Data(int index) const {
+    const LRESULT data = Send(CB_GETITEMDATA, index);
+    return data != CB_ERR ? reinterpret_cast<const void*>(data) : nullptr;
+}
+
+LONG ComboBox::HeightWithList() const {
+    RECT open{};
+    Send(CB_GETDROPPEDCONTROLRECT, 0, &open);
+    return open.bottom - open.top;
+}
+
 ComboBoxControl::ComboBoxControl(WindowObject* parentObject, HWND existing)
     : Control(parentObject, existing, L"combobox"),
       edit_(this, GetWindow(existing, GW_CHILD), Ownership::Wrapped) {
@@ -76,14 +93,15 @@ std::span<const EventCode> ComboBoxControl::OwnEvents() const {
 }
 
 LRESULT ComboBoxControl::OnEditKey(EventArguments& arguments) {
-    if (IsListOpen()) {
+    if (Box().IsListOpen()) {
         // The first Enter takes the entry chosen in the open list, as in any combo box. The parent hears of
         // it meanwhile, and may delete this object.
-        const HWND box = Handle();
+        const HWND window = Handle();
+        const ComboBox box = Box();
         const bool enter = arguments.extra == event::EnterKey;
-        if (enter) SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
-        SendMessageW(box, CB_SHOWDROPDOWN, FALSE, 0);
-        if (enter || !IsObjectOf(box)) return 0;
+        if (enter) SendMessageW(window, WM_KEYDOWN, VK_RETURN, 0);
+        box.CloseList();
+        if (enter || !IsObjectOf(window)) return 0;
     }
     RaiseEvent(static_cast<EventCode>(arguments.extra), reinterpret_cast<EventSource>(Handle()),
                arguments.argument, arguments.record);
@@ -94,8 +112,4 @@ LRESULT ComboBoxControl::OnEditKey(EventArguments& arguments) {
 bool ComboBoxControl::IsObjectOf(HWND window) const {
     const WindowMap* map = Application::Windows();
     return map != nullptr && map->Find(window) == this;
-}
-
-bool ComboBoxControl::IsListOpen() const {
-    return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }

@@ -2,6 +2,8 @@
 
 // Fields that a person types into: a text field by itself, and a combo box with one in it.
 
+#include <span>
+
 #include "framework/control.h"
 
 // A one-line text field that raises Enter and, when asked to, Tab on itself instead of letting the system
@@ -12,6 +14,7 @@ class TextField : public Control {
     TextField(WindowObject* parent, HWND edit, Ownership ownership = Ownership::FollowsParent);
 
     void TurnOnTabNotification() { tabNotification_ = true; }
+    void LimitText(std::size_t units) { SendMessageW(Handle(), EM_LIMITTEXT, units, 0); }
     [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
 
   private:
@@ -26,6 +29,45 @@ class TextField : public Control {
     bool composing_ = false;
 };
 
+// A combo box, an operation a line: it sends the messages and keeps nothing but the window's handle.
+class ComboBox {
+  public:
+    explicit ComboBox(HWND window) : window_(window) {}
+
+    [[nodiscard]] int Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
+    // The index of the selected entry; CB_ERR if there is none.
+    [[nodiscard]] int Selected() const { return static_cast<int>(Send(CB_GETCURSEL)); }
+    void Select(int index) const { Send(CB_SETCURSEL, index); }
+
+    void Append(const wchar_t* text) const { Send(CB_ADDSTRING, 0, text); }
+    void Insert(int index, const wchar_t* text) const { Send(CB_INSERTSTRING, index, text); }
+    void Delete(int index) const { Send(CB_DELETESTRING, index); }
+    void Clear() const { Send(CB_RESETCONTENT); }
+    // The first entry behind the start, and round again, that begins with the text, whatever its case; CB_ERR
+    // if there is none.
+    [[nodiscard]] int Find(int start, const wchar_t* text) const {
+        return ce::FindComboEntry(window_, start, text);
+    }
+    // Leaves an empty text if there is no such entry or if it does not fit.
+    void ReadText(int index, std::span<wchar_t> text) const;
+
+    // What belongs to an entry besides its text; null if there is no such entry.
+    void SetData(int index, const void* data) const { Send(CB_SETITEMDATA, index, data); }
+    [[nodiscard]] const void* Data(int index) const;
+
+    [[nodiscard]] bool IsListOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+    void CloseList() const { Send(CB_SHOWDROPDOWN, FALSE); }
+    // Of the box with its list open; 0 for what is no combo box.
+    [[nodiscard]] LONG HeightWithList() const;
+
+  private:
+    LRESULT Send(UINT message, int index = 0, const void* argument = nullptr) const {
+        return SendMessageW(window_, message, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(argument));
+    }
+
+    HWND window_;
+};
+
 // A combo box with an edit, which raises the edit's Enter and Tab on itself.
 class ComboBoxControl : public Control {
   public:
@@ -34,10 +76,10 @@ class ComboBoxControl : public Control {
     void TurnOnTabNotification() { edit_.TurnOnTabNotification(); }
     [[nodiscard]] std::span<const EventCode> OwnEvents() const override;
     [[nodiscard]] TextField& Edit() { return edit_; }
+    [[nodiscard]] ComboBox Box() const { return ComboBox(Handle()); }
 
   private:
     LRESULT OnEditKey(EventArguments& arguments);
-    [[nodiscard]] bool IsListOpen() const;
     [[nodiscard]] bool IsObjectOf(HWND window) const;
 
     TextField edit_;

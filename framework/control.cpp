@@ -24,6 +24,12 @@ Control::Control(WindowObject* parentObject, const wchar_t* className, PropertyS
 Control::Control(WindowObject* parentObject, HWND existing, const wchar_t* className, Ownership ownership)
     : WindowObject(parentObject, existing, ownership), nativeCodes_(NativeCodesOfClass(className)) {}
 
+SYSTEMTIME DatePicker::Date() const {
+    SYSTEMTIME date{};
+    SendMessageW(window_, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&date));
+    return date;
+}
+
 int TabControl::AppendItem(const wchar_t* text) {
     TCITEMW item{};
     item.mask = TCIF_TEXT;

@@ -22,12 +22,64 @@ class Control : public WindowObject {
     NativeCodeTable nativeCodes_;
 };
 
-// A list view. The system's macros serve for its messages; here is only what has rules of the house.
-class ListViewControl : public Control {
+// Controls of a dialog that have no object of their own, an operation a line: each sends the messages and
+// keeps nothing but the window's handle.
+class CheckBox {
   public:
-    static constexpr const wchar_t* ClassName = L"SysListView32";
-    ListViewControl(WindowObject* parentObject, PropertySet& properties)
-        : Control(parentObject, ClassName, properties) {}
+    explicit CheckBox(HWND window) : window_(window) {}
+
+    [[nodiscard]] bool IsChecked() const { return SendMessageW(window_, BM_GETCHECK, 0, 0) != 0; }
+    void Check(bool checked) const {
+        SendMessageW(window_, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+    }
+
+  private:
+    HWND window_;
+};
+
+class Spin {
+  public:
+    explicit Spin(HWND window) : window_(window) {}
+
+    // The upper bound in the low word, the lower one in the high word.
+    void SetRange(LPARAM range) const { SendMessageW(window_, UDM_SETRANGE, 0, range); }
+    void SetPosition(int position) const { SendMessageW(window_, UDM_SETPOS, 0, position); }
+    [[nodiscard]] DWORD Position() const { return ce::SpinPosition(window_); }
+
+  private:
+    HWND window_;
+};
+
+class DatePicker {
+  public:
+    explicit DatePicker(HWND window) : window_(window) {}
+
+    void SetFormat(const wchar_t* format) const { ce::SetPickerFormat(window_, format); }
+    void SetDate(const SYSTEMTIME& date) const {
+        SendMessageW(window_, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&date));
+    }
+    [[nodiscard]] SYSTEMTIME Date() const;
+
+  private:
+    HWND window_;
+};
+
+// A static control that shows an icon, which stays its giver's.
+class StaticIcon {
+  public:
+    explicit StaticIcon(HWND window) : window_(window) {}
+
+    // Returns the icon that it showed before.
+    HICON Set(HICON icon) const {
+        return reinterpret_cast<HICON>(
+            SendMessageW(window_, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon)));
+    }
+    [[nodiscard]] HICON Get() const {
+        return reinterpret_cast<HICON>(SendMessageW(window_, STM_GETIMAGE, IMAGE_ICON, 0));
+    }
+
+  private:
+    HWND window_;
 };
 
 class TabControl : public Control {

@@ -87,7 +87,7 @@ void MakeLettersSmaller(const std::vector<Row>& rows, LONG height) {
     for (const Row& row : rows) {
         if (LettersOf(row.control) <= height || height > SmallLetters::Largest) continue;
         const HFONT font = letters.Like(FontOf(row.control), height);
-        if (font != nullptr) SendMessageW(row.control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+        if (font != nullptr) SetFont(row.control, font);
     }
 }
 

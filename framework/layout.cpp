@@ -96,6 +96,10 @@ HFONT FontOf(HWND control) {
     return reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
 }
 
+void SetFont(HWND control, HFONT font) {
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+}
+
 LONG TextWidth(HWND control) {
     return TextSize(control, 0, DT_SINGLELINE).cx;
 }

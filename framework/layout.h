@@ -43,6 +43,8 @@ void MoveControlsBelow(HWND window, LONG line, LONG right, LONG down);
 // The control's font; null for the system's.
 [[nodiscard]] HFONT FontOf(HWND control);
 
+void SetFont(HWND control, HFONT font);
+
 // What the control's text needs in its font: its width on one line, its height when it is broken into lines
 // of the given width, and the height of any one line.
 [[nodiscard]] LONG TextWidth(HWND control);

@@ -4,6 +4,7 @@
 #include <cwchar>
 #include <iterator>
 
+#include "framework/combo_box.h"
 #include "framework/layout.h"
 #include "platform/ce_windows.h"
 #include "platform/handles.h"
@@ -24,11 +25,8 @@ LONG RightEdgeOf(HWND page) {
 
 // The height that a combo box is given is that of its open list.
 LONG HeightToGive(HWND control, const RECT& place) {
-    RECT open{};
-    const bool hasList =
-        IsOfClass(control, L"ComboBox") &&
-        SendMessageW(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&open)) != 0;
-    return hasList ? open.bottom - open.top : place.bottom - place.top;
+    const LONG withList = IsOfClass(control, L"ComboBox") ? ComboBox(control).HeightWithList() : 0;
+    return withList != 0 ? withList : place.bottom - place.top;
 }
 
 bool IsOneLine(HWND control) {

@@ -102,6 +102,9 @@ class WindowObject {
     // Takes the handle out of the map and forgets it.
     void Detach();
 
+    // A subclassed control's procedure from before; null without one.
+    [[nodiscard]] WNDPROC OwnProcedure() const { return savedProcedure_; }
+
     // What the class does with a message of its own accord. It needs no table entry, which memory may be
     // short for: a dialog can be closed whatever happens.
     virtual LRESULT DispatchToClass(MessageRecord& record);

@@ -17,8 +17,7 @@ FilePage::FilePage(WindowObject* parentObject, const wchar_t* title, const wchar
 SHFILEINFOW FilePage::ShowFile(UINT alsoAsked) {
     SHFILEINFOW info{};
     ce::SHGetFileInfo(path_, 0, &info, sizeof info, SHGFI_ICON | SHGFI_DISPLAYNAME | alsoAsked);
-    SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON,
-                        reinterpret_cast<LPARAM>(info.hIcon));
+    StaticIcon(DialogItem(*this, STATIC_ICON)).Set(info.hIcon);
     SetDlgItemTextW(Handle(), STATIC_DISPLAY_NAME, info.szDisplayName);
     return info;
 }
@@ -59,8 +58,7 @@ LRESULT FilePage::OnDrawName(EventArguments& arguments) {
 
 // A static control does not free its icon.
 LRESULT FilePage::OnWmDestroy(MessageRecord& record) {
-    const UniqueIcon icon(
-        reinterpret_cast<HICON>(SendDlgItemMessageW(Handle(), STATIC_ICON, STM_SETIMAGE, IMAGE_ICON, 0)));
+    const UniqueIcon icon(StaticIcon(DialogItem(*this, STATIC_ICON)).Set(nullptr));
     tips_.Remove();
     return PropertySheetPage::OnWmDestroy(record);
 }

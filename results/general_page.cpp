@@ -9,6 +9,7 @@
 #include "fileops/file_actions.h"
 #include "fileops/file_details.h"
 #include "fileops/file_facts.h"
+#include "framework/control.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -53,7 +54,7 @@ void GeneralPage::SetUpControls() {
     if (!FindFile(Path(), data)) return;
     for (const AttributeBox& box : AttributeBoxes) {
         if ((data.dwFileAttributes & box.attribute) != 0) {
-            SendDlgItemMessageW(Handle(), box.id, BM_SETCHECK, BST_CHECKED, 0);
+            CheckBox(DialogItem(*this, box.id)).Check(true);
         }
     }
     wchar_t text[FileDetailsCapacity];
@@ -85,7 +86,7 @@ LRESULT GeneralPage::OnApplyChanges(EventArguments&) {
     if (attributes == INVALID_FILE_ATTRIBUTES || attributes == FILE_ATTRIBUTE_DIRECTORY) return 0;
     DWORD chosen = 0;
     for (const AttributeBox& box : AttributeBoxes) {
-        if (SendDlgItemMessageW(Handle(), box.id, BM_GETCHECK, 0, 0) != 0) chosen |= box.attribute;
+        if (CheckBox(DialogItem(*this, box.id)).IsChecked()) chosen |= box.attribute;
     }
     if (chosen == (attributes & ChangeableAttributes)) return 0;
     SetAttributesOrReport(Handle(), Path(), (attributes & ~ChangeableAttributes) | chosen);

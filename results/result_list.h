@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "framework/control.h"
+#include "framework/list_view.h"
 #include "platform/handles.h"
 #include "results/file_icon_cache.h"
 #include "results/name_edit.h"
@@ -76,7 +76,6 @@ class ResultList : public ListViewControl, public MatchSink {
 
     void SetListFont();
     void InsertColumns();
-    LRESULT CallControl(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
     [[nodiscard]] bool MayBeEdited() const;

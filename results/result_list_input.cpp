@@ -17,22 +17,20 @@ constexpr LPARAM KeyWasDown = 1L << 30;
 // A list view edits only while it has the focus.
 void ResultList::EditName(int row) {
     SetFocus(Handle());
-    SendMessageW(Handle(), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-    RECT bounds{LVIR_BOUNDS, 0, 0, 0};
-    SendMessageW(Handle(), LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&bounds));
-    if (bounds.left < 0) SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(bounds.left), 0);
+    List().BringIntoView(row);
+    const RECT bounds = List().BoundsOf(row);
+    if (bounds.left < 0) List().ScrollSideways(bounds.left);
     editingByCommand_ = true;
-    SendMessageW(Handle(), LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
+    List().EditName(row);
     editingByCommand_ = false;
 }
 
 void ResultList::EndEditing() {
     OvertakeClick();
-    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) == 0) return;
+    if (List().NameEdit() == nullptr) return;
     SetFocus(Handle());
     // If the focus could not be moved, the edit is cancelled.
-    if (SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0) != 0)
-        SendMessageW(Handle(), LVM_CANCELEDITLABEL, 0, 0);
+    if (List().NameEdit() != nullptr) List().CancelEditing();
 }
 
 int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
@@ -42,7 +40,7 @@ int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
 LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
     if (!MayBeEdited()) return TRUE;
     editedNumber_ = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
-    const auto edit = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETEDITCONTROL, 0, 0));
+    const HWND edit = List().NameEdit();
     if (edit != nullptr) nameEdit_.reset(new (std::nothrow) NameEdit(this, edit));
     return FALSE;
 }
@@ -97,7 +95,7 @@ LRESULT ResultList::OnKeyDown(MessageRecord& record) {
 bool ResultList::ScrollByKey(WPARAM key) {
     const bool isReport = (GetWindowLongW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
     if (!isReport || (key != VK_LEFT && key != VK_RIGHT)) return false;
-    SendMessageW(Handle(), LVM_SCROLL, static_cast<WPARAM>(key == VK_LEFT ? -ScrollStep : ScrollStep), 0);
+    List().ScrollSideways(key == VK_LEFT ? -ScrollStep : ScrollStep);
     return true;
 }
 

@@ -21,8 +21,8 @@ struct SortKey {
 // would happen some thirty times a cell.
 class SortKeys {
   public:
-    SortKeys(HWND listView, ResultColumn sortColumn) : list_(listView), column_(sortColumn) {
-        const auto count = static_cast<int>(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0));
+    SortKeys(ListView list, ResultColumn sortColumn) : list_(list), column_(sortColumn) {
+        const int count = list_.Count();
         keys_.reserve(static_cast<std::size_t>(count));
         for (int index = 0; index < count; ++index)
             keys_.push_back(ReadKey(index));
@@ -48,22 +48,10 @@ class SortKeys {
     }
 
   private:
-    [[nodiscard]] std::size_t RowNumber(int index) const {
-        LVITEMW item{};
-        item.mask = LVIF_PARAM;
-        item.iItem = index;
-        SendMessageW(list_, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        return static_cast<std::size_t>(item.lParam);
-    }
-
     SortKey ReadKey(int index) {
-        wchar_t text[SortTextCapacity] = L"";
-        LVITEMW item{};
-        item.iSubItem = static_cast<int>(column_);
-        item.pszText = text;
-        item.cchTextMax = SortTextCapacity;
-        SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-        SortKey key{RowNumber(index), {}};
+        wchar_t text[SortTextCapacity];
+        list_.ReadCell(index, static_cast<int>(column_), text);
+        SortKey key{static_cast<std::size_t>(list_.Parameter(index)), {}};
         if (column_ == ResultColumn::Size) {
             key.size = ParseShownSize(text);
         } else {
@@ -79,7 +67,7 @@ class SortKeys {
         return CompareFoldedTexts(&texts_[first.text], &texts_[second.text]);
     }
 
-    HWND list_;
+    ListView list_;
     ResultColumn column_;
     std::vector<SortKey> keys_;
     std::vector<wchar_t> texts_;  // one after the other, each terminated
@@ -98,20 +86,16 @@ int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM parameter) {
     return CompareNumbers(places[static_cast<std::size_t>(first)], places[static_cast<std::size_t>(second)]);
 }
 
-void Arrange(HWND list, PFNLVCOMPARE compare, const void* parameter) {
-    SendMessageW(list, LVM_SORTITEMS, reinterpret_cast<WPARAM>(parameter), reinterpret_cast<LPARAM>(compare));
-}
-
 }  // namespace
 
-void SortRows(HWND list, int column, bool ascending) {
+void SortRows(ListView list, int column, bool ascending) {
     // QUIRK: order-of-finding-has-no-direction
     if (column < 0) {
-        Arrange(list, &CompareRows, nullptr);
+        list.Sort(&CompareRows, nullptr);
         return;
     }
     SortKeys keys(list, static_cast<ResultColumn>(column));
     keys.Sort(ascending);
     const std::vector<std::size_t> places = keys.Places();
-    Arrange(list, &ComparePlaces, &places);
+    list.Sort(&ComparePlaces, &places);
 }

@@ -67,14 +67,6 @@ LONG RegDeleteTreeW(HKEY root, const wchar_t* path);
 LONG RegCloseKey(HKEY key);
 int lstrcmpiW(const wchar_t* first, const wchar_t* second);
 
-// A combo box (conditions/history_combo.h of this folder).
-#define CB_GETCOUNT 0x0146
-#define CB_GETLBTEXT 0x0148
-#define CB_GETLBTEXTLEN 0x0149
-#define CB_RESETCONTENT 0x014B
-
-LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
 // Windows, of which there are none.
 #define WM_CLOSE 0x0010
 #define WM_KEYDOWN 0x0100

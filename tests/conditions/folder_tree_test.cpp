@@ -29,11 +29,11 @@ class FolderTree : public testing::Test {
   protected:
     FolderTree() : tree_(MakeTree(host_.Handle())) {}
 
-    HTREEITEM Fill() { return FillFolderTree(tree_, L"My Pocket PC"); }
+    HTREEITEM Fill() { return FillFolderTree(TreeView(tree_), L"My Pocket PC"); }
     // The path of the item found by the names from the root down.
     std::wstring PathTo(const Names& names) {
         wchar_t path[MAX_PATH] = L"";
-        EXPECT_TRUE(PathOfItem(tree_, ItemAt(tree_, names), path));
+        EXPECT_TRUE(PathOfItem(TreeView(tree_), ItemAt(tree_, names), path));
         return path;
     }
 
@@ -137,7 +137,7 @@ TEST_F(FolderTree, gives_a_path_of_259_units_and_refuses_a_longer_one) {
     Fill();
     EXPECT_EQ(PathTo({first, fits}), L"\\" + first + L"\\" + fits);
     wchar_t path[MAX_PATH];
-    EXPECT_FALSE(PathOfItem(tree_, ItemAt(tree_, {first, tooLong}), path));
+    EXPECT_FALSE(PathOfItem(TreeView(tree_), ItemAt(tree_, {first, tooLong}), path));
 }
 
 TEST_F(FolderTree, ends_where_paths_become_too_long) {
@@ -175,7 +175,7 @@ TEST_F(FolderTree, gives_no_path_where_the_last_unit_of_the_buffer_would_be_lost
     EXPECT_EQ(PathTo({name, name, std::wstring(86, L'm')}).size(), 259u);
     wchar_t path[MAX_PATH + 1];
     path[MAX_PATH] = L'#';
-    EXPECT_FALSE(PathOfItem(tree_, ItemAt(tree_, {name, name, std::wstring(87, L'm')}),
+    EXPECT_FALSE(PathOfItem(TreeView(tree_), ItemAt(tree_, {name, name, std::wstring(87, L'm')}),
                             reinterpret_cast<wchar_t(&)[MAX_PATH]>(path)));
     EXPECT_EQ(path[MAX_PATH], L'#');
 }
@@ -192,7 +192,7 @@ TEST_F(FolderTreeOfDisk, ends_where_a_link_leads_back_up) {
     disk_.AddFolder(L"a\\b");
     if (!disk_.AddFolderLink(L"a\\b\\loop", L"")) GTEST_SKIP() << "this system makes no links";
     if (!disk_.AddFolderLink(L"side", L"a")) GTEST_SKIP() << "this system makes no links";
-    FillFolderItem(tree_, nullptr, disk_.Root().c_str());
+    FillFolderItem(TreeView(tree_), nullptr, disk_.Root().c_str());
     Names top;
     for (HTREEITEM item = TreeView_GetRoot(tree_); item != nullptr;
          item = TreeView_GetNextSibling(tree_, item))
@@ -204,7 +204,7 @@ TEST_F(FolderTreeOfDisk, ends_where_a_link_leads_back_up) {
 
 TEST_F(FolderTreeOfDisk, has_no_items_for_the_folder_itself_and_its_parent) {
     disk_.AddFolder(L"one");
-    FillFolderItem(tree_, nullptr, disk_.Root().c_str());
+    FillFolderItem(TreeView(tree_), nullptr, disk_.Root().c_str());
     EXPECT_EQ(TreeView_GetCount(tree_), 1u);
     EXPECT_EQ(TextOfItem(tree_, TreeView_GetRoot(tree_)), L"one");
 }

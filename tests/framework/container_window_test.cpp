@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "framework/control.h"
+#include "framework/list_view.h"
 #include "tests/framework/framework_test.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include "framework/control.h"
 
-#include "framework/combo_box.h"
-
 #include <memory>
 
+#include "framework/combo_box.h"
+#include "framework/list_view.h"
 #include "tests/framework/framework_test.h"
 
 namespace {
