@@ -4,6 +4,7 @@
 
 #include <cwchar>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -12,6 +13,20 @@ struct JoinCase {
     const wchar_t* name;
     const wchar_t* path;
 };
+
+void ExpectJoined(const std::vector<JoinCase>& cases) {
+    for (const JoinCase& each : cases) {
+        wchar_t path[MAX_PATH];
+        EXPECT_TRUE(JoinPath(path, each.folder, each.name));
+        EXPECT_STREQ(path, each.path);
+    }
+}
+
+void ExpectRefused(const std::wstring& folder, const std::wstring& name) {
+    wchar_t path[MAX_PATH] = L"before";
+    EXPECT_FALSE(JoinPath(path, folder.c_str(), name.c_str()));
+    EXPECT_STREQ(path, L"");
+}
 
 struct Parts {
     std::wstring folder, name;
@@ -26,7 +41,7 @@ Parts PartsOf(const std::wstring& path) {
 }  // namespace
 
 TEST(JoinPath, folder_and_name_are_parted_by_one_backslash) {
-    constexpr JoinCase Cases[] = {
+    ExpectJoined({
         {L"", L"x", L"x"},
         {L"\\", L"x", L"\\x"},
         {L"\\a", L"x", L"\\a\\x"},
@@ -35,34 +50,22 @@ TEST(JoinPath, folder_and_name_are_parted_by_one_backslash) {
         {L"C:", L"x", L"C:\\x"},
         {L"C:\\", L"x", L"C:\\x"},
         {L"", L"", L""},
-    };
-    for (const JoinCase& each : Cases) {
-        wchar_t path[MAX_PATH];
-        EXPECT_TRUE(JoinPath(path, each.folder, each.name));
-        EXPECT_STREQ(path, each.path);
-    }
+    });
 }
 
 TEST(JoinPath, an_empty_name_gets_the_separator_too) {
-    wchar_t path[MAX_PATH];
-    EXPECT_TRUE(JoinPath(path, L"\\Windows", L""));
-    EXPECT_STREQ(path, L"\\Windows\\");
+    ExpectJoined({{L"\\Windows", L"", L"\\Windows\\"}});
 }
 
 TEST(JoinPath, before_a_name_with_a_drive_the_folder_stands_without_a_separator) {
-    constexpr JoinCase Cases[] = {
+    ExpectJoined({
         {L"\\a", L"C:\\x", L"\\aC:\\x"},
         {L"\\a", L"C:", L"\\aC:"},
         {L"", L"C:\\x", L"C:\\x"},
         // The colon has to be the second unit.
         {L"\\a", L":", L"\\a\\:"},
         {L"\\a", L"xy:z", L"\\a\\xy:z"},
-    };
-    for (const JoinCase& each : Cases) {
-        wchar_t path[MAX_PATH];
-        EXPECT_TRUE(JoinPath(path, each.folder, each.name));
-        EXPECT_STREQ(path, each.path);
-    }
+    });
 }
 
 TEST(JoinPath, a_path_of_259_units_fits) {
@@ -74,18 +77,11 @@ TEST(JoinPath, a_path_of_259_units_fits) {
 }
 
 TEST(JoinPath, a_path_of_260_units_does_not_fit_and_leaves_an_empty_text) {
-    const std::wstring folder(200, L'f');
-    const std::wstring name(59, L'n');
-    wchar_t path[MAX_PATH] = L"before";
-    EXPECT_FALSE(JoinPath(path, folder.c_str(), name.c_str()));
-    EXPECT_STREQ(path, L"");
+    ExpectRefused(std::wstring(200, L'f'), std::wstring(59, L'n'));
 }
 
 TEST(JoinPath, a_folder_that_alone_is_too_long_is_refused) {
-    const std::wstring folder(1000, L'f');
-    wchar_t path[MAX_PATH] = L"before";
-    EXPECT_FALSE(JoinPath(path, folder.c_str(), L""));
-    EXPECT_STREQ(path, L"");
+    ExpectRefused(std::wstring(1000, L'f'), L"");
 }
 
 TEST(JoinPath, the_folder_may_be_the_destination) {

@@ -27,6 +27,24 @@ class OperationPainting : public OperationTest {
     // The one message of the next file, so that it is not the painting itself.
     void PostOther() const { PostMessageW(host_.Handle(), WM_APP + 1, 0, 0); }
     [[nodiscard]] bool IsPainted() const { return !GetUpdateRect(operation_.Handle(), nullptr, FALSE); }
+    // Three files of a folder, each of which finds the dialog spoiled and a message waiting.
+    void ExpectPaintedForEachOfThree(FileOperationKind kind) {
+        AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
+        operation_.confirm = false;
+        Prepare(kind, {"s"}, "d");
+        FailingCalls calls;
+        std::wstring shown;
+        std::vector<bool> painted;
+        calls.atCall = [&](int) {
+            const std::wstring now = Shown(STATIC_SOURCE);
+            if (now != shown) painted.push_back(IsPainted());
+            shown = now;
+            Spoil();
+            PostOther();
+        };
+        EXPECT_EQ(Run(), "");
+        EXPECT_EQ(painted, (std::vector<bool>{true, true, true}));
+    }
 };
 
 TEST_F(OperationPainting, is_done_before_the_run_begins) {
@@ -52,37 +70,9 @@ TEST_F(OperationPainting, is_done_before_each_item_of_the_list) {
 }
 
 TEST_F(OperationPainting, is_done_for_each_file_of_a_folder_before_the_file_is_copied) {
-    AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
-    operation_.confirm = false;
-    Prepare(FileOperationKind::Copy, {"s"}, "d");
-    FailingCalls calls;
-    std::wstring shown;
-    std::vector<bool> painted;
-    calls.atCall = [&](int) {
-        const std::wstring now = Shown(STATIC_SOURCE);
-        if (now != shown) painted.push_back(IsPainted());
-        shown = now;
-        Spoil();
-        PostOther();
-    };
-    EXPECT_EQ(Run(), "");
-    EXPECT_EQ(painted, (std::vector<bool>{true, true, true}));
+    ExpectPaintedForEachOfThree(FileOperationKind::Copy);
 }
 
 TEST_F(OperationPainting, is_done_for_each_file_before_it_is_deleted) {
-    AddContents(tree_, "s/a=1 s/b=2 s/c=3 d/");
-    operation_.confirm = false;
-    Prepare(FileOperationKind::Delete, {"s"}, "d");
-    FailingCalls calls;
-    std::wstring shown;
-    std::vector<bool> painted;
-    calls.atCall = [&](int) {
-        const std::wstring now = Shown(STATIC_SOURCE);
-        if (now != shown) painted.push_back(IsPainted());
-        shown = now;
-        Spoil();
-        PostOther();
-    };
-    EXPECT_EQ(Run(), "");
-    EXPECT_EQ(painted, (std::vector<bool>{true, true, true}));
+    ExpectPaintedForEachOfThree(FileOperationKind::Delete);
 }

@@ -44,12 +44,6 @@ class DialogKeys : public HandsTest {
             ReleaseKey(modifier);
     }
 
-    ProgramDialog InFront() {
-        const ProgramDialog dialog = Dialog();
-        WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Window(); });
-        return dialog;
-    }
-
     static bool IsOpen(const ProgramDialog& dialog) { return IsWindowVisible(dialog.Window()) != FALSE; }
 
     void ExpectClosedBy(const DialogKey& key, const ProgramDialog& dialog) {
@@ -78,11 +72,6 @@ class DialogKeys : public HandsTest {
         ReleaseKey(key);
         EXPECT_FALSE(HoldsWithin(TimeToClose, [&] { return !IsOpen(dialog); }));
     }
-
-    void OpenForRow(UINT command) {
-        OpenMenuByPointer(FileMenu);
-        ClickMenuItem(command);
-    }
 };
 
 TEST_F(DialogKeys, close_the_about_box_and_never_uninstall) {
@@ -91,7 +80,7 @@ TEST_F(DialogKeys, close_the_about_box_and_never_uninstall) {
     Program().BringForward();
     for (const DialogKey& key : {Esc, Enter, AltF4, CtrlBreak}) {
         PressKey(VK_F1);
-        const ProgramDialog about = InFront();
+        const ProgramDialog about = DialogInFront();
         ExpectLeftOpenBy(Space, about);
         ExpectLeftOpenBy(F1, about);
         ExpectClosedBy(key, about);
@@ -104,7 +93,7 @@ TEST_F(DialogKeys, leave_the_folder_browser_without_a_folder_but_for_enter) {
     for (const DialogKey& key : {Esc, CtrlBreak, AltF4}) {
         Program().FocusControl(NamePage, BUTTON_BROWSE);
         PressKey(VK_SPACE);
-        const ProgramDialog browser = InFront();
+        const ProgramDialog browser = DialogInFront();
         PressKey(VK_DOWN);
         ExpectLeftOpenBy(F1, browser);
         ExpectClosedBy(key, browser);
@@ -113,7 +102,7 @@ TEST_F(DialogKeys, leave_the_folder_browser_without_a_folder_but_for_enter) {
         EXPECT_TRUE(Program().HasFocus(NamePage, BUTTON_BROWSE)) << key.name;
     }
     PressKey(VK_SPACE);
-    const ProgramDialog browser = InFront();
+    const ProgramDialog browser = DialogInFront();
     PressKey(VK_HOME);
     PressKey(VK_DOWN);
     WaitUntil("the folder", [&] { return Program().Tree().at(1).Selected(); });
@@ -128,7 +117,7 @@ TEST_F(DialogKeys, answer_the_delete_question_with_no_but_for_enter_and_space) {
         Find(L"*.qs?");
         SelectRow(L"a.qsa");
         OpenForRow(COMMAND_DELETE);
-        const ProgramDialog question = InFront();
+        const ProgramDialog question = DialogInFront();
         ExpectLeftOpenBy(F1, question);
         ExpectClosedBy(key, question);
         ExpectMainWindowInUse();
@@ -141,7 +130,7 @@ TEST_F(DialogKeys, answer_the_delete_question_with_no_but_for_enter_and_space) {
     for (const Row& row : {Row{Enter, L"a.qsa"}, Row{Space, L"b.qsb"}}) {
         SelectRow(row.file);
         OpenForRow(COMMAND_DELETE);
-        ExpectClosedBy(row.key, InFront());
+        ExpectClosedBy(row.key, DialogInFront());
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !Stands(row.file); })) << row.key.name;
         ExpectMainWindowInUse();
     }
@@ -154,7 +143,7 @@ TEST_F(DialogKeys, give_the_properties_sheet_up_but_for_enter) {
     Find(L"a.qsa");
     for (const DialogKey& key : {Esc, AltF4, CtrlBreak, Enter}) {
         PressKey(VK_RETURN, {VK_MENU});
-        const ProgramDialog sheet = InFront();
+        const ProgramDialog sheet = DialogInFront();
         ClickAt([&] {
             RECT box = {};
             GetWindowRect(sheet.Control(CHECK_READ_ONLY), &box);
@@ -178,12 +167,12 @@ TEST_F(DialogKeys, close_an_error_box) {
         Find(L"*.qs?");
         SelectRow(L"a.qsa");
         OpenForRow(COMMAND_RENAME);
-        WaitUntil("the edit", [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
+        ASSERT_TRUE(NameIsEdited());
         TypeText(L"b.qsb");
         PressKey(VK_RETURN);
         // The reason first, then that the rename failed.
         for (int box = 0; box < 2; ++box) {
-            const ProgramDialog error = InFront();
+            const ProgramDialog error = DialogInFront();
             ASSERT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
             if (box == 0) ExpectLeftOpenBy(F1, error);
             ExpectClosedBy(key, error);
@@ -197,7 +186,7 @@ TEST_F(DialogKeys, abort_a_search_or_leave_it_alone) {
     for (const DialogKey& key : {Esc, Space, AltF4}) {
         Program().Fill(Where(Folder()));
         ASSERT_TRUE(Program().FindAndHoldAwake(1)) << key.name;
-        const ProgramDialog finding = InFront();
+        const ProgramDialog finding = DialogInFront();
         ExpectLeftOpenBy(F1, finding);
         ExpectLeftOpenBy(CtrlBreak, finding);
         ExpectClosedBy(key, finding);
@@ -213,7 +202,7 @@ TEST_F(DialogKeys, held_enter_on_the_menu_item_leaves_the_question_open) {
     OpenMenuByKeys(FileMenu);
     MarkMenuItemByKeys(COMMAND_DELETE);
     HoldKey(VK_RETURN);
-    const ProgramDialog question = InFront();
+    const ProgramDialog question = DialogInFront();
     ExpectLeftOpenByRepeats(VK_RETURN, question);
     EXPECT_TRUE(Stands(L"a.qsa"));
     // Pressed anew it answers.
@@ -229,7 +218,7 @@ TEST_F(DialogKeys, held_space_leaves_a_question_open_that_has_opened_meanwhile) 
     WaitUntil("the button to be held",
               [] { return (SendMessageW(FocusWindow(), BM_GETSTATE, 0, 0) & BST_PUSHED) != 0; });
     PostMessageW(Program().Window(), WM_COMMAND, COMMAND_DELETE, 0);
-    const ProgramDialog question = InFront();
+    const ProgramDialog question = DialogInFront();
     ExpectLeftOpenByRepeats(VK_SPACE, question);
     EXPECT_TRUE(Stands(L"a.qsa"));
     ExpectClosedBy(Esc, question);
@@ -245,7 +234,7 @@ TEST_F(DialogKeys, held_alt_f4_closes_one_dialog_and_not_the_window_behind_it) {
     for (const Opening& opening : openings) {
         SCOPED_TRACE(opening.name);
         opening.act();
-        const ProgramDialog dialog = InFront();
+        const ProgramDialog dialog = DialogInFront();
         HoldKey(VK_MENU);
         HoldKey(VK_F4);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsOpen(dialog); }));

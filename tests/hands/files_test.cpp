@@ -66,7 +66,7 @@ class FilesInHand : public HandsTest {
         ClickAt(CentreOf(place));
     }
     static bool IsGone(const ProgramDialog& dialog) {
-        return HoldsWithin(5000, [&] { return !IsWindow(dialog.Window()); });
+        return HoldsWithin(StepDeadline, [&] { return !IsWindow(dialog.Window()); });
     }
     void TakeFileMenu(UINT command) {
         OpenMenuByPointer(FileMenu);
@@ -84,11 +84,8 @@ class FilesInHand : public HandsTest {
         FindClose(listing);
         return Sorted(names);
     }
-    bool NameIsEdited() {
-        return HoldsWithin(5000, [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
-    }
     bool IsOnDisk(const Names& names) {
-        return HoldsWithin(5000, [&] { return NamesOnDisk() == names; });
+        return HoldsWithin(StepDeadline, [&] { return NamesOnDisk() == names; });
     }
 };
 
@@ -139,7 +136,7 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_has_its_own_properties)
         EXPECT_EQ(Row(name).type, sheet.Text(STATIC_TYPE));
         EXPECT_EQ(L"0.0KB (4 bytes)", sheet.Text(STATIC_SIZE));
         ClickControl(sheet, CHECK_READ_ONLY);
-        EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
         PressKey(VK_RETURN);
         EXPECT_TRUE(IsGone(sheet));
         EXPECT_TRUE(IsReadOnly(name));

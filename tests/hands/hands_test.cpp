@@ -52,8 +52,8 @@ void HandsTest::TakeMenuItemByKeys(UINT command) {
     WaitUntil("the menu to close", [] { return !IsMenuOpen(); });
 }
 
-// The keys go over separators, and over no grey item. The mark in an item's state is no help, for it stays there
-// from the last time.
+// The keys go over separators, and over no grey item. The mark in an item's state is no help, for it stays
+// there from the last time.
 void HandsTest::MarkMenuItemByKeys(UINT command) {
     int steps = 0;
     for (const MenuItemState& item : Program().Menu()) {
@@ -98,6 +98,23 @@ POINT HandsTest::PlaceOfDialogButton(HWND dialog, int command) {
     POINT place = {static_cast<LONG>(index) * width + width / 2, HIWORD(size) / 2};
     ClientToScreen(toolBar, &place);
     return place;
+}
+
+POINT HandsTest::MiddleOf(HWND window) {
+    RECT place = {};
+    GetWindowRect(window, &place);
+    return CentreOf(place);
+}
+
+void HandsTest::OpenForRow(UINT command) {
+    OpenMenuByPointer(FileMenu);
+    ClickMenuItem(command);
+}
+
+ProgramDialog HandsTest::DialogInFront() {
+    const ProgramDialog dialog = Dialog();
+    WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Window(); });
+    return dialog;
 }
 
 HWND HandsTest::FocusWindow() {

@@ -40,6 +40,13 @@ class HandsTest : public ResultsTest {
     [[nodiscard]] POINT PlaceOf(int page, int id) { return CentreOf(Program().Control(page, id).rectangle); }
     using ResultsTest::PlaceOf;
 
+    [[nodiscard]] static POINT MiddleOf(HWND window);
+
+    // The menu File by the pointer, and its item for the selected row.
+    void OpenForRow(UINT command);
+    // The dialog that was just opened, once it is in front.
+    [[nodiscard]] ProgramDialog DialogInFront();
+
     // The window that takes the keyboard, of whatever program; null for none.
     [[nodiscard]] static HWND FocusWindow();
 };

@@ -42,19 +42,6 @@ class Hovering : public HandsTest {
         return {name, [id](const ProgramDialog& dialog) { return MiddleOf(dialog.Control(id)); }};
     }
 
-    static POINT MiddleOf(HWND window) {
-        RECT place = {};
-        GetWindowRect(window, &place);
-        return CentreOf(place);
-    }
-
-    // The dialog that somebody has just opened, once it is in front.
-    ProgramDialog InFront() {
-        const ProgramDialog dialog = Dialog();
-        WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Window(); });
-        return dialog;
-    }
-
     void ExpectNothingWhereThePointerRests(const ProgramDialog& dialog, const std::vector<Place>& places) {
         const HWND focus = FocusWindow();
         for (const Place& place : places) {
@@ -75,23 +62,18 @@ class Hovering : public HandsTest {
 
     // Off everything that shows a tooltip.
     static void ParkPointer() { MovePointerTo({World().screenWidth - 1, World().screenHeight - 1}); }
-
-    void OpenForRow(UINT command) {
-        OpenMenuByPointer(FileMenu);
-        ClickMenuItem(command);
-    }
 };
 
 TEST_F(Hovering, over_the_buttons_of_the_about_box_does_nothing_and_a_click_on_each_of_its_bar_closes_it) {
     const Place tick = OnBar("the tick", IDOK);
     const Place cross = OnBar("the cross", IDCANCEL);
     PressKey(VK_F1);
-    const ProgramDialog about = InFront();
+    const ProgramDialog about = DialogInFront();
     ExpectNothingWhereThePointerRests(about, {tick, cross, On("Uninstall", BUTTON_UNINSTALL)});
     if (HasFatalFailure()) return;
     CloseBy(about, tick);
     PressKey(VK_F1);
-    CloseBy(InFront(), cross);
+    CloseBy(DialogInFront(), cross);
     EXPECT_TRUE(Program().IsRunning());
 }
 
@@ -99,7 +81,7 @@ TEST_F(Hovering, over_the_buttons_of_the_folder_browser_does_nothing_and_its_tic
     const Place tick = OnBar("the tick", IDOK);
     const Place cross = OnBar("the cross", IDCANCEL);
     ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
-    const ProgramDialog browser = InFront();
+    const ProgramDialog browser = DialogInFront();
     Program().SelectTreeItem(1);
     const std::wstring chosen = L"\\" + Program().Tree().at(1).text;
     ExpectNothingWhereThePointerRests(browser, {tick, cross, On("the tree", TREE_FOLDERS)});
@@ -109,7 +91,7 @@ TEST_F(Hovering, over_the_buttons_of_the_folder_browser_does_nothing_and_its_tic
     EXPECT_TRUE(HoldsWithin(StepDeadline,
                             [&] { return Program().Control(NamePage, COMBO_LOCATION).text == chosen; }));
     ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
-    CloseBy(InFront(), cross);
+    CloseBy(DialogInFront(), cross);
     EXPECT_EQ(chosen, Program().Control(NamePage, COMBO_LOCATION).text);
 }
 
@@ -120,7 +102,7 @@ TEST_F(Hovering, over_the_buttons_of_the_delete_question_does_nothing_and_each_c
     Find(L"*.qs?");
     SelectRow(L"a.qsa");
     OpenForRow(COMMAND_DELETE);
-    const ProgramDialog question = InFront();
+    const ProgramDialog question = DialogInFront();
     ExpectNothingWhereThePointerRests(question, {yes, no, cross, OnBar("the tick", IDOK)});
     if (HasFatalFailure()) return;
     EXPECT_TRUE(Stands(L"a.qsa"));
@@ -129,7 +111,7 @@ TEST_F(Hovering, over_the_buttons_of_the_delete_question_does_nothing_and_each_c
         Program().WaitForQueue();
         EXPECT_TRUE(Stands(L"a.qsa")) << "before " << way.name;
         OpenForRow(COMMAND_DELETE);
-        CloseBy(InFront(), way);
+        CloseBy(DialogInFront(), way);
     }
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !Stands(L"a.qsa"); }));
     EXPECT_TRUE(Stands(L"b.qsb"));
@@ -138,7 +120,7 @@ TEST_F(Hovering, over_the_buttons_of_the_delete_question_does_nothing_and_each_c
 TEST_F(Hovering, over_the_properties_sheet_does_nothing_and_its_boxes_and_buttons_work) {
     Find(L"a.qsa");
     ClickBarButton(COMMAND_PROPERTIES);
-    const ProgramDialog sheet = InFront();
+    const ProgramDialog sheet = DialogInFront();
     const Place readOnly = On("Read-only", CHECK_READ_ONLY);
     const Place ok = On("OK", IDOK);
     const Place cancel = On("Cancel", IDCANCEL);
@@ -154,7 +136,7 @@ TEST_F(Hovering, over_the_properties_sheet_does_nothing_and_its_boxes_and_button
     };
     EXPECT_FALSE(isReadOnly());
     ClickBarButton(COMMAND_PROPERTIES);
-    const ProgramDialog again = InFront();
+    const ProgramDialog again = DialogInFront();
     ClickAt(readOnly.find(again));
     CloseBy(again, ok);
     EXPECT_TRUE(HoldsWithin(StepDeadline, isReadOnly));
@@ -164,7 +146,7 @@ TEST_F(Hovering, over_the_shortcut_page_does_nothing) {
     AddShortcut(L"s.lnk", Path(L"a.qsa"));
     Find(L"s.lnk");
     ClickBarButton(COMMAND_PROPERTIES);
-    const ProgramDialog sheet = InFront();
+    const ProgramDialog sheet = DialogInFront();
     PressKey(VK_TAB, {VK_SHIFT});
     PressKey(VK_RIGHT);
     WaitUntil("the shortcut page", [&] { return sheet.HasText(Path(L"a.qsa")); });
@@ -179,12 +161,12 @@ TEST_F(Hovering, over_the_button_of_an_error_box_does_nothing_and_a_click_closes
     Find(L"*.qs?");
     SelectRow(L"a.qsa");
     OpenForRow(COMMAND_RENAME);
-    WaitUntil("the edit", [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
+    ASSERT_TRUE(NameIsEdited());
     TypeText(L"b.qsb");
     PressKey(VK_RETURN);
     // The reason first, then that the rename failed.
     for (int box = 0; box < 2; ++box) {
-        const ProgramDialog error = InFront();
+        const ProgramDialog error = DialogInFront();
         ASSERT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
         ExpectNothingWhereThePointerRests(error, {On("OK", IDOK)});
         if (HasFatalFailure()) return;
@@ -199,7 +181,7 @@ TEST_F(Hovering, over_the_buttons_of_the_running_search_does_nothing_and_a_click
     for (const Place& way : {abort, cross}) {
         Program().Fill(Where(Folder()));
         ASSERT_TRUE(Program().FindAndHoldAwake(1)) << way.name;
-        const ProgramDialog finding = InFront();
+        const ProgramDialog finding = DialogInFront();
         ExpectNothingWhereThePointerRests(finding, {way});
         if (HasFatalFailure()) return;
         ASSERT_TRUE(Program().Searching()) << way.name;
@@ -241,7 +223,7 @@ TEST_F(Hovering, over_uninstall_does_nothing_and_a_click_ends_the_program) {
     StartAgain();
     Program().BringForward();
     PressKey(VK_F1);
-    const ProgramDialog about = InFront();
+    const ProgramDialog about = DialogInFront();
     const Place uninstall = On("Uninstall", BUTTON_UNINSTALL);
     ExpectNothingWhereThePointerRests(about, {uninstall});
     if (HasFatalFailure()) return;

@@ -125,9 +125,6 @@ class MenuItems : public Menus {
                    Program().MenuItem(command).RadioMarked();
         });
     }
-    [[nodiscard]] bool EditHasFocus() {
-        return HoldsWithin(StepDeadline, [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
-    }
 
     void TakeEachOnARow(Way way) {
         AddFile(L"a.qsa");
@@ -142,7 +139,7 @@ class MenuItems : public Menus {
         EXPECT_TRUE(Stands(L"a.qsa"));
 
         Take(way, FileMenu, COMMAND_RENAME);
-        EXPECT_TRUE(EditHasFocus()) << testing::PrintToString(Program().FocusPath());
+        EXPECT_TRUE(NameIsEdited()) << testing::PrintToString(Program().FocusPath());
         PressKey(VK_ESCAPE);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
 

@@ -23,12 +23,6 @@ HWND VisibleTooltip() {
     return found;
 }
 
-POINT MiddleOf(HWND window) {
-    RECT place = {};
-    GetWindowRect(window, &place);
-    return CentreOf(place);
-}
-
 }  // namespace
 
 class SheetInHands : public HandsTest {

@@ -69,7 +69,7 @@ TEST_F(WholeInPlace, rows_and_their_order_by_time_are_what_the_clock_here_shows)
             texts.push_back(row.modified);
         return texts;
     };
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return shown() == Sorted(expected); }))
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return shown() == Sorted(expected); }))
         << testing::PrintToString(shown());
 }
 

@@ -14,7 +14,7 @@ class DeleteRow : public ResultsTest {
         SelectRow(L"a & b.qsa");
     }
     bool RowsAre(const Names& names) {
-        return HoldsWithin(5000, [&] { return Sorted(Program().RowNames()) == names; });
+        return HoldsWithin(StepDeadline, [&] { return Sorted(Program().RowNames()) == names; });
     }
 };
 
@@ -53,7 +53,7 @@ TEST_F(DeleteRow, of_the_last_row_grays_the_commands) {
     Opened(COMMAND_DELETE).Press(IDYES);
     ASSERT_TRUE(RowsAre({}));
     for (const int command : {COMMAND_OPEN, COMMAND_DELETE, COMMAND_RENAME, COMMAND_PROPERTIES})
-        EXPECT_TRUE(HoldsWithin(5000, [&] {
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] {
             return Program().MenuItem(static_cast<UINT>(command)).Grayed();
         })) << command;
 }
@@ -74,7 +74,7 @@ TEST_F(DeleteRow, by_the_keyboard_alone_with_each_answer) {
         } else {
             PressKey(answer.key, {VK_MENU});
         }
-        ASSERT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(question.Window()); })) << answer.what;
+        ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(question.Window()); })) << answer.what;
         EXPECT_TRUE(RowsAre(answer.deleted ? Names{L"c.qsb"} : Names{L"a & b.qsa", L"c.qsb"})) << answer.what;
         EXPECT_EQ(!answer.deleted, Stands(L"a & b.qsa")) << answer.what;
     }
@@ -83,7 +83,7 @@ TEST_F(DeleteRow, by_the_keyboard_alone_with_each_answer) {
 TEST_F(DeleteRow, by_the_mouse_alone) {
     ClickAt(PlaceOf(L"c.qsb"));
     ClickAt(CentreOf(Program().Bar().at(0).rectangle));
-    ASSERT_TRUE(HoldsWithin(5000, [] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
     RECT menu = {};
     GetWindowRect(FindWindowW(L"#32768", nullptr), &menu);
     // Five items and two separators, each half as high: the second item follows the first separator.

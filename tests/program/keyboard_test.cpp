@@ -17,13 +17,13 @@ class Keyboard : public ProgramTest {
     bool StartsSearch(WORD key) {
         const int before = Program().SearchesBegun();
         PressKey(key);
-        if (!HoldsWithin(5000, [&] { return Program().SearchesBegun() > before; })) return false;
+        if (!HoldsWithin(StepDeadline, [&] { return Program().SearchesBegun() > before; })) return false;
         Program().WaitForEndOfSearch();
         return true;
     }
 
     bool FocusComesTo(int page, int id) {
-        return HoldsWithin(5000, [&] { return Program().HasFocus(page, id); });
+        return HoldsWithin(StepDeadline, [&] { return Program().HasFocus(page, id); });
     }
 
     std::string Focus() { return testing::PrintToString(Program().FocusPath()); }
@@ -71,7 +71,8 @@ TEST_F(Keyboard, a_name_typed_by_hand_is_searched_for) {
     Program().Fill(Where(L"\\names"));
     Program().FocusControl(NamePage, COMBO_NAME);
     TypeText(L"日報");
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().Control(NamePage, COMBO_NAME).text == L"日報"; }));
+    ASSERT_TRUE(
+        HoldsWithin(StepDeadline, [&] { return Program().Control(NamePage, COMBO_NAME).text == L"日報"; }));
     ASSERT_TRUE(StartsSearch(VK_RETURN));
     EXPECT_EQ((Names{L"日報.txt"}), Program().RowNames());
 }
@@ -97,7 +98,7 @@ TEST_F(Keyboard, tab_in_the_name_goes_to_the_content) {
 TEST_F(Keyboard, shift_tab_in_the_name_goes_to_the_tabs) {
     Program().FocusControl(NamePage, COMBO_NAME);
     PressKey(VK_TAB, {VK_SHIFT});
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().TabHasFocus(); })) << Focus();
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().TabHasFocus(); })) << Focus();
 }
 
 TEST_F(Keyboard, tab_in_the_location_goes_to_browse) {
@@ -133,10 +134,11 @@ TEST_F(Keyboard, tab_on_the_tabs_goes_into_the_page_that_is_shown) {
 TEST_F(Keyboard, arrows_on_the_tabs_change_the_page) {
     Program().FocusTab();
     PressKey(VK_RIGHT);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().CurrentPage() == DatePage; }));
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().Control(DatePage, RADIO_ALL_FILES).visible; }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().CurrentPage() == DatePage; }));
+    EXPECT_TRUE(
+        HoldsWithin(StepDeadline, [&] { return Program().Control(DatePage, RADIO_ALL_FILES).visible; }));
     PressKey(VK_LEFT);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().CurrentPage() == NamePage; }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().CurrentPage() == NamePage; }));
 }
 
 TEST_F(Keyboard, every_control_of_a_page_can_be_reached_with_tab_and_the_list_as_well) {
@@ -145,7 +147,7 @@ TEST_F(Keyboard, every_control_of_a_page_can_be_reached_with_tab_and_the_list_as
     for (int press = 0; press < 12; ++press) {
         const std::wstring before = Program().FocusPath();
         PressKey(VK_TAB);
-        ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().FocusPath() != before; }))
+        ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().FocusPath() != before; }))
             << "Tab does not leave " << testing::PrintToString(before);
         stops.push_back(Program().FocusPath());
         if (Program().TabHasFocus()) break;
@@ -201,8 +203,8 @@ TEST_F(Keyboard, the_radio_buttons_letters_choose_them) {
     for (const Case& expected : {Case{'B', RADIO_BETWEEN, true, false}, Case{'D', RADIO_PAST, false, true},
                                  Case{'A', RADIO_ALL_FILES, false, false}}) {
         PressKey(expected.letter, {VK_MENU});
-        ASSERT_TRUE(
-            HoldsWithin(5000, [&] { return Program().Control(DatePage, expected.radio).checked != 0; }))
+        ASSERT_TRUE(HoldsWithin(StepDeadline,
+                                [&] { return Program().Control(DatePage, expected.radio).checked != 0; }))
             << "Alt+" << static_cast<char>(expected.letter);
         EXPECT_EQ(expected.pickers, Program().Control(DatePage, PICKER_FROM).enabled);
         EXPECT_EQ(expected.days, Program().Control(DatePage, EDIT_DAYS).enabled);

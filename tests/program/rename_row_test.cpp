@@ -13,13 +13,10 @@ class RenameRow : public ResultsTest {
         Find();
         SelectRow(L"a.qsa");
     }
-    bool EditHasFocus() {
-        return HoldsWithin(5000, [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
-    }
     // Begins by the command and types the text.
     void Type(const std::wstring& text) {
         Program().SendMenuCommand(COMMAND_RENAME);
-        ASSERT_TRUE(EditHasFocus()) << testing::PrintToString(Program().FocusPath());
+        ASSERT_TRUE(NameIsEdited()) << testing::PrintToString(Program().FocusPath());
         if (text.empty()) {
             PressKey(VK_DELETE);
         } else {
@@ -27,7 +24,7 @@ class RenameRow : public ResultsTest {
         }
     }
     bool RowsAre(const Names& names) {
-        return HoldsWithin(5000, [&] { return Sorted(Program().RowNames()) == names; });
+        return HoldsWithin(StepDeadline, [&] { return Sorted(Program().RowNames()) == names; });
     }
     // The two boxes of a rename that failed, in order.
     void ExpectRefusal(const std::wstring& reason) {
@@ -59,17 +56,17 @@ TEST_F(RenameRow, by_the_menus_command_and_enter) {
 
 TEST_F(RenameRow, by_the_keyboard_alone) {
     TakeFileMenuItem(3);
-    ASSERT_TRUE(EditHasFocus()) << testing::PrintToString(Program().FocusPath());
+    ASSERT_TRUE(NameIsEdited()) << testing::PrintToString(Program().FocusPath());
     TypeText(L"c.qsa");
     PressKey(VK_RETURN);
     EXPECT_TRUE(RowsAre({L"b.qsb", L"c.qsa"}));
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().ListHasFocus(); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
 }
 
 TEST_F(RenameRow, is_given_up_with_escape) {
     Type(L"c.qsa");
     PressKey(VK_ESCAPE);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().ListHasFocus(); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     EXPECT_TRUE(RowsAre({L"a.qsa", L"b.qsb"}));
     EXPECT_EQ("of a", ContentOf(L"a.qsa"));
     EXPECT_FALSE(Stands(L"c.qsa"));

@@ -186,6 +186,10 @@ void ResultsTest::TakeFileMenuItem(int number) {
     PressKey(VK_RETURN);
 }
 
+bool ResultsTest::NameIsEdited() {
+    return HoldsWithin(StepDeadline, [] { return Program().FocusPath().rfind(L"edit:", 0) == 0; });
+}
+
 ProgramDialog ResultsTest::Opened(UINT command) {
     PostMessageW(Program().Window(), WM_COMMAND, command, 0);
     return Dialog();

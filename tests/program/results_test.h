@@ -54,6 +54,8 @@ class ResultsTest : public ProgramTest {
     // Opens the menu File with the keyboard and takes its item, counted from 1 without separators.
     void TakeFileMenuItem(int number);
 
+    // True once a row's name is being edited.
+    [[nodiscard]] bool NameIsEdited();
     // Runs a command that opens a dialog and waits for it.
     ProgramDialog Opened(UINT command);
     [[nodiscard]] ProgramDialog Dialog() { return WaitForDialog(Program().Window()); }

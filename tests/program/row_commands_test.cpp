@@ -7,7 +7,7 @@
 class RowCommands : public ResultsTest {
   protected:
     bool RowsAre(const Names& names) {
-        return HoldsWithin(5000, [&] { return Sorted(Program().RowNames()) == names; });
+        return HoldsWithin(StepDeadline, [&] { return Sorted(Program().RowNames()) == names; });
     }
 };
 
@@ -64,24 +64,24 @@ TEST_F(RowCommands, can_all_be_given_by_the_keyboard_alone) {
     Program().FocusControl(NamePage, COMBO_NAME);
     PressKey(VK_RETURN);
     ASSERT_TRUE(RowsAre({L"a.qsa", L"b.qsb"}));
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().ListHasFocus(); }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     // By type, "Alpha kind" comes first.
     PressKey('4', {VK_CONTROL});
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().RowNames() == Names{L"a.qsa", L"b.qsb"}; }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().RowNames() == Names{L"a.qsa", L"b.qsb"}; }));
     PressKey(VK_HOME);
     PressKey(VK_DOWN);
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().List().selected == 1; }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().List().selected == 1; }));
     TakeFileMenuItem(3);
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().FocusPath().rfind(L"edit:", 0) == 0; }));
+    ASSERT_TRUE(NameIsEdited());
     TypeText(L"c.qsb");
     PressKey(VK_RETURN);
     ASSERT_TRUE(RowsAre({L"a.qsa", L"c.qsb"}));
     PressKey(VK_UP);
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return Program().List().selected == 0; }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().List().selected == 0; }));
     TakeFileMenuItem(2);
     const HWND question = Dialog().Window();
     PressKey(VK_RETURN);
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(question); }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(question); }));
     EXPECT_TRUE(RowsAre({L"c.qsb"}));
     EXPECT_FALSE(Stands(L"a.qsa"));
     EXPECT_EQ("of b", ContentOf(L"c.qsb"));

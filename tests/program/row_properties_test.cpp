@@ -78,7 +78,7 @@ TEST_F(RowProperties, change_an_attribute_and_take_it_back) {
         EXPECT_EQ(!readOnly, sheet.IsChecked(CHECK_READ_ONLY));
         sheet.Click(CHECK_READ_ONLY);
         sheet.Press(IDOK);
-        EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY) == readOnly; }));
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Has(FILE_ATTRIBUTE_READONLY) == readOnly; }));
     }
     EXPECT_EQ(std::string(1000, 'x'), ContentOf(L"a.qsa"));
 }
@@ -86,7 +86,7 @@ TEST_F(RowProperties, change_an_attribute_and_take_it_back) {
 TEST_F(RowProperties, change_nothing_when_cancelled) {
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
     sheet.Click(CHECK_READ_ONLY);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
     sheet.Press(IDCANCEL);
     EXPECT_FALSE(Has(FILE_ATTRIBUTE_READONLY));
 }
@@ -95,10 +95,10 @@ TEST_F(RowProperties, by_the_keyboard_alone) {
     PressKey(VK_RETURN, {VK_MENU});
     const ProgramDialog sheet = Dialog();
     PressKey('R', {VK_MENU});
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
     PressKey(VK_RETURN);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(sheet.Window()); }));
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(sheet.Window()); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
 }
 
 TEST_F(RowProperties, by_the_mouse_alone) {
@@ -107,11 +107,11 @@ TEST_F(RowProperties, by_the_mouse_alone) {
     RECT box = {};
     GetWindowRect(sheet.Control(CHECK_READ_ONLY), &box);
     ClickAt(CentreOf(box));
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
     RECT ok = {};
     GetWindowRect(sheet.Control(IDOK), &ok);
     ClickAt(CentreOf(ok));
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Has(FILE_ATTRIBUTE_READONLY); }));
 }
 
 TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_points_it_elsewhere) {
@@ -139,14 +139,14 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches
     const ProgramDialog sheet = Dialog();
     PressKey(VK_TAB, {VK_SHIFT});
     PressKey(VK_RIGHT);
-    ASSERT_TRUE(HoldsWithin(5000, [&] { return ShowsPageWith(sheet, EDIT_TARGET); }));
+    ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return ShowsPageWith(sheet, EDIT_TARGET); }));
     EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
     ASSERT_TRUE(ReachesByKey('T', sheet, EDIT_TARGET));
     PressKey(VK_END);
     PressKey(VK_BACK);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return sheet.Text(EDIT_TARGET) == Path(L"a.qs"); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.Text(EDIT_TARGET) == Path(L"a.qs"); }));
     PressKey(VK_RETURN);
-    EXPECT_TRUE(HoldsWithin(5000, [&] { return !IsWindow(sheet.Window()); }));
+    EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(sheet.Window()); }));
     const ProgramDialog again = Opened(COMMAND_PROPERTIES);
     again.TurnTo(1);
     const std::wstring target = again.Text(EDIT_TARGET);

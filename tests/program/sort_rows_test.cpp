@@ -21,7 +21,7 @@ class SortRows : public ResultsTest {
         Tree().SetLocalTime(Path(name).substr(1), time);
     }
     void ExpectOrder(const std::string& what, const Names& names) {
-        EXPECT_TRUE(HoldsWithin(5000, [&] { return Program().RowNames() == names; }))
+        EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().RowNames() == names; }))
             << what << ": " << testing::PrintToString(Program().RowNames());
     }
 };

@@ -23,13 +23,24 @@ void AddTree(FakeFolders& folders) {
     folders.AddFile(L"\\two.txt", L"d.txt");
 }
 
+struct TreeOfFolders {
+    TreeOfFolders() { AddTree(folders); }
+    FakeFolders folders;
+};
+
+// A walk over the whole of that tree that has come to its end, or to the question at which it was to stop.
+struct WalkOfTree : TreeOfFolders, RecordedWalk {
+    WalkOfTree(std::uint16_t flags, const std::vector<const wchar_t*>& patternTexts, int stopAtQuestion = 0)
+        : RecordedWalk(flags, patternTexts) {
+        progress.stopAtQuestion = stopAtQuestion;
+        WalkFolder(walk, L"\\");
+    }
+};
+
 }  // namespace
 
 TEST(WalkFolder, finds_the_folders_own_entries_first_and_then_each_subtree_depth_first) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.*"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.*"});
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm", L"\\one\\b.txt",
                                           L"\\one\\deep", L"\\one\\deep\\c.txt", L"\\two.txt\\d.txt"}));
     EXPECT_EQ(recorded.progress.folders, (Texts{L"\\", L"\\one", L"\\one\\deep", L"\\two.txt"}));
@@ -46,27 +57,18 @@ TEST(WalkFolder, stays_in_the_folder_without_sub_folders) {
 }
 
 TEST(WalkFolder, goes_pattern_by_pattern_within_each_folder) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.htm", L"*.txt"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.htm", L"*.txt"});
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\z.htm", L"\\a.txt", L"\\two.txt", L"\\one\\b.txt",
                                           L"\\one\\deep\\c.txt", L"\\two.txt\\d.txt"}));
 }
 
 TEST(WalkFolder, enters_every_folder_whatever_the_patterns_are) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"c*"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"c*"});
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\one\\deep\\c.txt"});
 }
 
 TEST(WalkFolder, finds_nothing_with_an_empty_pattern_list_but_still_enters_the_folders) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {});
     EXPECT_EQ(recorded.sink.paths, Texts{});
     EXPECT_EQ(recorded.progress.folders.size(), 4U);
 }
@@ -82,19 +84,13 @@ TEST(WalkFolder, takes_a_null_item_for_the_end_of_the_patterns) {
 }
 
 TEST(WalkFolder, takes_a_null_item_for_the_end_also_as_the_first_of_the_patterns) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {nullptr, L"*.txt", L"*.htm"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {nullptr, L"*.txt", L"*.htm"});
     EXPECT_EQ(recorded.sink.paths, Texts{});
     EXPECT_EQ(recorded.progress.folders.size(), 4U);
 }
 
 TEST(WalkFolder, lists_a_folder_that_matches_like_a_file) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(0, {L"*.txt"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(0, {L"*.txt"});
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\a.txt", L"\\two.txt"}));
     EXPECT_NE(recorded.sink.entries[1].dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY, 0U);
 }
@@ -119,26 +115,17 @@ TEST(WalkFolder, passes_over_a_missing_location_in_silence) {
 }
 
 TEST(WalkFolder, tries_every_pattern_also_after_one_that_matches_nothing) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(0, {L"*.none", L"*.htm"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(0, {L"*.none", L"*.htm"});
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\z.htm"});
 }
 
 TEST(WalkFolder, lists_each_folder_once_whatever_the_number_of_patterns) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.htm", L"*.txt", L"*.none"});
-    WalkFolder(recorded.walk, L"\\");
-    EXPECT_EQ(folders.listed, (Texts{L"\\*", L"\\one\\*", L"\\one\\deep\\*", L"\\two.txt\\*"}));
+    const WalkOfTree recorded(SubFolders, {L"*.htm", L"*.txt", L"*.none"});
+    EXPECT_EQ(recorded.folders.listed, (Texts{L"\\*", L"\\one\\*", L"\\one\\deep\\*", L"\\two.txt\\*"}));
 }
 
 TEST(WalkFolder, lists_an_entry_once_for_every_pattern_that_it_matches) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(0, {L"*.txt", L"a*", L"*.*"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(0, {L"*.txt", L"a*", L"*.*"});
     EXPECT_EQ(recorded.sink.paths,
               (Texts{L"\\a.txt", L"\\two.txt", L"\\a.txt", L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm"}));
 }
@@ -159,10 +146,7 @@ TEST(WalkFolder, hands_a_match_of_a_later_pattern_over_with_its_whole_record) {
 }
 
 TEST(WalkFolder, looks_into_the_folder_that_a_pattern_with_a_separator_names) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"one\\*.txt", L"*.htm"});
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"one\\*.txt", L"*.htm"});
     // The name is joined to the folder that is walked, as for every entry.
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\b.txt", L"\\z.htm"}));
     EXPECT_EQ(recorded.progress.folders, (Texts{L"\\", L"\\one", L"\\one\\deep", L"\\two.txt"}));
@@ -179,57 +163,37 @@ TEST(WalkFolder, asks_twice_for_a_match_and_once_for_another_entry_and_for_a_fol
 }
 
 TEST(WalkFolder, leaves_the_folder_at_once_when_the_stop_is_seen_before_an_entry) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.*", L"*.txt"});
     // Two questions for a.txt; the third comes before "one".
-    recorded.progress.stopAtQuestion = 3;
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.*", L"*.txt"}, 3);
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\a.txt"});
     EXPECT_EQ(recorded.progress.asked, 3);
 }
 
 TEST(WalkFolder, leaves_the_folder_at_once_when_the_stop_is_seen_in_the_test_of_an_entry) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.*", L"*.txt"});
     // The second question for "one" is asked by its test.
-    recorded.progress.stopAtQuestion = 4;
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.*", L"*.txt"}, 4);
     EXPECT_EQ(recorded.sink.paths, Texts{L"\\a.txt"});
     EXPECT_EQ(recorded.progress.asked, 4);
 }
 
 TEST(WalkFolder, stops_among_the_matches_of_a_later_pattern) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.htm", L"*.*"});
     // One question for each of three entries, two for z.htm, two for a.txt; the next comes before "one".
-    recorded.progress.stopAtQuestion = 3 + 2 + 2 + 1;
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.htm", L"*.*"}, 3 + 2 + 2 + 1);
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\z.htm", L"\\a.txt"}));
     EXPECT_EQ(recorded.progress.folders, Texts{L"\\"});
 }
 
 TEST(WalkFolder, enters_no_further_folder_after_a_stop_in_the_sub_folder_pass) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.*"});
     // Eight questions for the root's entries, one before "one", four for its entries, one before "deep"; the
     // next is asked in "deep".
-    recorded.progress.stopAtQuestion = 8 + 1 + 4 + 1 + 1;
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.*"}, 8 + 1 + 4 + 1 + 1);
     EXPECT_EQ(recorded.sink.paths,
               (Texts{L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm", L"\\one\\b.txt", L"\\one\\deep"}));
     EXPECT_EQ(recorded.progress.folders, (Texts{L"\\", L"\\one", L"\\one\\deep"}));
 }
 
 TEST(WalkFolder, keeps_what_was_found_when_it_is_stopped) {
-    FakeFolders folders;
-    AddTree(folders);
-    RecordedWalk recorded(SubFolders, {L"*.*"});
-    recorded.progress.stopAtQuestion = 9;
-    WalkFolder(recorded.walk, L"\\");
+    const WalkOfTree recorded(SubFolders, {L"*.*"}, 9);
     EXPECT_EQ(recorded.sink.paths, (Texts{L"\\a.txt", L"\\one", L"\\two.txt", L"\\z.htm"}));
     EXPECT_EQ(recorded.progress.folders, Texts{L"\\"});
 }
