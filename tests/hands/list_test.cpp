@@ -274,25 +274,6 @@ TEST_F(ListInHands, left_and_right_bring_every_column_into_view) {
     EXPECT_EQ(0, Program().List().selected);
 }
 
-TEST_F(ListInHands, a_click_on_each_heading_sorts_and_so_does_ctrl_with_its_number) {
-    StartFresh();
-    Program().BringForward();
-    Find();
-    const Names upwards = {L"a.qsa", L"b.qsb", L"c.qsc"};
-    const Names downwards = {L"c.qsc", L"b.qsb", L"a.qsa"};
-    // By name the order begins reversed, since the list counts as sorted by name; any other column begins
-    // ascending.
-    ClickHeading(0);
-    EXPECT_TRUE(RowsBecome(downwards));
-    PressKey('1', {VK_CONTROL});
-    EXPECT_TRUE(RowsBecome(upwards));
-    ClickHeading(3);
-    ClickHeading(3);
-    EXPECT_TRUE(RowsBecome(downwards));
-    PressKey('4', {VK_CONTROL});
-    EXPECT_TRUE(RowsBecome(upwards));
-}
-
 TEST_F(ListInHands, a_double_click_opens_a_row_and_with_alt_its_properties) {
     DoubleClickAt(PlaceOf(L"b.qsb"));
     EXPECT_NE(std::wstring::npos, Started(1).at(0).find(L"b.qsb"));

@@ -145,16 +145,6 @@ TEST_F(About, lies_on_the_screen_with_all_its_controls) {
     WaitForClose(about);
 }
 
-TEST_F(About, opens_by_f1_and_closes_by_enter_and_by_escape) {
-    for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
-        const ProgramDialog about = OpenByKey();
-        EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Caption());
-        PressKey(key);
-        WaitForClose(about);
-        EXPECT_TRUE(Program().IsRunning());
-    }
-}
-
 TEST_F(About, opens_by_f1_from_each_place_of_the_window) {
     const auto opensHere = [&] {
         const ProgramDialog about = OpenByKey();
@@ -170,19 +160,6 @@ TEST_F(About, opens_by_f1_from_each_place_of_the_window) {
     PressKey(VK_TAB);
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     opensHere();
-}
-
-// The last item of the second menu.
-TEST_F(About, opens_by_its_menu) {
-    const RECT button = Program().Bar().at(1).rectangle;
-    ClickAt({(button.left + button.right) / 2, (button.top + button.bottom) / 2});
-    ASSERT_TRUE(HoldsWithin(StepDeadline, [] { return FindWindowW(L"#32768", nullptr) != nullptr; }));
-    PressKey(VK_UP);
-    PressKey(VK_RETURN);
-    const ProgramDialog about = InFront(WaitForDialog(Program().Window()));
-    EXPECT_EQ(L"QuorinSearch", about.Text(STATIC_PRODUCT_NAME));
-    PressKey(VK_ESCAPE);
-    WaitForClose(about);
 }
 
 // Enter and the blank, pressed by somebody who has only looked, remove nothing, also when the button had the
@@ -210,10 +187,6 @@ class Uninstall : public About {
         ASSERT_TRUE(KeyExists(NameKey));
         StartAgain();
         Program().BringForward();
-    }
-    void TearDown() override {
-        About::TearDown();
-        RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\QuorinSoft\\Another");
     }
 };
 
@@ -244,22 +217,6 @@ TEST_F(Uninstall, is_done_by_keys_alone) {
     PressKey('U', {VK_MENU});
     EXPECT_EQ(0u, Program().WaitForEnd());
     EXPECT_FALSE(KeyExists(MakerKey));
-}
-
-TEST_F(Uninstall, takes_foreign_sub_keys_of_the_product_along) {
-    StoreText(L"Software\\QuorinSoft\\QuorinSearch\\Name\\deeper", L"value", L"text");
-    OpenByCommand().Click(BUTTON_UNINSTALL);
-    EXPECT_EQ(0u, Program().WaitForEnd());
-    EXPECT_FALSE(KeyExists(MakerKey));
-}
-
-TEST_F(Uninstall, leaves_the_makers_key_and_its_values_to_another_program) {
-    StoreText(L"Software\\QuorinSoft\\Another", L"value", L"text");
-    StoreText(MakerKey, L"Note", L"kept");
-    OpenByCommand().Click(BUTTON_UNINSTALL);
-    EXPECT_EQ(0u, Program().WaitForEnd());
-    EXPECT_EQ(Names{L"Another"}, SubKeysOf(MakerKey));
-    EXPECT_EQ(StoredText(L"kept"), ValuesOf(MakerKey)[L"Note"]);
 }
 
 TEST_F(Uninstall, that_fails_says_so_and_the_program_goes_on_and_saves) {

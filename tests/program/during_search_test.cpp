@@ -149,35 +149,6 @@ TEST_F(DuringSearch, menu_commands_do_no_harm) {
     EXPECT_TRUE(Program().Dialogs().empty());
 }
 
-TEST_F(DuringSearch, closing_the_main_window_ends_the_search_and_the_program) {
-    HoldSearch(2);
-    PostMessageW(Program().Window(), WM_CLOSE, 0, 0);
-    Program().Release();
-    EXPECT_EQ(0u, Program().WaitForEnd());
-}
-
-TEST_F(DuringSearch, the_exit_command_ends_the_search_and_the_program) {
-    HoldSearch(2);
-    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_EXIT, 0);
-    Program().Release();
-    EXPECT_EQ(0u, Program().WaitForEnd());
-}
-
-TEST_F(DuringSearch, a_quit_ends_the_search_and_the_program_with_its_exit_code) {
-    HoldSearch(2);
-    PostThreadMessageW(ProgramThread(), WM_QUIT, 7, 0);
-    Program().Release();
-    EXPECT_EQ(7u, Program().WaitForEnd());
-}
-
-TEST_F(DuringSearch, abort_and_close_together_end_the_program) {
-    HoldSearch(2);
-    Program().PressAbort();
-    PostMessageW(Program().Window(), WM_CLOSE, 0, 0);
-    Program().Release();
-    EXPECT_EQ(0u, Program().WaitForEnd());
-}
-
 TEST_F(DuringSearch, the_close_box_of_the_disabled_window_is_refused) {
     const Names everything = EverythingOnTheDevice();
     HoldSearch(2);

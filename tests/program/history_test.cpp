@@ -71,50 +71,10 @@ TEST_F(History, keeps_ten_of_eleven_searches_and_gives_back_the_nine_oldest_of_t
     EXPECT_EQ((Names{L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}), NameEntries());
 }
 
-TEST_F(History, stores_0_over_a_5_that_checked_the_box_when_the_box_is_cleared) {
-    CloseProgram();
-    const DWORD five = 5;
-    Store(ProductKey, L"Sub Folder", REG_DWORD, &five, sizeof five);
-    StartAgain();
-    EXPECT_TRUE(SubFoldersChecked());
-    Program().Click(NamePage, CHECK_SUBFOLDERS);
-    CloseProgram();
-    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(0)}}), ValuesOf(ProductKey));
-}
-
-TEST_F(History, leaves_the_values_of_a_longer_earlier_list) {
-    CloseProgram();
-    for (int n = 0; n < 4; ++n)
-        StoreText(NameKey, std::to_wstring(n), L"x" + std::to_wstring(n));
-    StoreText(LocationKey, L"5", L"\\unreached");
-    StartAgain();
-    EXPECT_EQ((Names{L"x3", L"x2", L"x1", L"x0"}), NameEntries());
-    // The prefix takes the place of one of four.
-    Enter(COMBO_NAME, L"X");
-    CloseProgram();
-    EXPECT_EQ((Values{{L"0", StoredText(L"x0")},
-                      {L"1", StoredText(L"x1")},
-                      {L"2", StoredText(L"x3")},
-                      {L"3", StoredText(L"X")}}),
-              ValuesOf(NameKey));
-    EXPECT_EQ((Values{{L"5", StoredText(L"\\unreached")}}), ValuesOf(LocationKey));
-}
-
 TEST_F(History, is_lost_with_a_program_that_is_killed) {
     Enter(COMBO_NAME, L"lost");
     Program().Kill();
     EXPECT_FALSE(KeyExists(ProductKey));
-}
-
-TEST_F(History, is_saved_by_each_way_to_end_the_program) {
-    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_EXIT, 0);
-    EXPECT_EQ(0u, Program().WaitForEnd());
-    EXPECT_TRUE(KeyExists(NameKey));
-    StartFresh();
-    Program().BringForward();
-    PressKey('Q', {VK_CONTROL});
-    EXPECT_EQ(0u, Program().WaitForEnd());
-    EXPECT_TRUE(KeyExists(NameKey));
 }
 
 TEST_F(History, survives_a_registry_full_of_rubbish) {

@@ -220,12 +220,6 @@ TEST_F(Keyboard, the_labels_letters_lead_to_their_fields_on_the_size_page) {
     EXPECT_TRUE(FocusComesTo(SizePage, COMBO_FILE_SIZE)) << Focus();
 }
 
-TEST_F(Keyboard, ctrl_q_ends_the_program) {
-    Program().FocusControl(NamePage, EDIT_CONTENT);
-    PressKey('Q', {VK_CONTROL});
-    EXPECT_EQ(0u, Program().WaitForEnd());
-}
-
 TEST_F(Keyboard, ctrl_q_ends_the_program_from_the_list_as_well) {
     NamesFoundBy(Where(L"\\names"));
     ASSERT_TRUE(Program().ListHasFocus());

@@ -14,13 +14,6 @@ class RowProperties : public ResultsTest {
         Find(L"*.qs?");
         SelectRow(L"a.qsa");
     }
-    void ExpectSheet(const char* way) {
-        SCOPED_TRACE(way);
-        const ProgramDialog sheet = Dialog();
-        EXPECT_TRUE(sheet.IsSheet()) << way;
-        EXPECT_EQ(L"0.9KB (1000 bytes)", sheet.Text(STATIC_SIZE)) << way;
-        sheet.Press(IDCANCEL);
-    }
     // Whether the sheet shows the page that has this control.
     [[nodiscard]] static bool ShowsPageWith(const ProgramDialog& sheet, int id) {
         HWND page = nullptr;
@@ -42,20 +35,6 @@ class RowProperties : public ResultsTest {
         return (GetFileAttributesW(Real(L"a.qsa").c_str()) & attribute) != 0;
     }
 };
-
-TEST_F(RowProperties, open_by_command_button_alt_enter_and_alt_double_click) {
-    PostMessageW(Program().Window(), WM_COMMAND, COMMAND_PROPERTIES, 0);
-    ExpectSheet("command");
-    ClickAt(CentreOf(Program().Bar().at(4).rectangle));
-    ExpectSheet("button");
-    TakeFileMenuItem(4);
-    ExpectSheet("menu");
-    PressKey(VK_RETURN, {VK_MENU});
-    ExpectSheet("Alt+Enter");
-    DoubleClickAt(PlaceOf(L"a.qsa"), {VK_MENU});
-    ExpectSheet("Alt and a double click");
-    EXPECT_TRUE(NothingStarted());
-}
 
 TEST_F(RowProperties, fit_the_screen_and_show_the_file) {
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);

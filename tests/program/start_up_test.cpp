@@ -29,17 +29,6 @@ TEST_F(StartUp, change_language_of_0_leaves_the_systems_language_in_force) {
     Program().Kill();
 }
 
-TEST_F(StartUp, any_other_value_of_change_language_swaps_the_language) {
-    CloseProgram();
-    const DWORD change = 0x80000000;
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\QuorinSoft", L"Change language", REG_DWORD, &change,
-                    sizeof(change));
-    StartAgain();
-    const wchar_t* otherLanguage = World().japaneseSystem ? L"Name" : L"名前と場所";
-    EXPECT_EQ(otherLanguage, Program().Tabs().at(0).caption);
-    Program().Kill();
-}
-
 TEST_F(StartUp, the_program_never_writes_change_language) {
     CloseProgram();
     DWORD value = 0;
