@@ -82,7 +82,33 @@ void RefusingProgram::RefuseMemory(LONG divisor, LONG remainder) {
     refusals_->divisor = divisor;
 }
 
+// The number goes last: the program may make a call in the middle of this.
+void RefusingProgram::RefuseCall(LONG call, LONG place, DWORD code, LONG most) {
+    probe::RefusedCall& refused = refusals_->refusedCall;
+    refused.most = 0;
+    refused.times = 0;
+    refused.call = call;
+    refused.place = place;
+    refused.code = code;
+    refused.most = most;
+}
+
+void RefusingProgram::NoteCalls(LONG step) {
+    refusals_->callPlaces.step = step;
+}
+
+std::vector<probe::CallPlace> RefusingProgram::CallsNoted() const {
+    const probe::CallPlaces& noted = refusals_->callPlaces;
+    if (noted.isFull) throw DriverError("there is no room for all places of calls");
+    return {noted.places, noted.places + noted.count};
+}
+
 void RefusingProgram::Start(const std::wstring& workingFolder) {
+    Launch(workingFolder);
+    Settle();
+}
+
+void RefusingProgram::Launch(const std::wstring& workingFolder) {
     if (process_ != nullptr) process_->Kill();
     link_.reset();
     hasComplained_ = false;
@@ -92,7 +118,6 @@ void RefusingProgram::Start(const std::wstring& workingFolder) {
     start.probePath = ProbePath();
     process_ = std::make_unique<RunningProgram>();
     process_->Start(start);
-    Settle();
 }
 
 void RefusingProgram::Settle() {
@@ -177,4 +202,12 @@ HWND RefusingProgram::OpenDialog() const {
 void RefusingProgram::Run(UINT command) {
     PostMessageW(Window(), WM_COMMAND, command, 0);
     Settle();
+}
+
+std::vector<std::wstring> RefusingProgram::NamesOfRows() {
+    constexpr int MostRows = 100;
+    std::vector<std::wstring> names;
+    for (const Record& row : link_->Ask(probe::Question::Rows, 0, MostRows))
+        names.push_back(row.front());
+    return names;
 }

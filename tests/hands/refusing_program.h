@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "tests/support/probe/refusals.h"
 #include "tests/support/probe_link.h"
@@ -22,6 +23,12 @@ class RefusingProgram {
     // The program's own pieces of memory are counted from now on, and every one fails whose number, divided
     // by the divisor, leaves the remainder; a divisor of 0 for none.
     void RefuseMemory(LONG divisor, LONG remainder = 0);
+    // A call is refused so often from now on; see RefusedCall. Nothing for 0.
+    void RefuseCall(LONG call, LONG place, DWORD code, LONG most);
+    [[nodiscard]] LONG TimesRefused() const { return refusals_->refusedCall.times; }
+    // From now on every place where the program makes a call is noted with this number, from 1; 0 for none.
+    void NoteCalls(LONG step);
+    [[nodiscard]] std::vector<probe::CallPlace> CallsNoted() const;
     // The pieces asked for since.
     [[nodiscard]] LONG PiecesAsked() const { return refusals_->piecesAsked; }
     // What was refused since: a window's class, or a word for anything else; empty for nothing yet.
@@ -29,6 +36,8 @@ class RefusingProgram {
 
     // Starts the program and waits as Settle does. What is refused was said before.
     void Start(const std::wstring& workingFolder);
+    // The same without the waiting.
+    void Launch(const std::wstring& workingFolder);
     // Answers with Enter whatever the program says, until it waits for commands in its main window or has
     // ended. Throws DriverError when it does neither.
     void Settle();
@@ -52,6 +61,13 @@ class RefusingProgram {
     void Run(UINT command);
     // Waits until the program has taken what was posted to it, or asks something in the middle of it.
     void WaitForQueue();
+    // Whether the main window can be talked to, and takes its messages within this time.
+    [[nodiscard]] bool TakesQueue(DWORD milliseconds) {
+        return Connects() && link_->TakesQueue(milliseconds);
+    }
+    // The names in the result list, in its order.
+    [[nodiscard]] std::vector<std::wstring> NamesOfRows();
+    void SelectRow(int row) { link_->Ask(probe::Question::SelectRow, row, 1); }
 
   private:
     void Answer(HWND box);

@@ -111,19 +111,28 @@ HANDLE ProbeLink::NamedEvent(const wchar_t* format) const {
     return CreateEventW(nullptr, TRUE, FALSE, name);
 }
 
+// A message that is lost on the way, as one to a program that has only just got the hooks, is sent again.
 void ProbeLink::WaitForQueue() {
-    const HANDLE taken = NamedEvent(probe::SyncEventNameFormat);
-    ResetEvent(taken);
-    PostMessageW(window_, RegisterWindowMessageW(probe::SyncMessageName), 0, 0);
-    bool isGone = false;
-    const bool ended = HoldsWithin(StepDeadline, [&] {
-        if (WaitForSingleObject(taken, PauseBetweenLooks) == WAIT_OBJECT_0) return true;
-        isGone = !IsWindow(window_);
-        return isGone;
+    constexpr DWORD OneTry = 2000;
+    for (DWORD waited = 0; waited < StepDeadline; waited += OneTry) {
+        if (TakesQueue(OneTry)) return;
+        if (!IsWindow(window_)) throw DriverError("the window is gone that was to take a message");
+    }
+    throw DriverError("the program does not take messages from its queue");
+}
+
+bool ProbeLink::TakesQueue(DWORD milliseconds) {
+    wchar_t name[64];
+    wsprintfW(name, probe::SyncEventNameFormat, processId_, ++lastSync_);
+    const HANDLE taken = CreateEventW(nullptr, TRUE, FALSE, name);
+    PostMessageW(window_, RegisterWindowMessageW(probe::SyncMessageName), lastSync_, 0);
+    bool isTaken = false;
+    (void)HoldsWithin(milliseconds, [&] {
+        isTaken = WaitForSingleObject(taken, PauseBetweenLooks) == WAIT_OBJECT_0;
+        return isTaken || !IsWindow(window_);
     });
     CloseHandle(taken);
-    if (isGone) throw DriverError("the window is gone that was to take a message");
-    if (!ended) throw DriverError("the program does not take messages from its queue");
+    return isTaken;
 }
 
 bool ProbeLink::WaitForHold(DWORD milliseconds) {

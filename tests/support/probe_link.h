@@ -28,6 +28,8 @@ class ProbeLink {
 
     // Waits until the program's thread has taken everything from its queue that was posted before.
     void WaitForQueue();
+    // The same for so long; false when it has not by then.
+    [[nodiscard]] bool TakesQueue(DWORD milliseconds);
 
     // Waits for the hold that was armed; false when it did not come in time.
     [[nodiscard]] bool WaitForHold(DWORD milliseconds);
@@ -43,5 +45,6 @@ class ProbeLink {
     HHOOK sentHook_ = nullptr;
     HHOOK takenHook_ = nullptr;
     HANDLE section_ = nullptr;
+    DWORD lastSync_ = 0;
     probe::Exchange* exchange_ = nullptr;
 };

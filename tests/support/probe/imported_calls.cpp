@@ -1,7 +1,5 @@
 #include "tests/support/probe/imported_calls.h"
 
-#include <windows.h>
-
 #include <cstring>
 
 namespace probe {
@@ -23,26 +21,37 @@ bool IsNamed(const IMAGE_THUNK_DATA& call, const char* name) {
     return std::strcmp(At<IMAGE_IMPORT_BY_NAME>(call.u1.AddressOfData)->Name, name) == 0;
 }
 
-void Overwrite(ULONGLONG& address, void* replacement) {
-    DWORD before = 0;
-    VirtualProtect(&address, sizeof address, PAGE_READWRITE, &before);
-    address = reinterpret_cast<ULONGLONG>(replacement);
-    VirtualProtect(&address, sizeof address, before, &before);
+// Of one library: its calls' names, and beside each the call's address.
+ULONGLONG* FindCall(DWORD names, DWORD addresses, const char* name) {
+    const auto* call = At<IMAGE_THUNK_DATA>(names);
+    auto* address = At<IMAGE_THUNK_DATA>(addresses);
+    for (; call->u1.AddressOfData != 0; ++call, ++address) {
+        if (IsNamed(*call, name)) return &address->u1.Function;
+    }
+    return nullptr;
 }
 
 }  // namespace
 
-bool ReplaceImportedCall(const char* name, void* replacement) {
+ULONGLONG* FindImportedCall(const char* name) {
     for (const IMAGE_IMPORT_DESCRIPTOR* library = FirstLibrary(); library->Name != 0; ++library) {
-        const auto* call = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
-        auto* address = At<IMAGE_THUNK_DATA>(library->FirstThunk);
-        for (; call->u1.AddressOfData != 0; ++call, ++address) {
-            if (!IsNamed(*call, name)) continue;
-            Overwrite(address->u1.Function, replacement);
-            return true;
-        }
+        ULONGLONG* const found = FindCall(library->OriginalFirstThunk, library->FirstThunk, name);
+        if (found != nullptr) return found;
     }
-    return false;
+    return nullptr;
+}
+
+void PutCall(ULONGLONG& address, const void* routine) {
+    DWORD before = 0;
+    VirtualProtect(&address, sizeof address, PAGE_READWRITE, &before);
+    address = reinterpret_cast<ULONGLONG>(routine);
+    VirtualProtect(&address, sizeof address, before, &before);
+}
+
+bool ReplaceImportedCall(const char* name, void* replacement) {
+    ULONGLONG* const address = FindImportedCall(name);
+    if (address != nullptr) PutCall(*address, replacement);
+    return address != nullptr;
 }
 
 }  // namespace probe

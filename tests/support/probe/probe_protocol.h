@@ -13,11 +13,12 @@ constexpr wchar_t QuestionMessageName[] = L"QuorinProbeQuestion";
 constexpr wchar_t HoldMessageName[] = L"QuorinProbeHold";
 constexpr wchar_t SyncMessageName[] = L"QuorinProbeSync";
 
-// Names of the section and the events; "%lu" is the program's process id.
+// Names of the section and the events; "%lu" is the program's process id. A sync has a number as well, which
+// its message carries: one that comes late is not taken for the next one.
 constexpr wchar_t SectionNameFormat[] = L"Local\\QuorinProbeSection-%lu";
 constexpr wchar_t HeldEventNameFormat[] = L"Local\\QuorinProbeHeld-%lu";
 constexpr wchar_t ReleaseEventNameFormat[] = L"Local\\QuorinProbeRelease-%lu";
-constexpr wchar_t SyncEventNameFormat[] = L"Local\\QuorinProbeSync-%lu";
+constexpr wchar_t SyncEventNameFormat[] = L"Local\\QuorinProbeSync-%lu-%lu";
 
 enum class Question : DWORD {
     Counters,    // searches begun, searches ended

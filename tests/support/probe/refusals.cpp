@@ -6,14 +6,13 @@
 #include <cstdlib>
 
 #include "tests/support/probe/imported_calls.h"
+#include "tests/support/probe/refused_calls.h"
 
 namespace probe {
 namespace {
 
 Refusals* refusals = nullptr;
 HHOOK creationHook = nullptr;
-bool countsMemory = false;
-
 // Counts the creation; true when it is the one that fails.
 bool Refuse(const wchar_t* name) {
     const bool refuse = InterlockedIncrement(&refusals->asked) == refusals->refused;
@@ -25,7 +24,7 @@ LRESULT CALLBACK WatchCreations(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_CREATEWND) {
         wchar_t name[RefusedNameCapacity] = L"";
         GetClassNameW(reinterpret_cast<HWND>(wParam), name, RefusedNameCapacity);
-        if (Refuse(name)) return 1;
+        if (RefusesWindow() || Refuse(name)) return 1;
     }
     return CallNextHookEx(creationHook, code, wParam, lParam);
 }
@@ -83,13 +82,13 @@ HRSRC WINAPI FindTemplate(HMODULE module, const wchar_t* name, const wchar_t* ki
 }
 
 // The program's first call. What the compiler's own start-up asks for before it, it does not look at.
-BOOL WINAPI BeginCountingMemory(DWORD mode, DWORD* before) {
-    countsMemory = true;
+BOOL WINAPI BeginCounting(DWORD mode, DWORD* before) {
+    BeginRefusingCalls();
     return SetThreadErrorMode(mode, before);
 }
 
 void* MakeMemory(std::size_t size) {
-    if (!countsMemory) return std::malloc(size);
+    if (!AreCallsRefused()) return std::malloc(size);
     const LONG number = InterlockedIncrement(&refusals->piecesAsked);
     const LONG divisor = refusals->divisor;
     return divisor != 0 && number % divisor == refusals->remainder ? nullptr : std::malloc(size);
@@ -112,7 +111,7 @@ void ReplaceCreations() {
     Replace("ImageList_Create", &MakeImageList);
     Replace("CreatePropertySheetPageW", &MakeSheetPage);
     Replace("FindResourceW", &FindTemplate);
-    Replace("SetThreadErrorMode", &BeginCountingMemory);
+    Replace("SetThreadErrorMode", &BeginCounting);
     Replace("malloc", &MakeMemory);
 }
 
@@ -125,7 +124,9 @@ void PrepareRefusals() {
     if (section == nullptr) return;
     refusals = static_cast<Refusals*>(MapViewOfFile(section, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(Refusals)));
     CloseHandle(section);
-    if (refusals != nullptr && refusals->ownerId != GetCurrentProcessId()) ReplaceCreations();
+    if (refusals == nullptr || refusals->ownerId == GetCurrentProcessId()) return;
+    ReplaceCreations();
+    PrepareRefusedCalls(*refusals);
 }
 
 }  // namespace probe

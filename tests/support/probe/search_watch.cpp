@@ -27,8 +27,12 @@ HANDLE NamedEvent(const wchar_t* format) {
     return CreateEventW(nullptr, TRUE, FALSE, name);
 }
 
-void Signal(const wchar_t* format) {
-    const HANDLE event = NamedEvent(format);
+// Nobody waits any more for one whose event is gone.
+void SignalSync(DWORD number) {
+    wchar_t name[64];
+    wsprintfW(name, SyncEventNameFormat, GetCurrentProcessId(), number);
+    const HANDLE event = OpenEventW(EVENT_MODIFY_STATE, FALSE, name);
+    if (event == nullptr) return;
     SetEvent(event);
     CloseHandle(event);
 }
@@ -110,7 +114,7 @@ void WatchTakenMessage(const MSG& message) {
         watch.holdMessage = RegisterWindowMessageW(HoldMessageName);
         watch.syncMessage = RegisterWindowMessageW(SyncMessageName);
     }
-    if (message.message == watch.syncMessage) Signal(SyncEventNameFormat);
+    if (message.message == watch.syncMessage) SignalSync(static_cast<DWORD>(message.wParam));
     if (message.message == watch.holdMessage) TakeHoldMessage();
     const bool run = message.message == WM_COMMAND && LOWORD(message.wParam) == COMMAND_RUN;
     // A run command for the dialog of the search that is running begins no other one.
