@@ -11,6 +11,7 @@
 #include "platform/ce_files.h"
 #include "platform/desktop/links.h"
 #include "platform/desktop/shell_files.h"
+#include "platform/desktop/shell_library.h"
 #include "platform/desktop/shell_link_file.h"
 #include "platform/desktop/system_path.h"
 #include "platform/handles.h"
@@ -144,7 +145,7 @@ BOOL CreateShortcut(const wchar_t* shortcut, const wchar_t* target) {
 
 // By its short path where its own leads the shell elsewhere, or not at all.
 BOOL Execute(SHELLEXECUTEINFOW* info) {
-    if (info->lpFile == nullptr || ShellTakesPath(info->lpFile)) return ::ShellExecuteExW(info);
+    if (info->lpFile == nullptr || ShellTakesPath(info->lpFile)) return ShellExecution(info);
     wchar_t file[MAX_PATH];
     if (!FindShellPath(info->lpFile, file)) {
         SetLastError(ERROR_FILE_NOT_FOUND);
@@ -152,7 +153,7 @@ BOOL Execute(SHELLEXECUTEINFOW* info) {
     }
     SHELLEXECUTEINFOW found = *info;
     found.lpFile = file;
-    const BOOL executed = ::ShellExecuteExW(&found);
+    const BOOL executed = ShellExecution(&found);
     info->hInstApp = found.hInstApp;
     info->hProcess = found.hProcess;
     return executed;

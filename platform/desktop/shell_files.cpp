@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "platform/desktop/folder_entry.h"
+#include "platform/desktop/shell_library.h"
 #include "platform/desktop/system_path.h"
 #include "platform/name_wildcard.h"
 
@@ -90,9 +91,9 @@ bool IsShortcutFile(const wchar_t* path) {
 DWORD_PTR ShortcutInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
     constexpr UINT IconFlags = SHGFI_ICON | SHGFI_SMALLICON;
     SHFILEINFOW icon{};
-    ::SHGetFileInfoW(path, FILE_ATTRIBUTE_NORMAL, &icon, sizeof icon,
-                     (flags & IconFlags) | SHGFI_USEFILEATTRIBUTES);
-    const DWORD_PTR answer = ::SHGetFileInfoW(path, attributes, info, size, flags & ~IconFlags);
+    ShellFileInfo(path, FILE_ATTRIBUTE_NORMAL, &icon, sizeof icon,
+                  (flags & IconFlags) | SHGFI_USEFILEATTRIBUTES);
+    const DWORD_PTR answer = ShellFileInfo(path, attributes, info, size, flags & ~IconFlags);
     info->hIcon = icon.hIcon;
     info->iIcon = icon.iIcon;
     return answer;
@@ -101,7 +102,7 @@ DWORD_PTR ShortcutInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info,
 DWORD_PTR InfoByPath(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
     const bool looksInside = (flags & SHGFI_ICON) != 0 && (flags & SHGFI_USEFILEATTRIBUTES) == 0;
     if (looksInside && IsShortcutFile(path)) return ShortcutInfo(path, attributes, info, size, flags);
-    return ::SHGetFileInfoW(path, attributes, info, size, flags);
+    return ShellFileInfo(path, attributes, info, size, flags);
 }
 
 // A name of the same kind that the shell does not cut. Behind a last dot that ends the name, and with a blank
@@ -130,8 +131,7 @@ DWORD_PTR InfoByKind(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, U
     }
     wchar_t standIn[MAX_PATH + 4];
     NameOfKind(NameIn(path), standIn);
-    const DWORD_PTR answer =
-        ::SHGetFileInfoW(standIn, attributes, info, size, flags | SHGFI_USEFILEATTRIBUTES);
+    const DWORD_PTR answer = ShellFileInfo(standIn, attributes, info, size, flags | SHGFI_USEFILEATTRIBUTES);
     if (answer != 0 && (flags & SHGFI_DISPLAYNAME) != 0) ShowName(*info, NameIn(path));
     return answer;
 }
