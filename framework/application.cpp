@@ -30,13 +30,22 @@ WindowMap* Application::Windows() {
 
 int Application::Run() {
     MSG message{};
-    // A failed GetMessageW answers -1, which is no reason to go on either.
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (mainView_ != nullptr && mainView_->PreTranslate(message)) continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+    // A system that is short of memory may give the next one again.
+    constexpr int MostFailures = 20;
+    for (int failures = 0; failures < MostFailures;) {
+        const BOOL answer = GetMessageW(&message, nullptr, 0, 0);
+        if (answer == 0) return static_cast<int>(message.wParam);
+        failures = answer < 0 ? failures + 1 : 0;
+        if (answer > 0) Handle(message);
     }
-    return static_cast<int>(message.wParam);
+    if (mainView_ != nullptr) mainView_->EndWithoutMessages();
+    return 0;
+}
+
+void Application::Handle(MSG& message) {
+    if (mainView_ != nullptr && mainView_->PreTranslate(message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
 }
 
 WaitCursor::WaitCursor() {

@@ -18,6 +18,8 @@ class MainView {
     MainView& operator=(const MainView&) = delete;
     // Answers true when it has consumed the message.
     virtual bool PreTranslate(MSG& message) = 0;
+    // Called when the loop gets no more messages and is about to return: whatever is to be kept is kept now.
+    virtual void EndWithoutMessages() {}
     virtual ~MainView();
 
   private:
@@ -34,7 +36,7 @@ class Application {
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    // Runs the message loop until WM_QUIT and returns its wParam.
+    // Runs the message loop until WM_QUIT and returns its wParam; 0 when the system gives no more messages.
     int Run();
 
     // In the place of the one before; null for none.
@@ -47,6 +49,8 @@ class Application {
     [[nodiscard]] static WindowMap* Windows();
 
   private:
+    void Handle(MSG& message);
+
     static Application* current;
 
     const wchar_t* name_;

@@ -117,6 +117,10 @@ bool ApplicationView::PreTranslate(MSG& message) {
     return TranslateAcceleratorW(Handle(), accelerators_, &message) != 0;
 }
 
+void ApplicationView::EndWithoutMessages() {
+    DestroyWindow(Handle());
+}
+
 LRESULT ApplicationView::OnWmDestroy(MessageRecord&) {
     PostQuitMessage(0);
     return 0;

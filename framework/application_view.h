@@ -21,6 +21,8 @@ class ApplicationView : public ScrollingView, public MainView {
     // The main view is shown as the program was asked to start, any other normally.
     virtual void Show();
     bool PreTranslate(MSG& message) override;
+    // The window is destroyed as at any other end.
+    void EndWithoutMessages() override;
 
     // The menu bar's menu; null without a bar.
     [[nodiscard]] HMENU Menu() const { return menu_; }
