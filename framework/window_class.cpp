@@ -62,6 +62,11 @@ WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement) {
     auto* entry = new (std::nothrow) SubclassedWindow{window, nullptr, subclassedWindows};
     if (entry == nullptr) return nullptr;
     entry->procedure = ce::SetWindowProcedure(window, replacement);
+    // A window that keeps its own procedure may be tried again.
+    if (entry->procedure == nullptr) {
+        delete entry;
+        return nullptr;
+    }
     subclassedWindows = entry;
     return entry->procedure;
 }

@@ -87,8 +87,10 @@ void DroppedCalendar::WatchKeys(HWND calendar) {
         SendMessageW(picker_, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&dateBefore_));
     validity_ = static_cast<DWORD>(answer);
     if (GetWindowLongPtrW(calendar, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&TakeKeys)) return;
-    calendarProcedure = reinterpret_cast<WNDPROC>(
+    const auto procedure = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(calendar, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&TakeKeys)));
+    // It is the same for all calendars: one that cannot be watched leaves it to the others.
+    if (procedure != nullptr) calendarProcedure = procedure;
 }
 
 LRESULT CALLBACK DroppedCalendar::TakeKeys(HWND calendar, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -107,7 +107,8 @@ HWND MenuBar::Create(const MenuBarInfo& info, const MenuBarLayout& layout) {
         0, info.hwndParent, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(info.nToolBarId)), OwnInstance(),
         nullptr);
     if (window == nullptr) return nullptr;
-    if (!Of(window)->Build(info, layout)) {
+    MenuBar* const created = Of(window);
+    if (created == nullptr || !created->Build(info, layout)) {
         DestroyWindow(window);
         return nullptr;
     }
@@ -135,6 +136,8 @@ LRESULT CALLBACK MenuBar::Procedure(HWND window, UINT message, WPARAM wParam, LP
     if (message == WM_NCCREATE) {
         auto* created = new MenuBar(window, reinterpret_cast<const CREATESTRUCTW*>(lParam)->hwndParent);
         SetWindowLongPtrW(window, 0, reinterpret_cast<LONG_PTR>(created));
+        // A window that cannot keep it is of no use.
+        if (Of(window) == nullptr) delete created;
     }
     MenuBar* object = Of(window);
     if (object == nullptr) return DefWindowProcW(window, message, wParam, lParam);
