@@ -5,6 +5,7 @@
 #include "resources/resource_ids.h"
 #include "tests/program/program_test.h"
 #include "tests/program/registry_reading.h"
+#include "tests/support/process_figures.h"
 #include "tests/support/utf8.h"
 
 namespace {
@@ -50,7 +51,6 @@ std::vector<std::string> Life::Run() {
     }
     hands_.RestoreScreen();
     program_.Kill();
-    if (process_ != nullptr) CloseHandle(process_);
     CheckFiles();
     if (!complaints_.empty()) {
         const std::wstring fault = LastFault();
@@ -81,12 +81,9 @@ void Life::Start() {
     start.workingFolder = device_.Root();
     start.probePath = ProbePath();
     program_.Start(start);
-    DWORD processId = 0;
-    GetWindowThreadProcessId(program_.Window(), &processId);
-    hands_.LookAt(processId);
-    if (process_ != nullptr) CloseHandle(process_);
-    process_ = OpenProcess(PROCESS_QUERY_INFORMATION, FALSE, processId);
-    GetProcessHandleCount(process_, &handlesAtStart_);
+    GetWindowThreadProcessId(program_.Window(), &processId_);
+    hands_.LookAt(processId_);
+    handlesAtStart_ = HandlesOf(processId_);
 }
 
 void Life::UseProgram() {
@@ -168,9 +165,7 @@ void Life::LookForLeftWindows() {
 // Libraries that come with the first document opened, the first shortcut or the first sheet keep theirs.
 void Life::LookForLeaks() {
     constexpr int HandlesOfLibraries = 150;
-    DWORD handles = 0;
-    GetProcessHandleCount(process_, &handles);
-    const int more = static_cast<int>(handles) - static_cast<int>(handlesAtStart_);
+    const int more = HandlesOf(processId_) - handlesAtStart_;
     figures_.mostHandlesMore = std::max(figures_.mostHandlesMore, more);
     if (more > HandlesOfLibraries) Complain("the process has " + std::to_string(more) + " handles more");
 }

@@ -56,7 +56,7 @@ class Life {
     ProgramDriver program_;
     RandomHands hands_;
     DeviceEntries before_;
-    HANDLE process_ = nullptr;
-    DWORD handlesAtStart_ = 0;
+    DWORD processId_ = 0;
+    int handlesAtStart_ = 0;
     std::vector<std::string> complaints_;
 };

@@ -65,6 +65,7 @@ class RandomHands {
     // Whole ways of a person.
     void Search(Random& random);
     void FillAndSearch(Random& random);
+    void ChooseRow(Random& random);
     void Delete(Random& random);
     void Rename(Random& random);
     void ShowProperties(Random& random);

@@ -53,16 +53,28 @@ void RandomHands::FillAndSearch(Random& random) {
     Search(random);
 }
 
+// By pointer and keys, or by a message where the row matters more than the way to it.
+void RandomHands::ChooseRow(Random& random) {
+    const HWND list = List();
+    if (list == nullptr || random.Chance(30)) return WalkList(random);
+    const auto rows = static_cast<std::size_t>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
+    if (rows == 0) return FillAndSearch(random);
+    const int row = random.Below(rows);
+    Note("row " + std::to_string(row));
+    SendMessageW(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    program_.SelectRow(row);
+}
+
 void RandomHands::Delete(Random& random) {
-    WalkList(random);
+    ChooseRow(random);
     SendCommand(program_.Window(), COMMAND_DELETE);
     Sleep(TimeToOpen);
-    if (random.Chance(60)) Press('Y');
+    if (random.Chance(75)) return Press('Y');
     if (random.Chance(40)) Press(random.Chance(50) ? 'N' : VK_ESCAPE);
 }
 
 void RandomHands::Rename(Random& random) {
-    if (random.Chance(70)) WalkList(random);
+    if (random.Chance(70)) ChooseRow(random);
     SendCommand(program_.Window(), COMMAND_RENAME);
     Sleep(TimeToOpen);
     TypeWord(random.Chance(70) ? RandomName(random) : RandomWord(random));
@@ -71,7 +83,7 @@ void RandomHands::Rename(Random& random) {
 }
 
 void RandomHands::ShowProperties(Random& random) {
-    WalkList(random);
+    ChooseRow(random);
     SendCommand(program_.Window(), COMMAND_PROPERTIES);
     Sleep(2 * TimeToOpen);
     for (int step = random.Below(4); step > 0; --step) {
