@@ -4,6 +4,7 @@
 
 #include "tests/support/probe/answers.h"
 #include "tests/support/probe/journal.h"
+#include "tests/support/probe/power_loss.h"
 #include "tests/support/probe/probe_protocol.h"
 #include "tests/support/probe/refusals.h"
 #include "tests/support/probe/search_watch.h"
@@ -152,6 +153,7 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
                            reinterpret_cast<const wchar_t*>(instance), &pinned);
         probe::PrepareRefusals();
         probe::PrepareJournal();
+        probe::PreparePowerLoss();
     }
     return TRUE;
 }
