@@ -20,31 +20,31 @@ using FailureTexts = std::span<const FailureText>;
 // A code that only the handheld has.
 constexpr DWORD ErrorSwapError = 999;
 
-constexpr FailureText DeleteTexts[] = {{ERROR_ACCESS_DENIED, L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"}};
+constexpr FailureText DeleteTexts[] = {{ERROR_ACCESS_DENIED, {L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"}}};
 
 // QUIRK: full-disk-has-three-wordings. Here, in CopyTexts and in CreateDirectoryTexts.
 constexpr FailureText MoveTexts[] = {
-    {ERROR_SHARING_VIOLATION, L"%s is in use", L"%s は使用中です"},
-    {ERROR_DISK_FULL, L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです"},
+    {ERROR_SHARING_VIOLATION, {L"%s is in use", L"%s は使用中です"}},
+    {ERROR_DISK_FULL, {L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです"}},
 };
 
 // QUIRK: wrong-parameter-reads-damaged. In Japanese.
 constexpr FailureText CopyTexts[] = {
-    {ERROR_DISK_FULL, L"The disk is full", L"ﾃﾞｨｽｸがいっぱいです"},
-    {ERROR_CRC, L"CRC ERROR %s", L"CRCｴﾗｰ %s"},
-    {ERROR_INVALID_PARAMETER, L"Invalid parameter", L"ﾌｧｲﾙが壊れているかもしれません"},
-    {ErrorSwapError, L"SWAP ERROR %s", L"ｽﾜｯﾌﾟｴﾗｰ %s"},
-    {ERROR_SHARING_VIOLATION, L"%s is in use", L"%s は使用中です"},
-    {ERROR_USER_MAPPED_FILE, L"%s is in use", L"%s は使用中です"},
+    {ERROR_DISK_FULL, {L"The disk is full", L"ﾃﾞｨｽｸがいっぱいです"}},
+    {ERROR_CRC, {L"CRC ERROR %s", L"CRCｴﾗｰ %s"}},
+    {ERROR_INVALID_PARAMETER, {L"Invalid parameter", L"ﾌｧｲﾙが壊れているかもしれません"}},
+    {ErrorSwapError, {L"SWAP ERROR %s", L"ｽﾜｯﾌﾟｴﾗｰ %s"}},
+    {ERROR_SHARING_VIOLATION, {L"%s is in use", L"%s は使用中です"}},
+    {ERROR_USER_MAPPED_FILE, {L"%s is in use", L"%s は使用中です"}},
 };
 
 constexpr FailureText CreateDirectoryTexts[] = {
-    {ERROR_PATH_NOT_FOUND, L"Can't find the path specified. '%s'", L"ﾃﾞｨﾚｸﾄﾘﾊﾟｽ '%s'が見つかりません。"},
-    {ERROR_DISK_FULL, L"There is not enough space on the disk.", L"ﾃﾞｨｽｸに十分な空き領域がありません。"},
+    {ERROR_PATH_NOT_FOUND, {L"Can't find the path specified. '%s'", L"ﾃﾞｨﾚｸﾄﾘﾊﾟｽ '%s'が見つかりません。"}},
+    {ERROR_DISK_FULL, {L"There is not enough space on the disk.", L"ﾃﾞｨｽｸに十分な空き領域がありません。"}},
 };
 
 constexpr FailureText RemoveDirectoryTexts[] = {
-    {ERROR_DIR_NOT_EMPTY, L"Folder not empty", L"ﾌｫﾙﾀﾞが空でありません"}};
+    {ERROR_DIR_NOT_EMPTY, {L"Folder not empty", L"ﾌｫﾙﾀﾞが空でありません"}}};
 
 // Reports the last error: by its own text, or by the other one with its number.
 bool Report(HWND owner, const wchar_t* path, FailureTexts texts, const wchar_t* anyOther) {
