@@ -1,6 +1,6 @@
 #!/bin/bash
 # The package: what is in it, that it is the same whoever makes it and when, and that what is in it works alone.
-# shellcheck disable=SC1090,SC1091,SC2030,SC2031,SC2034,SC2154,SC2317 # tests are called by name, variables are shared
+# shellcheck disable=SC1090,SC1091,SC2030,SC2031,SC2016,SC2034,SC2154,SC2317 # tests are called by name, variables are shared
 source "$(dirname "${BASH_SOURCE[0]}")/expect.sh"
 for part in common setup build screen prefix device world tour package; do
     source "$root/tools/lib/$part.sh"
@@ -41,7 +41,7 @@ every_line_ends_in_cr_lf() {
 
 test_it_holds_the_program_its_library_the_licence_and_the_pages() {
     unpack_it
-    expect_equal 'files' "LICENSE.txt README.txt TKCONV.DLL docs/using.html quorinsearch.exe" \
+    expect_equal 'files' "LICENSE.txt README.txt TKCONV.DLL docs/using.html docs/using.ja.html quorinsearch.exe" \
         "$(cd "$unpacked" && find . -type f ! -name '*.png' -printf '%P\n' | LC_ALL=C sort | paste -sd ' ')"
     expect_that 'the program is the built one' cmp "$unpacked/quorinsearch.exe" "$buildDir/release/quorinsearch.exe"
     expect_that 'the library is the built one' cmp "$unpacked/TKCONV.DLL" "$buildDir/release/TKCONV.DLL"
@@ -64,16 +64,44 @@ test_its_texts_can_be_read_in_every_notepad() {
     expect_that 'README.txt speaks Japanese too' grep -q 'ファイル検索' "$unpacked/README.txt"
 }
 
-test_its_page_has_its_pictures_and_tables() {
-    local picture count=0
-    unpack_it
+# expect_whole_page FILE: with its title, every picture, and tables that were understood.
+expect_whole_page() {
+    local page=$1 title=$2 picture count=0
+    expect_equal "title of $page" "<title>$title</title>" "$(grep -F '<title>' "$unpacked/docs/$page")"
     while read -r picture; do
         count=$((count + 1))
-        expect_match "$picture" '*PNG image*' "$(identify -format '%m' "$unpacked/docs/$picture" | sed 's/^PNG$/PNG image/')"
-    done < <(linked_pictures <"$unpacked/docs/using.html")
-    expect_that 'there are pictures of both screens in both languages' test "$count" -ge 4
-    expect_that 'the tables are tables' grep -q '<td>' "$unpacked/docs/using.html"
-    expect_equal 'rows that were not understood' 0 "$(grep -c '^| ' "$unpacked/docs/using.html")"
+        expect_equal "$picture" PNG "$(identify -format '%m' "$unpacked/docs/$picture")"
+    done < <(linked_pictures <"$unpacked/docs/$page")
+    expect_that "$page shows both screens in both languages and more" test "$count" -ge 8
+    expect_that "the tables of $page are tables" grep -q '<td>' "$unpacked/docs/$page"
+    expect_equal "rows of $page that were not understood" 0 "$(grep -c '^| ' "$unpacked/docs/$page")"
+}
+
+test_its_pages_have_their_pictures_and_tables() {
+    unpack_it
+    expect_whole_page using.html 'Using QuorinSearch'
+    expect_whole_page using.ja.html 'QuorinSearch の使い方'
+}
+
+test_each_page_leads_to_the_other() {
+    unpack_it
+    expect_that 'English to Japanese' grep -qF '<a href="using.ja.html">日本語</a>' "$unpacked/docs/using.html"
+    expect_that 'Japanese to English' grep -qF '<a href="using.html">English</a>' "$unpacked/docs/using.ja.html"
+    expect_equal 'links to pages that are not there' '' "$(cat "$unpacked"/docs/*.html | grep -o 'href="[^"]*\.md"')"
+}
+
+# What is said of one condition in one language is said in the other: as many headings, rows of tables and points.
+shape_of() {
+    grep -oE '^(#+|\||-) ' "$1"
+}
+test_the_page_says_as_much_in_either_language() {
+    expect_equal 'headings, rows and points' "$(shape_of "$root/docs/using.md")" "$(shape_of "$root/docs/using.ja.md")"
+    expect_equal 'figures' "$(figures_of "$root/docs/using.md")" "$(figures_of "$root/docs/using.ja.md")"
+}
+
+# Examples and names in code letters, each once, in alphabetical order.
+figures_of() {
+    grep -oE '`[^`]+`' "$1" | LC_ALL=C sort -u
 }
 
 test_it_is_the_same_whoever_makes_it_and_when() {

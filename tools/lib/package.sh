@@ -24,15 +24,18 @@ for_notepad() {
     sed 's/$/\r/'
 }
 
-# html_page TITLE: a page of the Markdown on standard input, with the style that makes it readable.
+# html_page LANGUAGE: a page of the Markdown on standard input, with the style that makes it readable. Its first line
+# is the title; what it says of other Markdown pages is true of the pages made from them.
 html_page() {
+    local first
+    IFS= read -r first
     cat <<TEXT
 <!DOCTYPE html>
-<html lang="en">
+<html lang="$1">
 <head>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width">
-<title>$1</title>
+<title>${first#\# }</title>
 <style>
 body { max-width: 46em; margin: 2em auto; padding: 0 1em; font: 16px/1.5 sans-serif; color: #111; background: #fff; }
 h1, h2, h3 { line-height: 1.2; color: #000080; }
@@ -44,7 +47,8 @@ img { max-width: 100%; border: 1px solid #808080; }
 </head>
 <body>
 TEXT
-    cmark-gfm --extension table --to html
+    { printf '%s\n' "$first" && cat; } | cmark-gfm --extension table --to html |
+        sed 's/\(<a href="[A-Za-z.]*\)\.md"/\1.html"/g'
     printf '</body>\n</html>\n'
 }
 
@@ -53,15 +57,16 @@ linked_pictures() {
     sed -n 's/.*<img src="\([^"]*\)".*/\1/p' | sort -u
 }
 
-# put_pages FOLDER: the page for users, with its pictures.
+# put_pages FOLDER: the page for users in both languages, with the pictures.
 put_pages() {
-    local page=$1/docs/using.html picture
+    local picture
     mkdir -p "$1/docs"
-    html_page 'Using QuorinSearch' <"$root/docs/using.md" >"$page"
+    html_page en <"$root/docs/using.md" >"$1/docs/using.html"
+    html_page ja <"$root/docs/using.ja.md" >"$1/docs/using.ja.html"
     while read -r picture; do
         mkdir -p "$1/docs/${picture%/*}"
         cp "$root/docs/$picture" "$1/docs/$picture"
-    done < <(linked_pictures <"$page")
+    done < <(cat "$1"/docs/*.html | linked_pictures)
 }
 
 # put_contents FOLDER VERSION

@@ -51,6 +51,7 @@ take_picture() {
         ((SECONDS < deadline)) || break
         mv -f "$shot.next" "$shot"
     done
-    convert ppm:- png:- <"$shot" >"$1"
+    # Without the hour in it, so that the same picture is the same file.
+    convert ppm:- -strip png:- <"$shot" >"$1"
     rm -f "$shot" "$shot.next"
 }
