@@ -103,6 +103,13 @@ TEST_F(Rows, a_missing_location_finds_nothing_and_says_nothing) {
     EXPECT_TRUE(Program().Dialogs().empty());
 }
 
+TEST_F(Rows, a_location_with_a_wildcard_finds_nothing_and_says_nothing) {
+    for (const wchar_t* const location : {L"\\nam*", L"\\name?", L"\\names\\*"})
+        EXPECT_EQ((Names{}), NamesFoundBy(Where(location, true)))
+            << testing::PrintToString(std::wstring(location));
+    EXPECT_TRUE(Program().Dialogs().empty());
+}
+
 TEST_F(Rows, an_empty_folder_finds_nothing) {
     EXPECT_EQ((Names{}), NamesFoundBy(Where(L"\\empty", true)));
 }
