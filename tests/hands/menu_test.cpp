@@ -50,6 +50,7 @@ TEST_F(Menus, a_pointer_that_rests_where_a_menu_opens_marks_none_of_its_items) {
     CloseMenus();
     MovePointerTo(CentreOf(item));
     OpenMenuByKeys(FileMenu);
+    TellPointerAgain(CentreOf(item));
     EXPECT_FALSE(
         HoldsWithin(400, [&] { return (Program().MenuItem(COMMAND_EXIT).state & MFS_HILITE) != 0; }));
     CloseMenus();

@@ -78,6 +78,10 @@ void GlidePointerTo(POINT point) {
     }
 }
 
+void TellPointerAgain(POINT point) {
+    SendOne(Mouse(MOUSEEVENTF_MOVE, point));
+}
+
 void RestPointerAt(POINT point, DWORD milliseconds) {
     MovePointerTo(point);
     Sleep(milliseconds);

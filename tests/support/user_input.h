@@ -26,6 +26,8 @@ void TypeText(const std::wstring& text);
 void MovePointerTo(POINT point);
 // The same in a few steps, as a hand moves it.
 void GlidePointerTo(POINT point);
+// A message of the pointer where it is already, as the system sends it when a window opens or closes there.
+void TellPointerAgain(POINT point);
 // Moves it there at once and leaves it for a while.
 void RestPointerAt(POINT point, DWORD milliseconds);
 // Presses the left button at one point, moves to the other in a few steps and lets go there.
