@@ -77,8 +77,9 @@ DWORD ce::SpinPosition(HWND spin) {
     WORD position = 0;
     // QUIRK: typed-numbers-are-not-clamped
     if (PositionIn(text, position)) return position;
-    // Not every system's control groups the thousands as the system does; it knows its own groups.
-    return HIWORD(answer) == 0 ? answer : LOWORD(answer) | NoNumber;
+    // Not every system's control groups the thousands as the system does; it knows its own groups. One that
+    // takes an empty text for a number is not believed.
+    return HIWORD(answer) == 0 && IsDigit(text[0]) ? answer : LOWORD(answer) | NoNumber;
 }
 
 UINT ce::MenuItemState(HMENU menu, UINT command) {

@@ -191,6 +191,8 @@ TEST_F(SpinPosition, a_typed_number_outside_the_range_is_read_as_typed_too) {
 
 TEST_F(SpinPosition, an_empty_text_gives_the_last_position_with_the_error_word) {
     EXPECT_EQ(PositionOf(L""), 0x10007U);
+    SendMessageW(spin_, UDM_SETRANGE, 0, MAKELPARAM(32767, 0));
+    EXPECT_EQ(HIWORD(PositionOf(L"")), 1U);
 }
 
 TEST_F(SpinPosition, a_text_that_is_no_number_gives_the_last_position_with_the_error_word) {
