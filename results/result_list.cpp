@@ -46,11 +46,11 @@ PropertySet& WithListStyle(PropertySet& properties) {
 }  // namespace
 
 ResultList::ResultList(WindowObject* parentObject, PropertySet& properties)
-    : ListViewControl(parentObject, WithListStyle(properties)) {
-    List().SelectWholeRows();
+    : ListView(parentObject, WithListStyle(properties)) {
+    SelectWholeRows();
     SetListFont();
     InsertColumns();
-    const HWND header = List().Header();
+    const HWND header = Header();
     if (header != nullptr) heading_.reset(new (std::nothrow) ResultHeading(this, header));
     OnNotification(event::ColumnClick, this, &ResultList::OnColumnClick);
     OnNotification(event::BeginLabelEdit, this, &ResultList::OnBeginNameEdit);
@@ -71,7 +71,7 @@ void ResultList::LoadIcons() {
     if (iconCache_ != nullptr) return;
     iconCache_.reset(new (std::nothrow) FileIconCache);
     if (iconCache_ == nullptr) return;
-    List().SetImages(iconCache_->SmallImages(), iconCache_->LargeImages());
+    SetImages(iconCache_->SmallImages(), iconCache_->LargeImages());
 }
 
 void ResultList::InsertColumns() {
@@ -82,7 +82,7 @@ void ResultList::InsertColumns() {
         column.fmt = i == 0 ? LVCFMT_LEFT : description.format;
         column.cx = description.width;
         column.pszText = const_cast<wchar_t*>(InLanguage(description.english, description.japanese));
-        List().InsertColumn(i, column);
+        InsertColumn(i, column);
     }
 }
 
@@ -92,13 +92,13 @@ void ResultList::BeginFilling() {
     filling_ = true;
     rowsPending_ = false;
     pace_.Begin(ce::GetTickCount64());
-    List().SetDrawing(false);
+    SetDrawing(false);
 }
 
 void ResultList::EndFilling() {
     if (!filling_) return;
     filling_ = false;
-    List().SetDrawing(true);
+    SetDrawing(true);
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -112,14 +112,14 @@ void ResultList::Clear() {
 bool ResultList::ClearSome() {
     // While drawing is suspended the list would keep its place, and the first rows of the next search be out
     // of sight.
-    DirectList().BringIntoView(0);
+    BringIntoView(0);
     const int rows = RowCount();
     if (rows > RowsClearedAtOnce) {
         EnableWindow(Handle(), FALSE);
         DeleteLastRows(rows - RowsClearedAtOnce);
         return true;
     }
-    DirectList().DeleteAllRows();
+    DeleteAllRows();
     if (Handle() != nullptr) EnableWindow(Handle(), TRUE);
     hasRows_ = false;
     rowsPending_ = true;
@@ -130,10 +130,9 @@ bool ResultList::ClearSome() {
 // So many at most, and as many as the time of one step allows.
 void ResultList::DeleteLastRows(int rows) {
     const ULONGLONG start = ce::GetTickCount64();
-    const ListView list = DirectList();
     int last = RowCount();
     for (; rows > 0 && ce::GetTickCount64() - start < ClearingStep; --rows)
-        list.DeleteRow(--last);
+        DeleteRow(--last);
 }
 
 void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) {
@@ -142,9 +141,9 @@ void ResultList::AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry
                           ? iconCache_->ImageOf(fullPath, entry.dwFileAttributes, FileIconCache::AllKinds)
                           : FileIconCache::DocumentImage;
     // QUIRK: new-rows-are-not-sorted. Each goes to the end, whatever the column of the last sort.
-    const int end = DirectList().Count();
+    const int end = RowCount();
     // QUIRK: row-numbers-keep-their-gaps. Never numbered anew.
-    const int row = DirectList().InsertRow(end, image, end);
+    const int row = InsertRow(end, image, end);
 
     wchar_t folder[MAX_PATH];
     FolderOfResult(fullPath, folder);
@@ -174,36 +173,24 @@ void ResultList::Refresh() {
 
 void ResultList::ShowPending() {
     const ULONGLONG start = ce::GetTickCount64();
-    List().SetDrawing(true);
+    SetDrawing(true);
     InvalidateRect(Handle(), nullptr, TRUE);
     UpdateWindow(Handle());
-    List().SetDrawing(false);
+    SetDrawing(false);
     rowsPending_ = false;
     pace_.Drawn(start, ce::GetTickCount64(), hasRows_);
 }
 
-int ResultList::RowCount() const {
-    return List().Count();
-}
-
 int ResultList::RowWithNumber(LPARAM number) const {
-    return List().RowWithParameter(number);
+    return RowWithParameter(number);
 }
 
 void ResultList::SetCell(int row, ResultColumn column, const wchar_t* text) {
-    DirectList().SetCell(row, static_cast<int>(column), text);
+    SetText(row, static_cast<int>(column), text);
 }
 
 void ResultList::ReadCell(int row, ResultColumn column, wchar_t (&text)[MAX_PATH]) const {
-    List().ReadCell(row, static_cast<int>(column), text);
-}
-
-int ResultList::SelectedRow() const {
-    return List().SelectedRow();
-}
-
-void ResultList::DeleteRow(int row) {
-    List().DeleteRow(row);
+    ReadText(row, static_cast<int>(column), text);
 }
 
 int ResultList::SelectedPath(wchar_t (&path)[MAX_PATH]) const {
@@ -220,14 +207,6 @@ int ResultList::SelectedPath(wchar_t (&path)[MAX_PATH]) const {
     return row;
 }
 
-void ResultList::SelectRow(int row) {
-    List().SelectRow(row);
-}
-
-int ResultList::SelectedCount() const {
-    return List().SelectedCount();
-}
-
 void ResultList::SetView(DWORD view) {
     ce::SetListView(Handle(), view);
 }
@@ -239,6 +218,6 @@ LRESULT ResultList::OnColumnClick(EventArguments& arguments) {
     const int clicked = reinterpret_cast<const NMLISTVIEW*>(arguments.argument)->iSubItem;
     sortAscending_ = clicked != sortColumn_ || !sortAscending_;
     sortColumn_ = clicked;
-    SortRows(DirectList(), sortColumn_, sortAscending_);
+    SortRows(*this, sortColumn_, sortAscending_);
     return 0;
 }

@@ -15,7 +15,7 @@
 #include "results/type_names.h"
 #include "search/search_receivers.h"
 
-class ResultList : public ListViewControl, public MatchSink {
+class ResultList : public ListView, public MatchSink {
   public:
     ResultList(WindowObject* parent, PropertySet& properties);
 
@@ -34,23 +34,15 @@ class ResultList : public ListViewControl, public MatchSink {
     void AddMatch(const wchar_t* fullPath, const WIN32_FIND_DATAW& entry) override;
     void Refresh() override;
 
-    [[nodiscard]] int RowCount() const;
     // The index of the row with this number; -1 if there is none.
     [[nodiscard]] int RowWithNumber(LPARAM number) const;
 
-    // The index of the selected row; -1 if there is none.
-    [[nodiscard]] int SelectedRow() const;
-
-    // The same, and writes its full path. Returns -1 and leaves the path alone if there is none.
+    // The index of the selected row, whose full path is written. Returns -1 and leaves the path alone if
+    // there is none.
     int SelectedPath(wchar_t (&path)[MAX_PATH]) const;
 
     void SetCell(int row, ResultColumn column, const wchar_t* text);
     void ReadCell(int row, ResultColumn column, wchar_t (&text)[MAX_PATH]) const;
-
-    // The other rows keep their numbers.
-    void DeleteRow(int row);
-    void SelectRow(int row);
-    [[nodiscard]] int SelectedCount() const;
 
     // Brings the row into view and starts editing its name in place.
     void EditName(int row);

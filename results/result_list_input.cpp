@@ -17,20 +17,20 @@ constexpr LPARAM KeyWasDown = 1L << 30;
 // A list view edits only while it has the focus.
 void ResultList::EditName(int row) {
     SetFocus(Handle());
-    List().BringIntoView(row);
-    const RECT bounds = List().BoundsOf(row);
-    if (bounds.left < 0) List().ScrollSideways(bounds.left);
+    BringIntoView(row);
+    const RECT bounds = BoundsOf(row);
+    if (bounds.left < 0) ScrollSideways(bounds.left);
     editingByCommand_ = true;
-    List().EditName(row);
+    BeginEditing(row);
     editingByCommand_ = false;
 }
 
 void ResultList::EndEditing() {
     OvertakeClick();
-    if (List().NameEdit() == nullptr) return;
+    if (EditControl() == nullptr) return;
     SetFocus(Handle());
     // If the focus could not be moved, the edit is cancelled.
-    if (List().NameEdit() != nullptr) List().CancelEditing();
+    if (EditControl() != nullptr) CancelEditing();
 }
 
 int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
@@ -40,7 +40,7 @@ int ResultList::EditedRow(const NMLVDISPINFOW& edited) const {
 LRESULT ResultList::OnBeginNameEdit(EventArguments& arguments) {
     if (!MayBeEdited()) return TRUE;
     editedNumber_ = reinterpret_cast<const NMLVDISPINFOW*>(arguments.argument)->item.lParam;
-    const HWND edit = List().NameEdit();
+    const HWND edit = EditControl();
     if (edit != nullptr) nameEdit_.reset(new (std::nothrow) NameEdit(this, edit));
     return FALSE;
 }
@@ -95,7 +95,7 @@ LRESULT ResultList::OnKeyDown(MessageRecord& record) {
 bool ResultList::ScrollByKey(WPARAM key) {
     const bool isReport = (GetWindowLongW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT;
     if (!isReport || (key != VK_LEFT && key != VK_RIGHT)) return false;
-    List().ScrollSideways(key == VK_LEFT ? -ScrollStep : ScrollStep);
+    ScrollSideways(key == VK_LEFT ? -ScrollStep : ScrollStep);
     return true;
 }
 

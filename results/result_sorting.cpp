@@ -21,8 +21,8 @@ struct SortKey {
 // would happen some thirty times a cell.
 class SortKeys {
   public:
-    SortKeys(ListView list, ResultColumn sortColumn) : list_(list), column_(sortColumn) {
-        const int count = list_.Count();
+    SortKeys(const ListView& list, ResultColumn sortColumn) : list_(list), column_(sortColumn) {
+        const int count = list_.RowCount();
         keys_.reserve(static_cast<std::size_t>(count));
         for (int index = 0; index < count; ++index)
             keys_.push_back(ReadKey(index));
@@ -50,8 +50,8 @@ class SortKeys {
   private:
     SortKey ReadKey(int index) {
         wchar_t text[SortTextCapacity];
-        list_.ReadCell(index, static_cast<int>(column_), text);
-        SortKey key{static_cast<std::size_t>(list_.Parameter(index)), {}};
+        list_.ReadText(index, static_cast<int>(column_), text);
+        SortKey key{static_cast<std::size_t>(list_.ParameterOf(index)), {}};
         if (column_ == ResultColumn::Size) {
             key.size = ParseShownSize(text);
         } else {
@@ -67,7 +67,7 @@ class SortKeys {
         return CompareFoldedTexts(&texts_[first.text], &texts_[second.text]);
     }
 
-    ListView list_;
+    const ListView& list_;
     ResultColumn column_;
     std::vector<SortKey> keys_;
     std::vector<wchar_t> texts_;  // one after the other, each terminated
@@ -88,7 +88,7 @@ int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM parameter) {
 
 }  // namespace
 
-void SortRows(ListView list, int column, bool ascending) {
+void SortRows(const ListView& list, int column, bool ascending) {
     // QUIRK: order-of-finding-has-no-direction
     if (column < 0) {
         list.Sort(&CompareRows, nullptr);

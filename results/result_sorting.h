@@ -7,4 +7,4 @@
 
 // The column as a number: a negative one sorts by row number, the order of finding, whatever the direction.
 // Equal rows keep their order. Each cell is read once.
-void SortRows(ListView list, int column, bool ascending);
+void SortRows(const ListView& list, int column, bool ascending);

@@ -196,7 +196,7 @@ TEST_F(ContainerEvents, a_notification_is_translated_by_the_window_unless_it_ask
 
 TEST_F(ContainerEvents, a_real_list_view_s_item_change_and_key_are_raised) {
     PropertySet properties = ChildProperties(900);
-    ListViewControl list(&window_, properties);
+    ListView list(&window_, properties);
     Listener keys;
     list.OnNotification(event::ItemChanged, &listener_, &Listener::TakeEvent);
     list.OnNotification(event::KeyDown, &keys, &Listener::TakeEvent);

@@ -35,7 +35,7 @@ TEST_F(Controls, translate_by_the_table_of_their_class) {
     PropertySet edits = ChildProperties(1);
     PropertySet lists = ChildProperties(2);
     const Control edit(&window_, L"Edit", edits);
-    const ListViewControl list(&window_, lists);
+    const ListView list(&window_, lists);
     EXPECT_EQ(edit.NativeCodes().size(), 8U);
     EXPECT_EQ(list.NativeCodes().size(), 18U);
 }

@@ -117,7 +117,7 @@ TEST_F(ResultSorting, the_order_is_that_of_the_plain_comparison_for_every_column
             SCOPED_TRACE(testing::Message() << "column " << column << (ascending ? " up" : " down"));
             List().Clear();
             std::vector<PlainRow> rows = AddRandomRows(random, 150);
-            SortRows(ListView(Handle()), column, ascending);
+            SortRows(List(), column, ascending);
             std::stable_sort(rows.begin(), rows.end(), [=](const PlainRow& a, const PlainRow& b) {
                 return PlainCompare(a, b, column, ascending) < 0;
             });
@@ -173,16 +173,16 @@ TEST_F(ResultSorting, a_double_click_between_two_headings_sorts_nothing) {
 TEST_F(ResultSorting, a_negative_column_restores_the_order_of_finding_in_both_directions) {
     AddThreeFiles();
     for (const bool ascending : {true, false}) {
-        SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Name), true);
+        SortRows(List(), static_cast<int>(ResultColumn::Name), true);
         ASSERT_EQ(Numbers(), (std::vector<LPARAM>{2, 0, 1}));
-        SortRows(ListView(Handle()), -1, ascending);
+        SortRows(List(), -1, ascending);
         EXPECT_EQ(Numbers(), (std::vector<LPARAM>{0, 1, 2}));
     }
 }
 
 TEST_F(ResultSorting, an_empty_list_stays_empty) {
     for (int column = -1; column < ResultColumnCount; ++column)
-        SortRows(ListView(Handle()), column, true);
+        SortRows(List(), column, true);
     EXPECT_EQ(List().RowCount(), 0);
 }
 
@@ -192,9 +192,9 @@ TEST_F(ResultSorting, sizes_that_show_the_same_are_equal_and_keep_their_order) {
     AddFile(L"\\f", L"third", 1258291);
     AddFile(L"\\f", L"fourth", 1992294);
     AddFile(L"\\f", L"fifth", 1100);
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Size), true);
+    SortRows(List(), static_cast<int>(ResultColumn::Size), true);
     EXPECT_EQ(NameCells(), (Names{L"first", L"second", L"fifth", L"third", L"fourth"}));
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Size), false);
+    SortRows(List(), static_cast<int>(ResultColumn::Size), false);
     EXPECT_EQ(NameCells(), (Names{L"third", L"fourth", L"first", L"second", L"fifth"}));
 }
 
@@ -202,14 +202,14 @@ TEST_F(ResultSorting, a_folder_sorts_as_size_0) {
     AddFile(L"\\f", L"big", 1024);
     AddFile(L"\\f", L"small", 1);
     List().AddMatch(L"\\f\\sub", FolderEntry(L"sub"));
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Size), true);
+    SortRows(List(), static_cast<int>(ResultColumn::Size), true);
     EXPECT_EQ(NameCells(), (Names{L"sub", L"small", L"big"}));
 }
 
 TEST_F(ResultSorting, names_that_differ_in_letter_case_alone_keep_their_order) {
     for (const wchar_t* name : {L"b.txt", L"A.TXT", L"a.txt", L"A.txt"})
         AddFile(L"\\f", name);
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Name), true);
+    SortRows(List(), static_cast<int>(ResultColumn::Name), true);
     EXPECT_EQ(NameCells(), (Names{L"A.TXT", L"a.txt", L"A.txt", L"b.txt"}));
 }
 
@@ -217,7 +217,7 @@ TEST_F(ResultSorting, units_behind_the_127th_do_not_count) {
     const std::wstring same(127, L'n');
     for (const wchar_t* end : {L"c", L"a", L"b"})
         AddFile(L"\\f", same + end);
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Name), true);
+    SortRows(List(), static_cast<int>(ResultColumn::Name), true);
     EXPECT_EQ(Numbers(), (std::vector<LPARAM>{0, 1, 2}));
 }
 
@@ -269,7 +269,7 @@ TEST_F(ResultSorting, twenty_thousand_rows_come_into_the_order_of_their_texts) {
     SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
     for (int i = 0; i < 20000; ++i)
         AddRow({i, {std::to_wstring(i * 7919LL % 20000), L"", L"", L"", L""}});
-    SortRows(ListView(Handle()), static_cast<int>(ResultColumn::Name), true);
+    SortRows(List(), static_cast<int>(ResultColumn::Name), true);
     EXPECT_EQ(Cell(0, ResultColumn::Name), L"0");
     EXPECT_EQ(Cell(1, ResultColumn::Name), L"1");
     EXPECT_EQ(Cell(2, ResultColumn::Name), L"10");
