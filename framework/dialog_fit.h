@@ -19,7 +19,7 @@ void GrowToText(HWND dialog, int id);
 // Leaves the dialog no higher than the screen with its menu bar, and no control beyond its right edge. If the
 // controls need more than that height and the screen is wide enough, everything below the control lastKept
 // moves into a second column on the right. If that is not enough, or a text is still cut, the rows give way
-// to each other and the letters become smaller (framework/dialog_squeeze.h).
+// to each other and the letters become smaller.
 void FitToScreen(HWND dialog, int lastKept);
 
 // Takes the heading's static off the title line that the dialog draws below it.
