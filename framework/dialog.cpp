@@ -17,7 +17,6 @@ constexpr int FontHeight = -12;
 // A Done button and full-screen size.
 constexpr DWORD DefaultFullScreenFlags = ce::DialogDoneButton | ce::DialogSizeFullScreen;
 
-constexpr int TitleLineY = 24;
 constexpr int LastTitleStatic = STATIC_TITLE + 9;
 
 HFONT CreateDialogFont() {

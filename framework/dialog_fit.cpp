@@ -14,14 +14,11 @@
 namespace {
 
 constexpr LONG GapBelowText = 4;
-// The row of the title line; a heading of ten dialog units reaches it where the font is large.
-constexpr LONG TitleLineY = 24;
-// Where a second column starts: below the title line.
-constexpr LONG ColumnTop = 28;
+// Where a second column starts.
+constexpr LONG ColumnTop = TitleLineY + 4;
 // Places and sizes in dialog units are rounded one by one, so neighbours may overlap by a pixel.
 constexpr LONG Rounding = 1;
-// The first row below the title line.
-constexpr LONG FirstRow = 26;
+constexpr LONG FirstRow = TitleLineY + 2;
 constexpr LONG SmallGap = 1;
 constexpr LONG AnyGap = 1000;
 constexpr LONG ButtonBorders = 4;

@@ -7,6 +7,9 @@
 // The space that the soft input panel takes at the bottom of a small screen, in pixels.
 constexpr LONG InputPanelSpace = 106;
 
+// The row of the line that a dialog draws below its heading, in client coordinates.
+constexpr LONG TitleLineY = 24;
+
 // Between a control and the right edge of its dialog or page, in pixels.
 constexpr LONG RightMargin = 3;
 
