@@ -9,16 +9,16 @@
 
 class Application;
 
-// A top-level window that sees the message loop's messages before they are dispatched, for as long as both it
-// and the application are there.
+// A top-level window that sees the message loop's messages before they are dispatched, as long as both it and
+// the application exist.
 class MainView {
   public:
     MainView() = default;
     MainView(const MainView&) = delete;
     MainView& operator=(const MainView&) = delete;
-    // Answers true when it has consumed the message.
+    // Returns true if it has consumed the message.
     virtual bool PreTranslate(MSG& message) = 0;
-    // Called when the loop gets no more messages and is about to return: whatever is to be kept is kept now.
+    // Called when the loop gets no more messages and is about to return: the last chance to save anything.
     virtual void EndWithoutMessages() {}
     virtual ~MainView();
 
@@ -27,7 +27,7 @@ class MainView {
     Application* servedBy_ = nullptr;
 };
 
-// There is one, on the stack of the run routine (or of a test), for as long as there are window objects.
+// There is one, on the stack of the run routine (or of a test), as long as there are window objects.
 class Application {
   public:
     // The name and the words are kept, not copied.
@@ -39,7 +39,7 @@ class Application {
     // Runs the message loop until WM_QUIT and returns its wParam; 0 when the system gives no more messages.
     int Run();
 
-    // In the place of the one before; null for none.
+    // Replaces the previous one; null for none.
     void SetMainView(MainView* view);
     [[nodiscard]] const wchar_t* Name() const { return name_; }
     [[nodiscard]] int WordCount() const { return wordCount_; }
@@ -61,7 +61,7 @@ class Application {
     ce::HeldKeys heldKeys_;
 };
 
-// The wait cursor is shown for as long as the object lives.
+// Shows the wait cursor as long as the object lives.
 class WaitCursor {
   public:
     WaitCursor();

@@ -103,7 +103,7 @@ RECT ApplicationView::LayoutRectangle() const {
     }
     // QUIRK: bar-space-without-a-bar
     area.bottom -= ce::MenuBarHeight;
-    // Nothing is left of one that is smaller than its bars, as when it is minimised.
+    // A view smaller than its bars, such as a minimised one, has no area left.
     area.bottom = std::max(area.bottom, area.top);
     return area;
 }
@@ -132,7 +132,7 @@ LRESULT ApplicationView::OnWmHelp(MessageRecord&) {
     return 1;
 }
 
-// QUIRK: new-size-moves-no-children. A view is laid out once, when it is made.
+// QUIRK: new-size-moves-no-children. A view is laid out once, when it is created.
 LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
     for (const WindowObject* bar : {menuBar_.get(), static_cast<WindowObject*>(statusBar_.get())}) {
         if (bar != nullptr) SendMessageW(bar->Handle(), record.message, record.wParam, record.lParam);
@@ -141,7 +141,7 @@ LRESULT ApplicationView::OnWmSize(MessageRecord& record) {
     return 0;
 }
 
-// The bars are children here, and a scrolled window takes all of them along: they are put back.
+// The bars are children, which scroll along with the window's content: they are moved back.
 void ApplicationView::ScrollContent(int x, int y) {
     const WindowObject* const bars[] = {menuBar_.get(), rebar_.get(), statusBar_.get()};
     RECT places[std::size(bars)]{};

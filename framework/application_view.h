@@ -1,7 +1,7 @@
 #pragma once
 
 // A top-level window: menu bar at the bottom, command bar, menu and accelerators, and a rebar and a status
-// bar when asked for. It is the base of the main window.
+// bar if asked for. The main window is derived from it.
 
 #include "framework/application.h"
 #include "framework/bars.h"
@@ -9,8 +9,8 @@
 
 class ApplicationView : public ScrollingView, public MainView {
   public:
-    // Makes the window and its bars from the set; with an application given it becomes its main view. A menu
-    // bar that cannot be made leaves the view without bar and menu.
+    // Creates the window and its bars from the set; if an application is given it becomes its main view. If
+    // the menu bar cannot be created, the view has neither bar nor menu.
     ApplicationView(WindowObject* parent, const wchar_t* title, PropertySet& properties,
                     Application* application);
     ~ApplicationView() override;
@@ -18,21 +18,21 @@ class ApplicationView : public ScrollingView, public MainView {
     // The client area less the bars.
     [[nodiscard]] RECT LayoutRectangle() const override;
 
-    // The main view is shown as the program was asked to start, any other normally.
+    // The main view is shown the way the program was asked to start, any other one normally.
     virtual void Show();
     bool PreTranslate(MSG& message) override;
     // The window is destroyed as at any other end.
     void EndWithoutMessages() override;
 
-    // The menu bar's menu; null without a bar.
+    // The menu bar's menu; null if there is no bar.
     [[nodiscard]] HMENU Menu() const { return menu_; }
     [[nodiscard]] WindowObject* MenuBar() const { return menuBar_.get(); }
-    // Where buttons are added: the menu bar itself, in a view without a rebar.
+    // Where buttons are added: in a view without a rebar, the menu bar itself.
     [[nodiscard]] WindowObject* CommandBar() const;
 
-    // Appends a band to the rebar, which is made for the first one; returns its index, or -1.
+    // Appends a band to the rebar, which the first band creates; returns the band's index, or -1.
     int AddBand(const REBARBANDINFOW& band);
-    // Null without one.
+    // Null if there is none.
     [[nodiscard]] Rebar* ViewRebar() const { return rebar_.get(); }
     [[nodiscard]] StatusBar* ViewStatusBar() const { return statusBar_.get(); }
 

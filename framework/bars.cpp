@@ -18,12 +18,12 @@ constexpr int CommandBarHeight = 22;
 constexpr int ButtonImageSize = 16;
 constexpr UINT BandSpace = 2;
 
-// QUIRK: status-bar-at-248. The place on a screen of 240 x 320, directly above the menu bar or the rebar.
+// QUIRK: status-bar-at-248. Right above the menu bar or the rebar on a screen of 240 x 320.
 constexpr int StatusBarY = 248;
 constexpr int StatusBarYAboveRebar = 224;
 constexpr int StatusBarWidth = 240;
 constexpr int StatusBarHeight = 20;
-// The class would put itself at the bottom, behind the menu bar.
+// By itself the class would move to the bottom, behind the menu bar.
 constexpr DWORD StatusBarStyle = CCS_NORESIZE | CCS_NOPARENTALIGN;
 
 constexpr NativeCode CommandBarCodes[] = {{0, event::RaiseAsCommand}};

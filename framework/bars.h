@@ -6,7 +6,7 @@
 
 class Bar : public Control {
   public:
-    // Whether the bar takes its place, be the view itself shown or not yet.
+    // Whether the bar takes up room, whether or not the view itself is shown yet.
     [[nodiscard]] bool TakesPlace() const;
 
   protected:
@@ -30,9 +30,9 @@ class Rebar : public Bar {
     static constexpr const wchar_t* ClassName = L"ReBarWindow32";
     explicit Rebar(WindowObject& owner);
 
-    // Appends a band; returns its index, counted up from 0, or -1 when the rebar refuses it.
+    // Appends a band; returns its index, or -1 if the rebar refuses it.
     int AddBand(REBARBANDINFOW band);
-    // At the bottom of the owner's client area, above the menu bar, or at its top; as large as it is.
+    // Moves the bar to the top of the owner's client area, or to its bottom, above the menu bar.
     void Place(bool atTop);
     [[nodiscard]] bool IsAtTop() const { return isAtTop_; }
     [[nodiscard]] int BarHeight() const;
@@ -47,7 +47,7 @@ class StatusBar : public Bar {
     static constexpr const wchar_t* ClassName = L"msctls_statusbar32";
     StatusBar(WindowObject& owner, bool aboveRebar);
 
-    // In the first part, without a border.
+    // Shows the text in the first part, without a border.
     void SetText(const wchar_t* text);
     [[nodiscard]] int BarHeight() const;
 };

@@ -30,8 +30,8 @@ bool TextField::Takes(WPARAM key) const {
     return key == VK_RETURN || (key == VK_TAB && tabNotification_);
 }
 
-// While an input method composes, the keys are its own. Most arrive as VK_PROCESSKEY; some methods leave
-// Enter and Tab as they are.
+// While an input method is composing, the keys belong to it. Most methods turn them into VK_PROCESSKEY; some
+// leave Enter and Tab as they are.
 LRESULT TextField::OnKeyDown(MessageRecord& record) {
     if (!Takes(record.wParam)) return DefaultProcessing(record);
     if (composing_) return 0;
@@ -44,12 +44,12 @@ LRESULT TextField::OnKeyDown(MessageRecord& record) {
     return 0;
 }
 
-// The characters of the keys above; an edit would beep at them.
+// Swallows the characters of those keys, at which an edit control would beep.
 LRESULT TextField::OnCharacter(MessageRecord& record) {
     return Takes(record.wParam) ? 0 : DefaultProcessing(record);
 }
 
-// Asked by the dialog keyboard rules for each key: the keys above are the field's own.
+// The dialog manager asks this for each key: those keys are for the field itself.
 LRESULT TextField::OnGetDialogCode(MessageRecord& record) {
     const LRESULT usual = DefaultProcessing(record);
     const auto* message = reinterpret_cast<const MSG*>(record.lParam);
@@ -94,8 +94,8 @@ std::span<const EventCode> ComboBoxControl::OwnEvents() const {
 
 LRESULT ComboBoxControl::OnEditKey(EventArguments& arguments) {
     if (Box().IsListOpen()) {
-        // The first Enter takes the entry chosen in the open list, as in any combo box. The parent hears of
-        // it meanwhile, and may delete this object.
+        // As in any combo box, the first Enter accepts the entry chosen in the open list. The parent is
+        // notified meanwhile, and may delete this object.
         const HWND window = Handle();
         const ComboBox box = Box();
         const bool enter = arguments.extra == event::EnterKey;
@@ -108,7 +108,7 @@ LRESULT ComboBoxControl::OnEditKey(EventArguments& arguments) {
     return arguments.record.result;
 }
 
-// Asks nothing of the object itself.
+// Does not touch the object itself, which may be gone.
 bool ComboBoxControl::IsObjectOf(HWND window) const {
     const WindowMap* map = Application::Windows();
     return map != nullptr && map->Find(window) == this;

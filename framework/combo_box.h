@@ -6,11 +6,11 @@
 
 #include "framework/control.h"
 
-// A one-line text field that raises Enter and, when asked to, Tab on itself instead of letting the system
-// make something else of them.
+// A one-line text field that raises Enter and, if asked to, Tab as events of its own instead of leaving them
+// to the system.
 class TextField : public Control {
   public:
-    // The edit may be a dialog's own or, wrapped, the one inside a combo box.
+    // The edit control is a dialog's own or, with Ownership::Wrapped, the one inside a combo box.
     TextField(WindowObject* parent, HWND edit, Ownership ownership = Ownership::FollowsParent);
 
     void TurnOnTabNotification() { tabNotification_ = true; }
@@ -29,7 +29,7 @@ class TextField : public Control {
     bool composing_ = false;
 };
 
-// A combo box, an operation a line: it sends the messages and keeps nothing but the window's handle.
+// What a combo box can be asked to do, one line each. It holds the window's handle and no state.
 class ComboBox {
   public:
     explicit ComboBox(HWND window) : window_(window) {}
@@ -43,21 +43,21 @@ class ComboBox {
     void Insert(int index, const wchar_t* text) const { Send(CB_INSERTSTRING, index, text); }
     void Delete(int index) const { Send(CB_DELETESTRING, index); }
     void Clear() const { Send(CB_RESETCONTENT); }
-    // The first entry behind the start, and round again, that begins with the text, whatever its case; CB_ERR
-    // if there is none.
+    // The first entry that begins with the text, ignoring case, searching from behind the start and round
+    // again; CB_ERR if there is none.
     [[nodiscard]] int Find(int start, const wchar_t* text) const {
         return ce::FindComboEntry(window_, start, text);
     }
     // Leaves an empty text if there is no such entry or if it does not fit.
     void ReadText(int index, std::span<wchar_t> text) const;
 
-    // What belongs to an entry besides its text; null if there is no such entry.
+    // The pointer stored with an entry; null if there is no such entry.
     void SetData(int index, const void* data) const { Send(CB_SETITEMDATA, index, data); }
     [[nodiscard]] const void* Data(int index) const;
 
     [[nodiscard]] bool IsListOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
     void CloseList() const { Send(CB_SHOWDROPDOWN, FALSE); }
-    // Of the box with its list open; 0 for what is no combo box.
+    // The box and its open list together; 0 if the window is not a combo box.
     [[nodiscard]] LONG HeightWithList() const;
 
   private:
@@ -68,7 +68,7 @@ class ComboBox {
     HWND window_;
 };
 
-// A combo box with an edit, which raises the edit's Enter and Tab on itself.
+// A combo box with an edit control, whose Enter and Tab it raises as events of its own.
 class ComboBoxControl : public Control {
   public:
     ComboBoxControl(WindowObject* parent, HWND handle);

@@ -1,7 +1,7 @@
 #pragma once
 
-// A window with children: it turns WM_COMMAND and WM_NOTIFY into events and keeps the focus over a
-// deactivation.
+// A window with children: it turns WM_COMMAND and WM_NOTIFY into events, and gives the focus back to the same
+// child when it is activated again.
 
 #include "framework/window_object.h"
 
@@ -10,7 +10,7 @@ class ContainerWindow : public WindowObject {
     ContainerWindow(WindowObject* parent, const wchar_t* title, PropertySet& properties);
     ContainerWindow(WindowObject* parent, HWND handle, Ownership ownership);
 
-    // NM_ codes that mean the same for every control; any other notification is the control's to translate.
+    // The NM_ codes, which mean the same for every control; the control's own table translates the others.
     [[nodiscard]] NativeCodeTable NativeCodes() const override;
 
   protected:
@@ -25,28 +25,29 @@ class ContainerWindow : public WindowObject {
     virtual LRESULT OnWmActivate(MessageRecord& record);
     virtual LRESULT OnWmDestroy(MessageRecord& record);
 
-    // The native code of a WM_COMMAND: the high word, signed as the system's error codes are.
+    // The native code of a WM_COMMAND: the high word, sign-extended as the system's error codes are.
     [[nodiscard]] static std::uint32_t CommandCodeOf(const MessageRecord& record);
 
-    // The window's own translation of a WM_NOTIFY code, or that of the control's table.
+    // Translates a WM_NOTIFY code by the window's own table, else by the control's.
     [[nodiscard]] EventCode TranslateNotification(std::uint32_t native, NativeCodeTable controlCodes) const;
-    // Raises what the notification translates to. One that no table knows translates to the code of a click,
-    // but nothing was clicked: it raises nothing.
+    // Raises the event that the notification translates to. A code that no table has would translate to a
+    // click, but nothing was clicked, so it raises nothing.
     void RaiseNotification(NativeCodeTable controlCodes, EventSource source, MessageRecord& record);
 
-    // Remembers the focus when the window is deactivated and gives it back on activation; a control that has
-    // been hidden or disabled meanwhile is replaced by the next one that can take it.
+    // Remembers the focus when the window is deactivated and restores it on activation. If the control has
+    // been hidden or disabled meanwhile, the next one that can take the focus gets it.
     void KeepFocus(const MessageRecord& record);
-    // For a window that is made anew: the handle remembered may belong to another control by now.
+    // Call when the window has been created again: the remembered handle may belong to another control by
+    // now.
     void ForgetFocus() { rememberedFocus_ = nullptr; }
 
   private:
     // Whether it is this window or one inside it.
     [[nodiscard]] bool HoldsWindow(HWND window) const;
-    // Whether neither the control nor what it lies in is hidden or disabled.
+    // Whether the control and everything that contains it is visible and enabled.
     [[nodiscard]] bool CanTakeFocus(HWND control) const;
-    // The control or the next tab stop, of the window around it if there is none beside it; the window itself
-    // at the end.
+    // The control, else the next tab stop beside it, else one beside the window that contains it, and so on
+    // up to this window.
     [[nodiscard]] HWND NearestThatTakesFocus(HWND control) const;
 
     HWND rememberedFocus_ = nullptr;

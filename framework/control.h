@@ -5,14 +5,14 @@
 
 #include "framework/window_object.h"
 
-// The dialog's control with the id, or null.
+// The dialog's control with this id, or null.
 [[nodiscard]] HWND DialogItem(const WindowObject& dialog, int id);
 
 class Control : public WindowObject {
   public:
     // Creates a child control of a class that the system has registered; child and visible by default.
     Control(WindowObject* parent, const wchar_t* className, PropertySet& properties);
-    // Wraps a control that exists.
+    // Wraps an existing control.
     Control(WindowObject* parent, HWND handle, const wchar_t* className,
             Ownership ownership = Ownership::FollowsParent);
 
@@ -22,8 +22,8 @@ class Control : public WindowObject {
     NativeCodeTable nativeCodes_;
 };
 
-// Controls of a dialog that have no object of their own, an operation a line: each sends the messages and
-// keeps nothing but the window's handle.
+// What the controls of a dialog that have no object of their own can be asked to do, one line each. These
+// hold the window's handle and no state.
 class CheckBox {
   public:
     explicit CheckBox(HWND window) : window_(window) {}
@@ -64,12 +64,12 @@ class DatePicker {
     HWND window_;
 };
 
-// A static control that shows an icon, which stays its giver's.
+// A static control that shows an icon. It does not own the icon.
 class StaticIcon {
   public:
     explicit StaticIcon(HWND window) : window_(window) {}
 
-    // Returns the icon that it showed before.
+    // Returns the previous icon.
     HICON Set(HICON icon) const {
         return reinterpret_cast<HICON>(
             SendMessageW(window_, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon)));
@@ -90,9 +90,9 @@ class TabControl : public Control {
 
     // Appends an item with this text; returns its index, or -1.
     int AppendItem(const wchar_t* text);
-    // The index of the shown item, -1 when there is none.
+    // The index of the selected item; -1 if there is none.
     [[nodiscard]] int Selected() const;
     void Select(int index);
-    // Where a page may stand, in client coordinates of the tab control.
+    // The area for a page, in client coordinates of the tab control.
     [[nodiscard]] RECT DisplayArea() const;
 };

@@ -70,7 +70,7 @@ void Dialog::CreateModeless() {
     if (dialogTemplate == nullptr) return;
     const HWND created = CreateDialogIndirectParamW(Context().instance, dialogTemplate, ParentHandle(),
                                                     &ModelessProcedure, reinterpret_cast<LPARAM>(this));
-    // A dialog that its messages do not find would answer nobody.
+    // A dialog that messages cannot find would not respond to anything.
     if (created != nullptr && ObjectOf(created) == nullptr) DestroyWindow(created);
 }
 
@@ -139,7 +139,7 @@ INT_PTR Dialog::DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARA
     return object->Dispatch(record);
 }
 
-// A run that is cut short ends nevertheless: its owner would stay disabled.
+// A modal run that loses its window must end too, or its owner would stay disabled.
 void Dialog::LoseWindow() {
     Dialog::End(ResultCancel);
     DestroyMenuBar();
@@ -184,8 +184,8 @@ LRESULT Dialog::OnWmCommand(MessageRecord& record) {
     return record.result;
 }
 
-// A control with no object of its own is known by its class. The tooltip of a button notifies the dialog with
-// the button's id, and means no click.
+// A control without an object is known by its class. A button's tooltip notifies the dialog with the button's
+// id, which is not a click.
 LRESULT Dialog::OnWmNotify(MessageRecord& record) {
     const auto* header = reinterpret_cast<const NMHDR*>(record.lParam);
     if (header == nullptr || !IsOwnControl(header->hwndFrom)) return record.result;
@@ -196,7 +196,7 @@ LRESULT Dialog::OnWmNotify(MessageRecord& record) {
     return record.result;
 }
 
-// By the handle of a control with an object; its handlers are registered under its id, though.
+// Raised by handle for a control that has an object, else by id, under which handlers are registered here.
 LRESULT Dialog::OnWmDrawItem(MessageRecord& record) {
     const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(record.lParam);
     if (item == nullptr) return 1;
@@ -239,7 +239,7 @@ void Dialog::SetUpShell(DWORD flags, DialogBar bar) {
     ShowIconOfOwner();
 }
 
-// A caption with a close box shows an icon, the system's own when it is given none.
+// A caption with a close box shows an icon; without one of its own it would be the system's.
 void Dialog::ShowIconOfOwner() {
     const HWND owner = GetWindow(Handle(), GW_OWNER);
     const LRESULT icon = owner != nullptr ? SendMessageW(owner, WM_GETICON, ICON_SMALL, 0) : 0;

@@ -1,7 +1,7 @@
 #pragma once
 
-// A dialog from a template: modal, modeless, or a page inside another window. It is set up by the shell as
-// on a Pocket PC, with a small menu bar of Cancel and OK, and its title line is drawn.
+// A dialog from a template: modal, modeless, or a page inside another window. The shell sets it up as on a
+// Pocket PC, with a small menu bar for Cancel and OK, and it draws its own title line.
 
 #include "framework/container_window.h"
 #include "platform/handles.h"
@@ -14,34 +14,34 @@ class Dialog : public ContainerWindow {
     static constexpr INT_PTR ResultOk = 1;
     static constexpr INT_PTR ResultCancel = 2;
 
-    // The template's name, the init argument and the full-screen flags come from the set; the name is kept,
-    // not copied. The window comes later.
+    // Takes the template's name, the init argument and the full-screen flags from the set; the name is not
+    // copied. Creates no window yet.
     Dialog(WindowObject* parent, const PropertySet& properties);
     ~Dialog() override;
 
-    // Creates the modeless window unless there is one. A missing template leaves the object without one.
+    // Creates the modeless window unless there is one already. Without a template there is no window.
     void CreateModeless();
-    // Creates it, shows it and brings it to the front.
+    // Creates the window, shows it and brings it to the front.
     void ShowModeless();
 
-    // Runs the dialog and returns its result, -1 when the template is missing or the dialog is up already. It
-    // can be run again.
+    // Runs the dialog and returns its result, or -1 if the template is missing or the dialog is already open.
+    // It can be run again.
     virtual INT_PTR RunModal();
-    // Ends a modal dialog; its menu bar goes first. One that is not running or is ending already is left
-    // alone, so the first result counts.
+    // Ends a modal dialog after destroying its menu bar. Does nothing if the dialog is not running or is
+    // already ending, so the first result counts.
     virtual void End(INT_PTR result);
 
-    // Called on initialisation with the init argument, before the dialog wraps its controls.
+    // The handler is called with the init argument before the dialog wraps its controls.
     template <class Target>
     void OnInitialise(Target* target, LRESULT (Target::*method)(EventArguments&), std::uintptr_t extra = 0) {
         initialisation_ = {target, static_cast<EventMethod>(method), extra};
     }
 
     [[nodiscard]] HWND MenuBar() const { return menuBar_; }
-    // For what a dialog draws or creates itself; a template brings its own.
+    // For what a dialog draws or creates itself; the template's controls have a font of their own.
     [[nodiscard]] HFONT Font() const { return font_.Get(); }
 
-    // A dialog procedure's answer for what nobody handles.
+    // Returns 0, a dialog procedure's answer to what nobody handles.
     LRESULT DefaultProcessing(MessageRecord& record) override;
 
   protected:
@@ -61,18 +61,18 @@ class Dialog : public ContainerWindow {
     void LoseWindow() override;
     void Forget(const WindowObject* gone) override;
 
-    // Takes the window that has just been created, of which the system tells its dialog procedure before it
-    // returns the handle. False if messages could not find the object.
+    // Attaches the window being created: the system calls the dialog procedure before it returns the handle.
+    // Returns false if messages would not find the object.
     [[nodiscard]] bool TakeWindow(HWND window);
-    // Whether this is the message with which the system tells of it. Anybody can send another one.
+    // Whether this is the WM_INITDIALOG of the creation. Any program can send another one later.
     [[nodiscard]] static bool TellsOfCreation(HWND window, UINT message);
-    // Hands a dialog procedure's message to the window's object; 0 if there is none.
+    // Passes a dialog procedure's message on to the window's object; returns 0 if there is none.
     static INT_PTR DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    // The resource of the template, or null.
+    // The template's resource, or null.
     [[nodiscard]] const DLGTEMPLATE* FindTemplate() const;
 
-    // Moves the dialog to the middle of its parent, or of the screen when it has none.
+    // Moves the dialog to the middle of its parent, or of the screen if it has none.
     void Centre();
 
     // The event code of a control's notification, by the control's window class.
@@ -91,7 +91,7 @@ class Dialog : public ContainerWindow {
     static INT_PTR CALLBACK ModalProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR CALLBACK ModelessProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    // A tooltip, another dialog or a window that is gone is none.
+    // False for a tooltip, another dialog or a window that is gone.
     [[nodiscard]] bool IsOwnControl(HWND window) const;
     LRESULT OnWmCtlColorDialog(MessageRecord& record);
     void ShowIconOfOwner();

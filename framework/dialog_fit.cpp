@@ -16,7 +16,7 @@ namespace {
 constexpr LONG GapBelowText = 4;
 // Where a second column starts.
 constexpr LONG ColumnTop = TitleLineY + 4;
-// Places and sizes in dialog units are rounded one by one, so neighbours may overlap by a pixel.
+// Positions and sizes in dialog units are rounded separately, so neighbours may overlap by a pixel.
 constexpr LONG Rounding = 1;
 constexpr LONG FirstRow = TitleLineY + 2;
 constexpr LONG SmallGap = 1;
@@ -29,7 +29,7 @@ struct Row {
     HWND control;
     RECT before;
     RECT after;
-    LONG highest;  // where there is no room for more
+    LONG highest;  // limits its height if the screen has no room for more
 };
 
 LONG HeightOf(const RECT& place) {
@@ -48,8 +48,8 @@ bool IsGroup(HWND control) {
     return IsOfClass(control, L"Button") && (StyleOf(control) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
-// In the order of their places, equal ones in that of the controls. A sort of the library's would be 2 KB of
-// program for a dozen rows.
+// Keeps the rows sorted from top to bottom, equal ones in the order of the controls. The library's sort would
+// add 2 KB to the program for a dozen rows.
 void Insert(std::vector<Row>& rows, const Row& row) {
     auto place = rows.end();
     while (place != rows.begin() && (place - 1)->before.top > row.before.top)
@@ -69,7 +69,8 @@ LONG LettersOf(HWND control) {
     return font.lfHeight < 0 ? -font.lfHeight : font.lfHeight;
 }
 
-// All dialogs share these, as long as the program runs: their templates have one font, in two weights.
+// Smaller fonts, shared by all dialogs as long as the program runs: their templates have one font in two
+// weights.
 class SmallLetters {
   public:
     HFONT Like(HFONT model, LONG height) {
@@ -96,7 +97,7 @@ void MakeLettersSmaller(const std::vector<Row>& rows, LONG height) {
     }
 }
 
-// The height that a control needs for its text at its width; its own height where it has none.
+// The height that a control's text needs at the control's width; the control's own height if it has no text.
 LONG HeightForText(HWND control) {
     RECT place{};
     GetWindowRect(control, &place);
@@ -118,7 +119,7 @@ bool Holds(const Row& group, const Row& inside) {
            inside.before.bottom <= group.before.bottom + Rounding;
 }
 
-// The top that the row has to keep away from this earlier one.
+// The top that the row needs to stay clear of this earlier one.
 LONG TopBehind(const Row& earlier, const Row& row, LONG largestGap) {
     if (Holds(earlier, row)) return earlier.after.top + LineHeight(earlier.control);
     const LONG gap = row.before.top - earlier.before.bottom;
@@ -154,7 +155,7 @@ LONG Arrange(std::vector<Row>& rows, LONG columnWidth, LONG largestGap) {
     return lowest;
 }
 
-// The longest text loses its end.
+// Cuts the end of the longest text.
 void CutLongestText(std::vector<Row>& rows, LONG excess) {
     const auto longest = std::max_element(rows.begin(), rows.end(), [](const Row& one, const Row& other) {
         return std::pair(IsText(one.control), HeightOf(one.after)) <
@@ -164,9 +165,9 @@ void CutLongestText(std::vector<Row>& rows, LONG excess) {
 }
 
 // Gives every text below the title line the height that it needs. If the lowest control then ends below the
-// given height, the rows close up and the letters become smaller, pixel by pixel, until it does not. Where
-// even the smallest letters need more, the longest text loses its end. A control further right than
-// columnWidth belongs to a second column, whose rows do not depend on the first one's.
+// given height, the rows move closer together and the font becomes smaller, pixel by pixel, until it does
+// not. If even the smallest font needs more, the longest text is cut. A control further right than
+// columnWidth belongs to a second column, whose rows do not depend on those of the first.
 void SqueezeRows(HWND dialog, LONG columnWidth, LONG height) {
     std::vector<Row> rows = RowsOf(dialog);
     LONG letters = SmallestLetters;
@@ -185,7 +186,7 @@ void SqueezeRows(HWND dialog, LONG columnWidth, LONG height) {
                    HeightOf(row.after), FALSE);
 }
 
-// The controls whose top is not above the line, as a whole.
+// The extent of all controls that begin at the line or below it.
 struct LowerPart {
     LONG top = LONG_MAX;
     LONG bottom = 0;
@@ -211,7 +212,7 @@ bool HasCutText(HWND dialog) {
     return isCut;
 }
 
-// What the window has around its client area.
+// The width and height of the window's borders and caption.
 SIZE FrameOf(HWND dialog) {
     RECT window{};
     GetWindowRect(dialog, &window);
@@ -219,7 +220,7 @@ SIZE FrameOf(HWND dialog) {
     return {window.right - window.left - client.cx, window.bottom - window.top - client.cy};
 }
 
-// The largest client area that the screen has for a dialog, its menu bar left out.
+// The largest client area that fits on the screen above the dialog's menu bar.
 SIZE RoomFor(HWND dialog) {
     const RECT screen = ce::ScreenArea();
     const SIZE frame = FrameOf(dialog);
@@ -282,7 +283,7 @@ void GrowToText(HWND dialog, int id) {
 
     const LowerPart below = PartBelow(dialog, line);
     const LONG room = RoomFor(dialog).cy;
-    // What does not fit below can still move into a second column.
+    // Controls that do not fit below can still move into a second column.
     const LONG spare = HasRoomForTwoColumns(dialog) ? room : below.top - GapBelowText + room - below.bottom;
     place.bottom = std::max(place.bottom, std::min(needed, spare));
     const LONG down = place.bottom + GapBelowText - below.top;

@@ -1,8 +1,8 @@
 #pragma once
 
-// The tables by which a message finds its way: from the window to its object, and from the message or the
-// event that it stands for to the handler. A handler is a target object, a method of it and an extra word;
-// the newest entry hides older ones.
+// The tables that dispatch a message: from the window to its object, and from the message or its event to the
+// handler. A handler is a target object, one of its methods and an extra word; the newest entry hides older
+// ones.
 
 #include <array>
 #include <cstddef>
@@ -22,7 +22,7 @@ struct MessageRecord {
     LRESULT result = 0;
 };
 
-// What an event's handler is given.
+// What an event's handler receives.
 struct EventArguments {
     std::uintptr_t extra;    // of the handler
     std::intptr_t argument;  // of whoever raised the event
@@ -50,11 +50,11 @@ class MessageTable {
     MessageTable(const MessageTable&) = delete;
     MessageTable& operator=(const MessageTable&) = delete;
 
-    // Lost silently when there is no memory for it.
+    // Lost silently if there is no memory for it.
     void Add(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
     // The newest entry for the message, or null.
     [[nodiscard]] const MessageEntry* Find(UINT message) const;
-    // Takes out what would call an object that is gone.
+    // Removes the entries of an object that is gone.
     void RemoveTarget(const WindowObject* target);
 
   private:
@@ -77,19 +77,19 @@ class EventTable {
     EventTable(const EventTable&) = delete;
     EventTable& operator=(const EventTable&) = delete;
 
-    // Lost silently when there is no memory for it.
+    // Lost silently if there is no memory for it.
     void Add(EventCode code, EventSource source, WindowObject* target, EventMethod method,
              std::uintptr_t extra);
     // The newest entry for the event from this source, or null.
     [[nodiscard]] const EventEntry* Find(EventCode code, EventSource source) const;
-    // Takes out what would call an object that is gone.
+    // Removes the entries of an object that is gone.
     void RemoveTarget(const WindowObject* target);
 
   private:
     EventEntry* head_ = nullptr;
 };
 
-// From a window handle to the object that it belongs to. One map exists, made by the application.
+// From a window handle to its object. The application owns the only map.
 class WindowMap {
   public:
     static constexpr std::size_t BucketCount = 113;
@@ -99,12 +99,12 @@ class WindowMap {
     WindowMap(const WindowMap&) = delete;
     WindowMap& operator=(const WindowMap&) = delete;
 
-    // A newer entry of the same handle hides an older one. Answers whether there was memory for it.
+    // A newer entry of the same handle hides an older one. Returns false if there is no memory for it.
     bool Insert(HWND window, WindowObject* object);
     [[nodiscard]] WindowObject* Find(HWND window) const;
-    // Removes the newest entry of the handle; answers whether there was one.
+    // Removes the newest entry of the handle. Returns false if there is none.
     bool Remove(HWND window);
-    // Removes this object's entry of the handle, be it the newest or not.
+    // Removes this object's entry of the handle, whether or not it is the newest.
     bool Remove(HWND window, const WindowObject* object);
 
     [[nodiscard]] static std::size_t BucketOf(HWND window);

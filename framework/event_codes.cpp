@@ -57,7 +57,7 @@ constexpr NativeCode DatePickerCodes[] = {
     {Code(-742), 53},
 };
 
-// This program looks at no header of its own; the pairs name the header's counterparts of the list view.
+// The program reads no header's notifications; the codes are those of the list view's counterparts.
 constexpr NativeCode HeaderCodes[] = {
     {Code(-329), 56}, {Code(-328), 27}, {Code(-327), 28}, {Code(-326), 43},
     {Code(-325), 59}, {Code(-323), 60}, {Code(-322), 20}, {Code(-321), 76},
@@ -85,7 +85,7 @@ constexpr NativeCode ListViewCodes[] = {
     {Code(-100), 77},
 };
 
-// Nothing of this program shows a calendar on its own; the pairs are its three notifications.
+// The program shows no calendar by itself; these are a calendar's three notifications.
 constexpr NativeCode MonthCalendarCodes[] = {
     {Code(-749), event::SelectionChanged}, {Code(-747), 54}, {Code(-746), event::SelectionEndedOk}};
 

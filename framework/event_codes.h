@@ -49,9 +49,9 @@ constexpr EventCode ButtonUnhighlighted = 144;
 constexpr EventCode EditUpdated = 145;
 constexpr EventCode VerticalScroll = 147;
 
-// Raised by text fields on themselves; they stand for no native code.
+// Raised by the program's own controls and pages; they have no native code.
 constexpr EventCode EnterKey = 200;
-constexpr EventCode Apply = 202;   // a property sheet's page is to take over its changes
+constexpr EventCode Apply = 202;   // a property sheet's page is to apply its changes
 constexpr EventCode TabKey = 201;  // the argument is 1 with Shift held, else 0
 
 }  // namespace event
@@ -63,13 +63,13 @@ struct NativeCode {
 };
 using NativeCodeTable = std::span<const NativeCode>;
 
-// The event code of a native code; missing when the table lacks it.
+// The event code of a native code; `missing` if the table does not have it.
 [[nodiscard]] EventCode TranslateNativeCode(NativeCodeTable table, std::uint32_t native,
                                             EventCode missing = event::Command);
 
-// The table of a window class, by its exact spelling; empty for an unknown class. The combo box stands in
-// lower case, unlike the others, and is not known by any other spelling (combobox-in-lower-case).
+// The table of a window class, by its exact spelling; empty for an unknown class. The combo box is in lower
+// case, unlike the others, and has no other spelling (combobox-in-lower-case).
 [[nodiscard]] NativeCodeTable NativeCodesOfClass(const wchar_t* className);
 
-// What every window translates itself before it asks the control: the notifications common to all classes.
+// The notifications common to all classes, which a window translates before it asks the control.
 [[nodiscard]] NativeCodeTable CommonNotificationCodes();

@@ -21,7 +21,7 @@ INT_PTR JobDialog::RunModal() {
 }
 
 void JobDialog::ShowAndStart() {
-    // Without memory the button works by the pointer alone.
+    // If memory is short, the button works by the pointer only.
     stopButton_.reset(new (std::nothrow) Control(this, DialogItem(*this, stopButtonId_), L"Button"));
     if (stopButton_ != nullptr) {
         stopButton_->Subclass();
@@ -38,7 +38,7 @@ LRESULT JobDialog::OnWmCommand(MessageRecord& record) {
         RequestStop();
         return 0;
     }
-    // Once only: a second command that arrives in the middle of the job starts nothing.
+    // Only once: a second command that arrives during the job starts nothing.
     if (command == COMMAND_RUN && record.lParam == 0 && !begun_) {
         begun_ = true;
         DoJob(record);

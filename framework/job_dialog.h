@@ -1,30 +1,30 @@
 #pragma once
 
-// A modal dialog that does a long piece of work itself. Once it is shown it sends itself COMMAND_RUN, and its
-// one button stops the work. The work pumps messages without the dialog's keyboard rules.
+// A modal dialog that does a long job itself. Once it is shown it posts itself COMMAND_RUN, and its one
+// button stops the job. The job pumps messages without the keyboard handling of a dialog.
 
 #include "framework/dialog.h"
 
 class JobDialog : public Dialog {
   public:
-    // The button is the one that stops the work.
+    // The button is the one that stops the job.
     JobDialog(WindowObject* parent, const PropertySet& properties, int stopButtonId);
     ~JobDialog() override;
 
     INT_PTR RunModal() override;
-    // From the dialog's creation until RunModal is about to return.
+    // True from the start of RunModal until it is about to return.
     [[nodiscard]] bool IsRunning() const { return running_; }
 
   protected:
-    // Called by the initialisation when everything is in place: shows the dialog and sends it COMMAND_RUN.
+    // Call at the end of the initialisation: shows the dialog and posts it COMMAND_RUN.
     void ShowAndStart();
     [[nodiscard]] bool HasBegun() const { return begun_; }
 
-    // The work, once a run. Ends the dialog or leaves that to RequestStop.
+    // Does the job; called once per run. Ends the dialog or leaves that to RequestStop.
     virtual void DoJob(MessageRecord& record) = 0;
-    // What the button, its keys and the window's Cancel do.
+    // Called for the button, its keys and the window's Cancel.
     virtual void RequestStop() = 0;
-    // The button has the focus, and no dialog's loop runs that knows which key presses it.
+    // Whether this key presses the button, which has the focus: no dialog loop is running that would know.
     [[nodiscard]] virtual bool StopsBy(const MessageRecord& key) const = 0;
 
     LRESULT OnWmCommand(MessageRecord& record) override;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr LONG SmallScreenWidth = 240;
 
-// The parent's rectangle as far as the soft input panel leaves it free.
+// The part of the parent's rectangle that the soft input panel leaves free.
 RECT FreeAreaOf(const RECT& parent, LONG screenWidth, LONG screenHeight) {
     RECT area = parent;
     // QUIRK: input-panel-space-stays-free

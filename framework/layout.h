@@ -19,12 +19,12 @@ constexpr LONG RightMargin = 3;
 [[nodiscard]] POINT CentredPosition(LONG dialogWidth, LONG dialogHeight, const RECT* parent, LONG screenWidth,
                                     LONG screenHeight);
 
-// Moves the window there: to the middle of the other window, or of the screen if there is none.
+// Moves the window to the middle of the other one, or of the screen if there is none.
 void CentreOn(HWND window, HWND other);
 
 // Where the control is, in its parent's client coordinates.
 [[nodiscard]] RECT PlaceOf(HWND control);
-// Puts it there.
+// Moves it there.
 void Place(HWND control, const RECT& place);
 
 [[nodiscard]] SIZE ClientSizeOf(HWND window);
@@ -37,19 +37,19 @@ void ForEachControl(HWND window, Visit visit) {
         visit(control);
 }
 
-// Moves the controls whose top is not above the line.
+// Moves the controls that begin at the line or below it.
 void MoveControlsBelow(HWND window, LONG line, LONG right, LONG down);
 
-// Whether the control's window class is this one, whatever its case.
+// Whether this is the control's window class, ignoring case.
 [[nodiscard]] bool IsOfClass(HWND control, const wchar_t* className);
 
-// The control's font; null for the system's.
+// The control's font; null for the system font.
 [[nodiscard]] HFONT FontOf(HWND control);
 
 void SetFont(HWND control, HFONT font);
 
-// What the control's text needs in its font: its width on one line, its height when it is broken into lines
-// of the given width, and the height of any one line.
+// What the control's text needs in its font: its width on one line, its height when wrapped at the given
+// width, and the height of a single line.
 [[nodiscard]] LONG TextWidth(HWND control);
 [[nodiscard]] LONG TextHeight(HWND control, LONG width);
 [[nodiscard]] LONG LineHeight(HWND control);

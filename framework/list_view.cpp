@@ -4,7 +4,7 @@ LRESULT ListView::Send(UINT message, int index, LPARAM argument) const {
     return SendMessageW(Handle(), message, static_cast<WPARAM>(index), argument);
 }
 
-// A control that is not subclassed gets its messages as any other.
+// A control that is not subclassed gets its messages in the usual way.
 LRESULT ListView::Call(UINT message, int index, LPARAM argument) const {
     const WNDPROC procedure = OwnProcedure();
     if (procedure == nullptr) return Send(message, index, argument);
@@ -78,7 +78,7 @@ RECT ListView::BoundsOf(int row) const {
 }
 
 void ListView::Sort(PFNLVCOMPARE compare, const void* parameter) const {
-    // The first word of this message is no index.
+    // This message's wParam is not an index.
     SendMessageW(Handle(), LVM_SORTITEMS, reinterpret_cast<WPARAM>(parameter),
                  reinterpret_cast<LPARAM>(compare));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A list view, an operation a line. It keeps nothing that the control does not.
+// What a list view can be asked to do, one line each. All state is the control's own.
 
 #include "framework/control.h"
 
@@ -14,9 +14,9 @@ class ListView : public Control {
     void InsertColumn(int index, const LVCOLUMNW& column) const;
     // A click anywhere on a row selects it.
     void SelectWholeRows() const;
-    // The images stay the caller's and outlive the list.
+    // The caller keeps the images, which must outlive the list.
     void SetImages(HIMAGELIST small, HIMAGELIST large) const;
-    // Drawing is suspended while many rows are inserted.
+    // Suspend drawing while inserting many rows.
     void SetDrawing(bool on) const { Send(WM_SETREDRAW, on ? TRUE : FALSE); }
 
     [[nodiscard]] int RowCount() const { return static_cast<int>(Call(LVM_GETITEMCOUNT)); }
@@ -29,7 +29,7 @@ class ListView : public Control {
     [[nodiscard]] int RowWithParameter(LPARAM parameter) const;
 
     void SetText(int row, int column, const wchar_t* text) const;
-    // What fits of it; empty if there is no such row.
+    // Reads as much as fits; leaves an empty text if there is no such row.
     template <int Capacity>
     void ReadText(int row, int column, wchar_t (&text)[Capacity]) const {
         ReadText(row, column, text, Capacity);
@@ -49,13 +49,13 @@ class ListView : public Control {
 
     void BeginEditing(int row) const { Send(LVM_EDITLABELW, row); }
     void CancelEditing() const { Send(LVM_CANCELEDITLABEL); }
-    // The edit in which a name is being changed, or null.
+    // The edit control of the name being edited, or null.
     [[nodiscard]] HWND EditControl() const { return reinterpret_cast<HWND>(Send(LVM_GETEDITCONTROL)); }
 
   private:
     LRESULT Send(UINT message, int index = 0, LPARAM argument = 0) const;
-    // Past the system's sending, which costs as much as the control's work on a cell: a row takes seven
-    // messages, and filling a list gets a tenth faster.
+    // Calls the control's own procedure directly. Sending a message costs as much as the control's work on a
+    // cell, and a row takes seven messages: this makes filling a tenth faster.
     LRESULT Call(UINT message, int index = 0, LPARAM argument = 0) const;
     void ReadText(int row, int column, wchar_t* text, int capacity) const;
 };

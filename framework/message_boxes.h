@@ -1,6 +1,6 @@
 #pragma once
 
-// The boxes through which the whole program reports errors and asks for confirmation. Each returns what
+// The message boxes in which the whole program reports errors and asks for confirmation. Each returns what
 // MessageBoxW returned. A formatted text longer than 1,023 units is cut.
 
 #include "platform/system_types.h"
@@ -11,6 +11,6 @@ int ShowError(HWND owner, const wchar_t* format, ...);
 // "Confirmation" with the exclamation icon, OK and Cancel: IDOK or IDCANCEL.
 int AskConfirmation(HWND owner, const wchar_t* format, ...);
 
-// "Fatal" with the stop icon: the framework could not make a window. The program goes on. A text longer than
+// "Fatal" with the stop icon, for a window that could not be created. The program goes on. A text longer than
 // 519 units is cut.
 int ShowFatal(HWND owner, const wchar_t* format, ...);

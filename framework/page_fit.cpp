@@ -12,18 +12,18 @@
 namespace {
 
 constexpr LONG GapBehindLabel = 5;
-// Where a text needs the room.
+// If the text needs the room.
 constexpr LONG SmallestGap = 2;
-// The last letter may lean over.
+// The last letter may overhang.
 constexpr LONG LeaningLetter = 1;
-// Placing a combo box costs a start some milliseconds, which are not to be had for a few pixels.
+// Resizing a combo box takes some milliseconds of the start, too many for a few pixels.
 constexpr LONG WorthWidening = 8;
 
 LONG RightEdgeOf(HWND page) {
     return ClientSizeOf(page).cx - RightMargin;
 }
 
-// The height that a combo box is given is that of its open list.
+// The height set on a combo box is the one with its list open.
 LONG HeightToGive(HWND control, const RECT& place) {
     const LONG withList = IsOfClass(control, L"ComboBox") ? ComboBox(control).HeightWithList() : 0;
     return withList != 0 ? withList : place.bottom - place.top;
@@ -74,7 +74,7 @@ LONG LowestShown(HWND page) {
     return lowest;
 }
 
-// Whether the static's text is shown without dots: on one line or, with any other style, broken into lines.
+// Whether all of the static's text is visible, on one line or wrapped, depending on its style.
 bool IsTextWhole(HWND control) {
     const SIZE room = ClientSizeOf(control);
     return IsOneLine(control) ? TextWidth(control) <= room.cx : HeightInLines(control) <= room.cy;
@@ -88,11 +88,11 @@ LONG WidthOfLine() {
     return std::min(screen.right - screen.left - ScreenMargin, WidestLine);
 }
 
-// A text of a page, and room for the line breaks that it needs.
+// The longest text of a page, and the same with room for line breaks.
 constexpr std::size_t LongestText = 1024;
 using TipText = wchar_t[LongestText + LongestText / 8];
 
-// How much of what fits a line is put there: up to the last blank, if there is one.
+// How many of the units that fit go on this line: up to the last blank, if there is one.
 std::size_t EndOfLine(const wchar_t* text, std::size_t length, std::size_t fitting) {
     if (fitting >= length) return length;
     for (std::size_t units = fitting + 1; units > 1; --units) {
@@ -101,7 +101,7 @@ std::size_t EndOfLine(const wchar_t* text, std::size_t length, std::size_t fitti
     return fitting;
 }
 
-// A path need not have a blank, at which alone a tooltip breaks its text. What does not fit is cut.
+// A tooltip wraps its text only at blanks, which a path need not have. What does not fit is cut.
 void BreakIntoLines(HWND window, const wchar_t* text, TipText& lines) {
     const WindowContext context(window);
     const SelectedObject font(context.Get(), FontOf(window));
@@ -189,12 +189,12 @@ bool WholeTextTips::HasWindow(HWND page) {
         ce::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
                             0, 0, 0, 0, page, nullptr, nullptr, nullptr);
     if (window_ == nullptr) return false;
-    // Without a width a tooltip has one line only.
+    // Without a maximum width a tooltip has only one line.
     SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, WidthOfLine() + ScreenMargin);
     return true;
 }
 
-// The pointer's messages pass through a static to the page.
+// Mouse messages pass through a static to the page, so the page is the tool's window.
 void WholeTextTips::Add(HWND page, HWND control) {
     wchar_t text[LongestText] = L"";
     GetWindowTextW(control, text, static_cast<int>(std::size(text)));

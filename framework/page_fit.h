@@ -1,27 +1,26 @@
 #pragma once
 
-// Fits the controls of a page to the room that its tab control gives it, and shows in tooltips what does not
-// fit. The templates are made for the narrowest screen; a wider or higher page has room to spare.
+// Fits the controls of a page to the size that its tab control gives it, and shows texts that are still cut
+// in tooltips. The templates are made for the narrowest screen; a wider or higher page has room to spare.
 
 #include <span>
 
 #include "platform/system_types.h"
 
-// Gives the control all that is on its right, up to a small margin from the page's edge.
+// Widens the control up to a small margin from the page's right edge.
 void WidenToRightEdge(HWND page, int id);
 
-// Moves the control there.
+// Moves the control to that margin.
 void MoveToRightEdge(HWND page, int id);
 
-// Puts texts of one line, each of which has its label right before it in the order of the controls, into one
-// column behind the widest label, and widens them to the page's edge. A text too long for that takes what its
-// own label leaves.
+// Aligns one-line texts in a column behind the widest label and widens them to the page's edge. The label of
+// each is the control before it. A text too long for its column starts right behind its own label.
 void AlignBehindLabels(HWND page, std::span<const int> ids);
 
-// Gives a text that is broken into lines the height that it needs, as far as what is below it can move down.
+// Makes a wrapped text as high as it needs, as far as the controls below it can move down.
 void GrowDown(HWND page, int id);
 
-// Tooltips that show the whole of those texts of a page that are cut, while the pointer rests on them.
+// Tooltips that show the whole text of the statics that are cut, while the pointer rests on them.
 class WholeTextTips {
   public:
     WholeTextTips() = default;
@@ -29,9 +28,9 @@ class WholeTextTips {
     WholeTextTips(const WholeTextTips&) = delete;
     WholeTextTips& operator=(const WholeTextTips&) = delete;
 
-    // One for each of these statics whose text is cut. The texts are set, the statics have their places.
+    // Adds one for each of these statics whose text is cut. Call when their texts and places are final.
     void Add(HWND page, std::span<const int> ids);
-    // All of them; to be called before the page goes.
+    // Removes all of them. Call before the page is destroyed.
     void Remove();
 
   private:

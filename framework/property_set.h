@@ -46,7 +46,7 @@ constexpr PropertyKey VerticalMaximum = 1129;
 constexpr PropertyKey VerticalMinimum = 1130;
 constexpr PropertyKey VerticalPosition = 1131;
 constexpr PropertyKey Width = 1135;
-constexpr PropertyKey ViewIcon = 1136;  // the class gets it once the view stands
+constexpr PropertyKey ViewIcon = 1136;  // set on the class after the view is created
 constexpr PropertyKey WindowExtraBytes = 1137;
 constexpr PropertyKey WindowProcedure = 1138;
 constexpr PropertyKey X = 1139;
@@ -54,32 +54,32 @@ constexpr PropertyKey Y = 1140;
 
 }  // namespace property
 
-// A number, a handle, or the address of something that the caller keeps alive until construction ends.
+// A number, a handle, or the address of something that the caller keeps alive until the construction is over.
 using PropertyValue = std::uintptr_t;
 
 class PropertySet {
   public:
     static constexpr int Capacity = 50;
 
-    // Changes the first pair with the key, or appends one. The two style keys are or-ed into, any other
-    // value is replaced. In a full set an appended pair is not kept.
+    // Changes the first pair with the key, or appends one. The value of a style key is or-ed in, any other is
+    // replaced. A full set drops what would be appended.
     void Set(PropertyKey key, PropertyValue value);
 
-    // Or-s into the style keys like Set; any other pair is appended even when the key is present, and so
-    // acts as set-unless-already-set.
+    // Ors into the style keys like Set; any other pair is appended even if the key is present, so it acts as
+    // set-unless-already-set.
     void Add(PropertyKey key, PropertyValue value);
 
-    // The value of the first pair with the key, 0 when there is none.
+    // The value of the first pair with the key; 0 if there is none.
     [[nodiscard]] PropertyValue Get(PropertyKey key) const;
 
-    // Whether the key is there; value gets its first value, or 0.
+    // Returns whether the key is present; value receives its first value, or 0.
     bool Lookup(PropertyKey key, PropertyValue& value) const;
 
     [[nodiscard]] bool Has(PropertyKey key) const;
     [[nodiscard]] int Count() const { return count_; }
     void Clear() { count_ = 0; }
 
-    // The same for what is stored as an address.
+    // The same for texts, stored by their address.
     void SetText(PropertyKey key, const wchar_t* text) { Set(key, reinterpret_cast<PropertyValue>(text)); }
     void AddText(PropertyKey key, const wchar_t* text) { Add(key, reinterpret_cast<PropertyValue>(text)); }
     [[nodiscard]] const wchar_t* GetText(PropertyKey key) const {
@@ -99,7 +99,7 @@ class PropertySet {
     std::array<Pair, Capacity> pairs_{};
 };
 
-// A set that names a dialog's template and nothing else; the name is kept, not copied.
+// A set that holds only the name of a dialog's template; the name is not copied.
 [[nodiscard]] inline PropertySet TemplateProperties(const wchar_t* templateName) {
     PropertySet properties;
     properties.SetText(property::DialogTemplate, templateName);

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Told once the sheet's window stands: it is brought to the middle of its owner and onto the screen.
+// Called when the sheet's window exists: fits it to the screen and centres it on its owner.
 int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED) return 0;
     FitSheetToScreen(sheet);
@@ -37,7 +37,7 @@ HPROPSHEETPAGE PropertySheetPage::CreatePage() {
     return CreatePropertySheetPageW(&page);
 }
 
-// Every page may be made, and none is freed here: the sheet's object owns it.
+// Allows every page to be created and frees none: the pages belong to the sheet's owner.
 UINT CALLBACK PropertySheetPage::PageCallback(HWND, UINT, PROPSHEETPAGEW*) {
     return 1;
 }
@@ -53,7 +53,7 @@ INT_PTR CALLBACK PropertySheetPage::PageProcedure(HWND window, UINT message, WPA
     return result;
 }
 
-// A page has neither a bar nor a place of its own.
+// A page has no bar and is not centred.
 LRESULT PropertySheetPage::OnInitDialog(MessageRecord& record) {
     CallInitialisation(record);
     SetUpControls();

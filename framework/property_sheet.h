@@ -1,6 +1,6 @@
 #pragma once
 
-// A modal property sheet and its pages, on the system's own control.
+// A modal property sheet and its pages, on top of the system's own.
 
 #include <vector>
 
@@ -11,11 +11,11 @@ class PropertySheetPage : public Dialog {
     // The template's name comes from the set; the title is copied.
     PropertySheetPage(WindowObject* parent, const wchar_t* title, const PropertySet& properties);
 
-    // The page as the system's sheet wants it; the caller hands it to a sheet or destroys it. Null without
-    // the template: a sheet that cannot make its page cannot be closed either.
+    // Creates the page's handle, which the caller passes to a sheet or destroys. Null if the template is
+    // missing: a sheet that cannot create its page cannot be closed either.
     [[nodiscard]] HPROPSHEETPAGE CreatePage();
 
-    // Called when the user takes over the changes.
+    // Called when the user applies the changes.
     template <class Target>
     void OnApply(Target* target, LRESULT (Target::*method)(EventArguments&)) {
         OnEvent(event::Apply, 0, target, method);
@@ -37,14 +37,14 @@ class PropertySheetPage : public Dialog {
 
 class PropertySheetDialog {
   public:
-    // The caption is kept, not copied.
+    // The caption is not copied.
     PropertySheetDialog(WindowObject* ownerObject, const wchar_t* captionText)
         : owner_(ownerObject), caption_(captionText) {}
     virtual ~PropertySheetDialog() = default;
     PropertySheetDialog(const PropertySheetDialog&) = delete;
     PropertySheetDialog& operator=(const PropertySheetDialog&) = delete;
 
-    // The page stays the caller's and outlives the run.
+    // The caller keeps the page, which must outlive the run.
     void AddPage(PropertySheetPage& page) { pages_.push_back(&page); }
     void RemovePage(std::size_t index) { pages_.erase(pages_.begin() + static_cast<std::ptrdiff_t>(index)); }
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Wide enough for any sum of what a bar may hold.
+// Wide enough for any sum of a bar's numbers.
 using Wide = std::int64_t;
 
 int Narrowed(Wide position) {
@@ -33,7 +33,7 @@ int ScrolledViewPosition(const ScrollState& bar, ScrollRequest request, int thum
             // QUIRK: page-up-goes-one-further
             return Narrowed(std::max<Wide>(position - bar.page - 1, 0));
         case ScrollRequest::PageDown:
-            // QUIRK: page-down-is-not-clamped. The bar keeps to its range.
+            // QUIRK: page-down-is-not-clamped. The bar keeps itself within its range.
             return Narrowed(position + bar.page);
         case ScrollRequest::ThumbPosition:
             return thumb;

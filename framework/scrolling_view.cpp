@@ -126,7 +126,7 @@ ScrollingView::ScrollingView(WindowObject* parentObject, const wchar_t* title, P
     OnEvent(event::VerticalScroll, self, this, &ScrollingView::OnVerticalScroll);
 }
 
-// Each end of a range keeps the other as it is.
+// Setting one end of a range leaves the other as it is.
 void ScrollingView::SetUpBars(const PropertySet& properties) {
     for (const BarKeys& keys : KeysOfBars) {
         const ScrollBar bar = Bar(keys.bar);
@@ -143,7 +143,7 @@ void ScrollingView::SetContentSize(int width, int height) {
     contentHeight_ = height;
 }
 
-// Twice, since a bar that appears or goes changes the area.
+// Twice, since a bar that appears or disappears changes the area.
 void ScrollingView::Reclamp() {
     for (int pass = 0; pass < 2; ++pass) {
         RECT area = LayoutRectangle();
@@ -155,17 +155,17 @@ void ScrollingView::Reclamp() {
 
 int ScrollingView::Scroll(int bar, const MessageRecord& record) {
     const ScrollRequest request = RequestOf(record);
-    // A box that is being dragged is not put back.
+    // Setting the position would pull the box back while it is dragged.
     if (request == ScrollRequest::ThumbTrack && !thumbTracking_) return 0;
     const ScrollBar own = Bar(bar);
     const ScrollState before = own.State();
     own.SetPosition(ScrolledViewPosition(before, request, ThumbOf(record), thumbTracking_));
-    // The content goes as far as the bar went, which ends where its range does.
+    // The content moves as far as the bar has moved, which stops at the end of its range.
     return before.position - own.Position();
 }
 
-// A scroll-bar control's messages come to the view and are handed back to the control's object, which knows
-// its steps; one without an object stays where it is.
+// The view receives a scroll-bar control's messages and hands them back to the control's object, which knows
+// its steps; a control without an object does not move.
 void ScrollingView::RaiseScroll(EventCode code, int bar, MessageRecord& record) {
     const auto control = reinterpret_cast<HWND>(record.lParam);
     if (control == nullptr || control == Handle()) {

@@ -1,13 +1,13 @@
 #pragma once
 
-// A window that scrolls what is in it, and the scroll bars: a window's own two, and one that is a control.
+// A window that scrolls its content, and scroll bars: a window's own two, and those that are controls.
 
 #include "framework/container_window.h"
 #include "framework/control.h"
 #include "framework/scroll_arithmetic.h"
 
-// One bar of a window: reads and writes it, and owns nothing. The bar is SB_HORZ or SB_VERT of a window, or
-// SB_CTL of a scroll-bar control.
+// Reads and writes one scroll bar: SB_HORZ or SB_VERT of a window, or SB_CTL of a scroll-bar control. It owns
+// nothing.
 class ScrollBar {
   public:
     ScrollBar(HWND windowOfBar, int barOfWindow) : window_(windowOfBar), bar_(barOfWindow) {}
@@ -17,7 +17,7 @@ class ScrollBar {
     [[nodiscard]] int Page() const;
     [[nodiscard]] ScrollState State() const;
 
-    // A position outside the range becomes the nearest one within.
+    // A position outside the range becomes the nearest one inside it.
     void SetPosition(int position, bool redraw = true) const;
     void SetRange(ScrollRange range, bool redraw = true) const;
 
@@ -29,12 +29,12 @@ class ScrollBar {
     int bar_;
 };
 
-// What the scroll message asks for, and the position of the box that it brings.
+// What a scroll message asks for, and the position of the scroll box in it.
 [[nodiscard]] ScrollRequest RequestOf(const MessageRecord& record);
 [[nodiscard]] int ThumbOf(const MessageRecord& record);
 
-// A scroll bar that is a control. The view that gets its scroll messages hands them back to it; it moves
-// itself by steps of its own, and answers how far (the old position less the new).
+// A scroll bar that is a control. The view receives its scroll messages and hands them back; the control
+// moves by steps of its own and returns how far it moved: the old position minus the new.
 class ScrollBarControl : public Control {
   public:
     static constexpr const wchar_t* ClassName = L"ScrollBar";
@@ -57,27 +57,27 @@ class ScrollingView : public ContainerWindow {
     // Ranges, positions, steps, thumb tracking and the class's icon come from the set.
     ScrollingView(WindowObject* parent, const wchar_t* title, PropertySet& properties);
 
-    // How large the content is. The bars follow at the next change of the window's size.
+    // Sets the size of the content. The bars follow when the window changes its size.
     void SetContentSize(int width, int height);
-    // Gives both bars the range that the content's size leaves.
+    // Sets both bars' ranges from the sizes of content and window.
     void Reclamp();
 
-    // Whether the content follows the box of a bar while it is dragged.
+    // Whether the content follows the scroll box while it is dragged.
     void SetThumbTracking(bool on) { thumbTracking_ = on; }
 
     // One of the view's own bars, SB_HORZ or SB_VERT.
     [[nodiscard]] ScrollBar Bar(int bar) const { return {Handle(), bar}; }
-    // Moves the bar as the message asks; answers how far: the old position less the new.
+    // Moves the bar as the message asks. Returns how far it moved: the old position minus the new.
     int Scroll(int bar, const MessageRecord& record);
 
   protected:
     virtual LRESULT OnWmHScroll(MessageRecord& record);
     virtual LRESULT OnWmVScroll(MessageRecord& record);
 
-    // Moves the content and the children by so many pixels.
+    // Moves the content and the children by this many pixels.
     virtual void ScrollContent(int x, int y);
 
-    // For derived views; nothing here counts by them.
+    // For derived views; this class does not use them.
     [[nodiscard]] int LineStep() const { return lineStep_; }
     [[nodiscard]] int SecondStep() const { return secondStep_; }
 

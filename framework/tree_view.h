@@ -1,6 +1,6 @@
 #pragma once
 
-// A tree view, an operation a line: it sends the messages and keeps nothing but the window's handle.
+// What a tree view can be asked to do, one line each. It holds the window's handle and no state.
 
 #include <span>
 
@@ -8,7 +8,7 @@
 
 class TreeView {
   public:
-    // The image of an item, and the one that it has while it is selected.
+    // The image of an item, and its image while it is selected.
     struct Images {
         int usual;
         int selected;
@@ -16,20 +16,20 @@ class TreeView {
 
     explicit TreeView(HWND window) : window_(window) {}
 
-    // The items that there are, or null.
+    // Null if there is no such item.
     [[nodiscard]] HTREEITEM Root() const { return Next(TVGN_ROOT, nullptr); }
     [[nodiscard]] HTREEITEM Selected() const { return Next(TVGN_CARET, nullptr); }
     [[nodiscard]] HTREEITEM ParentOf(HTREEITEM item) const { return Next(TVGN_PARENT, item); }
 
-    // Puts a new item before the others below this one; TVI_ROOT for the first of all.
+    // Inserts a new item as the parent's first child; TVI_ROOT is the parent of the root.
     HTREEITEM InsertFirst(HTREEITEM parent, const wchar_t* text, Images images) const;
-    // What fits of it; empty if there is no such item.
+    // Reads as much as fits; leaves an empty text if there is no such item.
     void ReadText(HTREEITEM item, std::span<wchar_t> text) const;
     void Expand(HTREEITEM item) const { Send(TVM_EXPAND, TVE_EXPAND, item); }
 
-    // The images stay the caller's and outlive the tree.
+    // The caller keeps the images, which must outlive the tree.
     void SetImages(HIMAGELIST images) const { Send(TVM_SETIMAGELIST, TVSIL_NORMAL, images); }
-    // Drawing is suspended while many items are inserted.
+    // Suspend drawing while inserting many items.
     void SetDrawing(bool on) const { Send(WM_SETREDRAW, on ? TRUE : FALSE); }
 
   private:

@@ -54,8 +54,8 @@ void RegisterWindowClass(const PropertySet& properties, WNDPROC procedure) {
     ce::RegisterClassW(&windowClass);
 }
 
-// The replacement is not put in twice, not even when something else has been put before it: a procedure that
-// is its own successor never comes back.
+// The replacement is never installed twice, not even if another procedure has been installed in front of it
+// since: a procedure that calls itself never returns.
 WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement) {
     if (const SubclassedWindow* known = *LinkTo(window)) return known->procedure;
     if (!IsWindow(window)) return nullptr;

@@ -1,22 +1,21 @@
 #pragma once
 
-// Window classes: registering the one that a property set describes, and putting a procedure in front of a
-// window's own where another class has made it (subclassing).
+// Registers window classes, and subclasses windows of other classes: puts a procedure in front of their own.
 
 #include "framework/property_set.h"
 #include "platform/system_types.h"
 
-// The procedure is the class's unless the properties name one. Nothing happens when the program's instance
-// knows the class already; a failure is ignored, creation will tell.
+// Registers the class that the properties describe, with this procedure unless they name one. Does nothing if
+// the program has registered the class already. Ignores a failure, which the creation of a window will
+// report.
 void RegisterWindowClass(const PropertySet& properties, WNDPROC procedure);
 
-// The procedures that subclassed windows had before belong to the windows and not to the objects that wrap
-// them: a window can be wrapped and subclassed again when its first object is gone, and by then its own
-// procedure cannot be asked for any more.
+// The previous procedures of subclassed windows are kept by window, not by the object that wraps it: a window
+// can be wrapped and subclassed again after its first object is gone, and by then nothing else knows them.
 
 // Puts the replacement in front of the window's procedure, unless it is there already, and returns that
 // procedure; null, with the window left as it is, when there is no memory to remember it or no such window.
 [[nodiscard]] WNDPROC ReplaceProcedure(HWND window, WNDPROC replacement);
 
-// To be called when the window is gone, since its handle may come back.
+// Call when the window is gone, since its handle may be used again.
 void ForgetProcedure(HWND window);

@@ -70,7 +70,7 @@ void WindowObject::Create(const wchar_t* title, PropertySet& properties) {
         reinterpret_cast<void*>(properties.Get(property::CreationParameter)));
     if (window == nullptr || !Attach(window)) {
         handle_ = nullptr;
-        // One that is in no map would take no message and never tell of its end.
+        // A window that is not in the map would handle no message and never report its end.
         if (window != nullptr) DestroyWindow(window);
         // QUIRK: failed-window-is-not-fatal
         ShowFatal(ParentHandle(), L"CreateWindow(%s:%s)", className, title != nullptr ? title : L"");
@@ -125,8 +125,8 @@ void WindowObject::Forget(const WindowObject* gone) {
     if (messages_ != nullptr) messages_->RemoveTarget(gone);
 }
 
-// A control that could not be entered in the map stays as it is: its messages would find no object, and no
-// procedure of its own.
+// A control that could not be entered in the map is left alone: its messages would find neither an object nor
+// the control's own procedure.
 void WindowObject::Subclass() {
     if (savedProcedure_ != nullptr || handle_ == nullptr) return;
     const WindowMap* const map = Application::Windows();
@@ -213,7 +213,7 @@ void WindowObject::Enable() {
     ShowWindow(handle_, SW_SHOW);
 }
 
-// QUIRK: disabling-hides-first. So it repaints disabled.
+// QUIRK: disabling-hides-first. That makes it repaint as disabled.
 void WindowObject::Disable() {
     ShowWindow(handle_, SW_HIDE);
     EnableWindow(handle_, FALSE);
@@ -232,7 +232,7 @@ LRESULT DispatchToObject(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 
 }  // namespace
 
-// A handler may delete its object: nothing is asked of it when the handler has returned.
+// A handler may delete its object, so the object is not used after the handler has returned.
 LRESULT CALLBACK FrameworkWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = DispatchToObject(window, message, wParam, lParam);
     if (message == WM_NCDESTROY) WindowObject::WindowIsGone(window);

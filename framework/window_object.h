@@ -16,11 +16,11 @@ enum class Ownership { Wrapped, Owned, FollowsParent };
 
 class WindowObject {
   public:
-    // Creates a new window from the set, which gets a class name where it has none. A window that cannot be
-    // created is reported to the user; the object then has no handle.
+    // Creates a new window from the set, which gets a class name if it has none. If the window cannot be
+    // created, the user is told and the object has no handle.
     WindowObject(WindowObject* parent, const wchar_t* title, PropertySet& properties);
 
-    // Wraps a window that exists (or none yet). The object destroys it only if it owns it; FollowsParent
+    // Wraps an existing window, or none yet. The object destroys it only if it owns it; with FollowsParent it
     // owns it unless the parent's window is a dialog.
     WindowObject(WindowObject* parent, HWND handle, Ownership ownership = Ownership::Wrapped);
 
@@ -38,14 +38,14 @@ class WindowObject {
     void MarkAsPage() { isPage_ = true; }
     [[nodiscard]] bool IsPage() const { return isPage_; }
 
-    // Makes an existing control's messages pass through this object, once.
+    // Routes an existing control's messages through this object. Does nothing the second time.
     void Subclass();
 
-    // Looks for the newest handler of this event and source, calls it and stores its result as the record's
-    // result. Answers whether there was one.
+    // Calls the newest handler of this event and source, and stores its result in the record. Returns false
+    // if there is none.
     bool RaiseEvent(EventCode code, EventSource source, std::intptr_t argument, MessageRecord& record);
 
-    // Typed forms of the registrations below: the method is one of the target's own class.
+    // Typed forms of the registrations below, for a method of the target's own class.
     template <class Target>
     void OnMessage(UINT message, Target* target, LRESULT (Target::*method)(MessageRecord&),
                    std::uintptr_t extra = 0) {
@@ -74,16 +74,14 @@ class WindowObject {
     [[nodiscard]] virtual NativeCodeTable NativeCodes() const;
     // The events that the object raises on itself rather than on its parent; none here.
     [[nodiscard]] virtual std::span<const EventCode> OwnEvents() const;
-    // What becomes of a message that no handler takes.
+    // Handles a message that no handler takes.
     virtual LRESULT DefaultProcessing(MessageRecord& record);
-    // The way of every message through the object: to the newest handler that was registered for it, else to
-    // the class itself.
+    // Every message arrives here, and goes to the newest handler registered for it, else to the class itself.
     virtual LRESULT Dispatch(MessageRecord& record);
     virtual void AddEventHandler(EventCode code, EventSource source, WindowObject* target, EventMethod method,
                                  std::uintptr_t extra);
-    // On a child: into its own table when the event is one of its own, else into the parent's table, with
-    // the child's handle as source or, when the parent is a dialog, the child's control id. Nothing comes
-    // from a child without a window.
+    // Registers on this child if the event is one of its own; else on the parent, with the child's handle as
+    // the source, or its control id if the parent is a dialog. Does nothing for a child without a window.
     virtual void AddNotificationHandler(EventCode code, WindowObject* target, EventMethod method,
                                         std::uintptr_t extra);
     virtual void Enable();
@@ -91,33 +89,33 @@ class WindowObject {
 
     void AddMessageHandler(UINT message, WindowObject* target, MessageMethod method, std::uintptr_t extra);
 
-    // To be called at the very end of a window that the framework gets the messages of. No object keeps its
-    // handle, nor that of a child that went with it: the system may give it to another window.
+    // Call with the last message of a window. No object then keeps its handle or a destroyed child's: the
+    // system may give it to another window.
     static void WindowIsGone(HWND window);
 
   protected:
-    // For windows that the system creates before it tells (dialogs): takes the handle into the map. Answers
-    // whether it is there, so that messages find the object.
+    // For a window that the system creates by itself, such as a dialog: enters the handle in the map. Returns
+    // false if it could not, so that messages would not find the object.
     bool Attach(HWND window);
-    // Takes the handle out of the map and forgets it.
+    // Removes the handle from the map and forgets it.
     void Detach();
 
-    // A subclassed control's procedure from before; null without one.
+    // The procedure that a subclassed control had before; null if it is not subclassed.
     [[nodiscard]] WNDPROC OwnProcedure() const { return savedProcedure_; }
 
-    // What the class does with a message of its own accord. It needs no table entry, which memory may be
-    // short for: a dialog can be closed whatever happens.
+    // What the class itself does with a message. It needs no table entry, for which memory might be short: a
+    // dialog can always be closed.
     virtual LRESULT DispatchToClass(MessageRecord& record);
 
-    // The object's window is gone, and not by the object's doing.
+    // Called when the object's window was destroyed, but not by the object.
     virtual void LoseWindow();
-    // The other object is gone: it is called no more.
+    // Called when the other object is gone and must not be called any more.
     virtual void Forget(const WindowObject* gone);
 
   private:
     void Create(const wchar_t* title, PropertySet& properties);
 
-    // All objects that there are, with a window or without.
+    // All existing objects, with or without a window.
     static WindowObject* firstObject;
     WindowObject* nextObject_ = nullptr;
     void JoinObjects();
@@ -135,5 +133,5 @@ class WindowObject {
 // The window procedure of every registered class and every subclassed control.
 LRESULT CALLBACK FrameworkWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Whether the window's class is that of dialogs.
+// Whether the window is a dialog.
 [[nodiscard]] bool IsDialogWindow(HWND window);
