@@ -78,7 +78,7 @@ constexpr NativeCode ListViewCodes[] = {
     {Code(-111), 8},
     {Code(-109), 5},
     {Code(-108), event::ColumnClick},
-    {Code(-104), 25},
+    {Code(-104), event::DeletingAllItems},
     {Code(-103), 26},
     {Code(-102), 74},
     {Code(-101), event::ItemChanged},

@@ -18,6 +18,7 @@ constexpr EventCode TextChanged = 13;
 constexpr EventCode DropDownClosed = 18;
 constexpr EventCode DateTimeChanged = 24;
 constexpr EventCode ColumnClick = 19;
+constexpr EventCode DeletingAllItems = 25;
 constexpr EventCode PositionChanging = 29;
 constexpr EventCode ButtonDisabled = 30;
 constexpr EventCode DoubleClick = 32;

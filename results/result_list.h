@@ -68,6 +68,7 @@ class ResultList : public ListView, public MatchSink {
 
     void SetListFont();
     void InsertColumns();
+    LRESULT OnDeletingAll(EventArguments& arguments);
     LRESULT OnColumnClick(EventArguments& arguments);
     LRESULT OnBeginNameEdit(EventArguments& arguments);
     [[nodiscard]] bool MayBeEdited() const;

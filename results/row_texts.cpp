@@ -15,22 +15,41 @@ constexpr std::int32_t Megabyte = 1024 * 1024;
 // The longest date or time that the system's formatting may write.
 constexpr int FormatRoom = 255;
 
-bool IsSameDay(const SYSTEMTIME& one, const SYSTEMTIME& other) {
-    return one.wYear == other.wYear && one.wMonth == other.wMonth && one.wDay == other.wDay;
+// A day with its text, as short as nearly every locale writes it.
+struct WrittenDay {
+    WORD year, month, day;
+    wchar_t text[9];
+
+    [[nodiscard]] bool IsOf(const SYSTEMTIME& time) const {
+        return text[0] != L'\0' && day == time.wDay && month == time.wMonth && year == time.wYear;
+    }
+    void Keep(const SYSTEMTIME& time, const wchar_t* written) {
+        if (std::wcslen(written) >= std::size(text)) return;
+        year = time.wYear;
+        month = time.wMonth;
+        day = time.wDay;
+        std::wcscpy(text, written);
+    }
+};
+
+// Each day of two and a half years has a place of its own; days that are further apart may share one.
+WrittenDay& PlaceOf(const SYSTEMTIME& time) {
+    constexpr unsigned Places = 1024;
+    static WrittenDay places[Places];
+    return places[(time.wYear * 384U + time.wMonth * 32U + time.wDay) % Places];
 }
 
-// The system takes longer to format a date and a time than the list takes for the rest of a row. Files found
-// together are often of one day, so the last date is kept; and hours, minutes and seconds are the same two
-// digits in every locale.
+// The system takes longer to format a date than the list takes for half of a row, so the last dates are kept.
+// Hours, minutes and seconds are the same two digits in every locale.
 const wchar_t* DateText(const SYSTEMTIME& local) {
-    static SYSTEMTIME lastDay;
-    static wchar_t lastText[RowTextCapacity];
-    if (lastText[0] != L'\0' && IsSameDay(local, lastDay)) return lastText;
-    lastText[0] = L'\0';
+    WrittenDay& place = PlaceOf(local);
+    if (place.IsOf(local)) return place.text;
+    static wchar_t text[RowTextCapacity];
+    text[0] = L'\0';
     // QUIRK: year-99-sorts-after-02. The cell is what is sorted by.
-    GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"yy'/'MM'/'dd", lastText, FormatRoom);
-    lastDay = local;
-    return lastText;
+    GetDateFormatW(LOCALE_SYSTEM_DEFAULT, 0, &local, L"yy'/'MM'/'dd", text, FormatRoom);
+    place.Keep(local, text);
+    return text;
 }
 
 wchar_t* AppendTwoDigits(wchar_t* text, WORD number) {

@@ -46,6 +46,29 @@ class WatchedList {
     HWND list_;
 };
 
+// What the list has reported to its parent, for as long as the object lives.
+class WatchedParent {
+  public:
+    explicit WatchedParent(HWND listView) : parent_(GetParent(listView)) {
+        SetWindowSubclass(parent_, &Watch, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~WatchedParent() { RemoveWindowSubclass(parent_, &Watch, 1); }
+    WatchedParent(const WatchedParent&) = delete;
+    WatchedParent& operator=(const WatchedParent&) = delete;
+
+    std::vector<UINT> reports;
+
+  private:
+    static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                  DWORD_PTR object) {
+        auto& self = *reinterpret_cast<WatchedParent*>(object);
+        if (message == WM_NOTIFY) self.reports.push_back(reinterpret_cast<const NMHDR*>(lParam)->code);
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND parent_;
+};
+
 }  // namespace
 
 class ResultCosts : public ResultListTest {
@@ -85,6 +108,29 @@ TEST_F(ResultCosts, a_second_search_asks_nothing_that_the_first_has_asked) {
     AddFile(L"\\g", L"b.qsaa");
     EXPECT_EQ(Cell(0, ResultColumn::Type), L"Kind");
     EXPECT_TRUE(shellQuestions.empty());
+}
+
+TEST_F(ResultCosts, a_row_is_reported_to_the_window_by_its_insertion_and_its_name_and_no_other_cell) {
+    AddFile(L"\\f", L"first.txt");
+    List().BeginFilling();
+    const WatchedParent watched(Handle());
+    for (int i = 0; i < 50; ++i)
+        AddFile(L"\\f", std::to_wstring(i) + L".txt", static_cast<DWORD>(i));
+    ASSERT_EQ(List().RowCount(), 51);
+    std::vector<UINT> expected;
+    for (int i = 0; i < 50; ++i)
+        expected.insert(expected.end(), {LVN_INSERTITEM, LVN_ITEMCHANGING, LVN_ITEMCHANGED});
+    EXPECT_EQ(watched.reports, expected);
+}
+
+TEST_F(ResultCosts, a_clear_is_reported_to_the_window_once_and_no_row_of_it) {
+    for (int i = 0; i < 50; ++i)
+        AddFile(L"\\f", std::to_wstring(i) + L".txt");
+    List().BeginFilling();
+    const WatchedParent watched(Handle());
+    List().Clear();
+    ASSERT_EQ(List().RowCount(), 0);
+    EXPECT_EQ(watched.reports, std::vector<UINT>(1, LVN_DELETEALLITEMS));
 }
 
 TEST_F(ResultCosts, a_sort_reads_each_rows_key_once_and_looks_for_no_row) {

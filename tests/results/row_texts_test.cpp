@@ -119,8 +119,9 @@ TEST(ResultTime, any_time_reads_as_the_system_writes_it_and_none_where_the_syste
         return static_cast<WORD>(std::uniform_int_distribution<int>(0, most)(engine));
     };
     for (int round = 0; round < 2000; ++round) {
-        // Few days, so that a day comes twice in a row; now and then a moment that is none.
-        SYSTEMTIME time = Time(static_cast<WORD>(1999 + upTo(3)), static_cast<WORD>(1 + upTo(1)),
+        // Few days, so that they come again, in years whose texts are kept in one place; now and then a
+        // moment that is none.
+        SYSTEMTIME time = Time(static_cast<WORD>(1999 + upTo(16)), static_cast<WORD>(1 + upTo(1)),
                                static_cast<WORD>(1 + upTo(1)), upTo(23), upTo(59), upTo(59));
         if (upTo(20) == 0) time.wHour = static_cast<WORD>(24 + upTo(3));
         if (upTo(20) == 0) time.wMinute = 60;
