@@ -172,7 +172,7 @@ ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, s
     if (!CanBeFiltered(pattern)) return ContentVerdict::MayOccur;
     // The bytes kept from the last block are placed right before the next one. Not initialised, since every
     // file would pay for that.
-    Byte room[ByteSource::BlockSize + 2 * ByteSource::PageSize];
+    Byte room[FilterBlockSize + 2 * ByteSource::PageSize];
     Byte* const block =
         room + 2 * ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize;
     std::size_t filled = source.Fill(block, blockSize);

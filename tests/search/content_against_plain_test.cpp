@@ -8,12 +8,15 @@
 
 #include "base/program_context.h"
 #include "search/content_matches.h"
+#include "search/content_prefilter.h"
 #include "search/substring_search.h"
 #include "tests/search/fake_folders.h"
 #include "tests/search/plain_content.h"
 #include "tests/search/scan_widths.h"
 
 namespace {
+
+constexpr int LargestBlock = FilterBlockSize;
 
 class ContentAgainstPlain : public testing::Test {
   protected:
@@ -25,7 +28,8 @@ class ContentAgainstPlain : public testing::Test {
     // The bytes of a text, or of a program; now and then one that reaches over several blocks.
     std::string SomeContent(const std::string& pattern) {
         std::string content;
-        const int size = UpTo(15) == 0 ? 65536 * (1 + UpTo(2)) - 20 + UpTo(40) : UpTo(6000);
+        const int size =
+            UpTo(15) == 0 ? LargestBlock * (1 + UpTo(1)) / (1 + 3 * UpTo(1)) - 20 + UpTo(40) : UpTo(6000);
         const bool anyByte = UpTo(2) == 0;
         while (content.size() < static_cast<std::size_t>(size)) {
             const int kind = UpTo(400);
