@@ -5,14 +5,13 @@
 #include "base/program_context.h"
 #include "framework/application.h"
 #include "framework/layout.h"
-#include "framework/sheet_fit.h"
 
 namespace {
 
 // Called when the sheet's window exists: fits it to the screen and centres it on its owner.
 int CALLBACK PlaceSheet(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED) return 0;
-    FitSheetToScreen(sheet);
+    ce::FitSheetToScreen(sheet);
     CentreOn(sheet, GetWindow(sheet, GW_OWNER));
     return 0;
 }

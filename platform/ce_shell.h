@@ -51,6 +51,12 @@ struct DialogInitInfo {
 // which makes room for the bar at the bottom where the dialog does not fill the screen.
 BOOL SHInitDialog(const DialogInitInfo* info);
 
+// To be called when a property sheet is initialised (PSCB_INITIALIZED) and its first page not yet made. The
+// handheld's sheet fills the screen; the desktop's is larger than that at its smallest. Here it fills a
+// Pocket PC's screen, as a dialog does, and loses elsewhere what does not fit the screen. Tab control and
+// buttons follow. There is room for two buttons on a screen of 240 pixels (PSH_NOAPPLYNOW).
+void FitSheetToScreen(HWND sheet);
+
 // Questions to the shell about a file; a test counts or answers them.
 struct ShellCalls {
     DWORD_PTR (*getFileInfo)(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags);

@@ -6,6 +6,10 @@
 #include "platform/desktop/shell_files.h"
 #include "platform/desktop/window_placement.h"
 
+#include <prsht.h>
+
+#include <algorithm>
+
 namespace ce {
 
 namespace {
@@ -36,6 +40,50 @@ void MakeRoomForBar(HWND dialog) {
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+constexpr LONG NarrowMargin = 3;
+
+constexpr int ApplyButton = 0x3021;
+constexpr int Buttons[] = {IDOK, IDCANCEL, ApplyButton, IDHELP};
+
+SIZE SizeOfWindow(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return SizeOf(place);
+}
+
+void MoveButton(HWND button, SIZE excess) {
+    if (button == nullptr) return;
+    RECT place{};
+    GetWindowRect(button, &place);
+    MapWindowPoints(nullptr, GetParent(button), reinterpret_cast<POINT*>(&place), 2);
+    SetWindowPos(button, nullptr, place.left - excess.cx, place.top - excess.cy, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+RECT PlaceIn(HWND sheet, HWND control) {
+    RECT place{};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+// The tab control loses the excess. On a screen that is narrower than the sheet, its pages need more of the
+// width than the sheet's margins leave them.
+void FitTabs(HWND sheet, SIZE excess) {
+    const HWND tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+    RECT place = PlaceIn(sheet, tabs);
+    place.right -= excess.cx;
+    place.bottom -= excess.cy;
+    if (excess.cx > 0) {
+        RECT client{};
+        GetClientRect(sheet, &client);
+        place.left = NarrowMargin;
+        place.right = client.right - NarrowMargin;
+    }
+    SetWindowPos(tabs, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 }  // namespace
 
 BOOL SHCreateMenuBar(MenuBarInfo* info) {
@@ -62,6 +110,23 @@ BOOL SHInitDialog(const DialogInitInfo* info) {
     ::SetWindowPos(info->hDlg, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
                    SWP_NOZORDER | SWP_NOACTIVATE);
     return TRUE;
+}
+
+void FitSheetToScreen(HWND sheet) {
+    const SIZE before = SizeOfWindow(sheet);
+    // Fills a Pocket PC's screen and leaves the sheet alone elsewhere.
+    const DialogInitInfo fullScreen{FlagsAreValid, sheet, DialogSizeFullScreen};
+    SHInitDialog(&fullScreen);
+    const SIZE now = SizeOfWindow(sheet);
+    const RECT screen = ScreenArea();
+    const SIZE fitting = {std::min(now.cx, screen.right - screen.left),
+                          std::min(now.cy, screen.bottom - screen.top)};
+    const SIZE excess = {before.cx - fitting.cx, before.cy - fitting.cy};
+    if (excess.cx == 0 && excess.cy == 0) return;
+    SetWindowPos(sheet, nullptr, 0, 0, fitting.cx, fitting.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    FitTabs(sheet, excess);
+    for (const int id : Buttons)
+        MoveButton(GetDlgItem(sheet, id), excess);
 }
 
 ShellCalls shellCalls = {

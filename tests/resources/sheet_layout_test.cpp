@@ -10,7 +10,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
-#include "framework/sheet_fit.h"
+#include "platform/ce_shell.h"
 #include "platform/ce_windows.h"
 #include "tests/resources/dialog_window.h"
 #include "tests/resources/page_window.h"
@@ -35,7 +35,7 @@ HPROPSHEETPAGE MakePage(const wchar_t* templateName) {
 }
 
 int CALLBACK CutOnInitialisation(HWND sheet, UINT message, LPARAM) {
-    if (message == PSCB_INITIALIZED) FitSheetToScreen(sheet);
+    if (message == PSCB_INITIALIZED) ce::FitSheetToScreen(sheet);
     return 0;
 }
 
