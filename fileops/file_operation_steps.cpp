@@ -6,7 +6,6 @@
 #include "fileops/file_actions.h"
 #include "fileops/file_facts.h"
 #include "fileops/file_operation.h"
-#include "platform/same_file.h"
 #include "platform/windows_ce.h"
 #include "resources/resource_ids.h"
 
@@ -59,7 +58,7 @@ bool FileOperation::MoveOneFile(const wchar_t* source, const wchar_t* target) {
         if (answer != ConfirmResult::Yes && answer != ConfirmResult::YesToAll) return false;
         // The two paths may lead to one file: deleting the target would delete the source.
         // QUIRK: moves-go-on-after-a-failed-delete
-        if (!IsSameFile(source, target)) DeleteFileOrReport(Handle(), target);
+        if (!ce::IsSameFile(source, target)) DeleteFileOrReport(Handle(), target);
     }
     return MoveFileOrReport(Handle(), source, target);
 }

@@ -82,4 +82,8 @@ inline bool IsFolderLink(const wchar_t* path, const WIN32_FIND_DATAW& entry) {
     return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && fileCalls.isFolderLink(path);
 }
 
+// Whether both paths lead to one and the same file, however they are spelled and whatever links are on the
+// way. False when either cannot be opened.
+[[nodiscard]] bool IsSameFile(const wchar_t* first, const wchar_t* second);
+
 }  // namespace ce

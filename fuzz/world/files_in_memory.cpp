@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
+#include "platform/ce_files.h"
 #include "platform/name_wildcard.h"
-#include "platform/same_file.h"
 
 namespace {
 
@@ -36,7 +36,7 @@ void SetLastError(DWORD error) {
 }
 
 // A file has one path here.
-bool IsSameFile(const wchar_t* first, const wchar_t* second) {
+bool ce::IsSameFile(const wchar_t* first, const wchar_t* second) {
     return inForce->Find(first) != nullptr && inForce->Find(first) == inForce->Find(second);
 }
 

@@ -4,7 +4,7 @@
 
 #include <cwchar>
 
-#include "platform/desktop/links.h"
+#include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_files.h"
 #include "platform/desktop/system_path.h"
 

@@ -6,9 +6,8 @@
 #include <cstdint>
 #include <cwchar>
 
-#include "platform/desktop/folder_entry.h"
+#include "platform/desktop/file_identity.h"
 #include "platform/desktop/folder_listing.h"
-#include "platform/desktop/links.h"
 #include "platform/desktop/system_path.h"
 #include "platform/handles.h"
 

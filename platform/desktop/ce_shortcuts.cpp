@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/ce_files.h"
-#include "platform/desktop/links.h"
+#include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_files.h"
 #include "platform/desktop/shell_library.h"
 #include "platform/desktop/shell_link_file.h"

@@ -3,7 +3,7 @@
 #include <cwchar>
 #include <iterator>
 
-#include "platform/desktop/folder_entry.h"
+#include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_library.h"
 #include "platform/desktop/system_path.h"
 #include "platform/name_wildcard.h"

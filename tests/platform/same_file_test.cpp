@@ -1,4 +1,4 @@
-#include "platform/same_file.h"
+#include "platform/ce_files.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ class SameFile : public testing::Test {
         tree_.AddFile(L"b\\f", "1");
     }
     [[nodiscard]] bool Same(const wchar_t* first, const wchar_t* second) const {
-        return IsSameFile(tree_.Path(first).c_str(), tree_.Path(second).c_str());
+        return ce::IsSameFile(tree_.Path(first).c_str(), tree_.Path(second).c_str());
     }
 
     TempTree tree_;
@@ -42,5 +42,5 @@ TEST_F(SameFile, is_not_what_cannot_be_opened) {
     EXPECT_FALSE(Same(L"missing", L"missing"));
     EXPECT_FALSE(Same(L"a\\f", L"missing"));
     const std::wstring tooLong(300, L'x');
-    EXPECT_FALSE(IsSameFile(tooLong.c_str(), tooLong.c_str()));
+    EXPECT_FALSE(ce::IsSameFile(tooLong.c_str(), tooLong.c_str()));
 }

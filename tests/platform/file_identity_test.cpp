@@ -1,6 +1,6 @@
 // Names that change in nothing but their spelling.
 
-#include "platform/desktop/folder_entry.h"
+#include "platform/desktop/file_identity.h"
 
 #include "tests/platform/listing.h"
 #include "tests/support/temp_tree.h"
