@@ -4,7 +4,7 @@
 // cursor.
 
 #include "framework/dispatch_tables.h"
-#include "platform/held_keys.h"
+#include "platform/ce_input.h"
 #include "platform/system_types.h"
 
 class Application;

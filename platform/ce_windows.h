@@ -35,6 +35,10 @@ void SetClassIcon(HWND window, HICON icon);
 // a class without a cursor gets the arrow.
 ATOM RegisterClassW(const WNDCLASSW* windowClass);
 
+// As the system's call. The desktop makes a box as wide as its longest line: one that would not lie within
+// the work area is laid out anew, with its text broken anywhere and, if need be, in smaller letters.
+int MessageBoxW(HWND owner, const wchar_t* text, const wchar_t* title, UINT style);
+
 // Take an index with or without the flag.
 DWORD GetSysColor(int index);
 HBRUSH GetSysColorBrush(int index);

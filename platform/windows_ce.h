@@ -11,10 +11,9 @@
 
 #include <cstdio>
 
-#include "platform/activation.h"
 #include "platform/ce_controls.h"
 #include "platform/ce_files.h"
-#include "platform/ce_message_box.h"
+#include "platform/ce_input.h"
 #include "platform/ce_registry.h"
 #include "platform/ce_shell.h"
 #include "platform/ce_shortcuts.h"
@@ -22,4 +21,3 @@
 #include "platform/ce_windows.h"
 #include "platform/dropped_calendar.h"
 #include "platform/handles.h"
-#include "platform/held_keys.h"

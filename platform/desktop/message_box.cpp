@@ -1,4 +1,4 @@
-#include "platform/ce_message_box.h"
+// The system's message box, kept on the screen.
 
 #include <algorithm>
 #include <iterator>
