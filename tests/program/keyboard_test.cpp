@@ -1,10 +1,11 @@
 // The keyboard's way through the program, with real keys.
 
 #include <algorithm>
-#include "tests/support/user_input.h"
+#include <functional>
 
 #include "resources/resource_ids.h"
 #include "tests/program/program_test.h"
+#include "tests/support/user_input.h"
 
 class Keyboard : public ProgramTest {
   protected:
@@ -24,6 +25,17 @@ class Keyboard : public ProgramTest {
 
     bool FocusComesTo(int page, int id) {
         return HoldsWithin(StepDeadline, [&] { return Program().HasFocus(page, id); });
+    }
+
+    // The program's thread stands still meanwhile, as on a machine that is busy with something else.
+    static void WhileItStandsStill(const std::function<void()>& act) {
+        const HANDLE thread =
+            OpenThread(THREAD_SUSPEND_RESUME, FALSE, GetWindowThreadProcessId(Program().Window(), nullptr));
+        ASSERT_NE(thread, nullptr);
+        SuspendThread(thread);
+        act();
+        ResumeThread(thread);
+        CloseHandle(thread);
     }
 
     std::string Focus() { return testing::PrintToString(Program().FocusPath()); }
@@ -238,4 +250,11 @@ TEST_F(Keyboard, the_abort_button_answers_the_keyboard) {
         Program().WaitForEndOfSearch();
         EXPECT_LE(Program().List().count, 8) << "key " << key << " did not abort";
     }
+}
+
+TEST_F(Keyboard, keys_that_a_busy_program_takes_late_are_waited_for) {
+    Program().FocusControl(NamePage, EDIT_CONTENT);
+    WhileItStandsStill([] { TypeText(L"typed"); });
+    Program().WaitForInput();
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"typed");
 }

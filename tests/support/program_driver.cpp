@@ -230,6 +230,11 @@ void ProgramDriver::SelectTreeItem(int place) {
     link_->Ask(probe::Question::SelectItem, place);
 }
 
+void ProgramDriver::WaitForInput() {
+    WaitUntil("the keys and clicks to be taken", [this] { return !InputWaits(); });
+    link_->WaitForQueue();
+}
+
 void ProgramDriver::Repaint() {
     link_->Ask(probe::Question::Repaint);
 }

@@ -71,6 +71,8 @@ class ProgramDriver {
     void WaitForEndOfSearch(DWORD milliseconds = 2 * StepDeadline);
     [[nodiscard]] int SearchesBegun();
     [[nodiscard]] bool Searching();
+    // A key or a click that the program has not taken yet.
+    [[nodiscard]] bool InputWaits();
     void PressAbort();  // posts the click on the dialog's button
 
     // Focus, keys, selection.
@@ -78,7 +80,10 @@ class ProgramDriver {
     void FocusControl(int page, int id);
     void FocusTab();
     void SelectRow(int row, bool select = true);
+    // Until what was posted before has been taken. Keys and clicks come after what is posted.
     void WaitForQueue() { link_->WaitForQueue(); }
+    // Until the keys and clicks that were sent before have been taken, and what they posted.
+    void WaitForInput();
     void Repaint();
     // The item at this place of Tree().
     void SelectTreeItem(int place);

@@ -70,6 +70,10 @@ bool ProgramDriver::Searching() {
     return begun != fields.Int();
 }
 
+bool ProgramDriver::InputWaits() {
+    return Fields(Only(link_->Ask(probe::Question::InputWaits), "input")).Flag();
+}
+
 std::vector<RowState> ProgramDriver::Rows() {
     std::vector<RowState> rows;
     for (;;) {

@@ -97,6 +97,9 @@ void Answer(Exchange& exchange) {
         case Question::Destroy:
             DestroyWindow(WindowOf(numbers[0]));
             break;
+        case Question::InputWaits:
+            writer.Number(GetInputState() != FALSE ? 1 : 0).End();
+            break;
         case Question::Notify:
             Notify(WindowOf(numbers[0]), numbers[1]);
             break;

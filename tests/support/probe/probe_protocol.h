@@ -44,6 +44,7 @@ enum class Question : DWORD {
     Tree,        // a record an item of the folder browser, parents first: depth, state, two images, text
     SelectItem,  // numbers: an item's place in that order -> nothing
     Destroy,     // numbers: a window -> nothing
+    InputWaits,  // is a key or a click waiting in the queue?
     Notify,      // numbers: a control, a code; sends its parent the notification -> nothing
 };
 
