@@ -207,6 +207,11 @@ LRESULT MainWindow::OnWmClose(MessageRecord& record) {
     return closesLater ? 0 : DefaultProcessing(record);
 }
 
+// If nothing can be posted the window closes at once: it must not stay open hidden or without its settings.
+void MainWindow::PostClose() {
+    if (!PostMessageW(Handle(), WM_CLOSE, 0, 0)) SendMessageW(Handle(), WM_CLOSE, 0, 0);
+}
+
 // Emptying a long list takes a while, so the window leaves the screen first.
 void MainWindow::LeaveScreen() {
     if (Handle() == nullptr) return;
@@ -235,7 +240,7 @@ bool MainWindow::EndWorkUnderWay() {
 LRESULT MainWindow::OnWmEndSession(MessageRecord& record) {
     if (record.wParam == FALSE) return 0;
     SaveSettingsOnce();
-    if (!EndWorkUnderWay()) PostMessageW(Handle(), WM_CLOSE, 0, 0);
+    if (!EndWorkUnderWay()) PostClose();
     return 0;
 }
 
@@ -271,6 +276,6 @@ LRESULT MainWindow::OnUninstall(EventArguments&) {
         return 0;
     }
     skipSaving_ = true;
-    PostMessageW(Handle(), WM_CLOSE, 0, 0);
+    PostClose();
     return 0;
 }

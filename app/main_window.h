@@ -68,6 +68,7 @@ class MainWindow : public ApplicationView {
     // Returns false if there was none.
     bool EndWorkUnderWay();
     void SaveSettingsOnce();
+    void PostClose();
     // Hides and disables the window, which tells another copy that this one is closing.
     void LeaveScreen();
     [[nodiscard]] bool IsBusy() const;

@@ -44,7 +44,7 @@ void MainWindow::RunCommand(UINT command) {
             Find();
             break;
         case COMMAND_EXIT:
-            PostMessageW(Handle(), WM_CLOSE, 0, 0);
+            PostClose();
             break;
         case COMMAND_LARGE_ICON:
             SetResultView(command, LVS_ICON);
@@ -136,7 +136,7 @@ void MainWindow::Find() {
     results_->SelectRow(0);
     if (results_->SelectedCount() == 0) EnableResultCommands(false);
     FocusOn(*results_);
-    if (closeAfterSearch_) PostMessageW(Handle(), WM_CLOSE, 0, 0);
+    if (closeAfterSearch_) PostClose();
 }
 
 LRESULT MainWindow::OnSearchRun(EventArguments&) {

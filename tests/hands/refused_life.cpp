@@ -18,10 +18,10 @@ constexpr const char* StepNames[] = {
     "",           "start",    "search",     "sort",   "view",  "failed rename", "rename", "delete",
     "properties", "shortcut", "start menu", "browse", "about", "uninstall",     "close"};
 
-constexpr DWORD LongestStep = 40000;
+constexpr DWORD LongestStep = 60000;
 // A dialog or an edit that is still there after this time is told to go once more, in another way.
 constexpr ULONGLONG Patience = 1500;
-constexpr ULONGLONG LongestSearch = 10000;
+constexpr ULONGLONG LongestSearch = 20000;
 constexpr LONG Always = 0x7FFFFFFF;
 constexpr int IconlessText = 0xFFFF;
 
@@ -272,11 +272,12 @@ void RefusedLife::Post(UINT command) const {
     PostMessageW(program_.Window(), WM_COMMAND, command, 0);
 }
 
-// Until the program waits for commands, or has ended.
+// Until the program waits for commands, or has ended. It is looked at twice: what ends a dialog may have
+// posted itself something more.
 void RefusedLife::Serve() {
     WaitUntil(
-        std::string("the program to be done with the step: ") + NameOf(step_), [this] { return IsServed(); },
-        LongestStep);
+        std::string("the program to be done with the step: ") + NameOf(step_),
+        [this] { return IsServed() && IsServed(); }, LongestStep);
 }
 
 bool RefusedLife::IsServed() {

@@ -61,7 +61,8 @@ bool Refuses(LONG call, LONG place, ULONGLONG size) {
     if (refused.most == 0) memoryGivenBack = 0;
     if (refused.times >= refused.most || refused.call != call) return false;
     if (refused.place != 0 && refused.place != place) return false;
-    if (call == MemoryCall && HasMemoryFor(size)) return false;
+    const bool fromThenOn = refused.most > 1;
+    if (call == MemoryCall && fromThenOn && HasMemoryFor(size)) return false;
     InterlockedIncrement(&refused.times);
     Fail(RefusableCalls[call], refused.code);
     return true;
