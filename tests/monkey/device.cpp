@@ -83,10 +83,11 @@ const std::vector<std::wstring>& Device::Folders() {
 }
 
 void Device::Fill(Random& random) {
-    // The drive leads to the folder, which has the same name each time.
+    drive_.reset();
     tree_.reset();
-    tree_ = std::make_unique<DeviceTree>(L"QuorinMonkey");
-    if (drive_ == nullptr) drive_ = std::make_unique<DeviceDrive>(tree_->Root());
+    // Another name each time: what a program that was ended had open may stay for a moment.
+    tree_ = std::make_unique<DeviceTree>(L"QuorinMonkey-" + std::to_wstring(++filled_));
+    drive_ = std::make_unique<DeviceDrive>(tree_->Root());
     for (const std::wstring& folder : Folders()) {
         if (folder.size() > 1) tree_->AddFolder(folder.substr(1));
         FillFolder(random, folder, folder == L"\\many" ? random.Between(50, 400) : random.Between(0, 9));

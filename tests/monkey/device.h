@@ -4,6 +4,7 @@
 // it, and changes of it under the program's feet.
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,6 +47,7 @@ class Device {
     void Write(Random& random, const std::wstring& path);
 
     SharedJournal& journal_;
+    int filled_ = 0;
     std::unique_ptr<DeviceTree> tree_;
     std::unique_ptr<DeviceDrive> drive_;
 };

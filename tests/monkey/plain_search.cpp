@@ -23,6 +23,10 @@ std::string UpperCase(std::string text) {
     return text;
 }
 
+bool IsText(char byte) {
+    return (byte >= ' ' && byte < 0x7F) || byte == '\r' || byte == '\n';
+}
+
 // None of the device's files has a line end in a text that is looked for.
 bool FitsContent(const DeviceEntry& entry, const PlainConditions& conditions) {
     if (conditions.contains.empty()) return true;
@@ -64,4 +68,8 @@ std::vector<std::wstring> PlainSearch(const DeviceEntries& entries, const PlainC
     }
     std::sort(found.begin(), found.end());
     return found;
+}
+
+bool IsPlainContent(const DeviceEntry& entry) {
+    return std::all_of(entry.content.begin(), entry.content.end(), IsText);
 }

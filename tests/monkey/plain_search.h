@@ -19,3 +19,6 @@ struct PlainConditions {
 // The paths found, in lower case and in order.
 [[nodiscard]] std::vector<std::wstring> PlainSearch(const DeviceEntries& entries,
                                                     const PlainConditions& conditions);
+
+// Whether it is plain what its lines are.
+[[nodiscard]] bool IsPlainContent(const DeviceEntry& entry);

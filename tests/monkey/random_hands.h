@@ -24,6 +24,10 @@ class RandomHands {
     void Step(Random& random, bool wild);
     // Closes menus and dialogs until the main window waits for commands. False when it does not come to that.
     [[nodiscard]] bool Rest();
+    // A dialog, box or menu that takes input; null for none.
+    [[nodiscard]] HWND OpenDialog() const;
+    // The visible windows of the program, in words.
+    [[nodiscard]] std::string Scene() const;
     // The screen as it was.
     void RestoreScreen();
 
@@ -94,6 +98,8 @@ class RandomHands {
     void EndStrangers() const;
     void Note(const std::string& words);
     [[nodiscard]] HWND Front() const;
+    [[nodiscard]] bool IsAtRest();
+    void Leave(HWND dialog, int attempt);
     [[nodiscard]] HWND AnyWindow(Random& random) const;
     [[nodiscard]] POINT PointIn(Random& random, HWND window) const;
     [[nodiscard]] POINT AnyPoint(Random& random) const;

@@ -5,18 +5,28 @@
 #include "resources/resource_ids.h"
 #include "tests/monkey/random_hands.h"
 #include "tests/support/user_input.h"
+#include "tests/support/utf8.h"
 
 namespace {
 
 constexpr DWORD TimeToOpen = 80;
+constexpr DWORD TimeToSettle = 150;
 constexpr DWORD LongestRest = 60000;
 
 constexpr int Answers[] = {IDYES, IDYES, IDNO, IDOK, IDOK, IDCANCEL, IDRETRY};
 
-bool IsDialog(HWND window) {
+bool HasClass(HWND window, const wchar_t* wanted) {
     wchar_t name[16] = L"";
     GetClassNameW(window, name, 16);
-    return lstrcmpW(name, L"#32770") == 0;
+    return lstrcmpW(name, wanted) == 0;
+}
+
+bool IsDialog(HWND window) {
+    return HasClass(window, L"#32770");
+}
+
+bool IsMenu(HWND window) {
+    return HasClass(window, L"#32768");
 }
 
 }  // namespace
@@ -128,32 +138,56 @@ void RandomHands::LeaveDialog(Random& random) {
     }
 }
 
-// Each dialog is left in one of several ways, since a dialog without its buttons does not know them all.
+// The shell's own boxes may have no owner: the main window takes input behind them.
+HWND RandomHands::OpenDialog() const {
+    for (const HWND window : TopWindows()) {
+        const bool isOwn = window == program_.Window();
+        if (!isOwn && IsWindowEnabled(window) && (IsDialog(window) || IsMenu(window))) return window;
+    }
+    return nullptr;
+}
+
+// Looked at twice: input that is still on its way comes after what was posted.
+bool RandomHands::IsAtRest() {
+    const HWND window = program_.Window();
+    for (int look = 0; look < 2; ++look) {
+        if (OpenDialog() != nullptr || !IsWindowEnabled(window)) return false;
+        if (IsIconic(window) || !IsWindowVisible(window)) ShowWindowAsync(window, SW_RESTORE);
+        program_.WaitForQueue();
+        Sleep(TimeToSettle);
+    }
+    return OpenDialog() == nullptr && IsWindowEnabled(window) && IsWindowVisible(window);
+}
+
+// In one of several ways, since a dialog that has lost its buttons does not know them all.
+void RandomHands::Leave(HWND dialog, int attempt) {
+    if (dialog == nullptr || !IsDialog(dialog) || attempt % 4 == 3) return StrikeKey(VK_ESCAPE);
+    if (attempt % 4 == 0) PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    if (attempt % 4 == 1) PostMessageW(dialog, WM_CLOSE, 0, 0);
+    if (attempt % 4 == 2) PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+}
+
 bool RandomHands::Rest() {
-    int tries = 0;
+    int attempt = 0;
     return HoldsWithin(LongestRest, [&] {
-        const HWND window = program_.Window();
-        if (!IsWindow(window) || !program_.IsRunning()) return true;
-        const HWND front = Front();
-        if (front == window && IsWindowEnabled(window)) {
-            if (IsIconic(window) || !IsWindowVisible(window)) ShowWindowAsync(window, SW_RESTORE);
-            DWORD_PTR answer = 0;
-            SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, StepDeadline, &answer);
-            program_.WaitForQueue();
-            return Front() == window && IsWindowEnabled(window) && IsWindowVisible(window);
-        }
-        ++tries;
+        if (!program_.IsRunning() || !IsWindow(program_.Window())) return true;
+        if (IsAtRest()) return true;
         ComeForward();
-        if (!IsDialog(front) || tries % 4 == 0) {
-            StrikeKey(VK_ESCAPE);
-        } else if (tries % 4 == 1) {
-            PostMessageW(front, WM_COMMAND, IDCANCEL, 0);
-        } else if (tries % 4 == 2) {
-            PostMessageW(front, WM_CLOSE, 0, 0);
-        } else {
-            PostMessageW(front, WM_COMMAND, IDOK, 0);
-        }
+        Leave(OpenDialog(), attempt++);
         Sleep(TimeToOpen);
         return false;
     });
+}
+
+std::string RandomHands::Scene() const {
+    std::string scene;
+    for (const HWND window : TopWindows()) {
+        wchar_t name[64] = L"";
+        wchar_t caption[64] = L"";
+        GetClassNameW(window, name, 64);
+        GetWindowTextW(window, caption, 64);
+        scene +=
+            Utf8(name) + " '" + Utf8(caption) + "'" + (IsWindowEnabled(window) ? "" : " disabled") + "; ";
+    }
+    return scene;
 }
