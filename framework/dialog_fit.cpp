@@ -284,7 +284,8 @@ void GrowToText(HWND dialog, int id) {
     const LowerPart below = PartBelow(dialog, line);
     const LONG room = RoomFor(dialog).cy;
     // Controls that do not fit below can still move into a second column.
-    const LONG spare = HasRoomForTwoColumns(dialog) ? room : below.top - GapBelowText + room - below.bottom;
+    const LONG heightBelow = below.bottom > 0 ? below.bottom - below.top + GapBelowText : 0;
+    const LONG spare = HasRoomForTwoColumns(dialog) ? room : room - heightBelow;
     place.bottom = std::max(place.bottom, std::min(needed, spare));
     const LONG down = place.bottom + GapBelowText - below.top;
     if (below.bottom > 0 && down > 0) MoveControlsBelow(dialog, line, 0, down);

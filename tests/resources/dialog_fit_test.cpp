@@ -50,6 +50,17 @@ TEST(DialogFit, what_stands_above_a_growing_text_stays) {
     EXPECT_EQ(PlaceOf(dialog, 6).top, PlaceOf(dialog, 7).top);
 }
 
+TEST(DialogFit, a_text_with_nothing_below_it_grows) {
+    DialogWindow dialog(YesNo, Screen::Pocket, UiLanguage::English);
+    for (const int id : {6, 7})
+        DestroyWindow(dialog.Item(id));
+    const RECT text = PlaceOf(dialog, 11901);
+    SetDlgItemTextW(dialog.Handle(), 11901, L"1\n2\n3\n4\n5\n6\n7\n8\n9\n10");
+    GrowToText(dialog.Handle(), 11901);
+    EXPECT_GT(PlaceOf(dialog, 11901).bottom, text.bottom);
+    dialog.ExpectOnScreen();
+}
+
 TEST(DialogFit, the_longest_possible_name_never_pushes_the_buttons_off_the_screen) {
     for (const Screen screen : {Screen::Pocket, Screen::Handheld}) {
         DialogWindow dialog(YesNo, screen, UiLanguage::English);
