@@ -9,11 +9,13 @@ void FuzzCommandLines(FuzzInput& input);
 void FuzzContainers(FuzzInput& input);
 void FuzzContentSearch(FuzzInput& input);
 void FuzzDates(FuzzInput& input);
+void FuzzDialogs(FuzzInput& input);
 void FuzzFileOperations(FuzzInput& input);
 void FuzzLineReaders(FuzzInput& input);
 void FuzzMenuBars(FuzzInput& input);
 void FuzzNames(FuzzInput& input);
 void FuzzPaths(FuzzInput& input);
+void FuzzQueries(FuzzInput& input);
 void FuzzRegistryValues(FuzzInput& input);
 void FuzzShortcuts(FuzzInput& input);
 void FuzzSizes(FuzzInput& input);
@@ -31,11 +33,13 @@ inline constexpr FuzzTarget FuzzTargets[] = {
     {"containers", FuzzContainers},
     {"content_search", FuzzContentSearch},
     {"dates", FuzzDates},
+    {"dialogs", FuzzDialogs},
     {"file_operations", FuzzFileOperations},
     {"line_readers", FuzzLineReaders},
     {"menu_bars", FuzzMenuBars},
     {"names", FuzzNames},
     {"paths", FuzzPaths},
+    {"queries", FuzzQueries},
     {"registry_values", FuzzRegistryValues},
     {"shortcuts", FuzzShortcuts},
     {"sizes", FuzzSizes},

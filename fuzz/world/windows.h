@@ -3,7 +3,13 @@
 // The system as the fuzzer makes it up: what the native tests have of it, and the calls of the sources that
 // are compiled for the fuzzer besides. Stands before the tests' own where includes are looked for.
 
+#include <climits>
+
 #include "tests/native/windows.h"
+
+// Of the system's LONG, which is narrower than this machine's.
+#undef LONG_MAX
+#define LONG_MAX INT_MAX
 
 #define FALSE 0
 #define TRUE 1
@@ -44,6 +50,13 @@ using DWORD_PTR = std::uintptr_t;
 #define ERROR_ALREADY_EXISTS 183
 #define ERROR_MORE_DATA 234
 #define ERROR_USER_MAPPED_FILE 1224
+
+using LANGID = WORD;
+using ULONGLONG = std::uint64_t;
+using FARPROC = INT_PTR (*)();
+
+// The clock (made_up_clock.h).
+BOOL SystemTimeToFileTime(const SYSTEMTIME* moment, FILETIME* time);
 
 DWORD GetLastError();
 void SetLastError(DWORD error);
@@ -98,6 +111,34 @@ inline BOOL SetDlgItemTextW(HWND, int, const wchar_t*) {
 inline BOOL PostMessageW(HWND, UINT, WPARAM, LPARAM) {
     return TRUE;
 }
+
+// Places and fonts of made-up dialogs (made_up_dialog.h).
+#define GWL_STYLE (-16)
+#define SWP_NOZORDER 0x0004
+#define SWP_NOACTIVATE 0x0010
+#define SS_ICON 0x03
+#define SS_TYPEMASK 0x1F
+#define SS_ELLIPSISMASK 0xC000
+#define SS_ENDELLIPSIS 0x4000
+#define BS_GROUPBOX 0x07
+#define BS_TYPEMASK 0x0F
+#define FW_NORMAL 400
+#define FW_BOLD 700
+
+using HFONT = struct MadeUpFont*;
+struct LOGFONTW {
+    LONG lfHeight;
+    LONG lfWeight;
+};
+
+HFONT CreateFontIndirectW(const LOGFONTW* description);
+void DeleteFont(HFONT font);
+int GetObjectW(HFONT font, int size, void* description);
+HWND GetDlgItem(HWND dialog, int id);
+BOOL GetWindowRect(HWND window, RECT* place);
+BOOL SetWindowPos(HWND window, HWND before, int x, int y, int width, int height, UINT flags);
+BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaints);
+LONG GetWindowLongW(HWND window, int index);
 
 // Seconds since 1980, whose days are taken for a day of January each: the order is all that counts.
 inline BOOL FileTimeToSystemTime(const FILETIME* time, SYSTEMTIME* moment) {

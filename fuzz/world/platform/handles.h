@@ -18,7 +18,11 @@ struct FindKind {
 struct StreamKind : NullableKind<std::FILE*> {
     static void Release(std::FILE* file) { std::fclose(file); }
 };
+struct FontKind : NullableKind<HFONT> {
+    static void Release(HFONT font) { DeleteFont(font); }
+};
 
+using UniqueFont = UniqueHandle<FontKind>;
 using UniqueKey = UniqueHandle<KeyKind>;
 using UniqueFind = UniqueHandle<FindKind>;
 using UniqueStream = UniqueHandle<StreamKind>;

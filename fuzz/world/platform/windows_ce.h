@@ -9,3 +9,4 @@
 
 #include "platform/ce_files.h"
 #include "platform/ce_registry.h"
+#include "platform/ce_system.h"
