@@ -75,6 +75,22 @@ TEST_F(MissingPages, without_the_name_page_nothing_is_saved_over_an_earlier_run)
     EXPECT_NE(ERROR_SUCCESS, RegOpenKeyExW(HKEY_CURRENT_USER, UnusedKey, 0, KEY_READ, &key));
 }
 
+TEST_F(MissingPages, without_the_name_page_what_an_earlier_run_saved_is_left_alone) {
+    const std::wstring list = std::wstring(UnusedKey) + L"\\Name";
+    const wchar_t entry[] = L"*.qsa";
+    RegSetKeyValueW(HKEY_CURRENT_USER, list.c_str(), L"0", REG_SZ, entry, sizeof entry);
+    NamePage page(Host(), HostHandle());
+    CreateRefused(page, 1);
+    page.LoadSettings(UnusedKey);
+    page.SaveSettings(UnusedKey);
+    wchar_t kept[MAX_PATH] = L"";
+    DWORD size = sizeof kept;
+    EXPECT_EQ(ERROR_SUCCESS,
+              RegGetValueW(HKEY_CURRENT_USER, list.c_str(), L"0", RRF_RT_REG_SZ, nullptr, kept, &size));
+    EXPECT_STREQ(entry, kept);
+    RegDeleteTreeW(HKEY_CURRENT_USER, UnusedKey);
+}
+
 TEST_F(MissingPages, a_page_that_could_not_be_created_is_shown_hidden_and_reset_without_effect) {
     NamePage name(Host(), HostHandle());
     DatePage date(Host());
