@@ -81,6 +81,7 @@ test_its_pages_have_their_pictures_and_tables() {
     unpack_it
     expect_whole_page using.html 'Using QuorinSearch'
     expect_whole_page using.ja.html 'QuorinSearch の使い方'
+    expect_equal 'line ends in a Japanese text, shown as blanks' '' "$(grep -E '(。|、)$' "$unpacked/docs/using.ja.html")"
 }
 
 test_each_page_leads_to_the_other() {

@@ -25,7 +25,8 @@ for_notepad() {
 }
 
 # html_page LANGUAGE: a page of the Markdown on standard input, with the style that makes it readable. Its first line
-# is the title; what it says of other Markdown pages is true of the pages made from them.
+# is the title; what it says of other Markdown pages is true of the pages made from them. A line that ends in Japanese
+# has no blank behind it.
 html_page() {
     local first
     IFS= read -r first
@@ -48,7 +49,7 @@ img { max-width: 100%; border: 1px solid #808080; }
 <body>
 TEXT
     { printf '%s\n' "$first" && cat; } | cmark-gfm --extension table --to html |
-        sed 's/\(<a href="[A-Za-z.]*\)\.md"/\1.html"/g'
+        LC_ALL=C.UTF-8 sed -z 's/\(<a href="[A-Za-z.]*\)\.md"/\1.html"/g; s/\([。、]\)\n/\1/g'
     printf '</body>\n</html>\n'
 }
 
