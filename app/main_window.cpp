@@ -150,7 +150,7 @@ LRESULT MainWindow::OnWmTimer(MessageRecord& record) {
 }
 
 LRESULT MainWindow::OnWmInitMenuPopup(MessageRecord& record) {
-    if (results_ != nullptr) results_->OvertakeClick();
+    results_->OvertakeClick();
     return DefaultProcessing(record);
 }
 
@@ -256,7 +256,7 @@ LRESULT MainWindow::OnWmDestroy(MessageRecord& record) {
 }
 
 void MainWindow::SaveSettingsOnce() {
-    if (skipSaving_ || namePage_ == nullptr) return;
+    if (skipSaving_) return;
     namePage_->SaveSettings(ProductRegistryKey);
     skipSaving_ = true;
 }
