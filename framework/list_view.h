@@ -30,9 +30,9 @@ class ListView : public Control {
 
     void SetText(int row, int column, const wchar_t* text) const;
     // Reads as much as fits; leaves an empty text if there is no such row.
-    template <int Capacity>
+    template <std::size_t Capacity>
     void ReadText(int row, int column, wchar_t (&text)[Capacity]) const {
-        ReadText(row, column, text, Capacity);
+        ReadText(row, column, text, static_cast<int>(Capacity));
     }
 
     // -1 if there is none.

@@ -2,7 +2,6 @@
 // order and on the screen, and no letters become smaller than can be read.
 
 #include "framework/dialog_fit.h"
-#include "framework/dialog_squeeze.h"
 #include "framework/layout.h"
 #include "fuzz/fuzz_targets.h"
 #include "platform/ce_shell.h"
