@@ -37,6 +37,8 @@ LRESULT FolderBrowseDialog::OnInitDialog(MessageRecord& record) {
     WatchTreeKeys();
     LoadImages();
     BuildTree();
+    // Gone with the main window, which something closed meanwhile.
+    if (Handle() == nullptr) return 0;
     const LRESULT result = Dialog::OnInitDialog(record);
     StretchTree();
     CentreOnMainWindow();
@@ -83,8 +85,11 @@ void FolderBrowseDialog::LoadImages() {
     TreeView(folderTree_).SetImages(folderImages_.Get());
 }
 
-// The whole tree is read at once, so that browsing it does not touch the file system.
+// The whole tree is read at once, so that browsing it does not touch the file system. Messages are dispatched
+// meanwhile, but the dialog is not shown yet and nothing else is to be worked with.
 void FolderBrowseDialog::BuildTree() {
+    const HWND owner = GetWindow(Handle(), GW_OWNER);
+    const bool ownerTakesInput = EnableWindow(owner, FALSE) == FALSE;
     wchar_t rootName[MAX_PATH];
     RootDisplayName(rootName);
     const TreeView tree(folderTree_);
@@ -94,6 +99,8 @@ void FolderBrowseDialog::BuildTree() {
         const WaitCursor waiting;
         root = FillFolderTree(tree, rootName);
     }
+    if (ownerTakesInput) EnableWindow(owner, TRUE);
+    if (Handle() == nullptr) return;
     tree.SetDrawing(true);
     InvalidateRect(folderTree_, nullptr, TRUE);
     tree.Expand(root);

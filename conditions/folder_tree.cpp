@@ -3,22 +3,52 @@
 #include <cwchar>
 
 #include "base/folder_entries.h"
+#include "base/message_pump.h"
 #include "base/paths.h"
 
+namespace {
+
+// Fills one tree and lets messages be answered meanwhile.
+class TreeFilling {
+  public:
+    explicit TreeFilling(TreeView treeView) : tree_(treeView), cursor_(GetCursor()) { ExpectMessages(); }
+
+    // False if it was to stop in the middle.
+    bool Fill(HTREEITEM item, const wchar_t* folder) {
+        FolderEntries entries(folder, L"*.*");
+        if (!entries.HasEntry()) return true;
+        do {
+            if (!MayGoOn()) return false;
+            const WIN32_FIND_DATAW& entry = entries.Entry();
+            if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
+                continue;
+            // QUIRK: folder-tree-is-reversed. Each child is inserted before its siblings.
+            const HTREEITEM child = tree_.InsertFirst(item, entry.cFileName, {FolderImage, OpenFolderImage});
+            wchar_t path[MAX_PATH];
+            // QUIRK: links-are-not-entered. The target is elsewhere in the tree, or the link makes a loop.
+            if (!JoinPath(path, folder, entry.cFileName) || ce::IsFolderLink(path, entry)) continue;
+            if (!Fill(child, path)) return false;
+        } while (entries.MoveOn());
+        return true;
+    }
+
+  private:
+    // A message may end the program, or destroy the tree with its dialog; and the window under the pointer
+    // may have chosen another cursor.
+    [[nodiscard]] bool MayGoOn() const {
+        const PumpOutcome outcome = PumpOneMessage();
+        if (outcome != PumpOutcome::NotYet) SetCursor(cursor_);
+        return outcome != PumpOutcome::Quit && (outcome != PumpOutcome::Dispatched || tree_.Exists());
+    }
+
+    TreeView tree_;
+    HCURSOR cursor_;
+};
+
+}  // namespace
+
 void FillFolderItem(TreeView tree, HTREEITEM item, const wchar_t* folder) {
-    FolderEntries entries(folder, L"*.*");
-    if (!entries.HasEntry()) return;
-    do {
-        const WIN32_FIND_DATAW& entry = entries.Entry();
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 || IsSkippedName(entry.cFileName))
-            continue;
-        // QUIRK: folder-tree-is-reversed. Each child is inserted before its siblings.
-        const HTREEITEM child = tree.InsertFirst(item, entry.cFileName, {FolderImage, OpenFolderImage});
-        wchar_t path[MAX_PATH];
-        // QUIRK: links-are-not-entered. The target is elsewhere in the tree, or the link makes a loop.
-        if (JoinPath(path, folder, entry.cFileName) && !ce::IsFolderLink(path, entry))
-            FillFolderItem(tree, child, path);
-    } while (entries.MoveOn());
+    static_cast<void>(TreeFilling(tree).Fill(item, folder));
 }
 
 HTREEITEM FillFolderTree(TreeView tree, const wchar_t* rootName) {

@@ -12,7 +12,8 @@ constexpr int OpenFolderImage = 2;
 // which the system lists it. Returns the root item.
 HTREEITEM FillFolderTree(TreeView tree, const wchar_t* rootName);
 
-// Inserts every folder below this one under the item, as above.
+// Inserts every folder below this one under the item, as above. Messages are dispatched meanwhile; it stops
+// in the middle if one of them ends the program or destroys the tree.
 void FillFolderItem(TreeView tree, HTREEITEM item, const wchar_t* folder);
 
 // The full path of the item: "\" for the root. False when it does not fit.

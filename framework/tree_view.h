@@ -16,6 +16,9 @@ class TreeView {
 
     explicit TreeView(HWND window) : window_(window) {}
 
+    // False once the window has been destroyed.
+    [[nodiscard]] bool Exists() const { return IsWindow(window_) != FALSE; }
+
     // Null if there is no such item.
     [[nodiscard]] HTREEITEM Root() const { return Next(TVGN_ROOT, nullptr); }
     [[nodiscard]] HTREEITEM Selected() const { return Next(TVGN_CARET, nullptr); }

@@ -227,6 +227,23 @@ TEST_F(FolderBrowse, asks_for_patience_while_it_builds_its_tree) {
     EXPECT_EQ(afterwards, LoadCursorW(nullptr, IDC_ARROW));
 }
 
+TEST_F(FolderBrowse, ends_without_a_choice_when_its_window_is_destroyed_while_it_builds_its_tree) {
+    static FolderBrowseDialog* building;
+    static decltype(ce::FileCalls::findFirstFile) listing;
+    const Replaced<decltype(ce::FileCalls::findFirstFile)> destroying(
+        ce::fileCalls.findFirstFile, [](const wchar_t* pattern, WIN32_FIND_DATAW* data) {
+            if (building->Handle() != nullptr) DestroyWindow(building->Handle());
+            return listing(pattern, data);
+        });
+    listing = destroying.Original();
+    FolderBrowseDialog dialog(Host(), L"Select Folder");
+    building = &dialog;
+    EXPECT_NE(dialog.RunModal(), Dialog::ResultOk);
+    EXPECT_EQ(dialog.Handle(), nullptr);
+    EXPECT_EQ(dialog.ChosenPath(), nullptr);
+    EXPECT_TRUE(IsWindowEnabled(GetAncestor(Host()->Handle(), GA_ROOT)));
+}
+
 TEST_F(FolderBrowse, names_its_root_after_the_kind_of_device) {
     for (const bool pocketPc : {true, false}) {
         ContextForStartUp().pocketPc = pocketPc;

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -178,6 +180,80 @@ TEST_F(FolderTree, gives_no_path_where_the_last_unit_of_the_buffer_would_be_lost
     EXPECT_FALSE(PathOfItem(TreeView(tree_), ItemAt(tree_, {name, name, std::wstring(87, L'm')}),
                             reinterpret_cast<wchar_t(&)[MAX_PATH]>(path)));
     EXPECT_EQ(path[MAX_PATH], L'#');
+}
+
+namespace {
+
+// A window that does something when it is told to, and keeps how many folders had been listed by then.
+class Listener {
+  public:
+    Listener(HWND parent, const FakeFolders& fakeFolders) : folders_(fakeFolders) {
+        window_ =
+            CreateWindowExW(0, WC_STATICW, L"", WS_CHILD, 0, 0, 1, 1, parent, nullptr, nullptr, nullptr);
+        SetWindowSubclass(window_, &Listen, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    ~Listener() { DestroyWindow(window_); }
+
+    void Tell(std::function<void()> doing) {
+        doing_ = std::move(doing);
+        PostMessageW(window_, WM_APP, 0, 0);
+    }
+
+    std::optional<std::size_t> listedBefore;
+
+  private:
+    static LRESULT CALLBACK Listen(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                   DWORD_PTR object) {
+        auto& self = *reinterpret_cast<Listener*>(object);
+        if (message != WM_APP) return DefSubclassProc(window, message, wParam, lParam);
+        self.listedBefore = self.folders_.listed.size();
+        if (self.doing_) self.doing_();
+        return 0;
+    }
+
+    const FakeFolders& folders_;
+    HWND window_;
+    std::function<void()> doing_;
+};
+
+}  // namespace
+
+class FolderTreeMessages : public FolderTree {
+  protected:
+    FolderTreeMessages() : listener_(host_.Handle(), folders_) {
+        for (const wchar_t* name : {L"a", L"b", L"c"})
+            folders_.AddFolder(L"\\", name);
+    }
+    static constexpr std::size_t AllFolders = 4;
+
+    Listener listener_;
+};
+
+TEST_F(FolderTreeMessages, are_answered_while_it_is_built) {
+    listener_.Tell({});
+    const HTREEITEM root = Fill();
+    EXPECT_EQ(listener_.listedBefore, 1U);
+    EXPECT_EQ(folders_.listed.size(), AllFolders);
+    EXPECT_EQ(ChildrenOf(tree_, root), (Names{L"c", L"b", L"a"}));
+}
+
+TEST_F(FolderTreeMessages, end_the_building_when_the_program_ends) {
+    listener_.Tell([] { PostQuitMessage(7); });
+    Fill();
+    EXPECT_LT(folders_.listed.size(), AllFolders);
+    EXPECT_EQ(folders_.openListings, 0);
+    MSG message;
+    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7U);
+}
+
+TEST_F(FolderTreeMessages, end_the_building_when_the_tree_is_destroyed) {
+    listener_.Tell([this] { DestroyWindow(tree_); });
+    Fill();
+    EXPECT_LT(folders_.listed.size(), AllFolders);
+    EXPECT_EQ(folders_.openListings, 0);
 }
 
 class FolderTreeOfDisk : public testing::Test {
