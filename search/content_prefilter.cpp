@@ -175,7 +175,8 @@ ContentVerdict JudgeContent(ByteSource& source, const ContentPattern& pattern, s
     Byte room[FilterBlockSize + 2 * ByteSource::PageSize];
     Byte* const block =
         room + 2 * ByteSource::PageSize - reinterpret_cast<std::uintptr_t>(room) % ByteSource::PageSize;
-    std::size_t filled = source.Fill(block, blockSize);
+    // Most files end in a block of the usual size, which the system gets ready faster.
+    std::size_t filled = source.Fill(block, std::min(blockSize, ByteSource::BlockSize));
     const ContentVerdict firstLine = FirstLineVerdict(block, filled, pattern);
     if (firstLine != ContentVerdict::NoOccurrence) return firstLine;
 
