@@ -5,13 +5,11 @@
 #include <cwchar>
 
 #include "bench/bench_tree.h"
-#include "bench/plain_frame.h"
 #include "results/row_texts.h"
 #include "results/type_names.h"
 
 namespace {
 
-constexpr wchar_t WindowClass[] = L"QuorinBenchRows";
 constexpr DWORD ListStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL |
                             LVS_AUTOARRANGE | LVS_EDITLABELS | LVS_SHAREIMAGELISTS;
 constexpr int ColumnWidths[ResultColumnCount] = {100, 140, 40, 74, 104};
@@ -69,16 +67,15 @@ std::vector<ReadyRow> RowsBelow(const std::wstring& folder) {
 PlainList::PlainList(const RECT& place) : font_(MakeFont()) {
     const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&classes);
-    window_ = MakePlainFrame(GetModuleHandleW(nullptr), WindowClass);
+    window_ = CreateWindowExW(0, WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 0, 0, GetSystemMetrics(SM_CXSCREEN),
+                              GetSystemMetrics(SM_CYSCREEN), nullptr, nullptr, nullptr, nullptr);
     list_ = CreateWindowExW(0, WC_LISTVIEWW, L"", ListStyle, place.left, place.top, place.right - place.left,
                             place.bottom - place.top, window_, nullptr, nullptr, nullptr);
     SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
     SendMessageW(list_, WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE);
     procedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(list_, GWLP_WNDPROC));
     InsertColumns();
-    ShowWindow(window_, SW_SHOW);
-    SetForegroundWindow(window_);
-    UpdateWindow(window_);
+    Raise();
 }
 
 PlainList::~PlainList() {
