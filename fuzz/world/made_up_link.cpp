@@ -48,4 +48,7 @@ bool FindShellPath(const wchar_t* path, wchar_t (&found)[MAX_PATH]) {
     std::wcscpy(found, path);
     return true;
 }
+BOOL ShellExecution(SHELLEXECUTEINFOW*) {
+    return FALSE;
+}
 SystemPath::SystemPath(const wchar_t* path) : fits_(LiteralPath(text_, path, L"D:\\")) {}

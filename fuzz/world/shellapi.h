@@ -11,7 +11,3 @@ struct SHELLEXECUTEINFOW {
 };
 
 struct SHFILEINFOW;
-
-inline BOOL ShellExecuteExW(SHELLEXECUTEINFOW*) {
-    return FALSE;
-}

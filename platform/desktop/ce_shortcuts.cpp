@@ -11,7 +11,6 @@
 #include "platform/ce_files.h"
 #include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_files.h"
-#include "platform/desktop/shell_library.h"
 #include "platform/desktop/shell_link_file.h"
 #include "platform/desktop/system_path.h"
 #include "platform/handles.h"

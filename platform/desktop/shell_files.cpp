@@ -4,11 +4,19 @@
 #include <iterator>
 
 #include "platform/desktop/file_identity.h"
-#include "platform/desktop/shell_library.h"
 #include "platform/desktop/system_path.h"
 #include "platform/name_wildcard.h"
 
 namespace {
+
+// Never unloaded: what has been opened with it may go on.
+HMODULE loaded = nullptr;
+
+template <typename Call>
+Call* ShellCall(const char* name) {
+    if (loaded == nullptr) loaded = LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    return loaded != nullptr ? reinterpret_cast<Call*>(GetProcAddress(loaded, name)) : nullptr;
+}
 
 constexpr wchar_t Mark[] = L"\\\\?\\";
 constexpr std::size_t MarkLength = 4;
@@ -162,4 +170,14 @@ DWORD_PTR GetShellFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* i
         if (answer != 0) return answer;
     }
     return InfoByKind(path, attributes, info, size, flags);
+}
+
+DWORD_PTR ShellFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags) {
+    const auto call = ShellCall<decltype(::SHGetFileInfoW)>("SHGetFileInfoW");
+    return call != nullptr ? call(path, attributes, info, size, flags) : 0;
+}
+
+BOOL ShellExecution(SHELLEXECUTEINFOW* info) {
+    const auto call = ShellCall<decltype(::ShellExecuteExW)>("ShellExecuteExW");
+    return call != nullptr && call(info);
 }

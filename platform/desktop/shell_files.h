@@ -19,3 +19,13 @@
 // As ce::SHGetFileInfo, for the very file at the path. A file that the shell has no path for is answered by
 // its extension alone, with its own name; 0 where there is no such file.
 DWORD_PTR GetShellFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags);
+
+// The two calls of the shell's library. It and what it brings along take five milliseconds to load, and no
+// start needs them: it is loaded at the first call. A call fails where it cannot be loaded, and the next one
+// tries again.
+
+// SHGetFileInfoW; 0 as well without the library.
+DWORD_PTR ShellFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT size, UINT flags);
+
+// ShellExecuteExW; FALSE as well without the library.
+BOOL ShellExecution(SHELLEXECUTEINFOW* info);
