@@ -6,16 +6,11 @@ namespace {
 
 constexpr int DefaultMaximum = 9;
 
-int MaximumOf(const PropertySet& properties) {
-    PropertyValue maximum = 0;
-    return properties.Lookup(property::MaximumEntries, maximum) ? static_cast<int>(maximum) : DefaultMaximum;
-}
-
 }  // namespace
 
 HistoryCombo::HistoryCombo(WindowObject* parentObject, HWND existing, const PropertySet& properties)
     : ComboBoxControl(parentObject, existing),
-      maximum_(MaximumOf(properties)),
+      maximum_(static_cast<int>(properties.Get(property::MaximumEntries, DefaultMaximum))),
       refuseEmpty_(properties.Has(property::RefuseEmpty)) {
     if (properties.Has(property::TabNotification)) TurnOnTabNotification();
 }

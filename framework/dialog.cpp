@@ -37,19 +37,13 @@ NativeCodeTable NativeCodesByClassName(HWND control) {
     return NativeCodesOfClass(className);
 }
 
-DWORD FullScreenFlagsOf(const PropertySet& properties) {
-    PropertyValue flags = 0;
-    return properties.Lookup(property::FullScreenFlags, flags) ? static_cast<DWORD>(flags)
-                                                               : DefaultFullScreenFlags;
-}
-
 }  // namespace
 
 Dialog::Dialog(WindowObject* parentObject, const PropertySet& properties)
     : ContainerWindow(parentObject, nullptr, Ownership::Wrapped),
       templateName_(properties.GetText(property::DialogTemplate)),
       initArgument_(properties.Get(property::InitArgument)),
-      fullScreenFlags_(FullScreenFlagsOf(properties)),
+      fullScreenFlags_(static_cast<DWORD>(properties.Get(property::FullScreenFlags, DefaultFullScreenFlags))),
       font_(CreateDialogFont()) {}
 
 Dialog::~Dialog() {

@@ -28,16 +28,9 @@ void PropertySet::Add(PropertyKey key, PropertyValue value) {
     }
 }
 
-PropertyValue PropertySet::Get(PropertyKey key) const {
-    PropertyValue value = 0;
-    Lookup(key, value);
-    return value;
-}
-
-bool PropertySet::Lookup(PropertyKey key, PropertyValue& value) const {
+PropertyValue PropertySet::Get(PropertyKey key, PropertyValue otherwise) const {
     const int index = IndexOf(key);
-    value = index < 0 ? 0 : pairs_[static_cast<std::size_t>(index)].value;
-    return index >= 0;
+    return index < 0 ? otherwise : pairs_[static_cast<std::size_t>(index)].value;
 }
 
 bool PropertySet::Has(PropertyKey key) const {

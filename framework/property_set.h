@@ -69,11 +69,8 @@ class PropertySet {
     // set-unless-already-set.
     void Add(PropertyKey key, PropertyValue value);
 
-    // The value of the first pair with the key; 0 if there is none.
-    [[nodiscard]] PropertyValue Get(PropertyKey key) const;
-
-    // Returns whether the key is present; value receives its first value, or 0.
-    bool Lookup(PropertyKey key, PropertyValue& value) const;
+    // The value of the first pair with the key; the other value if there is none.
+    [[nodiscard]] PropertyValue Get(PropertyKey key, PropertyValue otherwise = 0) const;
 
     [[nodiscard]] bool Has(PropertyKey key) const;
     [[nodiscard]] int Count() const { return count_; }

@@ -17,8 +17,7 @@ constexpr int DefaultLineStep = 16;
 constexpr int DefaultSecondStep = 2;
 
 int NumberOr(const PropertySet& properties, PropertyKey key, int otherwise) {
-    PropertyValue value = 0;
-    return properties.Lookup(key, value) ? static_cast<int>(value) : otherwise;
+    return static_cast<int>(properties.Get(key, static_cast<PropertyValue>(otherwise)));
 }
 
 struct BarKeys {

@@ -64,15 +64,14 @@ TEST(PropertySet, set_after_two_added_pairs_changes_the_first) {
     EXPECT_EQ(properties.Count(), 2);
 }
 
-TEST(PropertySet, lookup_tells_a_value_of_0_from_none) {
+TEST(PropertySet, a_value_of_0_is_told_from_none) {
     PropertySet properties;
     properties.Set(1110, 0);
-    PropertyValue value = 99;
-    EXPECT_TRUE(properties.Lookup(1110, value));
-    EXPECT_EQ(value, 0U);
-    value = 99;
-    EXPECT_FALSE(properties.Lookup(1117, value));
-    EXPECT_EQ(value, 0U);
+    EXPECT_TRUE(properties.Has(1110));
+    EXPECT_EQ(properties.Get(1110, 99), 0U);
+    EXPECT_FALSE(properties.Has(1117));
+    EXPECT_EQ(properties.Get(1117, 99), 99U);
+    EXPECT_EQ(properties.Get(1117), 0U);
 }
 
 TEST(PropertySet, holds_50_pairs_and_drops_the_51st) {
