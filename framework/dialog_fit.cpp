@@ -164,28 +164,6 @@ void CutLongestText(std::vector<Row>& rows, LONG excess) {
     if (longest != rows.end()) longest->highest = std::max(HeightOf(longest->after) - excess, LONG{0});
 }
 
-// Gives every text below the title line the height that it needs. If the lowest control then ends below the
-// given height, the rows move closer together and the font becomes smaller, pixel by pixel, until it does
-// not. If even the smallest font needs more, the longest text is cut. A control further right than
-// columnWidth belongs to a second column, whose rows do not depend on those of the first.
-void SqueezeRows(HWND dialog, LONG columnWidth, LONG height) {
-    std::vector<Row> rows = RowsOf(dialog);
-    LONG letters = SmallestLetters;
-    for (const Row& row : rows)
-        letters = std::max(letters, LettersOf(row.control));
-    const LONG gap = Arrange(rows, columnWidth, AnyGap) > height ? SmallGap : AnyGap;
-    while (Arrange(rows, columnWidth, gap) > height && letters > SmallestLetters)
-        MakeLettersSmaller(rows, --letters);
-    const LONG excess = Arrange(rows, columnWidth, gap) - height;
-    if (excess > 0) {
-        CutLongestText(rows, excess);
-        Arrange(rows, columnWidth, gap);
-    }
-    for (const Row& row : rows)
-        MoveWindow(row.control, row.after.left, row.after.top, row.after.right - row.after.left,
-                   HeightOf(row.after), FALSE);
-}
-
 // The extent of all controls that begin at the line or below it.
 struct LowerPart {
     LONG top = LONG_MAX;
@@ -255,6 +233,24 @@ void SetClientSize(HWND dialog, SIZE client) {
 }
 
 }  // namespace
+
+void SqueezeRows(HWND dialog, LONG columnWidth, LONG height) {
+    std::vector<Row> rows = RowsOf(dialog);
+    LONG letters = SmallestLetters;
+    for (const Row& row : rows)
+        letters = std::max(letters, LettersOf(row.control));
+    const LONG gap = Arrange(rows, columnWidth, AnyGap) > height ? SmallGap : AnyGap;
+    while (Arrange(rows, columnWidth, gap) > height && letters > SmallestLetters)
+        MakeLettersSmaller(rows, --letters);
+    const LONG excess = Arrange(rows, columnWidth, gap) - height;
+    if (excess > 0) {
+        CutLongestText(rows, excess);
+        Arrange(rows, columnWidth, gap);
+    }
+    for (const Row& row : rows)
+        MoveWindow(row.control, row.after.left, row.after.top, row.after.right - row.after.left,
+                   HeightOf(row.after), FALSE);
+}
 
 void WidenToText(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);

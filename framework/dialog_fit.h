@@ -22,5 +22,11 @@ void GrowToText(HWND dialog, int id);
 // font becomes smaller.
 void FitToScreen(HWND dialog, int lastKept);
 
+// Gives every text below the title line the height that it needs. If the lowest control then ends below the
+// given height, the rows move closer together and the font becomes smaller, pixel by pixel, until it does
+// not. If even the smallest font needs more, the longest text is cut. A control further right than
+// columnWidth belongs to a second column, whose rows do not depend on those of the first.
+void SqueezeRows(HWND dialog, LONG columnWidth, LONG height);
+
 // Shortens the heading's static so that it does not cover the title line that the dialog draws below it.
 void KeepTitleLineFree(HWND dialog);

@@ -5,6 +5,7 @@
 
 #include "made_up_dialog.h"
 
+constexpr LONG TitleLineY = 24;
 constexpr LONG RightMargin = 3;
 
 template <class Visit>
