@@ -20,7 +20,7 @@ class MissingPages : public PageTest {
         const RefusedWindows refusal = RefusedWindows::Only(number);
         page.CreateModeless();
         ASSERT_TRUE(refusal.HasRefused());
-        ASSERT_EQ(nullptr, page.Handle());
+        ASSERT_EQ(page.Handle(), nullptr);
     }
 };
 
@@ -41,8 +41,8 @@ TEST_F(MissingPages, without_the_size_page_there_is_neither_type_nor_bound) {
     CreateRefused(page, 1);
     const SearchQuery query = QueryOf(page);
     EXPECT_FALSE(query.typeFilter);
-    EXPECT_EQ(L"", std::wstring(query.extensions));
-    EXPECT_EQ(SizeLimit::None, query.sizeBound.limit);
+    EXPECT_EQ(std::wstring(query.extensions), L"");
+    EXPECT_EQ(query.sizeBound.limit, SizeLimit::None);
 }
 
 TEST_F(MissingPages, a_size_page_that_has_lost_its_combos_has_neither_type_nor_bound) {
@@ -52,17 +52,17 @@ TEST_F(MissingPages, a_size_page_that_has_lost_its_combos_has_neither_type_nor_b
     DestroyWindow(Item(COMBO_FILE_SIZE));
     const SearchQuery query = QueryOf(page);
     EXPECT_FALSE(query.typeFilter);
-    EXPECT_EQ(L"", std::wstring(query.extensions));
-    EXPECT_EQ(SizeLimit::None, query.sizeBound.limit);
+    EXPECT_EQ(std::wstring(query.extensions), L"");
+    EXPECT_EQ(query.sizeBound.limit, SizeLimit::None);
 }
 
 TEST_F(MissingPages, without_the_name_page_every_name_in_the_root_is_meant) {
     NamePage page(Host(), HostHandle());
     CreateRefused(page, 1);
     const SearchQuery query = QueryOf(page);
-    EXPECT_EQ(L"", std::wstring(query.name));
-    EXPECT_EQ(L"", std::wstring(query.location));
-    EXPECT_EQ(L"", std::wstring(query.content));
+    EXPECT_EQ(std::wstring(query.name), L"");
+    EXPECT_EQ(std::wstring(query.location), L"");
+    EXPECT_EQ(std::wstring(query.content), L"");
     EXPECT_FALSE(query.subFolders);
 }
 
@@ -85,8 +85,8 @@ TEST_F(MissingPages, without_the_name_page_what_an_earlier_run_saved_is_left_alo
     page.SaveSettings(UnusedKey);
     wchar_t kept[MAX_PATH] = L"";
     DWORD size = sizeof kept;
-    EXPECT_EQ(ERROR_SUCCESS,
-              RegGetValueW(HKEY_CURRENT_USER, list.c_str(), L"0", RRF_RT_REG_SZ, nullptr, kept, &size));
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, list.c_str(), L"0", RRF_RT_REG_SZ, nullptr, kept, &size),
+              ERROR_SUCCESS);
     EXPECT_STREQ(entry, kept);
     RegDeleteTreeW(HKEY_CURRENT_USER, UnusedKey);
 }
@@ -101,7 +101,7 @@ TEST_F(MissingPages, a_page_that_could_not_be_created_is_shown_hidden_and_reset_
         page->Show();
         page->Reset();
         page->Hide();
-        EXPECT_EQ(nullptr, page->Handle());
+        EXPECT_EQ(page->Handle(), nullptr);
     }
     EXPECT_TRUE(IsWindowVisible(HostHandle()));
 }

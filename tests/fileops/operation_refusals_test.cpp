@@ -23,7 +23,7 @@ class RefusedOperations : public OperationTest {
             prepare();
             const bool refused = RunRefusing(number, done);
             EXPECT_FALSE(operation_.IsRunning());
-            EXPECT_EQ(nullptr, operation_.Handle());
+            EXPECT_EQ(operation_.Handle(), nullptr);
             EXPECT_TRUE(IsWindowEnabled(host_.Handle()));
             prepare();
             Run({IDYES});

@@ -115,7 +115,7 @@ class PowerLoss : public testing::Test {
     // How it ended.
     [[nodiscard]] static DWORD CodeOf(const PROCESS_INFORMATION& process) {
         DWORD code = STILL_ACTIVE;
-        EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(process.hProcess, LongestRun));
+        EXPECT_EQ(WaitForSingleObject(process.hProcess, LongestRun), WAIT_OBJECT_0);
         GetExitCodeProcess(process.hProcess, &code);
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
@@ -140,7 +140,7 @@ class PowerLoss : public testing::Test {
                 << path << '=' << text;
     }
     void ExpectEndWhenDoneAgain(const Operation& operation) const {
-        EXPECT_EQ(0u, Run(operation, 0));
+        EXPECT_EQ(Run(operation, 0), 0u);
         EXPECT_EQ(InOrder(operation.after), ContentsOf(*tree_));
     }
 
@@ -169,7 +169,7 @@ TEST_F(PowerLoss, before_any_change_of_a_file_operation_loses_no_file) {
                 EXPECT_EQ(InOrder(operation.after), ContentsOf(*tree_));
                 break;
             }
-            ASSERT_EQ(EndedByForce, code);
+            ASSERT_EQ(code, EndedByForce);
             ExpectNothingLost(operation);
             ExpectNothingElse(operation);
             ExpectEndWhenDoneAgain(operation);

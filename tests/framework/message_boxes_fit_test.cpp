@@ -75,7 +75,7 @@ class MessageBoxFit : public testing::Test {
         ShowError(host_.Handle(), L"Can't find the path specified. '%s'", path.c_str());
         UnhookWindowsHookEx(hook_);
         hook_ = nullptr;
-        ASSERT_EQ(1u, boxes.Seen().size());
+        ASSERT_EQ(boxes.Seen().size(), 1u);
     }
     void ExpectWhole() const {
         RECT area = {};

@@ -15,7 +15,7 @@ class Activation : public HandsTest {
         start.path = ProgramPath();
         start.workingFolder = Drive().Root();
         second.Start(start);
-        EXPECT_EQ(1u, second.ExitCode(StepDeadline).value_or(999));
+        EXPECT_EQ(second.ExitCode(StepDeadline).value_or(999), 1u);
     }
     // Another program's window takes the input.
     void BringOtherForward() {
@@ -240,5 +240,5 @@ TEST_F(FocusAfterDialogs, is_the_list_after_a_search_that_found_nothing_from_a_f
     Program().FocusControl(SizePage, EDIT_KILOBYTES);
     ClickBarButton(COMMAND_FIND);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [] { return Program().ListHasFocus(); }));
-    EXPECT_EQ(0, Program().List().count);
+    EXPECT_EQ(Program().List().count, 0);
 }

@@ -60,7 +60,7 @@ TEST_F(CalendarInHands, escape_closes_it_and_leaves_the_date_as_it_was) {
         PressKey(VK_ESCAPE);
         EXPECT_TRUE(Closes());
         EXPECT_TRUE(HasFocus(picker));
-        EXPECT_EQ(DateAtDrop, PickedDate(picker));
+        EXPECT_EQ(PickedDate(picker), DateAtDrop);
     }
 }
 
@@ -72,8 +72,8 @@ TEST_F(CalendarInHands, enter_closes_it_and_takes_the_marked_day) {
         PressKey(VK_RETURN);
         EXPECT_TRUE(Closes());
         EXPECT_TRUE(HasFocus(picker));
-        EXPECT_EQ(DateOfNextMonth, PickedDate(picker));
-        EXPECT_EQ(0, Program().SearchesBegun());
+        EXPECT_EQ(PickedDate(picker), DateOfNextMonth);
+        EXPECT_EQ(Program().SearchesBegun(), 0);
     }
 }
 
@@ -83,6 +83,6 @@ TEST_F(CalendarInHands, one_that_a_key_has_closed_drops_again_at_the_next_click)
         Drop(PICKER_FROM);
         PressKey(key);
         EXPECT_TRUE(Closes());
-        EXPECT_EQ(DateAtDrop, PickedDate(PICKER_FROM));
+        EXPECT_EQ(PickedDate(PICKER_FROM), DateAtDrop);
     }
 }

@@ -62,7 +62,7 @@ class DialogKeys : public HandsTest {
         SCOPED_TRACE(key.name);
         Press(key);
         EXPECT_FALSE(HoldsWithin(TimeToClose, [&] { return !IsOpen(dialog); }));
-        EXPECT_EQ(dialog.Window(), GetForegroundWindow());
+        EXPECT_EQ(GetForegroundWindow(), dialog.Window());
     }
 
     // The key has been down since before the dialog opened.
@@ -98,7 +98,7 @@ TEST_F(DialogKeys, leave_the_folder_browser_without_a_folder_but_for_enter) {
         ExpectLeftOpenBy(F1, browser);
         ExpectClosedBy(key, browser);
         ExpectMainWindowInUse();
-        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text) << key.name;
+        EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"") << key.name;
         EXPECT_TRUE(Program().HasFocus(NamePage, BUTTON_BROWSE)) << key.name;
     }
     PressKey(VK_SPACE);
@@ -173,7 +173,7 @@ TEST_F(DialogKeys, close_an_error_box) {
         // The reason first, then that the rename failed.
         for (int box = 0; box < 2; ++box) {
             const ProgramDialog error = DialogInFront();
-            ASSERT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+            ASSERT_EQ(error.Caption(), Shown(L"Error", L"ｴﾗｰ"));
             if (box == 0) ExpectLeftOpenBy(F1, error);
             ExpectClosedBy(key, error);
         }

@@ -240,7 +240,7 @@ TEST_F(Edges, the_boxes_about_a_name_that_is_taken_lie_inside) {
     // The failed move, and that the name could not be changed.
     for (int box = 0; box < 2; ++box) {
         const ProgramDialog error = Dialog();
-        EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+        EXPECT_EQ(error.Caption(), Shown(L"Error", L"ｴﾗｰ"));
         ExpectDialogInside(error);
         PressKey(VK_RETURN);
         WaitUntil("the box to close", [&] { return !IsWindow(error.Window()); });
@@ -262,9 +262,9 @@ TEST_F(Edges, the_properties_of_a_shortcut_lie_inside) {
     SelectRow(L"s.lnk");
     ClickBarButton(COMMAND_PROPERTIES);
     const ProgramDialog sheet = Dialog();
-    ASSERT_EQ(2, sheet.PageCount());
+    ASSERT_EQ(sheet.PageCount(), 2);
     sheet.TurnTo(1);
-    ASSERT_EQ(target, sheet.Text(EDIT_TARGET));
+    ASSERT_EQ(sheet.Text(EDIT_TARGET), target);
     ExpectDialogInside(sheet);
     PressKey(VK_ESCAPE);
 }

@@ -27,7 +27,7 @@ class Ends : public HandsTest {
                ValuesOf(ProductKey) == Values{{L"Sub Folder", StoredDword(0)}};
     }
     static void ExpectSavedEnd() {
-        EXPECT_EQ(0u, Program().WaitForEnd());
+        EXPECT_EQ(Program().WaitForEnd(), 0u);
         EXPECT_TRUE(AreSaved());
     }
     // As the system does at a log-off.
@@ -63,7 +63,7 @@ TEST_F(Ends, by_alt_f4_saves_the_settings) {
 TEST_F(Ends, by_a_log_off_saves_the_settings_before_the_system_is_answered) {
     EXPECT_TRUE(SendMessageW(Program().Window(), WM_QUERYENDSESSION, 0, ENDSESSION_LOGOFF));
     EXPECT_FALSE(KeyExists(ProductKey)) << "a question is no end";
-    EXPECT_EQ(0, EndSession());
+    EXPECT_EQ(EndSession(), 0);
     EXPECT_TRUE(AreSaved());
     ExpectSavedEnd();
 }
@@ -72,8 +72,8 @@ TEST_F(Ends, by_a_log_off_writes_the_settings_once) {
     EndSession();
     ASSERT_TRUE(AreSaved());
     Store(ProductKey, L"Sub Folder", REG_SZ, L"mark", 5 * sizeof(wchar_t));
-    EXPECT_EQ(0u, Program().WaitForEnd());
-    EXPECT_EQ(StoredText(L"mark"), ValuesOf(ProductKey)[L"Sub Folder"]);
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
+    EXPECT_EQ(ValuesOf(ProductKey)[L"Sub Folder"], StoredText(L"mark"));
 }
 
 TEST_F(Ends, is_none_when_the_log_off_is_called_off) {
@@ -131,7 +131,7 @@ TEST_F(Ends, by_the_uninstall_writes_nothing_even_at_a_log_off) {
     ClickAt(CentreOf(place));
     WaitUntil("the About box to close", [about] { return !IsWindow(about); });
     SendNotifyMessageW(Program().Window(), WM_ENDSESSION, TRUE, ENDSESSION_LOGOFF);
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
     EXPECT_FALSE(KeyExists(ProductKey));
 }
 
@@ -151,6 +151,6 @@ TEST_F(Ends, a_start_while_the_last_copy_is_being_taken_apart_opens_the_program_
     EXPECT_TRUE(HoldsWithin(
         StepDeadline, [&] { return again.MainWindow() != nullptr && IsWindowVisible(again.MainWindow()); }));
     PostMessageW(again.MainWindow(), WM_CLOSE, 0, 0);
-    EXPECT_EQ(0u, again.ExitCode(StepDeadline).value_or(999));
+    EXPECT_EQ(again.ExitCode(StepDeadline).value_or(999), 0u);
     DestroyWindow(going);
 }

@@ -99,8 +99,8 @@ TEST_F(FilesInHand, a_name_typed_in_another_letter_case_is_the_files_name_on_the
     TypeText(L"Notes.QSA");
     PressKey(VK_RETURN);
     EXPECT_TRUE(IsOnDisk({L"Notes.QSA"}));
-    EXPECT_EQ((Names{L"Notes.QSA"}), Program().RowNames());
-    EXPECT_EQ("mine", ContentOf(L"Notes.QSA"));
+    EXPECT_EQ(Program().RowNames(), (Names{L"Notes.QSA"}));
+    EXPECT_EQ(ContentOf(L"Notes.QSA"), "mine");
     EXPECT_TRUE(NoDialogOpen());
 
     OpenMenuByKeys(FileMenu);
@@ -109,19 +109,19 @@ TEST_F(FilesInHand, a_name_typed_in_another_letter_case_is_the_files_name_on_the
     TypeText(L"NOTES.qsa");
     PressKey(VK_RETURN);
     EXPECT_TRUE(IsOnDisk({L"NOTES.qsa"}));
-    EXPECT_EQ((Names{L"NOTES.qsa"}), NamesFoundBy(Named(L"*.qsa", Folder())));
+    EXPECT_EQ(NamesFoundBy(Named(L"*.qsa", Folder())), (Names{L"NOTES.qsa"}));
 }
 
 TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_opened_itself) {
     AddOddFiles();
     ClickAt(PlaceOf(L"a.qsa."));
     PressKey(VK_RETURN);
-    EXPECT_EQ("mine", ReadByArgument(Started(1).at(0)));
+    EXPECT_EQ(ReadByArgument(Started(1).at(0)), "mine");
     // What was started took the foreground.
     Program().BringForward();
     ClickAt(PlaceOf(L"a.qsa "));
     TakeFileMenu(COMMAND_OPEN);
-    EXPECT_EQ("mine", ReadByArgument(Started(2).at(1)));
+    EXPECT_EQ(ReadByArgument(Started(2).at(1)), "mine");
 }
 
 TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_has_its_own_properties) {
@@ -132,9 +132,9 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_has_its_own_properties)
         ClickAt(PlaceOf(name));
         PressKey(VK_RETURN, {VK_MENU});
         const ProgramDialog sheet = Dialog();
-        EXPECT_EQ(name, sheet.Text(STATIC_DISPLAY_NAME));
-        EXPECT_EQ(Row(name).type, sheet.Text(STATIC_TYPE));
-        EXPECT_EQ(L"0.0KB (4 bytes)", sheet.Text(STATIC_SIZE));
+        EXPECT_EQ(sheet.Text(STATIC_DISPLAY_NAME), name);
+        EXPECT_EQ(sheet.Text(STATIC_TYPE), Row(name).type);
+        EXPECT_EQ(sheet.Text(STATIC_SIZE), L"0.0KB (4 bytes)");
         ClickControl(sheet, CHECK_READ_ONLY);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY); }));
         PressKey(VK_RETURN);
@@ -152,12 +152,12 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_added_to_the_start_m
         Program().SendMenuCommand(COMMAND_ADD_TO_START_MENU);
         Program().WaitForQueue();
     }
-    EXPECT_EQ((Names{L"a.qsa .lnk", L"a.qsa..lnk"}), Sorted(NamesFoundBy(Where(StartMenu()))));
+    EXPECT_EQ(Sorted(NamesFoundBy(Where(StartMenu()))), (Names{L"a.qsa .lnk", L"a.qsa..lnk"}));
     std::size_t opened = 0;
     for (const wchar_t* shortcut : {L"a.qsa .lnk", L"a.qsa..lnk"}) {
         ClickAt(PlaceOf(shortcut));
         PressKey(VK_RETURN);
-        EXPECT_EQ("mine", ReadByArgument(Started(++opened).back()));
+        EXPECT_EQ(ReadByArgument(Started(++opened).back()), "mine");
         Program().BringForward();
         DeleteFileW((Drive().Letter() + StartMenu() + L"\\" + shortcut).c_str());
     }
@@ -176,7 +176,7 @@ TEST_F(FilesInHand, a_name_that_ends_in_a_dot_or_a_blank_is_deleted_itself) {
         });
     }
     EXPECT_TRUE(IsOnDisk({L"a.qsa"}));
-    EXPECT_EQ("another file", ContentOf(L"a.qsa"));
+    EXPECT_EQ(ContentOf(L"a.qsa"), "another file");
 }
 
 TEST_F(FilesInHand, a_name_without_an_extension_is_not_opened_as_the_program_beside_it) {
@@ -197,16 +197,16 @@ TEST_F(FilesInHand, a_tab_before_the_arguments_of_a_shortcut_keeps_them) {
     Find(L"s.lnk");
     ClickAt(PlaceOf(L"s.lnk"));
     PressKey(VK_RETURN);
-    EXPECT_EQ((Names{L"x y"}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L"x y"}));
 
     // What was started took the foreground.
     Program().BringForward();
     ClickBarButton(COMMAND_PROPERTIES);
     const ProgramDialog sheet = Dialog();
     sheet.TurnTo(1);
-    EXPECT_EQ(target, sheet.Text(EDIT_TARGET));
+    EXPECT_EQ(sheet.Text(EDIT_TARGET), target);
     PressKey(VK_RETURN);
     EXPECT_TRUE(IsGone(sheet));
     TakeFileMenu(COMMAND_OPEN);
-    EXPECT_EQ(L"x y", Started(2).back());
+    EXPECT_EQ(Started(2).back(), L"x y");
 }

@@ -48,8 +48,8 @@ class Hovering : public HandsTest {
             RestPointerAt(place.find(dialog), RestTime);
             Program().WaitForQueue();
             ASSERT_TRUE(IsWindowVisible(dialog.Window())) << "ended by resting on " << place.name;
-            EXPECT_EQ(dialog.Window(), GetForegroundWindow()) << place.name;
-            EXPECT_EQ(focus, FocusWindow()) << place.name;
+            EXPECT_EQ(GetForegroundWindow(), dialog.Window()) << place.name;
+            EXPECT_EQ(FocusWindow(), focus) << place.name;
             EXPECT_TRUE(!IsMenuOpen()) << place.name;
         }
     }
@@ -86,13 +86,13 @@ TEST_F(Hovering, over_the_buttons_of_the_folder_browser_does_nothing_and_its_tic
     const std::wstring chosen = L"\\" + Program().Tree().at(1).text;
     ExpectNothingWhereThePointerRests(browser, {tick, cross, On("the tree", TREE_FOLDERS)});
     if (HasFatalFailure()) return;
-    EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"");
     CloseBy(browser, tick);
     EXPECT_TRUE(HoldsWithin(StepDeadline,
                             [&] { return Program().Control(NamePage, COMBO_LOCATION).text == chosen; }));
     ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
     CloseBy(DialogInFront(), cross);
-    EXPECT_EQ(chosen, Program().Control(NamePage, COMBO_LOCATION).text);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, chosen);
 }
 
 TEST_F(Hovering, over_the_buttons_of_the_delete_question_does_nothing_and_each_click_answers_it) {
@@ -127,7 +127,7 @@ TEST_F(Hovering, over_the_properties_sheet_does_nothing_and_its_boxes_and_button
     const bool before = sheet.IsChecked(CHECK_READ_ONLY);
     ExpectNothingWhereThePointerRests(sheet, {readOnly, ok, cancel});
     if (HasFatalFailure()) return;
-    EXPECT_EQ(before, sheet.IsChecked(CHECK_READ_ONLY));
+    EXPECT_EQ(sheet.IsChecked(CHECK_READ_ONLY), before);
     ClickAt(readOnly.find(sheet));
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return sheet.IsChecked(CHECK_READ_ONLY) != before; }));
     CloseBy(sheet, cancel);
@@ -153,7 +153,7 @@ TEST_F(Hovering, over_the_shortcut_page_does_nothing) {
     const Place cancel = On("Cancel", IDCANCEL);
     ExpectNothingWhereThePointerRests(sheet, {On("OK", IDOK), cancel, On("the target", EDIT_TARGET)});
     if (HasFatalFailure()) return;
-    EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
+    EXPECT_EQ(sheet.Text(EDIT_TARGET), Path(L"a.qsa"));
     CloseBy(sheet, cancel);
 }
 
@@ -167,7 +167,7 @@ TEST_F(Hovering, over_the_button_of_an_error_box_does_nothing_and_a_click_closes
     // The reason first, then that the rename failed.
     for (int box = 0; box < 2; ++box) {
         const ProgramDialog error = DialogInFront();
-        ASSERT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+        ASSERT_EQ(error.Caption(), Shown(L"Error", L"ｴﾗｰ"));
         ExpectNothingWhereThePointerRests(error, {On("OK", IDOK)});
         if (HasFatalFailure()) return;
         CloseBy(error, On("OK", IDOK));
@@ -211,9 +211,9 @@ TEST_F(Hovering, over_tabs_headings_and_bar_of_the_main_window_does_nothing) {
         Program().WaitForQueue();
         EXPECT_TRUE(!IsMenuOpen()) << name;
         EXPECT_TRUE(NoDialogOpen()) << name;
-        EXPECT_EQ(NamePage, Program().CurrentPage()) << name;
-        EXPECT_EQ(rows, Program().RowNames()) << name;
-        EXPECT_EQ(focus, FocusWindow()) << name;
+        EXPECT_EQ(Program().CurrentPage(), NamePage) << name;
+        EXPECT_EQ(Program().RowNames(), rows) << name;
+        EXPECT_EQ(FocusWindow(), focus) << name;
     }
 }
 
@@ -228,5 +228,5 @@ TEST_F(Hovering, over_uninstall_does_nothing_and_a_click_ends_the_program) {
     ExpectNothingWhereThePointerRests(about, {uninstall});
     if (HasFatalFailure()) return;
     ClickAt(uninstall.find(about));
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
 }

@@ -30,7 +30,7 @@ class Keys : public HandsTest {
     }
     void ExpectSlowSearchWhole() {
         Program().WaitForEndOfSearch();
-        EXPECT_EQ((Names{L"zlast.qsa"}), Program().RowNames());
+        EXPECT_EQ(Program().RowNames(), (Names{L"zlast.qsa"}));
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     }
     [[nodiscard]] bool ListIsOpen(int id) {
@@ -52,8 +52,8 @@ TEST_F(Keys, enter_pressed_many_times_in_a_field_starts_one_search_and_opens_not
         Sleep(60);
     }
     EXPECT_TRUE(NothingStarted());
-    EXPECT_EQ(before + 1, Program().SearchesBegun());
-    EXPECT_EQ((Names{L"a.qsa"}), Program().RowNames());
+    EXPECT_EQ(Program().SearchesBegun(), before + 1);
+    EXPECT_EQ(Program().RowNames(), (Names{L"a.qsa"}));
 }
 
 TEST_F(Keys, enter_held_in_a_field_starts_one_search_and_opens_nothing) {
@@ -68,7 +68,7 @@ TEST_F(Keys, enter_held_in_a_field_starts_one_search_and_opens_nothing) {
         }
         ReleaseKey(VK_RETURN);
         EXPECT_TRUE(NothingStarted());
-        EXPECT_EQ(before + 1, Program().SearchesBegun());
+        EXPECT_EQ(Program().SearchesBegun(), before + 1);
     }
 }
 
@@ -88,7 +88,7 @@ TEST_F(Keys, escape_and_space_in_the_middle_of_a_search_abort_it) {
         BeginByEnter();
         PressKey(static_cast<WORD>(key));
         Program().WaitForEndOfSearch();
-        EXPECT_EQ((Names{}), Program().RowNames()) << "key " << key;
+        EXPECT_EQ(Program().RowNames(), (Names{})) << "key " << key;
     }
 }
 
@@ -107,8 +107,8 @@ TEST_F(Keys, other_keys_in_the_middle_of_a_search_do_nothing_then_or_later) {
     EXPECT_TRUE(NoMenuOpens());
     EXPECT_TRUE(NoDialogOpen());
     EXPECT_TRUE(Program().IsRunning());
-    EXPECT_EQ(L"needle", Program().Control(NamePage, EDIT_CONTENT).text);
-    EXPECT_EQ(0, Program().List().selected);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"needle");
+    EXPECT_EQ(Program().List().selected, 0);
 }
 
 TEST_F(Keys, enter_in_the_list_opens_the_file_once_however_long_it_is_held) {
@@ -121,10 +121,10 @@ TEST_F(Keys, enter_in_the_list_opens_the_file_once_however_long_it_is_held) {
         Sleep(30);
     }
     ReleaseKey(VK_RETURN);
-    EXPECT_EQ(1u, Started(1).size());
+    EXPECT_EQ(Started(1).size(), 1u);
     Program().BringForward();
     Sleep(Pause);
-    EXPECT_EQ(1u, Started(1).size());
+    EXPECT_EQ(Started(1).size(), 1u);
 }
 
 TEST_F(Keys, enter_in_the_list_opens_the_file_some_time_after_a_search_by_enter) {
@@ -134,12 +134,12 @@ TEST_F(Keys, enter_in_the_list_opens_the_file_some_time_after_a_search_by_enter)
     Program().WaitForEndOfSearch();
     Sleep(Pause);
     PressKey(VK_RETURN);
-    EXPECT_EQ(1u, Started(1).size());
+    EXPECT_EQ(Started(1).size(), 1u);
 }
 
 TEST_F(Keys, alt_and_enter_without_a_row_open_neither_properties_nor_a_menu) {
     Find(L"nothing has this name");
-    ASSERT_EQ(0, Program().List().count);
+    ASSERT_EQ(Program().List().count, 0);
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     PressKey(VK_RETURN, {VK_MENU});
     EXPECT_TRUE(NoMenuOpens());
@@ -208,7 +208,7 @@ TEST_F(Keys, escape_in_the_main_window_changes_nothing) {
         Program().WaitForQueue();
         EXPECT_TRUE(Program().HasFocus(NamePage, field)) << "control " << field;
     }
-    EXPECT_EQ(L"a*", Program().Control(NamePage, COMBO_NAME).text);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).text, L"a*");
     Program().FocusTab();
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(Program().TabHasFocus());

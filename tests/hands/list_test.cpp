@@ -43,9 +43,9 @@ class ListInHands : public HandsTest {
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] {
             return Sorted(Program().RowNames()) == Sorted({name, L"b.qsb", L"c.qsc"});
         })) << testing::PrintToString(Program().RowNames());
-        EXPECT_EQ("of a", ContentOf(name));
-        EXPECT_EQ("of b", ContentOf(L"b.qsb"));
-        EXPECT_EQ("of c", ContentOf(L"c.qsc"));
+        EXPECT_EQ(ContentOf(name), "of a");
+        EXPECT_EQ(ContentOf(L"b.qsb"), "of b");
+        EXPECT_EQ(ContentOf(L"c.qsc"), "of c");
         EXPECT_FALSE(Stands(L"a.qsa"));
     }
     [[nodiscard]] bool RowsBecome(const Names& names) {
@@ -90,8 +90,8 @@ TEST_F(ListInHands, the_properties_show_the_file_under_its_new_name) {
     Type(L"a.qsa", L"z.qsa");
     ClickBarButton(COMMAND_PROPERTIES);
     const ProgramDialog sheet = Dialog();
-    EXPECT_EQ(L"Alpha kind", sheet.Text(STATIC_TYPE));
-    EXPECT_EQ(L"0.0KB (4 bytes)", sheet.Text(STATIC_SIZE));
+    EXPECT_EQ(sheet.Text(STATIC_TYPE), L"Alpha kind");
+    EXPECT_EQ(sheet.Text(STATIC_SIZE), L"0.0KB (4 bytes)");
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
     ExpectRenamed(L"z.qsa");
@@ -128,7 +128,7 @@ TEST_F(ListInHands, a_change_of_the_view_takes_the_name_being_edited_first) {
 TEST_F(ListInHands, about_a_click_elsewhere_and_another_page_take_the_name_being_edited) {
     Type(L"a.qsa", L"z.qsa");
     PressKey(VK_F1);
-    EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), Dialog().Caption());
+    EXPECT_EQ(Dialog().Caption(), Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"));
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
     ExpectRenamed(L"z.qsa");
@@ -140,7 +140,7 @@ TEST_F(ListInHands, about_a_click_elsewhere_and_another_page_take_the_name_being
 TEST_F(ListInHands, the_end_of_the_program_takes_the_name_being_edited) {
     Type(L"a.qsa", L"z.qsa");
     PressKey('Q', {VK_CONTROL});
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
     EXPECT_TRUE(Stands(L"z.qsa"));
     EXPECT_FALSE(Stands(L"a.qsa"));
 }
@@ -155,12 +155,12 @@ TEST_F(ListInHands, a_second_click_on_a_name_edits_it_but_not_behind_a_dialog) {
     Sleep(Pause);
     ClickAt(PlaceOf(L"a.qsa"));
     ClickBarButton(COMMAND_PROPERTIES);
-    EXPECT_EQ(L"Alpha kind", Dialog().Text(STATIC_TYPE));
+    EXPECT_EQ(Dialog().Text(STATIC_TYPE), L"Alpha kind");
     Sleep(Pause);
-    EXPECT_EQ(nullptr, Edit());
+    EXPECT_EQ(Edit(), nullptr);
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
-    EXPECT_EQ(nullptr, Edit());
+    EXPECT_EQ(Edit(), nullptr);
 }
 
 TEST_F(ListInHands, a_click_on_the_selected_name_edits_nothing_after_a_key_a_menu_or_a_search) {
@@ -189,10 +189,10 @@ TEST_F(ListInHands, a_click_on_the_selected_name_edits_nothing_after_a_key_a_men
         ClickAt(PlaceOf(L"a.qsa"));
         act();
         Sleep(Pause);
-        EXPECT_EQ(nullptr, Edit()) << name;
+        EXPECT_EQ(Edit(), nullptr) << name;
         CloseMenus();
         Sleep(Pause);
-        EXPECT_EQ(nullptr, Edit()) << name << ", later";
+        EXPECT_EQ(Edit(), nullptr) << name << ", later";
         if (HasFailure()) return;
         SelectRow(L"a.qsa");
     }
@@ -216,7 +216,7 @@ TEST_F(ListInHands, the_wheel_over_the_list_takes_the_name_being_edited_for_its_
     Type(L"a.qsa", L"z.qsa");
     TurnWheelAt(CentreOf(ListPlace()), -3);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Edit() == nullptr; }));
-    EXPECT_EQ("of a", ContentOf(L"z.qsa"));
+    EXPECT_EQ(ContentOf(L"z.qsa"), "of a");
     EXPECT_FALSE(Stands(L"a.qsa"));
 }
 
@@ -225,7 +225,7 @@ TEST_F(ListInHands, the_first_row_is_in_sight_after_every_search) {
         AddFile(L"more" + std::to_wstring(i) + L".qsb");
     for (int search = 0; search < 2; ++search) {
         Find();
-        EXPECT_EQ(0, Program().List().selected);
+        EXPECT_EQ(Program().List().selected, 0);
         const std::vector<RowState> rows = Program().Rows();
         EXPECT_TRUE(Lies(rows.at(0).label, ListPlace())) << "search " << search;
         WaitUntil("the focus on the list", [&] { return Program().ListHasFocus(); });
@@ -271,7 +271,7 @@ TEST_F(ListInHands, left_and_right_bring_every_column_into_view) {
     for (const std::size_t column : {1u, 2u, 3u, 4u})
         EXPECT_TRUE(pressUntil(VK_RIGHT, column)) << "column " << column;
     EXPECT_TRUE(pressUntil(VK_LEFT, 0));
-    EXPECT_EQ(0, Program().List().selected);
+    EXPECT_EQ(Program().List().selected, 0);
 }
 
 TEST_F(ListInHands, a_double_click_opens_a_row_and_with_alt_its_properties) {
@@ -279,8 +279,8 @@ TEST_F(ListInHands, a_double_click_opens_a_row_and_with_alt_its_properties) {
     EXPECT_NE(std::wstring::npos, Started(1).at(0).find(L"b.qsb"));
     Program().BringForward();
     DoubleClickAt(PlaceOf(L"c.qsc"), {VK_MENU});
-    EXPECT_EQ(L"Gamma kind", Dialog().Text(STATIC_TYPE));
+    EXPECT_EQ(Dialog().Text(STATIC_TYPE), L"Gamma kind");
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
-    EXPECT_EQ(1u, Started(1).size());
+    EXPECT_EQ(Started(1).size(), 1u);
 }

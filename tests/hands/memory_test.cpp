@@ -46,8 +46,8 @@ class MemoryByHand : public testing::Test {
 
     void ExpectOrderlyEnd() {
         const bool hasNamePage = program.PageWith(CHECK_SUBFOLDERS) != nullptr;
-        EXPECT_EQ(0u, program.Close());
-        EXPECT_EQ(hasNamePage, AreSettingsSaved());
+        EXPECT_EQ(program.Close(), 0u);
+        EXPECT_EQ(AreSettingsSaved(), hasNamePage);
     }
 
     [[nodiscard]] LRESULT RowCount() const {
@@ -105,7 +105,7 @@ TEST_F(MemoryByHand, whatever_piece_is_refused_at_a_start_or_in_a_search_the_pro
         program.Start(drive.Root());
         if (!program.IsRunning()) {
             EXPECT_TRUE(program.HasComplained());
-            EXPECT_EQ(ExitWithoutWindow, program.ExitCode());
+            EXPECT_EQ(program.ExitCode(), ExitWithoutWindow);
             continue;
         }
         program.Run(COMMAND_FIND);
@@ -137,7 +137,7 @@ TEST_F(MemoryByHand, whatever_piece_is_refused_in_a_command_the_program_goes_on)
             Dismiss();
             program.RefuseMemory(0);
             ASSERT_TRUE(program.IsRunning());
-            EXPECT_EQ(rows, RowCount());
+            EXPECT_EQ(RowCount(), rows);
         }
         act();
         EXPECT_TRUE(HoldsWithin(StepDeadline, [this] { return IsAnythingOpen(); })) << name;

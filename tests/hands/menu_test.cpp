@@ -15,7 +15,7 @@ TEST_F(Menus, a_search_ignores_case_after_the_option_was_unticked_with_the_point
     ClickMenuItem(COMMAND_CHECK_CASE);
     Program().WaitForQueue();
     ASSERT_FALSE(CaseIsChecked());
-    EXPECT_EQ((Names{L"a.txt"}), NamesFoundBy(Containing(L"two", Folder())));
+    EXPECT_EQ(NamesFoundBy(Containing(L"two", Folder())), (Names{L"a.txt"}));
 }
 
 TEST_F(Menus, a_highlight_that_was_left_on_the_unticked_option_changes_nothing) {
@@ -25,7 +25,7 @@ TEST_F(Menus, a_highlight_that_was_left_on_the_unticked_option_changes_nothing) 
     MovePointerTo(CentreOf(Program().MenuItem(COMMAND_CHECK_CASE).rectangle));
     CloseMenus();
     ASSERT_FALSE(CaseIsChecked());
-    EXPECT_EQ((Names{L"a.txt"}), NamesFoundBy(Containing(L"two", Folder())));
+    EXPECT_EQ(NamesFoundBy(Containing(L"two", Folder())), (Names{L"a.txt"}));
 }
 
 TEST_F(Menus, a_search_ignores_case_after_the_option_was_unticked_with_keys) {
@@ -34,7 +34,7 @@ TEST_F(Menus, a_search_ignores_case_after_the_option_was_unticked_with_keys) {
     TakeMenuItemByKeys(COMMAND_CHECK_CASE);
     Program().WaitForQueue();
     ASSERT_FALSE(CaseIsChecked());
-    EXPECT_EQ((Names{L"a.txt"}), NamesFoundBy(Containing(L"two", Folder())));
+    EXPECT_EQ(NamesFoundBy(Containing(L"two", Folder())), (Names{L"a.txt"}));
 }
 
 TEST_F(Menus, left_and_right_go_from_menu_to_menu_while_the_pointer_rests_on_a_bar_button) {
@@ -85,7 +85,7 @@ TEST_F(Menus, a_pointer_that_rests_on_a_bar_button_or_passes_it_does_nothing) {
         RestPointerAt(CentreOf(button.rectangle), 900);
     EXPECT_FALSE(IsMenuOpen());
     EXPECT_TRUE(NoDialogOpen());
-    EXPECT_EQ(searches, Program().SearchesBegun());
+    EXPECT_EQ(Program().SearchesBegun(), searches);
     EXPECT_TRUE(Program().HasFocus(NamePage, EDIT_CONTENT));
 }
 
@@ -96,7 +96,7 @@ TEST_F(Menus, the_find_and_properties_buttons_do_their_work) {
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().RowNames() == Names{L"a.qsa"}; }));
     Program().WaitForEndOfSearch();
     ClickBarButton(COMMAND_PROPERTIES);
-    EXPECT_EQ(L"Alpha kind", Dialog().Text(STATIC_TYPE));
+    EXPECT_EQ(Dialog().Text(STATIC_TYPE), L"Alpha kind");
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
 }
@@ -131,11 +131,11 @@ class MenuItems : public Menus {
         AddFile(L"a.qsa");
         Find();
         Take(way, FileMenu, COMMAND_OPEN);
-        EXPECT_EQ(1u, Started(1).size());
+        EXPECT_EQ(Started(1).size(), 1u);
         Program().BringForward();
 
         Take(way, FileMenu, COMMAND_DELETE);
-        EXPECT_EQ(Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"));
         LeaveDialog();
         EXPECT_TRUE(Stands(L"a.qsa"));
 
@@ -145,7 +145,7 @@ class MenuItems : public Menus {
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
 
         Take(way, FileMenu, COMMAND_PROPERTIES);
-        EXPECT_EQ(L"Alpha kind", Dialog().Text(STATIC_TYPE));
+        EXPECT_EQ(Dialog().Text(STATIC_TYPE), L"Alpha kind");
         LeaveDialog();
     }
     void TakeEachOther(Way way) {
@@ -157,21 +157,21 @@ class MenuItems : public Menus {
         EXPECT_TRUE(ShowsView(LVS_REPORT, COMMAND_DETAILS));
 
         Take(way, ViewMenu, COMMAND_ABOUT);
-        EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"));
         LeaveDialog();
 
         for (const bool checked : {false, true}) {
             Take(way, OptionMenu, COMMAND_CHECK_CASE);
-            EXPECT_EQ(checked, CaseIsChecked());
+            EXPECT_EQ(CaseIsChecked(), checked);
         }
 
         Program().Fill(Named(L"x", L"\\names"));
         Take(way, OptionMenu, COMMAND_NEW_CONDITION);
-        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_NAME).text);
-        EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text);
+        EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).text, L"");
+        EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"");
 
         Take(way, FileMenu, COMMAND_EXIT);
-        EXPECT_EQ(0u, Program().WaitForEnd());
+        EXPECT_EQ(Program().WaitForEnd(), 0u);
     }
 };
 

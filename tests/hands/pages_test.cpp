@@ -56,7 +56,7 @@ class PagesInHands : public HandsTest {
         EXPECT_TRUE(HoldsWithin(StepDeadline, [] { return OpenList() == nullptr; }));
     }
     void ExpectBrowserOpens() {
-        EXPECT_EQ(Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"));
         PressKey(VK_ESCAPE);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return NoDialogOpen(); }));
     }
@@ -91,7 +91,7 @@ TEST_F(PagesInHands, an_entry_of_the_history_is_taken_by_pointer_and_by_keys) {
     PressKey(VK_RETURN);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [] { return OpenList() == nullptr; }));
     EXPECT_TRUE(TextIs(NamePage, COMBO_NAME, L"*.log"));
-    EXPECT_EQ(0, Program().SearchesBegun());
+    EXPECT_EQ(Program().SearchesBegun(), 0);
     // Given up with Esc: what the list is left at goes back.
     PressKey(VK_DOWN, {VK_MENU});
     WaitUntil("the list to open", [] { return OpenList() != nullptr; });
@@ -187,7 +187,7 @@ TEST_F(PagesInHands, the_days_are_set_by_spin_arrows_and_digits) {
     PressKey(VK_BACK);
     TypeText(L"14");
     EXPECT_TRUE(TextIs(DatePage, EDIT_DAYS, L"14"));
-    EXPECT_EQ(14, Program().Spin(DatePage, SPIN_DAYS).position);
+    EXPECT_EQ(Program().Spin(DatePage, SPIN_DAYS).position, 14);
 }
 
 TEST_F(PagesInHands, a_date_is_changed_by_arrow_keys) {
@@ -238,7 +238,7 @@ TEST_F(PagesInHands, a_type_is_chosen_by_pointer_and_by_keys) {
     ASSERT_GE(kinds.size(), 3u);
     ClickAt(PlaceOf(SizePage, COMBO_FILE_TYPE));
     ClickEntry(2);
-    EXPECT_EQ(2, Program().Combo(SizePage, COMBO_FILE_TYPE).selected);
+    EXPECT_EQ(Program().Combo(SizePage, COMBO_FILE_TYPE).selected, 2);
     PressKey(VK_UP);
     EXPECT_TRUE(
         HoldsWithin(StepDeadline, [&] { return Program().Combo(SizePage, COMBO_FILE_TYPE).selected == 1; }));
@@ -268,6 +268,6 @@ TEST_F(PagesInHands, a_pointer_that_rests_on_the_controls_changes_nothing) {
         RestPointerAt(CentreOf(tab.rectangle), 700);
     EXPECT_TRUE(NoDialogOpen());
     EXPECT_TRUE(Program().TabHasFocus());
-    EXPECT_EQ(NamePage, Program().CurrentPage());
+    EXPECT_EQ(Program().CurrentPage(), NamePage);
     EXPECT_FALSE(IsChecked(NamePage, CHECK_SUBFOLDERS));
 }

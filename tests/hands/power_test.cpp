@@ -145,10 +145,10 @@ class PowerByHand : public HandsTest {
     // "mine" in a file of one of these names, and the other one as it was.
     void ExpectBothFiles(const Names& names) const {
         auto files = FilesOnDisk();
-        EXPECT_EQ("theirs", files[L"other.qsa"]);
+        EXPECT_EQ(files[L"other.qsa"], "theirs");
         files.erase(L"other.qsa");
-        ASSERT_EQ(1u, files.size());
-        EXPECT_EQ("mine", files.begin()->second);
+        ASSERT_EQ(files.size(), 1u);
+        EXPECT_EQ(files.begin()->second, "mine");
         EXPECT_NE(names.end(), std::find(names.begin(), names.end(), files.begin()->first))
             << testing::PrintToString(files.begin()->first);
     }
@@ -189,7 +189,7 @@ TEST_F(PowerByHand, before_a_rename_the_file_has_its_old_name) {
 TEST_F(PowerByHand, before_any_step_of_a_rename_by_letter_case_the_file_has_one_name_with_the_old_one_in_it) {
     ExpectAtEveryChange(Renaming(L"Notes.QSA", {L"notes.qsa", L"rename~1 notes.qsa", L"Notes.QSA"}));
     StartAgain();
-    EXPECT_EQ((Names{L"Notes.QSA", L"other.qsa"}), Sorted(Find(L"*.qsa")));
+    EXPECT_EQ(Sorted(Find(L"*.qsa")), (Names{L"Notes.QSA", L"other.qsa"}));
 }
 
 TEST_F(PowerByHand, at_any_time_of_a_rename_the_file_has_one_name) {
@@ -209,9 +209,9 @@ TEST_F(PowerByHand, before_a_delete_the_file_is_whole) {
                          },
                          [this] { return !Stands(L"notes.qsa"); },
                          [this] {
-                             EXPECT_EQ("theirs", ContentOf(L"other.qsa"));
+                             EXPECT_EQ(ContentOf(L"other.qsa"), "theirs");
                              if (Stands(L"notes.qsa")) {
-                                 EXPECT_EQ("mine", ContentOf(L"notes.qsa"));
+                                 EXPECT_EQ(ContentOf(L"notes.qsa"), "mine");
                              }
                          }});
 }
@@ -313,7 +313,7 @@ class PowerAndSettings : public PowerByHand {
         StartAgain();
         for (const std::wstring& entry : Program().Combo(NamePage, COMBO_NAME).entries)
             EXPECT_NE(newNames.end(), std::find(newNames.begin(), newNames.end(), entry));
-        EXPECT_EQ(2u, NamesFoundBy(Named(L"abc", L"\\names")).size());
+        EXPECT_EQ(NamesFoundBy(Named(L"abc", L"\\names")).size(), 2u);
     }
 };
 
@@ -341,10 +341,10 @@ TEST_F(PowerAndSettings, at_any_time_of_the_end_the_values_are_old_or_new) {
 TEST_F(PowerAndSettings, before_any_key_is_removed_the_others_are_whole_and_uninstalling_again_removes_them) {
     const auto expectWholeKeys = [this] {
         if (KeyExists(NameKey)) {
-            EXPECT_EQ(ValuesOfTexts(oldNames), ValuesOf(NameKey));
+            EXPECT_EQ(ValuesOf(NameKey), ValuesOfTexts(oldNames));
         }
         if (KeyExists(LocationKey)) {
-            EXPECT_EQ(ValuesOfTexts(oldLocations), ValuesOf(LocationKey));
+            EXPECT_EQ(ValuesOf(LocationKey), ValuesOfTexts(oldLocations));
         }
     };
     const auto uninstall = [this] { Opened(COMMAND_ABOUT).Click(BUTTON_UNINSTALL); };
@@ -355,7 +355,7 @@ TEST_F(PowerAndSettings, before_any_key_is_removed_the_others_are_whole_and_unin
                              StartAgain();
                              Program().BringForward();
                              uninstall();
-                             EXPECT_EQ(0u, Program().WaitForEnd());
+                             EXPECT_EQ(Program().WaitForEnd(), 0u);
                              EXPECT_FALSE(KeyExists(ProductKey));
                          }},
                         FirstPlaceOfWorld(), WorldCount);

@@ -95,7 +95,7 @@ class Refusals : public testing::Test {
         program_.Run(COMMAND_FIND);
         ASSERT_TRUE(program_.IsRunning());
         if (program_.Child(WC_LISTVIEWW) == nullptr) return;
-        EXPECT_EQ(hasNamePage ? 2 : 3, RowCount());
+        EXPECT_EQ(RowCount(), hasNamePage ? 2 : 3);
     }
 
     // A search leaves the focus in the list, and Tab leads on to the tab control, which keeps it where there
@@ -135,9 +135,9 @@ class Refusals : public testing::Test {
 
     void ExpectOrderlyEnd(DWORD subFolders = 1) {
         const bool hasNamePage = program_.PageWith(CHECK_SUBFOLDERS) != nullptr;
-        EXPECT_EQ(0u, program_.Close());
-        EXPECT_EQ(hasNamePage, IsSaved(L"Sub Folder", subFolders));
-        EXPECT_EQ(hasNamePage, IsFirstNameSaved());
+        EXPECT_EQ(program_.Close(), 0u);
+        EXPECT_EQ(IsSaved(L"Sub Folder", subFolders), hasNamePage);
+        EXPECT_EQ(IsFirstNameSaved(), hasNamePage);
     }
 
     static constexpr DWORD LongestStep = 5000;
@@ -156,7 +156,7 @@ class RefusedCommands : public Refusals {
         FillNamePage();
         SendMessageW(program_.Control(CHECK_SUBFOLDERS), BM_SETCHECK, BST_UNCHECKED, 0);
         program_.Run(COMMAND_FIND);
-        ASSERT_EQ(1, RowCount());
+        ASSERT_EQ(RowCount(), 1);
     }
 
     // A last search and an end as usual.
@@ -202,7 +202,7 @@ class RefusedCommands : public Refusals {
             SCOPED_TRACE(testing::Message() << "creation " << number << ": " << name.c_str());
             program_.Refuse(0);
             ASSERT_TRUE(program_.IsRunning());
-            EXPECT_EQ(1, RowCount());
+            EXPECT_EQ(RowCount(), 1);
             EXPECT_TRUE(Stands(L"alpha.txt"));
             action();
             EXPECT_TRUE(HoldsWithin(LongestStep, [this] { return IsAnythingOpen(); }));
@@ -226,7 +226,7 @@ TEST_F(Refusals, whatever_cannot_be_made_at_the_start_costs_that_alone) {
         SCOPED_TRACE(testing::Message() << "creation " << number << ": " << refused_.c_str());
         EXPECT_EQ(IsToldOf(refused_), program_.HasComplained());
         if (!program_.IsRunning()) {
-            EXPECT_EQ(ExitWithoutWindow, program_.ExitCode());
+            EXPECT_EQ(program_.ExitCode(), ExitWithoutWindow);
             EXPECT_TRUE(refused_ == L"class" || refused_ == L"QuorinSearch");
             continue;
         }

@@ -212,8 +212,8 @@ class RefusedCalls : public testing::Test {
         for (const auto& [path, file] : expected) {
             const auto found = files.find(path);
             ASSERT_NE(files.end(), found) << "lost: " << Utf8(path);
-            EXPECT_EQ(file.content, found->second.content) << Utf8(path);
-            EXPECT_EQ(file.attributes, found->second.attributes) << Utf8(path);
+            EXPECT_EQ(found->second.content, file.content) << Utf8(path);
+            EXPECT_EQ(found->second.attributes, file.attributes) << Utf8(path);
             files.erase(found);
         }
         for (const auto& [path, file] : files)
@@ -273,16 +273,16 @@ class RefusedCalls : public testing::Test {
     static void ExpectRightWords(LifeStep step, const StepRefusal& refusal, const StepReport& now) {
         if (!IsTold(step, refusal) || now.timesRefused == 0) return;
         const std::vector<std::wstring> texts = TextsOf(step, refusal);
-        ASSERT_EQ(texts.size(), now.errors.size());
+        ASSERT_EQ(now.errors.size(), texts.size());
         for (std::size_t i = 0; i < texts.size(); ++i)
-            EXPECT_EQ(WithoutBlanks(texts[i]), WithoutBlanks(now.errors[i]));
+            EXPECT_EQ(WithoutBlanks(now.errors[i]), WithoutBlanks(texts[i]));
     }
 
     void ExpectEnd(const LifePlan& plan, const LifeReport& report) {
         const bool mayRunOut = IsRefused(plan, {"malloc"});
         if (mayRunOut && report.exitCode == ExitOutOfMemory) return;
         const bool goesOn = report.hadWindow || IsRefused(plan, {"GetMessageW"});
-        EXPECT_EQ(goesOn ? 0u : ExitWithoutWindow, report.exitCode);
+        EXPECT_EQ(report.exitCode, goesOn ? 0u : ExitWithoutWindow);
         for (const auto& [step, now] : report.steps)
             EXPECT_TRUE(!now.isAborted || IsRefused(plan, {"PostMessageW"})) << NameOf(step);
         if (report.steps.contains(LifeStep::Close) && report.exitCode == 0) ExpectSettingsSaved(plan, report);
@@ -291,7 +291,7 @@ class RefusedCalls : public testing::Test {
     void ExpectSettingsSaved(const LifePlan& plan, const LifeReport& report) {
         if (IsRefused(plan, {"RegCreateKeyExW", "RegSetValueExW"}) || !report.hadNamePage) return;
         bool isSaved = false;
-        EXPECT_EQ(static_cast<DWORD>(report.subFolders), SavedSubFolders(isSaved));
+        EXPECT_EQ(SavedSubFolders(isSaved), static_cast<DWORD>(report.subFolders));
         EXPECT_TRUE(isSaved);
     }
 
@@ -418,12 +418,12 @@ TEST_F(RefusedCalls, are_all_made_where_nothing_is_refused) {
     EXPECT_TRUE(files.contains(RefusedLife::NewName));
     EXPECT_FALSE(files.contains(RefusedLife::ToRename));
     EXPECT_FALSE(files.contains(RefusedLife::ToDelete));
-    EXPECT_EQ(static_cast<DWORD>(FILE_ATTRIBUTE_READONLY), files.at(PathToChange).attributes);
+    EXPECT_EQ(files.at(PathToChange).attributes, static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
     EXPECT_NE(life.FilesAtStart().at(RefusedLife::Shortcut), files.at(RefusedLife::Shortcut));
-    EXPECT_EQ(life.FilesAtStart().size(), files.size());  // one is deleted, one is in the Start menu
-    EXPECT_EQ(3u, report.rows.size());
-    EXPECT_EQ(2u, report.At(LifeStep::FailedRename).errors.size());
-    EXPECT_EQ(0u, report.exitCode);
+    EXPECT_EQ(files.size(), life.FilesAtStart().size());  // one is deleted, one is in the Start menu
+    EXPECT_EQ(report.rows.size(), 3u);
+    EXPECT_EQ(report.At(LifeStep::FailedRename).errors.size(), 2u);
+    EXPECT_EQ(report.exitCode, 0u);
     std::set<LONG> calls;
     for (const probe::CallPlace& place : life.CallsNoted())
         calls.insert(place.call);
@@ -436,7 +436,7 @@ TEST_F(RefusedCalls, are_made_in_an_uninstall_where_nothing_is_refused) {
     const LifeReport report = life.Run({LifeWithUninstall, {}});
     EXPECT_TRUE(report.At(LifeStep::Uninstall).errors.empty());
     EXPECT_FALSE(report.steps.contains(LifeStep::Close));
-    EXPECT_EQ(0u, report.exitCode);
+    EXPECT_EQ(report.exitCode, 0u);
     bool isSaved = true;
     SavedSubFolders(isSaved);
     EXPECT_FALSE(isSaved);
@@ -444,7 +444,7 @@ TEST_F(RefusedCalls, are_made_in_an_uninstall_where_nothing_is_refused) {
 
 TEST_F(RefusedCalls, that_load_the_shell_cost_its_icons_and_no_row) {
     const LifeReport report = LiveRefusing("LoadLibraryExW", LifeStep::Search, true);
-    EXPECT_EQ(3u, report.rows.size());
+    EXPECT_EQ(report.rows.size(), 3u);
 }
 
 TEST_F(RefusedCalls, that_take_a_message_are_made_again) {
@@ -456,7 +456,7 @@ TEST_F(RefusedCalls, that_take_a_message_end_the_program_with_its_settings_saved
     const LifeReport report = LiveRefusing("GetMessageW", LifeStep::Sort, true);
     EXPECT_FALSE(report.steps.contains(LifeStep::Close));
     bool isSaved = false;
-    EXPECT_EQ(static_cast<DWORD>(BST_CHECKED), SavedSubFolders(isSaved));
+    EXPECT_EQ(SavedSubFolders(isSaved), static_cast<DWORD>(BST_CHECKED));
     EXPECT_TRUE(isSaved);
 }
 

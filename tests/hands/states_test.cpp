@@ -112,8 +112,8 @@ class States : public HandsTest {
                                     return focus == Program().Window() || IsChild(Program().Window(), focus);
                                 }))
             << what << ": no focus in the main window";
-        EXPECT_EQ("of a", ContentOf(L"a.qsa")) << what;
-        EXPECT_EQ("of b", ContentOf(L"b.qsb")) << what;
+        EXPECT_EQ(ContentOf(L"a.qsa"), "of a") << what;
+        EXPECT_EQ(ContentOf(L"b.qsb"), "of b") << what;
     }
 
     // Each input once in the state, which is entered anew each time.
@@ -127,13 +127,13 @@ class States : public HandsTest {
             EXPECT_TRUE(Program().IsRunning()) << what;
             Leave();
             ExpectAtRest(what);
-            EXPECT_EQ(Names(), Started(0)) << what;
+            EXPECT_EQ(Started(0), Names()) << what;
             if (HasFailure()) return;
             if (Program().CurrentPage() != NamePage) Program().ShowPage(NamePage);
             Program().SelectRow(0);
         }
         EXPECT_TRUE(NothingStarted()) << state;
-        EXPECT_EQ((Names{L"a.qsa", L"b.qsb"}), Sorted(Program().RowNames()));
+        EXPECT_EQ(Sorted(Program().RowNames()), (Names{L"a.qsa", L"b.qsb"}));
     }
 
     // A dialog keeps the keyboard, and the main window takes no click where the dialog leaves it free.
@@ -154,14 +154,14 @@ class States : public HandsTest {
         }
         Leave();
         ExpectAtRest(state);
-        EXPECT_EQ(searches, Program().SearchesBegun()) << state;
-        EXPECT_EQ(NamePage, Program().CurrentPage()) << state;
+        EXPECT_EQ(Program().SearchesBegun(), searches) << state;
+        EXPECT_EQ(Program().CurrentPage(), NamePage) << state;
     }
 
     void OpenQuestion() {
         OpenMenuByKeys(FileMenu);
         TakeMenuItemByKeys(COMMAND_DELETE);
-        EXPECT_EQ(Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"));
     }
     void OpenSheet() {
         ClickBarButton(COMMAND_PROPERTIES);
@@ -169,11 +169,11 @@ class States : public HandsTest {
     }
     void OpenAbout() {
         PressKey(VK_F1);
-        EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"));
     }
     void OpenBrowser() {
         ClickAt(PlaceOf(NamePage, BUTTON_BROWSE));
-        EXPECT_EQ(Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"), Dialog().Caption());
+        EXPECT_EQ(Dialog().Caption(), Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"));
     }
     void OpenEdit() {
         ClickAt(CentreOf(Program().Rows().at(0).label));

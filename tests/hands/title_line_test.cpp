@@ -65,10 +65,10 @@ TEST_F(TitleLine, of_a_dialog_moves_it_unless_it_fills_the_screen) {
     const bool filled = FillsScreen(about.Window());
     // Upright and square screens of a handheld; a lower one shows what is around the dialog.
     const int width = GetSystemMetrics(SM_CXSCREEN);
-    EXPECT_EQ(width <= 320 && width <= GetSystemMetrics(SM_CYSCREEN), filled);
+    EXPECT_EQ(filled, width <= 320 && width <= GetSystemMetrics(SM_CYSCREEN));
     const RECT before = about.Place();
     DragTitle(about.Window());
     const RECT after = about.Place();
-    EXPECT_EQ(filled, EqualRect(&before, &after) != FALSE);
+    EXPECT_EQ(EqualRect(&before, &after) != FALSE, filled);
     PressKey(VK_ESCAPE);
 }

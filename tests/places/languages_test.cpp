@@ -80,8 +80,8 @@ TEST(NamesInPlace, a_pattern_takes_letters_of_every_script_without_regard_to_cas
 }
 
 TEST(OrderInPlace, the_sort_ignores_the_case_of_the_english_letters_alone) {
-    EXPECT_EQ(0, OrderOf(L"TITLE", L"title"));
-    EXPECT_EQ(0, OrderOf(L"I", L"i"));
+    EXPECT_EQ(OrderOf(L"TITLE", L"title"), 0);
+    EXPECT_EQ(OrderOf(L"I", L"i"), 0);
     // By their units: "ı" is U+0131, "İ" is U+0130, and both come after every English letter.
     EXPECT_LT(0, OrderOf(L"ı", L"z"));
     EXPECT_LT(0, OrderOf(L"İ", L"Z"));
@@ -92,19 +92,19 @@ TEST(OrderInPlace, the_sort_ignores_the_case_of_the_english_letters_alone) {
 TEST(ContentInPlace, the_bytes_of_the_english_letters_are_folded_and_no_others) {
     char bytes[] = "title \xFD\xDD\xE4\xC4 i";
     UpperCaseBytes(bytes, false);
-    EXPECT_STREQ("TITLE \xFD\xDD\xE4\xC4 I", bytes);
+    EXPECT_STREQ(bytes, "TITLE \xFD\xDD\xE4\xC4 I");
 }
 
 TEST(NumbersInPlace, sizes_are_written_without_groups_and_with_a_point) {
-    EXPECT_EQ(L"1023K", RowSize(1048575));
-    EXPECT_EQ(L"2047M", RowSize(0x7FFFFFFF));
-    EXPECT_EQ(L"99.9KB (102399 bytes)", SizeDetails(102399));
-    EXPECT_EQ(L"2097151KB (2147483647 bytes)", SizeDetails(2147483647));
+    EXPECT_EQ(RowSize(1048575), L"1023K");
+    EXPECT_EQ(RowSize(0x7FFFFFFF), L"2047M");
+    EXPECT_EQ(SizeDetails(102399), L"99.9KB (102399 bytes)");
+    EXPECT_EQ(SizeDetails(2147483647), L"2097151KB (2147483647 bytes)");
 }
 
 TEST_F(SizesInPlace, the_kilobytes_count_in_whatever_groups_the_system_writes_them) {
     for (const int kilobytes : {7, 999, 1000, 2000, 32767})
-        EXPECT_EQ(static_cast<std::uint32_t>(kilobytes) * 1024, BoundOf(kilobytes)) << kilobytes;
+        EXPECT_EQ(BoundOf(kilobytes), static_cast<std::uint32_t>(kilobytes) * 1024) << kilobytes;
 }
 
 TEST(TypesInPlace, an_extension_is_known_in_either_case) {
@@ -114,9 +114,9 @@ TEST(TypesInPlace, an_extension_is_known_in_either_case) {
     types.Add(L"qs.inplace", L"A kind");
     types.Add(L"qs.inplace\\Shell\\Open\\Command", L"\\none.exe");
     const FileTypeTable table;
-    EXPECT_STREQ(L"qs.inplace", table.TypeKeyOf(L"\\title.qsi"));
-    EXPECT_STREQ(L"qs.inplace", table.TypeKeyOf(L"\\TITLE.QSI"));
-    EXPECT_STREQ(L"", table.TypeKeyOf(L"\\title.qsı"));
+    EXPECT_STREQ(table.TypeKeyOf(L"\\title.qsi"), L"qs.inplace");
+    EXPECT_STREQ(table.TypeKeyOf(L"\\TITLE.QSI"), L"qs.inplace");
+    EXPECT_STREQ(table.TypeKeyOf(L"\\title.qsı"), L"");
 }
 
 class HistoriesInPlace : public HistoryComboFixture {};

@@ -58,10 +58,10 @@ TEST_F(WholeInPlace, rows_and_their_order_by_time_are_what_the_clock_here_shows)
         AddWritten(std::wstring(odd.name, odd.name + std::strlen(odd.name)), odd.moment);
         expected.push_back(RowTextAt(odd.moment));
     }
-    ASSERT_EQ(static_cast<std::size_t>(MomentCount), Find().size());
+    ASSERT_EQ(Find().size(), static_cast<std::size_t>(MomentCount));
     for (const NamedMoment& odd : OddMoments)
-        EXPECT_EQ(RowTextAt(odd.moment),
-                  Row(std::wstring(odd.name, odd.name + std::strlen(odd.name))).modified);
+        EXPECT_EQ(Row(std::wstring(odd.name, odd.name + std::strlen(odd.name))).modified,
+                  RowTextAt(odd.moment));
     ClickHeading(ModifiedColumn);
     const auto shown = [&] {
         Names texts;
@@ -76,25 +76,25 @@ TEST_F(WholeInPlace, rows_and_their_order_by_time_are_what_the_clock_here_shows)
 TEST_F(WholeInPlace, between_two_picked_days_runs_from_midnight_to_midnight_here) {
     AddAround(L"29 February", LocalMomentOf(2000, 2, 29));
     AddAround(L"1 March", LocalMomentOf(2000, 3, 1));
-    EXPECT_EQ((Names{L"0 1 March", L"1 1 March", L"1 29 February", L"2 29 February"}),
-              FoundBetween(20000229, 20000301));
-    EXPECT_EQ((Names{L"1 29 February"}), FoundBetween(20000229, 20000229));
+    EXPECT_EQ(FoundBetween(20000229, 20000301),
+              (Names{L"0 1 March", L"1 1 March", L"1 29 February", L"2 29 February"}));
+    EXPECT_EQ(FoundBetween(20000229, 20000229), (Names{L"1 29 February"}));
     AddAround(L"1970", LocalMomentOf(1970, 1, 1));
     AddAround(L"2107", LocalMomentOf(2107, 12, 31));
-    EXPECT_EQ((Names{}), FoundBetween(19691231, 19691231));
-    EXPECT_EQ((Names{L"0 1970", L"1 1970"}), FoundBetween(19691231, 19700101));
-    EXPECT_EQ((Names{L"1 2107"}), FoundBetween(21071231, 21071231));
+    EXPECT_EQ(FoundBetween(19691231, 19691231), (Names{}));
+    EXPECT_EQ(FoundBetween(19691231, 19700101), (Names{L"0 1970", L"1 1970"}));
+    EXPECT_EQ(FoundBetween(21071231, 21071231), (Names{L"1 2107"}));
 }
 
 TEST_F(WholeInPlace, between_days_around_a_night_of_summer_times_change_is_as_between_any_others) {
     AddAround(L"spring", LocalMomentOf(2002, 3, 31));
     AddAround(L"spring after", LocalMomentOf(2002, 4, 1));
-    EXPECT_EQ((Names{L"0 spring after", L"1 spring", L"1 spring after", L"2 spring"}),
-              FoundBetween(20020331, 20020401));
+    EXPECT_EQ(FoundBetween(20020331, 20020401),
+              (Names{L"0 spring after", L"1 spring", L"1 spring after", L"2 spring"}));
     AddAround(L"autumn", LocalMomentOf(2002, 10, 27));
     AddAround(L"autumn after", LocalMomentOf(2002, 10, 28));
-    EXPECT_EQ((Names{L"0 autumn after", L"1 autumn", L"1 autumn after", L"2 autumn"}),
-              FoundBetween(20021027, 20021028));
+    EXPECT_EQ(FoundBetween(20021027, 20021028),
+              (Names{L"0 autumn after", L"1 autumn", L"1 autumn after", L"2 autumn"}));
 }
 
 TEST_F(WholeInPlace, past_days_begin_at_midnight_by_the_utc_date_and_end_now_both_read_as_local) {
@@ -110,7 +110,7 @@ TEST_F(WholeInPlace, past_days_begin_at_midnight_by_the_utc_date_and_end_now_bot
         AddWritten(L"late", Now() - ahead + Margin);
         found = FoundInPastDays(Days);
     }
-    EXPECT_EQ((Names{L"1 first", L"2 first", L"last"}), found);
+    EXPECT_EQ(found, (Names{L"1 first", L"2 first", L"last"}));
 }
 
 TEST_F(WholeInPlace, the_properties_show_the_systems_short_forms_of_the_clock_here) {
@@ -119,35 +119,35 @@ TEST_F(WholeInPlace, the_properties_show_the_systems_short_forms_of_the_clock_he
     Find();
     SelectRow(L"a.qsa");
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
-    EXPECT_EQ(ShortForms(ClockAt(moment)), sheet.Text(STATIC_MODIFIED));
-    EXPECT_EQ(L"0.0KB (4 bytes)", sheet.Text(STATIC_SIZE));
+    EXPECT_EQ(sheet.Text(STATIC_MODIFIED), ShortForms(ClockAt(moment)));
+    EXPECT_EQ(sheet.Text(STATIC_SIZE), L"0.0KB (4 bytes)");
     sheet.Press(IDCANCEL);
 }
 
 TEST_F(WholeInPlace, every_language_but_japanese_reads_english) {
-    EXPECT_EQ(Shown(L"Name", L"名前"), Program().Columns().at(NameColumn).heading);
+    EXPECT_EQ(Program().Columns().at(NameColumn).heading, Shown(L"Name", L"名前"));
     AddFile(L"a.qsa");
     Find();
     SelectRow(L"a.qsa");
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
-    EXPECT_EQ(Shown(L"&Read-only", L"読みとり専用(&R)"), sheet.Text(CHECK_READ_ONLY));
+    EXPECT_EQ(sheet.Text(CHECK_READ_ONLY), Shown(L"&Read-only", L"読みとり専用(&R)"));
     sheet.Press(IDCANCEL);
 }
 
 TEST_F(WholeInPlace, names_are_found_and_sorted_by_their_english_letters_whatever_the_systems_own) {
     for (const wchar_t* name : {L"TITLE.INI", L"title 2.ini", L"tıtle.txt", L"TİTLE.txt"})
         AddFile(name);
-    EXPECT_EQ((Names{L"TITLE.INI", L"title 2.ini"}), Sorted(Find(L"TITLE*")));
-    EXPECT_EQ((Names{L"TITLE.INI", L"title 2.ini"}), Sorted(Find(L"*.ini")));
-    EXPECT_EQ((Names{L"TITLE.INI"}), Find(L"TITLE"));
-    EXPECT_EQ((Names{L"tıtle.txt"}), Find(L"ı"));
+    EXPECT_EQ(Sorted(Find(L"TITLE*")), (Names{L"TITLE.INI", L"title 2.ini"}));
+    EXPECT_EQ(Sorted(Find(L"*.ini")), (Names{L"TITLE.INI", L"title 2.ini"}));
+    EXPECT_EQ(Find(L"TITLE"), (Names{L"TITLE.INI"}));
+    EXPECT_EQ(Find(L"ı"), (Names{L"tıtle.txt"}));
 }
 
 TEST_F(WholeInPlace, content_is_found_by_the_bytes_of_the_english_letters) {
     AddFile(L"upper.txt", "A TITLE\r\n");
     AddFile(L"lower.txt", "a title\r\n");
     AddFile(L"other.txt", "a t\xFDtle, a T\xDDTLE\r\n");
-    EXPECT_EQ((Names{L"lower.txt"}), NamesFoundBy(Containing(L"title", Folder())));
+    EXPECT_EQ(NamesFoundBy(Containing(L"title", Folder())), (Names{L"lower.txt"}));
     Program().SendMenuCommand(COMMAND_CHECK_CASE);
-    EXPECT_EQ((Names{L"lower.txt", L"upper.txt"}), Sorted(NamesFoundBy(Containing(L"tItLe", Folder()))));
+    EXPECT_EQ(Sorted(NamesFoundBy(Containing(L"tItLe", Folder()))), (Names{L"lower.txt", L"upper.txt"}));
 }

@@ -91,7 +91,7 @@ class TestClass {
 TEST(ClassRegistration, a_flagged_background_index_becomes_the_desktop_s_index) {
     const TestClass made(reinterpret_cast<HBRUSH>(static_cast<ULONG_PTR>(0x40000010)), nullptr);
     EXPECT_EQ(reinterpret_cast<ULONG_PTR>(made.registered.hbrBackground), 16u);
-    EXPECT_EQ(16, COLOR_BTNFACE + 1);
+    EXPECT_EQ(COLOR_BTNFACE + 1, 16);
 }
 
 TEST(ClassRegistration, a_real_brush_stays_that_brush) {

@@ -35,7 +35,7 @@ void ExpectConsistent(const MemoryLine& line) {
     EXPECT_GT(line.totalKilobytes, 0);
     EXPECT_GE(line.freeKilobytes, 0);
     EXPECT_LE(line.freeKilobytes, line.totalKilobytes);
-    EXPECT_EQ(static_cast<int>(line.freeKilobytes * 100LL / line.totalKilobytes), line.percentage);
+    EXPECT_EQ(line.percentage, static_cast<int>(line.freeKilobytes * 100LL / line.totalKilobytes));
 }
 
 }  // namespace
@@ -71,15 +71,15 @@ class About : public ProgramTest {
 
 TEST_F(About, shows_product_version_notice_and_contacts) {
     const ProgramDialog about = OpenByCommand();
-    EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Caption());
-    EXPECT_EQ(Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"), about.Text(STATIC_TITLE));
-    EXPECT_EQ(L"QuorinSearch", about.Text(STATIC_PRODUCT_NAME));
-    EXPECT_EQ(L"Version " QUORIN_VERSION, about.Text(STATIC_VERSION));
+    EXPECT_EQ(about.Caption(), Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"));
+    EXPECT_EQ(about.Text(STATIC_TITLE), Shown(L"About", L"ﾊﾞｰｼﾞｮﾝ情報"));
+    EXPECT_EQ(about.Text(STATIC_PRODUCT_NAME), L"QuorinSearch");
+    EXPECT_EQ(about.Text(STATIC_VERSION), L"Version " QUORIN_VERSION);
     EXPECT_NE(std::wstring::npos, about.Text(STATIC_LEGAL_NOTICE).find(L"QuorinSoft"));
     EXPECT_FALSE(about.Text(STATIC_CONTACT_1).empty());
     EXPECT_FALSE(about.Text(STATIC_CONTACT_2).empty());
     EXPECT_TRUE(about.HasText(Shown(L"Rest of memories", L"ﾒﾓﾘ残量")));
-    EXPECT_EQ(Shown(L"&Uninstall", L"ｱﾝｲﾝｽﾄ(&U)"), about.Text(BUTTON_UNINSTALL));
+    EXPECT_EQ(about.Text(BUTTON_UNINSTALL), Shown(L"&Uninstall", L"ｱﾝｲﾝｽﾄ(&U)"));
     EXPECT_TRUE(IsWindowVisible(about.Control(BUTTON_UNINSTALL)));
     PostMessageW(about.Window(), WM_COMMAND, IDOK, 0);
     WaitForClose(about);
@@ -96,12 +96,12 @@ TEST_F(About, shows_the_machines_memory_and_no_cards_where_there_are_none) {
     const MemoryLine ofPrograms =
         ParseMemory(about.Text(STATIC_PROGRAM_MEMORY), Shown(L"Program", L"ﾌﾟﾛｸﾞﾗﾑ"));
     ExpectConsistent(ofPrograms);
-    EXPECT_EQ(static_cast<int>(memory.ullTotalPhys / 1024), ofPrograms.totalKilobytes);
+    EXPECT_EQ(ofPrograms.totalKilobytes, static_cast<int>(memory.ullTotalPhys / 1024));
     const MemoryLine ofData = ParseMemory(about.Text(STATIC_DATA_STORE), Shown(L"Data", L"ﾃﾞｰﾀ"));
     ExpectConsistent(ofData);
-    EXPECT_EQ(static_cast<int>(total.QuadPart / 1024), ofData.totalKilobytes);
-    EXPECT_EQ(L"", about.Text(STATIC_STORAGE_CARD));
-    EXPECT_EQ(L"", about.Text(STATIC_SECOND_STORAGE_CARD));
+    EXPECT_EQ(ofData.totalKilobytes, static_cast<int>(total.QuadPart / 1024));
+    EXPECT_EQ(about.Text(STATIC_STORAGE_CARD), L"");
+    EXPECT_EQ(about.Text(STATIC_SECOND_STORAGE_CARD), L"");
     PostMessageW(about.Window(), WM_COMMAND, IDCANCEL, 0);
     WaitForClose(about);
 }
@@ -119,7 +119,7 @@ TEST_F(About, lists_no_more_than_the_first_two_of_the_cards_that_are_in) {
             if (card < count) {
                 ExpectConsistent(ParseMemory(text, cards[card]->Root()));
             } else {
-                EXPECT_EQ(L"", text);
+                EXPECT_EQ(text, L"");
             }
         }
         PostMessageW(about.Window(), WM_COMMAND, IDCANCEL, 0);
@@ -167,7 +167,7 @@ TEST_F(About, opens_by_f1_from_each_place_of_the_window) {
 TEST_F(About, has_its_focus_off_the_button_each_time_it_opens) {
     for (int time = 0; time < 3; ++time) {
         const ProgramDialog about = OpenByKey();
-        EXPECT_EQ(0u, Program().FocusPath().rfind(L"#32770:0", 0))
+        EXPECT_EQ(Program().FocusPath().rfind(L"#32770:0", 0), 0u)
             << testing::PrintToString(Program().FocusPath());
         PressKey(VK_TAB);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] {
@@ -192,7 +192,7 @@ class Uninstall : public About {
 
 TEST_F(Uninstall, removes_both_keys_without_a_question_and_ends_the_program) {
     OpenByCommand().Click(BUTTON_UNINSTALL);
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
     EXPECT_FALSE(KeyExists(ProductKey));
     EXPECT_FALSE(KeyExists(MakerKey));
 }
@@ -203,35 +203,35 @@ TEST_F(Uninstall, leaves_a_next_start_as_on_the_first_day) {
     CloseProgram();
     StoreText(NameKey, L"0", L"remembered");
     StartAgain();
-    ASSERT_EQ(L"remembered", Program().Combo(NamePage, COMBO_NAME).entries.back());
+    ASSERT_EQ(Program().Combo(NamePage, COMBO_NAME).entries.back(), L"remembered");
     OpenByCommand().Click(BUTTON_UNINSTALL);
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
     PrepareRegistry();
     StartAgain();
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
-    EXPECT_EQ(BST_UNCHECKED, Program().Control(NamePage, CHECK_SUBFOLDERS).checked);
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, (Names{L"*.log", L"*.txt"}));
+    EXPECT_EQ(Program().Control(NamePage, CHECK_SUBFOLDERS).checked, BST_UNCHECKED);
 }
 
 TEST_F(Uninstall, is_done_by_keys_alone) {
     OpenByKey();
     PressKey('U', {VK_MENU});
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
     EXPECT_FALSE(KeyExists(MakerKey));
 }
 
 TEST_F(Uninstall, that_fails_says_so_and_the_program_goes_on_and_saves) {
-    ASSERT_EQ(ERROR_SUCCESS, RegDeleteTreeW(HKEY_CURRENT_USER, ProductKey));
+    ASSERT_EQ(RegDeleteTreeW(HKEY_CURRENT_USER, ProductKey), ERROR_SUCCESS);
     const ProgramDialog about = OpenByCommand();
     about.Click(BUTTON_UNINSTALL);
     WaitUntil("the About box to go", [&] { return !IsWindowVisible(about.Window()); });
     const ProgramDialog error = InFront(WaitForDialog(Program().Window()));
-    EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), error.Caption());
+    EXPECT_EQ(error.Caption(), Shown(L"Error", L"ｴﾗｰ"));
     EXPECT_TRUE(error.HasText(Shown(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!")));
-    EXPECT_EQ(Program().Window(), GetWindow(error.Window(), GW_OWNER));
+    EXPECT_EQ(GetWindow(error.Window(), GW_OWNER), Program().Window());
     PressKey(VK_RETURN);
     WaitForClose(error);
     EXPECT_TRUE(Program().Dialogs().empty());
-    EXPECT_EQ(2u, NamesFoundBy(Named(L"abc", L"\\names")).size());
+    EXPECT_EQ(NamesFoundBy(Named(L"abc", L"\\names")).size(), 2u);
     CloseProgram();
     EXPECT_TRUE(KeyExists(NameKey));
 }

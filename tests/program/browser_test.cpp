@@ -83,20 +83,20 @@ class Browser : public ProgramTest {
 
 TEST_F(Browser, shows_the_devices_whole_tree_below_its_name) {
     const ProgramDialog browser = OpenBrowser();
-    EXPECT_EQ(Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"), browser.Caption());
-    EXPECT_EQ(Shown(L"Browse folder", L"ﾌｫﾙﾀﾞの参照"), browser.Text(STATIC_TITLE));
+    EXPECT_EQ(browser.Caption(), Shown(L"Select Folder", L"ﾌｫﾙﾀﾞ選択"));
+    EXPECT_EQ(browser.Text(STATIC_TITLE), Shown(L"Browse folder", L"ﾌｫﾙﾀﾞの参照"));
 
     std::vector<std::pair<int, std::wstring>> expected = {{0, RootNameOfWorld()}};
     AddFoldersBelow(Drive().Root(), 1, expected);
     ASSERT_GE(expected.size(), 8u);
     const std::vector<TreeItemState> items = Program().Tree();
-    ASSERT_EQ(expected.size(), items.size());
+    ASSERT_EQ(items.size(), expected.size());
     for (std::size_t i = 0; i < items.size(); ++i) {
-        EXPECT_EQ(expected[i].first, items[i].depth) << i;
-        EXPECT_EQ(expected[i].second, items[i].text) << i;
-        EXPECT_EQ(i == 0 ? 0 : 1, items[i].image) << i;
-        EXPECT_EQ(i == 0 ? 0 : 2, items[i].selectedImage) << i;
-        EXPECT_EQ(i == 0, items[i].Expanded()) << i;
+        EXPECT_EQ(items[i].depth, expected[i].first) << i;
+        EXPECT_EQ(items[i].text, expected[i].second) << i;
+        EXPECT_EQ(items[i].image, i == 0 ? 0 : 1) << i;
+        EXPECT_EQ(items[i].selectedImage, i == 0 ? 0 : 2) << i;
+        EXPECT_EQ(items[i].Expanded(), i == 0) << i;
     }
 }
 
@@ -115,13 +115,13 @@ TEST_F(Browser, gives_a_deep_folder_to_the_location_and_the_search_starts_there)
     Select({L"walk", L"a deeper", L"a match folder"});
     PostMessageW(browser.Window(), WM_COMMAND, IDOK, 0);
     WaitForClose(browser);
-    EXPECT_EQ(L"\\walk\\a deeper\\a match folder", Location());
-    EXPECT_EQ(Names{L"\\walk\\a deeper\\a match folder"}, LocationEntries());
+    EXPECT_EQ(Location(), L"\\walk\\a deeper\\a match folder");
+    EXPECT_EQ(LocationEntries(), Names{L"\\walk\\a deeper\\a match folder"});
     Program().SetText(NamePage, COMBO_NAME, L"");
     Program().Find();
-    EXPECT_EQ(Names{L"\\walk\\a deeper\\a match folder\\three.txt"}, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), Names{L"\\walk\\a deeper\\a match folder\\three.txt"});
     CloseProgram();
-    EXPECT_EQ(StoredText(L"\\walk\\a deeper\\a match folder"), ValuesOf(LocationKey)[L"0"]);
+    EXPECT_EQ(ValuesOf(LocationKey)[L"0"], StoredText(L"\\walk\\a deeper\\a match folder"));
 }
 
 // Of 259 units, the most that a path may have, and one of 260 beside it.
@@ -147,13 +147,13 @@ TEST_F(Browser, gives_a_path_that_just_fits_and_stays_open_on_a_longer_one) {
     EXPECT_TRUE(RemoveDirectoryW(onDisk.c_str()));
 
     const std::wstring path = L"\\" + parent + L"\\" + fits;
-    ASSERT_EQ(259u, path.size());
-    EXPECT_EQ(path, Location());
-    EXPECT_EQ(Names{path}, LocationEntries());
+    ASSERT_EQ(path.size(), 259u);
+    EXPECT_EQ(Location(), path);
+    EXPECT_EQ(LocationEntries(), Names{path});
     CloseProgram();
-    EXPECT_EQ(StoredText(path), ValuesOf(LocationKey)[L"0"]);
+    EXPECT_EQ(ValuesOf(LocationKey)[L"0"], StoredText(path));
     StartAgain();
-    EXPECT_EQ(path, Location());
+    EXPECT_EQ(Location(), path);
 }
 
 TEST_F(Browser, gives_a_backslash_for_the_root) {
@@ -161,8 +161,8 @@ TEST_F(Browser, gives_a_backslash_for_the_root) {
     Select({});
     PostMessageW(browser.Window(), WM_COMMAND, IDOK, 0);
     WaitForClose(browser);
-    EXPECT_EQ(L"\\", Location());
-    EXPECT_EQ(Names{L"\\"}, LocationEntries());
+    EXPECT_EQ(Location(), L"\\");
+    EXPECT_EQ(LocationEntries(), Names{L"\\"});
 }
 
 TEST_F(Browser, is_opened_used_and_closed_by_keys_alone) {
@@ -179,7 +179,7 @@ TEST_F(Browser, is_opened_used_and_closed_by_keys_alone) {
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().Tree().at(1).Selected(); }));
     PressKey(VK_RETURN);
     WaitForClose(browser);
-    EXPECT_EQ(L"\\" + first, Location());
+    EXPECT_EQ(Location(), L"\\" + first);
     EXPECT_TRUE(Program().HasFocus(NamePage, BUTTON_BROWSE)) << testing::PrintToString(Program().FocusPath());
 }
 
@@ -190,7 +190,7 @@ TEST_F(Browser, that_is_left_without_ok_changes_nothing) {
         Select({L"walk"});
         way(browser);
         WaitForClose(browser);
-        EXPECT_EQ(L"\\before", Location());
+        EXPECT_EQ(Location(), L"\\before");
         EXPECT_TRUE(LocationEntries().empty());
     };
     leave([](const ProgramDialog& browser) { PostMessageW(browser.Window(), WM_COMMAND, IDCANCEL, 0); });
@@ -213,7 +213,7 @@ TEST_F(Browser, stays_open_on_ok_with_nothing_selected_and_alone_on_f1) {
     PressKey(VK_ESCAPE);
     WaitForClose(browser);
     EXPECT_TRUE(Program().Dialogs().empty());
-    EXPECT_EQ(L"", Location());
+    EXPECT_EQ(Location(), L"");
 }
 
 TEST_F(Browser, shows_links_that_lead_back_up_and_does_not_follow_them) {
@@ -236,7 +236,7 @@ TEST_F(Browser, shows_links_that_lead_back_up_and_does_not_follow_them) {
     Select({L"a", L"b", L"loop"});
     PostMessageW(browser.Window(), WM_COMMAND, IDOK, 0);
     WaitForClose(browser);
-    EXPECT_EQ(L"\\a\\b\\loop", Location());
+    EXPECT_EQ(Location(), L"\\a\\b\\loop");
     CloseProgram();
 }
 
@@ -246,5 +246,5 @@ TEST_F(Browser, is_headed_by_the_name_that_the_registry_gives_the_device) {
     OpenBrowser();
     const std::wstring shown = Program().Tree().at(0).text;
     RegDeleteTreeW(HKEY_CLASSES_ROOT, RootClass);
-    EXPECT_EQ(name, shown);
+    EXPECT_EQ(shown, name);
 }

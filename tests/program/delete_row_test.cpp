@@ -20,12 +20,11 @@ class DeleteRow : public ResultsTest {
 
 TEST_F(DeleteRow, asks_in_the_middle_of_the_screen_in_the_programs_language) {
     const ProgramDialog question = Opened(COMMAND_DELETE);
-    EXPECT_EQ(Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"), question.Caption());
-    EXPECT_EQ(
-        Shown(L"Are you sure you want to delete 'a & b.qsa'?", L"'a & b.qsa' を削除してもよろしいですか?"),
-        question.Text(STATIC_QUESTION));
-    EXPECT_EQ(Shown(L"&Yes", L"はい(&Y)"), question.Text(IDYES));
-    EXPECT_EQ(Shown(L"&No", L"いいえ(&N)"), question.Text(IDNO));
+    EXPECT_EQ(question.Caption(), Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"));
+    EXPECT_EQ(question.Text(STATIC_QUESTION), Shown(L"Are you sure you want to delete 'a & b.qsa'?",
+                                                    L"'a & b.qsa' を削除してもよろしいですか?"));
+    EXPECT_EQ(question.Text(IDYES), Shown(L"&Yes", L"はい(&Y)"));
+    EXPECT_EQ(question.Text(IDNO), Shown(L"&No", L"いいえ(&N)"));
     const RECT place = question.Place();
     EXPECT_GE(place.left, 0);
     EXPECT_GE(place.top, 0);
@@ -42,7 +41,7 @@ TEST_F(DeleteRow, takes_the_file_and_its_row_on_yes) {
     EXPECT_TRUE(RowsAre({L"c.qsb"}));
     EXPECT_FALSE(Stands(L"a & b.qsa"));
     EXPECT_TRUE(Stands(L"c.qsb"));
-    EXPECT_EQ(kept, Row(L"c.qsb").parameter);
+    EXPECT_EQ(Row(L"c.qsb").parameter, kept);
 }
 
 TEST_F(DeleteRow, of_the_last_row_grays_the_commands) {
@@ -76,7 +75,7 @@ TEST_F(DeleteRow, by_the_keyboard_alone_with_each_answer) {
         }
         ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(question.Window()); })) << answer.what;
         EXPECT_TRUE(RowsAre(answer.deleted ? Names{L"c.qsb"} : Names{L"a & b.qsa", L"c.qsb"})) << answer.what;
-        EXPECT_EQ(!answer.deleted, Stands(L"a & b.qsa")) << answer.what;
+        EXPECT_EQ(Stands(L"a & b.qsa"), !answer.deleted) << answer.what;
     }
 }
 
@@ -90,7 +89,7 @@ TEST_F(DeleteRow, by_the_mouse_alone) {
     const LONG sixth = (menu.bottom - menu.top) / 6;
     ClickAt({(menu.left + menu.right) / 2, menu.top + 2 * sixth});
     const ProgramDialog question = Dialog();
-    EXPECT_EQ(Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"), question.Caption());
+    EXPECT_EQ(question.Caption(), Shown(L"Confirm File Delete", L"ﾌｧｲﾙの削除の確認"));
     RECT yes = {};
     GetWindowRect(question.Control(IDYES), &yes);
     ClickAt(CentreOf(yes));
@@ -105,7 +104,7 @@ TEST_F(DeleteRow, that_fails_tells_why_and_keeps_the_row) {
     SelectRow(L"c.qsb");
     Opened(COMMAND_DELETE).Press(IDYES);
     const ProgramDialog box = Dialog();
-    EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), box.Caption());
+    EXPECT_EQ(box.Caption(), Shown(L"Error", L"ｴﾗｰ"));
     EXPECT_TRUE(box.HasText(L"Error DeleteFile 32"));
     box.Press(IDOK);
     CloseHandle(held);

@@ -35,9 +35,9 @@ TEST_F(DuringSearch, the_dialog_shows_its_caption_the_folder_and_an_abort_button
     ASSERT_TRUE(Program().FindAndHold());
     const auto dialog = Program().FindingDialog();
     ASSERT_TRUE(dialog.has_value());
-    EXPECT_EQ(Shown(L"Finding...", L"検索中..."), dialog->caption);
-    EXPECT_EQ(L"\\names", dialog->TextOf(STATIC_FOLDER));
-    EXPECT_EQ(Shown(L"Abort", L"中断"), dialog->TextOf(IDCANCEL));
+    EXPECT_EQ(dialog->caption, Shown(L"Finding...", L"検索中..."));
+    EXPECT_EQ(dialog->TextOf(STATIC_FOLDER), L"\\names");
+    EXPECT_EQ(dialog->TextOf(IDCANCEL), Shown(L"Abort", L"中断"));
     GoOn();
     EXPECT_FALSE(Program().FindingDialog().has_value());
 }
@@ -62,7 +62,7 @@ TEST_F(DuringSearch, the_main_window_is_disabled) {
 TEST_F(DuringSearch, the_list_is_emptied_first) {
     EverythingOnTheDevice();
     HoldSearch(0);
-    EXPECT_EQ(0, Program().List().count);
+    EXPECT_EQ(Program().List().count, 0);
     GoOn();
 }
 
@@ -76,8 +76,8 @@ TEST_F(DuringSearch, abort_keeps_the_rows_found_so_far_and_selects_the_first) {
     EXPECT_GE(static_cast<int>(rows.size()), 5);
     // The entry that was under test may still have become a row.
     EXPECT_LE(static_cast<int>(rows.size()), held + 1);
-    EXPECT_EQ(Names(everything.begin(), everything.begin() + static_cast<std::ptrdiff_t>(rows.size())), rows);
-    EXPECT_EQ(0, Program().List().selected);
+    EXPECT_EQ(rows, Names(everything.begin(), everything.begin() + static_cast<std::ptrdiff_t>(rows.size())));
+    EXPECT_EQ(Program().List().selected, 0);
     EXPECT_TRUE(Program().ListHasFocus());
 }
 
@@ -86,8 +86,8 @@ TEST_F(DuringSearch, abort_in_a_sub_folder_ends_the_whole_search) {
     ASSERT_TRUE(Program().FindAndHold(2));
     Program().PressAbort();
     GoOn();
-    EXPECT_EQ((Names{L"one.txt", L"two.txt"}), Program().RowNames());
-    EXPECT_EQ(0, Program().List().selected);
+    EXPECT_EQ(Program().RowNames(), (Names{L"one.txt", L"two.txt"}));
+    EXPECT_EQ(Program().List().selected, 0);
 }
 
 TEST_F(DuringSearch, after_an_abort_the_next_search_runs_whole) {
@@ -96,7 +96,7 @@ TEST_F(DuringSearch, after_an_abort_the_next_search_runs_whole) {
     Program().PressAbort();
     GoOn();
     Program().Find();
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), everything);
 }
 
 TEST_F(DuringSearch, a_paint_disturbs_nothing) {
@@ -104,7 +104,7 @@ TEST_F(DuringSearch, a_paint_disturbs_nothing) {
     HoldSearch(7);
     Program().Repaint();
     GoOn();
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), everything);
 }
 
 TEST_F(DuringSearch, another_find_does_not_run_inside_the_first) {
@@ -114,8 +114,8 @@ TEST_F(DuringSearch, another_find_does_not_run_inside_the_first) {
     Program().PostFind();
     Program().PostFind();
     GoOn();
-    EXPECT_EQ(begun, Program().SearchesBegun());
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().SearchesBegun(), begun);
+    EXPECT_EQ(Program().RowPaths(), everything);
 }
 
 TEST_F(DuringSearch, a_second_run_command_for_the_dialog_starts_nothing) {
@@ -133,7 +133,7 @@ TEST_F(DuringSearch, a_second_run_command_for_the_dialog_starts_nothing) {
     ASSERT_NE(nullptr, dialog);
     PostMessageW(dialog, WM_COMMAND, COMMAND_RUN, 0);
     GoOn();
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), everything);
 }
 
 TEST_F(DuringSearch, menu_commands_do_no_harm) {
@@ -145,7 +145,7 @@ TEST_F(DuringSearch, menu_commands_do_no_harm) {
         PostMessageW(Program().Window(), WM_COMMAND, static_cast<WPARAM>(command), 0);
     }
     GoOn();
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), everything);
     EXPECT_TRUE(Program().Dialogs().empty());
 }
 
@@ -154,7 +154,7 @@ TEST_F(DuringSearch, the_close_box_of_the_disabled_window_is_refused) {
     HoldSearch(2);
     PostMessageW(Program().Window(), WM_SYSCOMMAND, SC_CLOSE, 0);
     GoOn();
-    EXPECT_EQ(everything, Program().RowPaths());
+    EXPECT_EQ(Program().RowPaths(), everything);
     EXPECT_TRUE(Program().IsRunning());
 }
 

@@ -30,12 +30,12 @@ class History : public ProgramTest {
 TEST_F(History, of_the_first_run_is_txt_as_0_and_log_as_1_and_nothing_else) {
     EXPECT_FALSE(KeyExists(ProductKey)) << "something was written before the end";
     CloseProgram();
-    EXPECT_EQ((Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}}), ValuesOf(NameKey));
+    EXPECT_EQ(ValuesOf(NameKey), (Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}}));
     EXPECT_TRUE(KeyExists(LocationKey));
-    EXPECT_EQ(Values(), ValuesOf(LocationKey));
-    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(0)}}), ValuesOf(ProductKey));
-    EXPECT_EQ((Names{L"Location", L"Name"}), SubKeysOf(ProductKey));
-    EXPECT_EQ(Names{L"QuorinSearch"}, SubKeysOf(MakerKey));
+    EXPECT_EQ(ValuesOf(LocationKey), Values());
+    EXPECT_EQ(ValuesOf(ProductKey), (Values{{L"Sub Folder", StoredDword(0)}}));
+    EXPECT_EQ(SubKeysOf(ProductKey), (Names{L"Location", L"Name"}));
+    EXPECT_EQ(SubKeysOf(MakerKey), Names{L"QuorinSearch"});
 }
 
 TEST_F(History, comes_back_at_the_next_start_with_the_newest_entries_in_the_fields) {
@@ -45,30 +45,30 @@ TEST_F(History, comes_back_at_the_next_start_with_the_newest_entries_in_the_fiel
     Program().SetCheck(NamePage, CHECK_SUBFOLDERS, true);
     CloseProgram();
     EXPECT_EQ(
-        (Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}, {L"2", StoredText(L"日報")}}),
-        ValuesOf(NameKey));
-    EXPECT_EQ((Values{{L"0", StoredText(L"\\names")}, {L"1", StoredText(L"\\walk")}}), ValuesOf(LocationKey));
-    EXPECT_EQ((Values{{L"Sub Folder", StoredDword(1)}}), ValuesOf(ProductKey));
+        ValuesOf(NameKey),
+        (Values{{L"0", StoredText(L"*.txt")}, {L"1", StoredText(L"*.log")}, {L"2", StoredText(L"日報")}}));
+    EXPECT_EQ(ValuesOf(LocationKey), (Values{{L"0", StoredText(L"\\names")}, {L"1", StoredText(L"\\walk")}}));
+    EXPECT_EQ(ValuesOf(ProductKey), (Values{{L"Sub Folder", StoredDword(1)}}));
 
     StartAgain();
-    EXPECT_EQ((Names{L"日報", L"*.log", L"*.txt"}), NameEntries());
-    EXPECT_EQ((Names{L"\\walk", L"\\names"}), LocationEntries());
-    EXPECT_EQ(L"日報", Program().Control(NamePage, COMBO_NAME).text);
-    EXPECT_EQ(L"\\walk", Program().Control(NamePage, COMBO_LOCATION).text);
+    EXPECT_EQ(NameEntries(), (Names{L"日報", L"*.log", L"*.txt"}));
+    EXPECT_EQ(LocationEntries(), (Names{L"\\walk", L"\\names"}));
+    EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).text, L"日報");
+    EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"\\walk");
     EXPECT_TRUE(SubFoldersChecked());
 }
 
 TEST_F(History, keeps_ten_of_eleven_searches_and_gives_back_the_nine_oldest_of_these) {
     for (int i = 10; i <= 20; ++i)
         Enter(COMBO_NAME, std::to_wstring(i));
-    EXPECT_EQ((Names{L"20", L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}), NameEntries());
+    EXPECT_EQ(NameEntries(), (Names{L"20", L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}));
     CloseProgram();
     Values expected;
     for (int n = 0; n <= 9; ++n)
         expected[std::to_wstring(n)] = StoredText(std::to_wstring(n + 11));
-    EXPECT_EQ(expected, ValuesOf(NameKey));
+    EXPECT_EQ(ValuesOf(NameKey), expected);
     StartAgain();
-    EXPECT_EQ((Names{L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}), NameEntries());
+    EXPECT_EQ(NameEntries(), (Names{L"19", L"18", L"17", L"16", L"15", L"14", L"13", L"12", L"11"}));
 }
 
 TEST_F(History, is_lost_with_a_program_that_is_killed) {
@@ -93,14 +93,14 @@ TEST_F(History, survives_a_registry_full_of_rubbish) {
     StoreText(ProductKey, L"Sub Folder", L"yes");
     StartAgain();
     // 520 bytes fill the buffer: the last unit makes room for the end. The huge text ends the loading.
-    EXPECT_EQ((Names{std::wstring(259, L'x'), L"one", L"odd", L"AB"}), NameEntries());
+    EXPECT_EQ(NameEntries(), (Names{std::wstring(259, L'x'), L"one", L"odd", L"AB"}));
     EXPECT_TRUE(LocationEntries().empty());
     EXPECT_FALSE(SubFoldersChecked());
     EXPECT_TRUE(Program().Dialogs().empty());
-    EXPECT_EQ(2u, NamesFoundBy(Named(L"abc", L"\\names")).size());
+    EXPECT_EQ(NamesFoundBy(Named(L"abc", L"\\names")).size(), 2u);
     CloseProgram();
-    EXPECT_EQ(StoredText(L"AB"), ValuesOf(NameKey)[L"0"]);
-    EXPECT_EQ(StoredDword(0), ValuesOf(ProductKey)[L"Sub Folder"]);
+    EXPECT_EQ(ValuesOf(NameKey)[L"0"], StoredText(L"AB"));
+    EXPECT_EQ(ValuesOf(ProductKey)[L"Sub Folder"], StoredDword(0));
 }
 
 // Below a key that lives only as long as the system runs, none can be made that is to be kept.
@@ -108,12 +108,13 @@ TEST_F(History, is_lost_in_silence_where_its_keys_cannot_be_made) {
     CloseProgram();
     RegDeleteTreeW(HKEY_CURRENT_USER, MakerKey);
     HKEY passing = nullptr;
-    ASSERT_EQ(ERROR_SUCCESS, RegCreateKeyExW(HKEY_CURRENT_USER, MakerKey, 0, nullptr, REG_OPTION_VOLATILE,
-                                             KEY_ALL_ACCESS, nullptr, &passing, nullptr));
+    ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, MakerKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                              nullptr, &passing, nullptr),
+              ERROR_SUCCESS);
     RegCloseKey(passing);
     StartAgain();
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), NameEntries());
-    EXPECT_EQ(0u, Program().Close());
-    EXPECT_EQ(Names(), SubKeysOf(MakerKey));
+    EXPECT_EQ(NameEntries(), (Names{L"*.log", L"*.txt"}));
+    EXPECT_EQ(Program().Close(), 0u);
+    EXPECT_EQ(SubKeysOf(MakerKey), Names());
     RegDeleteTreeW(HKEY_CURRENT_USER, MakerKey);
 }

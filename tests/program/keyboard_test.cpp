@@ -45,9 +45,9 @@ TEST_F(Keyboard, enter_in_the_name_adds_to_its_history_and_starts_the_search) {
     Program().Fill(Named(L"xabcx", L"\\names"));
     Program().FocusControl(NamePage, COMBO_NAME);
     ASSERT_TRUE(StartsSearch(VK_RETURN));
-    EXPECT_EQ((Names{L"xabcx.txt"}), Program().RowNames());
-    EXPECT_EQ(L"xabcx", Program().Combo(NamePage, COMBO_NAME).entries.at(0));
-    EXPECT_EQ(0, Program().Combo(NamePage, COMBO_NAME).selected);
+    EXPECT_EQ(Program().RowNames(), (Names{L"xabcx.txt"}));
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries.at(0), L"xabcx");
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).selected, 0);
     EXPECT_TRUE(Program().Combo(NamePage, COMBO_LOCATION).entries.empty());
 }
 
@@ -56,9 +56,9 @@ TEST_F(Keyboard, enter_in_the_location_adds_to_its_history_and_starts_the_search
     Program().Fill(Named(L"abc", L"\\names"));
     Program().FocusControl(NamePage, COMBO_LOCATION);
     ASSERT_TRUE(StartsSearch(VK_RETURN));
-    EXPECT_EQ(2, Program().List().count);
-    EXPECT_EQ((Names{L"\\names"}), Program().Combo(NamePage, COMBO_LOCATION).entries);
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(Program().List().count, 2);
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_LOCATION).entries, (Names{L"\\names"}));
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, (Names{L"*.log", L"*.txt"}));
 }
 
 TEST_F(Keyboard, enter_in_the_content_starts_the_search_without_any_history) {
@@ -66,16 +66,16 @@ TEST_F(Keyboard, enter_in_the_content_starts_the_search_without_any_history) {
     Program().Fill(Containing(L"aBc", L"\\contents"));
     Program().FocusControl(NamePage, EDIT_CONTENT);
     ASSERT_TRUE(StartsSearch(VK_RETURN));
-    EXPECT_EQ((Names{L"mixed.txt"}), Program().RowNames());
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(Program().RowNames(), (Names{L"mixed.txt"}));
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, (Names{L"*.log", L"*.txt"}));
     EXPECT_TRUE(Program().Combo(NamePage, COMBO_LOCATION).entries.empty());
-    EXPECT_EQ(L"aBc", Program().Control(NamePage, EDIT_CONTENT).text);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"aBc");
 }
 
 TEST_F(Keyboard, the_find_command_adds_nothing_to_the_histories) {
     StartFresh();
     NamesFoundBy(Named(L"abc", L"\\names"));
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, (Names{L"*.log", L"*.txt"}));
     EXPECT_TRUE(Program().Combo(NamePage, COMBO_LOCATION).entries.empty());
 }
 
@@ -86,7 +86,7 @@ TEST_F(Keyboard, a_name_typed_by_hand_is_searched_for) {
     ASSERT_TRUE(
         HoldsWithin(StepDeadline, [&] { return Program().Control(NamePage, COMBO_NAME).text == L"日報"; }));
     ASSERT_TRUE(StartsSearch(VK_RETURN));
-    EXPECT_EQ((Names{L"日報.txt"}), Program().RowNames());
+    EXPECT_EQ(Program().RowNames(), (Names{L"日報.txt"}));
 }
 
 TEST_F(Keyboard, entering_a_beginning_of_an_older_entry_takes_its_place) {
@@ -97,14 +97,14 @@ TEST_F(Keyboard, entering_a_beginning_of_an_older_entry_takes_its_place) {
         Program().FocusControl(NamePage, COMBO_NAME);
         ASSERT_TRUE(StartsSearch(VK_RETURN));
     }
-    EXPECT_EQ((Names{L"ABC", L"*.log", L"*.txt"}), Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, (Names{L"ABC", L"*.log", L"*.txt"}));
 }
 
 TEST_F(Keyboard, tab_in_the_name_goes_to_the_content) {
     Program().FocusControl(NamePage, COMBO_NAME);
     PressKey(VK_TAB);
     EXPECT_TRUE(FocusComesTo(NamePage, EDIT_CONTENT)) << Focus();
-    EXPECT_EQ(L"", Program().Control(NamePage, EDIT_CONTENT).text);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"");
 }
 
 TEST_F(Keyboard, shift_tab_in_the_name_goes_to_the_tabs) {
@@ -190,7 +190,7 @@ TEST_F(Keyboard, the_labels_letters_lead_to_their_fields_on_the_name_page) {
             << "Alt+" << static_cast<char>(expected.letter) << ", the focus is at " << Focus();
     }
     for (const int id : {COMBO_NAME, EDIT_CONTENT, COMBO_LOCATION}) {
-        EXPECT_EQ(L"", Program().Control(NamePage, id).text) << id;
+        EXPECT_EQ(Program().Control(NamePage, id).text, L"") << id;
     }
 }
 
@@ -218,8 +218,8 @@ TEST_F(Keyboard, the_radio_buttons_letters_choose_them) {
         ASSERT_TRUE(HoldsWithin(StepDeadline,
                                 [&] { return Program().Control(DatePage, expected.radio).checked != 0; }))
             << "Alt+" << static_cast<char>(expected.letter);
-        EXPECT_EQ(expected.pickers, Program().Control(DatePage, PICKER_FROM).enabled);
-        EXPECT_EQ(expected.days, Program().Control(DatePage, EDIT_DAYS).enabled);
+        EXPECT_EQ(Program().Control(DatePage, PICKER_FROM).enabled, expected.pickers);
+        EXPECT_EQ(Program().Control(DatePage, EDIT_DAYS).enabled, expected.days);
     }
 }
 
@@ -236,7 +236,7 @@ TEST_F(Keyboard, ctrl_q_ends_the_program_from_the_list_as_well) {
     NamesFoundBy(Where(L"\\names"));
     ASSERT_TRUE(Program().ListHasFocus());
     PressKey('Q', {VK_CONTROL});
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
 }
 
 TEST_F(Keyboard, the_abort_button_answers_the_keyboard) {

@@ -36,11 +36,11 @@ class MainWindowCommands : public ProgramTest {};
 
 TEST_F(MainWindowAtStart, the_tabs_carry_their_captions_and_the_name_page_is_shown) {
     const std::vector<TabState> tabs = Program().Tabs();
-    ASSERT_EQ(3u, tabs.size());
-    EXPECT_EQ(Shown(L"Name", L"名前と場所"), tabs[0].caption);
-    EXPECT_EQ(Shown(L"Date", L"日付"), tabs[1].caption);
-    EXPECT_EQ(Shown(L"Etc", L"その他"), tabs[2].caption);
-    EXPECT_EQ(NamePage, Program().CurrentPage());
+    ASSERT_EQ(tabs.size(), 3u);
+    EXPECT_EQ(tabs[0].caption, Shown(L"Name", L"名前と場所"));
+    EXPECT_EQ(tabs[1].caption, Shown(L"Date", L"日付"));
+    EXPECT_EQ(tabs[2].caption, Shown(L"Etc", L"その他"));
+    EXPECT_EQ(Program().CurrentPage(), NamePage);
     EXPECT_TRUE(Program().Control(NamePage, COMBO_NAME).visible);
     EXPECT_FALSE(Program().Control(DatePage, RADIO_ALL_FILES).visible);
     EXPECT_FALSE(Program().Control(SizePage, COMBO_FILE_SIZE).visible);
@@ -79,13 +79,13 @@ TEST_F(MainWindowAtStart, the_menus_hold_their_items_in_order) {
         {1, 40303, Shown(L"New condition", L"新しい条件")},
     };
     const std::vector<MenuItemState> items = Program().Menu();
-    ASSERT_EQ(std::size(expected), items.size());
+    ASSERT_EQ(items.size(), std::size(expected));
     for (std::size_t i = 0; i < items.size(); ++i) {
         SCOPED_TRACE(i);
-        EXPECT_EQ(expected[i].depth, items[i].depth);
-        EXPECT_EQ(expected[i].id, items[i].id);
-        EXPECT_EQ(expected[i].text, items[i].text);
-        EXPECT_EQ(expected[i].text.empty(), items[i].Separator());
+        EXPECT_EQ(items[i].depth, expected[i].depth);
+        EXPECT_EQ(items[i].id, expected[i].id);
+        EXPECT_EQ(items[i].text, expected[i].text);
+        EXPECT_EQ(items[i].Separator(), expected[i].text.empty());
     }
 }
 
@@ -93,7 +93,7 @@ TEST_F(MainWindowAtStart, the_result_commands_and_save_result_are_gray_and_the_o
     for (const MenuItemState& item : Program().Menu()) {
         if (item.id == 0) continue;
         const bool gray = (item.id >= 40101 && item.id <= 40105) || item.id == 40302;
-        EXPECT_EQ(gray, item.Grayed()) << item.id;
+        EXPECT_EQ(item.Grayed(), gray) << item.id;
     }
 }
 
@@ -108,17 +108,17 @@ TEST_F(MainWindowAtStart, details_carries_the_radio_mark_and_the_case_option_the
 
 TEST_F(MainWindowAtStart, the_bar_has_three_menus_and_the_find_and_properties_pictures) {
     const std::vector<ButtonState> buttons = Program().Bar();
-    ASSERT_EQ(5u, buttons.size());
-    EXPECT_EQ(100, buttons[0].command);
-    EXPECT_EQ(Shown(L"File", L"ﾌｧｲﾙ"), buttons[0].text);
-    EXPECT_EQ(200, buttons[1].command);
-    EXPECT_EQ(Shown(L"View", L"表示"), buttons[1].text);
-    EXPECT_EQ(300, buttons[2].command);
-    EXPECT_EQ(Shown(L"Option", L"ｵﾌﾟｼｮﾝ"), buttons[2].text);
-    EXPECT_EQ(40100, buttons[3].command);
-    EXPECT_EQ(STD_FIND, buttons[3].image);
-    EXPECT_EQ(40105, buttons[4].command);
-    EXPECT_EQ(STD_PROPERTIES, buttons[4].image);
+    ASSERT_EQ(buttons.size(), 5u);
+    EXPECT_EQ(buttons[0].command, 100);
+    EXPECT_EQ(buttons[0].text, Shown(L"File", L"ﾌｧｲﾙ"));
+    EXPECT_EQ(buttons[1].command, 200);
+    EXPECT_EQ(buttons[1].text, Shown(L"View", L"表示"));
+    EXPECT_EQ(buttons[2].command, 300);
+    EXPECT_EQ(buttons[2].text, Shown(L"Option", L"ｵﾌﾟｼｮﾝ"));
+    EXPECT_EQ(buttons[3].command, 40100);
+    EXPECT_EQ(buttons[3].image, STD_FIND);
+    EXPECT_EQ(buttons[4].command, 40105);
+    EXPECT_EQ(buttons[4].image, STD_PROPERTIES);
     for (const ButtonState& button : buttons)
         EXPECT_NE(0, button.state & TBSTATE_ENABLED) << button.command;
 }
@@ -144,32 +144,32 @@ TEST_F(MainWindowAtStart, the_columns_have_their_headings_widths_and_alignment) 
         {Shown(L"Modified", L"更新日時"), 104, LVCFMT_LEFT},
     };
     const std::vector<ColumnState> columns = Program().Columns();
-    ASSERT_EQ(std::size(expected), columns.size());
+    ASSERT_EQ(columns.size(), std::size(expected));
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        EXPECT_EQ(expected[i].heading, columns[i].heading);
-        EXPECT_EQ(expected[i].width, columns[i].width);
-        EXPECT_EQ(expected[i].format, columns[i].format);
+        EXPECT_EQ(columns[i].heading, expected[i].heading);
+        EXPECT_EQ(columns[i].width, expected[i].width);
+        EXPECT_EQ(columns[i].format, expected[i].format);
     }
 }
 
 TEST_F(MainWindowAtStart, the_list_shows_details_of_one_selected_row_with_the_full_row_marked) {
     const ListState list = Program().List();
-    EXPECT_EQ(static_cast<DWORD>(LVS_REPORT), list.style & LVS_TYPEMASK);
+    EXPECT_EQ(list.style & LVS_TYPEMASK, static_cast<DWORD>(LVS_REPORT));
     EXPECT_NE(0u, list.style & LVS_SINGLESEL);
     EXPECT_NE(0u, list.style & LVS_AUTOARRANGE);
     EXPECT_NE(0u, list.style & LVS_EDITLABELS);
     EXPECT_NE(0u, list.style & WS_TABSTOP);
     EXPECT_NE(0u, list.extendedStyle & LVS_EX_FULLROWSELECT);
-    EXPECT_EQ(0, list.count);
+    EXPECT_EQ(list.count, 0);
 }
 
 TEST_F(MainWindowAtStart, the_window_fills_the_handhelds_screen) {
     RECT window = {};
     GetWindowRect(Program().Window(), &window);
-    EXPECT_EQ(0, window.left);
-    EXPECT_EQ(0, window.top);
-    EXPECT_EQ(World().screenWidth, window.right);
-    EXPECT_EQ(World().screenHeight, window.bottom);
+    EXPECT_EQ(window.left, 0);
+    EXPECT_EQ(window.top, 0);
+    EXPECT_EQ(window.right, World().screenWidth);
+    EXPECT_EQ(window.bottom, World().screenHeight);
 }
 
 TEST_F(MainWindowAtStart, tabs_stand_at_the_top_the_list_below_and_the_bar_at_the_bottom) {
@@ -178,15 +178,15 @@ TEST_F(MainWindowAtStart, tabs_stand_at_the_top_the_list_below_and_the_bar_at_th
     RECT tabs = {};
     GetWindowRect(tab, &tabs);
     MapWindowPoints(HWND_DESKTOP, Program().Window(), reinterpret_cast<POINT*>(&tabs), 2);
-    EXPECT_EQ(0, tabs.left);
-    EXPECT_EQ(0, tabs.top);
-    EXPECT_EQ(client.right, tabs.right);
-    EXPECT_EQ(TabHeight, tabs.bottom);
+    EXPECT_EQ(tabs.left, 0);
+    EXPECT_EQ(tabs.top, 0);
+    EXPECT_EQ(tabs.right, client.right);
+    EXPECT_EQ(tabs.bottom, TabHeight);
     const RECT list = Program().List().rectangle;
-    EXPECT_EQ(0, list.left);
-    EXPECT_EQ(TabHeight, list.top);
-    EXPECT_EQ(client.right, list.right);
-    EXPECT_EQ(client.bottom - BarHeight, list.bottom);
+    EXPECT_EQ(list.left, 0);
+    EXPECT_EQ(list.top, TabHeight);
+    EXPECT_EQ(list.right, client.right);
+    EXPECT_EQ(list.bottom, client.bottom - BarHeight);
 }
 
 TEST_F(MainWindowAtStart, resizing_the_window_moves_neither_the_tabs_nor_the_list) {
@@ -197,7 +197,7 @@ TEST_F(MainWindowAtStart, resizing_the_window_moves_neither_the_tabs_nor_the_lis
     Program().WaitForQueue();
     RECT window = {};
     GetWindowRect(Program().Window(), &window);
-    EXPECT_EQ(200, window.right) << "the window was not resized";
+    EXPECT_EQ(window.right, 200) << "the window was not resized";
     const RECT listAfter = Program().List().rectangle;
     EXPECT_TRUE(EqualRect(&listBefore, &listAfter));
     const RECT tabAfter = ClientOf(tab);
@@ -209,9 +209,9 @@ TEST_F(MainWindowCommands, a_click_on_a_tab_shows_its_page_alone_and_focuses_the
     Program().BringForward();
     for (const int page : {DatePage, SizePage, NamePage}) {
         Program().ShowPage(page);
-        EXPECT_EQ(page == NamePage, Program().Control(NamePage, COMBO_NAME).visible);
-        EXPECT_EQ(page == DatePage, Program().Control(DatePage, RADIO_ALL_FILES).visible);
-        EXPECT_EQ(page == SizePage, Program().Control(SizePage, COMBO_FILE_SIZE).visible);
+        EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).visible, page == NamePage);
+        EXPECT_EQ(Program().Control(DatePage, RADIO_ALL_FILES).visible, page == DatePage);
+        EXPECT_EQ(Program().Control(SizePage, COMBO_FILE_SIZE).visible, page == SizePage);
         EXPECT_TRUE(Program().TabHasFocus());
     }
 }
@@ -224,9 +224,9 @@ TEST_F(MainWindowCommands, the_view_commands_change_the_style_and_carry_the_radi
     for (const View& view : {View{COMMAND_LARGE_ICON, LVS_ICON}, View{COMMAND_SMALL_ICON, LVS_SMALLICON},
                              View{COMMAND_DETAILS, LVS_REPORT}}) {
         Program().SendMenuCommand(view.command);
-        EXPECT_EQ(view.style, Program().List().style & LVS_TYPEMASK);
+        EXPECT_EQ(Program().List().style & LVS_TYPEMASK, view.style);
         for (const UINT command : {40204u, 40205u, 40206u}) {
-            EXPECT_EQ(command == view.command, Program().MenuItem(command).RadioMarked()) << command;
+            EXPECT_EQ(Program().MenuItem(command).RadioMarked(), command == view.command) << command;
         }
     }
 }
@@ -244,7 +244,7 @@ TEST_F(MainWindowCommands, save_result_changes_nothing_and_stays_gray) {
     Program().SendMenuCommand(COMMAND_SAVE_RESULT);
     EXPECT_TRUE(Program().MenuItem(COMMAND_SAVE_RESULT).Grayed());
     EXPECT_FALSE(Program().MenuItem(COMMAND_SAVE_RESULT).Checked());
-    EXPECT_EQ(2, Program().List().count);
+    EXPECT_EQ(Program().List().count, 2);
     EXPECT_TRUE(Program().Dialogs().empty());
 }
 
@@ -253,11 +253,11 @@ TEST_F(MainWindowCommands, commands_of_no_menu_change_nothing) {
     for (const UINT command : {40207u, 40201u, 40106u, 1u, 2u, 65535u})
         Program().SendMenuCommand(command);
     const auto after = Program().Menu();
-    ASSERT_EQ(before.size(), after.size());
+    ASSERT_EQ(after.size(), before.size());
     for (std::size_t i = 0; i < before.size(); ++i)
-        EXPECT_EQ(before[i].state, after[i].state) << before[i].id;
+        EXPECT_EQ(after[i].state, before[i].state) << before[i].id;
     EXPECT_TRUE(Program().IsRunning());
-    EXPECT_EQ(0u, Program().Dialogs().size());
+    EXPECT_EQ(Program().Dialogs().size(), 0u);
 }
 
 TEST_F(MainWindowCommands, selecting_a_row_enables_the_result_commands_and_deselecting_grays_them) {
@@ -278,7 +278,7 @@ TEST_F(MainWindowCommands, selecting_a_row_enables_the_result_commands_and_desel
 
 TEST_F(MainWindowCommands, the_exit_command_ends_the_program) {
     PostMessageW(Program().Window(), WM_COMMAND, COMMAND_EXIT, 0);
-    EXPECT_EQ(0u, Program().WaitForEnd());
+    EXPECT_EQ(Program().WaitForEnd(), 0u);
 }
 
 TEST_F(MainWindowCommands, a_click_on_the_find_button_runs_a_search) {
@@ -288,7 +288,7 @@ TEST_F(MainWindowCommands, a_click_on_the_find_button_runs_a_search) {
     ClickAt(CentreOf(Program().Bar().at(3).rectangle));
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().SearchesBegun() > before; }));
     Program().WaitForEndOfSearch();
-    EXPECT_EQ(2, Program().List().count);
+    EXPECT_EQ(Program().List().count, 2);
 }
 
 TEST_F(MainWindowCommands, a_click_on_a_bar_menu_opens_it_and_its_item_is_done) {

@@ -36,29 +36,29 @@ TEST_F(OpenRow, by_the_menus_command) {
     AddFile(L"other.qsb");
     Find();
     Open(L"a b.qsa");
-    EXPECT_EQ(Path(L"a b.qsa"), OpenedFile());
+    EXPECT_EQ(OpenedFile(), Path(L"a b.qsa"));
 }
 
 TEST_F(OpenRow, by_enter) {
     AddFile(L"日報.qsb");
     Find();
     PressKey(VK_RETURN);
-    EXPECT_EQ(Path(L"日報.qsb"), OpenedFile());
+    EXPECT_EQ(OpenedFile(), Path(L"日報.qsb"));
 }
 
 TEST_F(OpenRow, by_a_double_click) {
     AddFile(L"a.qsc");
     Find();
     DoubleClickAt(PlaceOf(L"a.qsc"));
-    EXPECT_EQ(Path(L"a.qsc"), OpenedFile());
-    EXPECT_EQ((Names{L"a.qsc"}), Program().RowNames());
+    EXPECT_EQ(OpenedFile(), Path(L"a.qsc"));
+    EXPECT_EQ(Program().RowNames(), (Names{L"a.qsc"}));
 }
 
 TEST_F(OpenRow, that_is_a_program_starts_it) {
     AddProgram(L"my recorder.exe");
     Find();
     Open(L"my recorder.exe");
-    EXPECT_EQ((Names{L""}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L""}));
 }
 
 TEST_F(OpenRow, that_is_a_shortcut_starts_its_quoted_program_with_the_quotes_doubled) {
@@ -66,7 +66,7 @@ TEST_F(OpenRow, that_is_a_shortcut_starts_its_quoted_program_with_the_quotes_dou
     AddShortcut(L"s.lnk", L"\"" + Path(L"my recorder.exe") + L"\" /o \"a b.txt\"");
     Find(L"s.lnk");
     PressKey(VK_RETURN);
-    EXPECT_EQ((Names{L"/o \"\"a b.txt\"\""}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L"/o \"\"a b.txt\"\""}));
 }
 
 TEST_F(OpenRow, that_is_a_shortcut_to_a_document_opens_it) {
@@ -74,7 +74,7 @@ TEST_F(OpenRow, that_is_a_shortcut_to_a_document_opens_it) {
     AddShortcut(L"s.lnk", L"\"" + Path(L"a b.qsa") + L"\"");
     Find(L"s.lnk");
     Open(L"s.lnk");
-    EXPECT_EQ(Path(L"a b.qsa"), OpenedFile());
+    EXPECT_EQ(OpenedFile(), Path(L"a b.qsa"));
 }
 
 TEST_F(OpenRow, that_is_a_folder_or_a_shortcut_to_one_does_nothing) {
@@ -115,7 +115,7 @@ TEST_F(OpenRow, that_is_a_shortcut_to_a_shortcut_or_to_nothing_harms_nothing) {
         if (const std::optional<ProgramDialog> told = OpenDialogOf(Program().Window())) told->Press(IDOK);
         EXPECT_TRUE(Program().IsRunning());
     }
-    EXPECT_EQ((Names{L"to damaged.lnk", L"to nothing.lnk", L"to text.lnk"}), Sorted(Program().RowNames()));
+    EXPECT_EQ(Sorted(Program().RowNames()), (Names{L"to damaged.lnk", L"to nothing.lnk", L"to text.lnk"}));
 }
 
 TEST_F(OpenRow, added_to_the_start_menu_three_times_gives_three_shortcuts_that_work) {
@@ -128,9 +128,9 @@ TEST_F(OpenRow, added_to_the_start_menu_three_times_gives_three_shortcuts_that_w
     SHGetFileInfoW(Real(L"my recorder.exe").c_str(), 0, &info, sizeof(info), SHGFI_DISPLAYNAME);
     const std::wstring name = info.szDisplayName;
     const Names expected = {name + L" (2).lnk", name + L" (3).lnk", name + L".lnk"};
-    EXPECT_EQ(expected, Sorted(NamesFoundBy(Where(StartMenu()))));
+    EXPECT_EQ(Sorted(NamesFoundBy(Where(StartMenu()))), expected);
     Open(name + L" (3).lnk");
-    EXPECT_EQ((Names{L""}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L""}));
     for (const std::wstring& shortcut : expected)
         DeleteFileW((Drive().Letter() + StartMenu() + L"\\" + shortcut).c_str());
 }
@@ -142,10 +142,10 @@ TEST_F(OpenRow, that_is_a_shortcut_added_to_the_start_menu_points_to_its_target)
     SelectRow(L"s.lnk");
     Program().SendMenuCommand(COMMAND_ADD_TO_START_MENU);
     const Names made = NamesFoundBy(Where(StartMenu()));
-    ASSERT_EQ(1u, made.size());
+    ASSERT_EQ(made.size(), 1u);
     // Its target is the program, not the first shortcut.
     DeleteFileW(Real(L"s.lnk").c_str());
     Open(made[0]);
-    EXPECT_EQ((Names{L""}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L""}));
     DeleteFileW((Drive().Letter() + StartMenu() + L"\\" + made[0]).c_str());
 }

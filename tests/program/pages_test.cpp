@@ -49,41 +49,41 @@ class PagesAtStart : public ProgramTest {
 class Pages : public ProgramTest {
   protected:
     void ExpectDateControls(bool pickers, bool days) {
-        EXPECT_EQ(pickers, Program().Control(DatePage, PICKER_FROM).enabled);
-        EXPECT_EQ(pickers, Program().Control(DatePage, PICKER_TO).enabled);
-        EXPECT_EQ(days, Program().Control(DatePage, EDIT_DAYS).enabled);
-        EXPECT_EQ(days, Program().Control(DatePage, SPIN_DAYS).enabled);
+        EXPECT_EQ(Program().Control(DatePage, PICKER_FROM).enabled, pickers);
+        EXPECT_EQ(Program().Control(DatePage, PICKER_TO).enabled, pickers);
+        EXPECT_EQ(Program().Control(DatePage, EDIT_DAYS).enabled, days);
+        EXPECT_EQ(Program().Control(DatePage, SPIN_DAYS).enabled, days);
     }
 };
 
 TEST_F(PagesAtStart, on_the_first_start_the_name_shows_log_and_offers_log_and_txt) {
-    EXPECT_EQ(L"*.log", Program().Control(NamePage, COMBO_NAME).text);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).text, L"*.log");
     const ComboState combo = Program().Combo(NamePage, COMBO_NAME);
-    EXPECT_EQ((Names{L"*.log", L"*.txt"}), combo.entries);
-    EXPECT_EQ(0, combo.selected);
+    EXPECT_EQ(combo.entries, (Names{L"*.log", L"*.txt"}));
+    EXPECT_EQ(combo.selected, 0);
 }
 
 TEST_F(PagesAtStart, the_other_fields_of_the_name_page_start_empty) {
-    EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"");
     EXPECT_TRUE(Program().Combo(NamePage, COMBO_LOCATION).entries.empty());
-    EXPECT_EQ(L"", Program().Control(NamePage, EDIT_CONTENT).text);
-    EXPECT_EQ(0, Program().Control(NamePage, CHECK_SUBFOLDERS).checked);
-    EXPECT_EQ(260, Program().Control(NamePage, EDIT_CONTENT).textLimit);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"");
+    EXPECT_EQ(Program().Control(NamePage, CHECK_SUBFOLDERS).checked, 0);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).textLimit, 260);
 }
 
 TEST_F(PagesAtStart, the_controls_carry_their_texts) {
-    EXPECT_EQ(Shown(L"&Browse", L"参照(&B)"), Program().Control(NamePage, BUTTON_BROWSE).text);
-    EXPECT_EQ(Shown(L"Include &Subfolders", L"ｻﾌﾞﾌｫﾙﾀﾞも探す(&S)"),
-              Program().Control(NamePage, CHECK_SUBFOLDERS).text);
-    EXPECT_EQ(Shown(L"&All Files", L"すべてのﾌｧｲﾙ(&A)"), Program().Control(DatePage, RADIO_ALL_FILES).text);
-    EXPECT_EQ(Shown(L"&Between", L"日付指定(&B)"), Program().Control(DatePage, RADIO_BETWEEN).text);
-    EXPECT_EQ(Shown(L"Paste&d", L"過去(&D)"), Program().Control(DatePage, RADIO_PAST).text);
+    EXPECT_EQ(Program().Control(NamePage, BUTTON_BROWSE).text, Shown(L"&Browse", L"参照(&B)"));
+    EXPECT_EQ(Program().Control(NamePage, CHECK_SUBFOLDERS).text,
+              Shown(L"Include &Subfolders", L"ｻﾌﾞﾌｫﾙﾀﾞも探す(&S)"));
+    EXPECT_EQ(Program().Control(DatePage, RADIO_ALL_FILES).text, Shown(L"&All Files", L"すべてのﾌｧｲﾙ(&A)"));
+    EXPECT_EQ(Program().Control(DatePage, RADIO_BETWEEN).text, Shown(L"&Between", L"日付指定(&B)"));
+    EXPECT_EQ(Program().Control(DatePage, RADIO_PAST).text, Shown(L"Paste&d", L"過去(&D)"));
 }
 
 TEST_F(PagesAtStart, the_date_page_asks_for_all_files_and_the_rest_is_disabled) {
-    EXPECT_EQ(BST_CHECKED, Program().Control(DatePage, RADIO_ALL_FILES).checked);
-    EXPECT_EQ(BST_UNCHECKED, Program().Control(DatePage, RADIO_BETWEEN).checked);
-    EXPECT_EQ(BST_UNCHECKED, Program().Control(DatePage, RADIO_PAST).checked);
+    EXPECT_EQ(Program().Control(DatePage, RADIO_ALL_FILES).checked, BST_CHECKED);
+    EXPECT_EQ(Program().Control(DatePage, RADIO_BETWEEN).checked, BST_UNCHECKED);
+    EXPECT_EQ(Program().Control(DatePage, RADIO_PAST).checked, BST_UNCHECKED);
     for (const int id : {PICKER_FROM, PICKER_TO, EDIT_DAYS, SPIN_DAYS}) {
         EXPECT_FALSE(Program().Control(DatePage, id).enabled) << id;
     }
@@ -95,34 +95,34 @@ TEST_F(PagesAtStart, the_date_page_asks_for_all_files_and_the_rest_is_disabled) 
 TEST_F(PagesAtStart, the_pickers_show_today_by_utc_and_three_months_before) {
     const std::wstring today = ClockDate(0);
     const std::wstring earlier = ClockDate(3);
-    EXPECT_EQ(today, DateOf(Program().Picker(DatePage, PICKER_TO)));
+    EXPECT_EQ(DateOf(Program().Picker(DatePage, PICKER_TO)), today);
     // A day that the earlier month lacks is for the picker to refuse.
-    EXPECT_EQ(DayExists(earlier) ? earlier : today, DateOf(Program().Picker(DatePage, PICKER_FROM)));
+    EXPECT_EQ(DateOf(Program().Picker(DatePage, PICKER_FROM)), DayExists(earlier) ? earlier : today);
 }
 
 TEST_F(PagesAtStart, the_days_spin_runs_from_1_to_999_and_starts_at_1) {
     const SpinState spin = Program().Spin(DatePage, SPIN_DAYS);
-    EXPECT_EQ(1, spin.lower);
-    EXPECT_EQ(999, spin.upper);
-    EXPECT_EQ(1, spin.position);
-    EXPECT_EQ(L"1", Program().Control(DatePage, EDIT_DAYS).text);
+    EXPECT_EQ(spin.lower, 1);
+    EXPECT_EQ(spin.upper, 999);
+    EXPECT_EQ(spin.position, 1);
+    EXPECT_EQ(Program().Control(DatePage, EDIT_DAYS).text, L"1");
 }
 
 TEST_F(PagesAtStart, the_size_page_offers_no_bound_min_and_max_over_0_to_32767_kilobytes) {
-    EXPECT_EQ((Names{L"", Shown(L"Min", L"最低"), Shown(L"Max", L"最高")}),
-              Program().Combo(SizePage, COMBO_FILE_SIZE).entries);
-    EXPECT_EQ(0, Program().Combo(SizePage, COMBO_FILE_SIZE).selected);
+    EXPECT_EQ(Program().Combo(SizePage, COMBO_FILE_SIZE).entries,
+              (Names{L"", Shown(L"Min", L"最低"), Shown(L"Max", L"最高")}));
+    EXPECT_EQ(Program().Combo(SizePage, COMBO_FILE_SIZE).selected, 0);
     const SpinState spin = Program().Spin(SizePage, SPIN_KILOBYTES);
-    EXPECT_EQ(0, spin.lower);
-    EXPECT_EQ(32767, spin.upper);
-    EXPECT_EQ(L"", Program().Control(SizePage, EDIT_KILOBYTES).text);
+    EXPECT_EQ(spin.lower, 0);
+    EXPECT_EQ(spin.upper, 32767);
+    EXPECT_EQ(Program().Control(SizePage, EDIT_KILOBYTES).text, L"");
 }
 
 TEST_F(PagesAtStart, the_file_types_begin_with_all_files_and_folders_which_is_chosen) {
     const ComboState types = Program().Combo(SizePage, COMBO_FILE_TYPE);
     ASSERT_FALSE(types.entries.empty());
-    EXPECT_EQ(Shown(L"All files and folders", L"すべてのﾌｧｲﾙとﾌｫﾙﾀﾞ"), types.entries[0]);
-    EXPECT_EQ(0, types.selected);
+    EXPECT_EQ(types.entries[0], Shown(L"All files and folders", L"すべてのﾌｧｲﾙとﾌｫﾙﾀﾞ"));
+    EXPECT_EQ(types.selected, 0);
 }
 
 TEST_F(PagesAtStart, every_control_of_every_page_lies_within_the_tab_control) {
@@ -167,11 +167,11 @@ TEST_F(Pages, new_condition_empties_name_and_location_and_leaves_content_subfold
     Program().Fill(conditions);
     const Names history = Program().Combo(NamePage, COMBO_NAME).entries;
     Program().SendMenuCommand(COMMAND_NEW_CONDITION);
-    EXPECT_EQ(L"", Program().Control(NamePage, COMBO_NAME).text);
-    EXPECT_EQ(L"", Program().Control(NamePage, COMBO_LOCATION).text);
-    EXPECT_EQ(L"kept", Program().Control(NamePage, EDIT_CONTENT).text);
-    EXPECT_EQ(BST_CHECKED, Program().Control(NamePage, CHECK_SUBFOLDERS).checked);
-    EXPECT_EQ(history, Program().Combo(NamePage, COMBO_NAME).entries);
+    EXPECT_EQ(Program().Control(NamePage, COMBO_NAME).text, L"");
+    EXPECT_EQ(Program().Control(NamePage, COMBO_LOCATION).text, L"");
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, L"kept");
+    EXPECT_EQ(Program().Control(NamePage, CHECK_SUBFOLDERS).checked, BST_CHECKED);
+    EXPECT_EQ(Program().Combo(NamePage, COMBO_NAME).entries, history);
 }
 
 TEST_F(Pages, new_condition_resets_the_date_page) {
@@ -180,21 +180,21 @@ TEST_F(Pages, new_condition_resets_the_date_page) {
     Program().SetDate(DatePage, PICKER_FROM, 20020110);
     Program().SetDate(DatePage, PICKER_TO, 20020110);
     Program().SendMenuCommand(COMMAND_NEW_CONDITION);
-    EXPECT_EQ(BST_CHECKED, Program().Control(DatePage, RADIO_ALL_FILES).checked);
-    EXPECT_EQ(BST_UNCHECKED, Program().Control(DatePage, RADIO_PAST).checked);
+    EXPECT_EQ(Program().Control(DatePage, RADIO_ALL_FILES).checked, BST_CHECKED);
+    EXPECT_EQ(Program().Control(DatePage, RADIO_PAST).checked, BST_UNCHECKED);
     ExpectDateControls(false, false);
-    EXPECT_EQ(1, Program().Spin(DatePage, SPIN_DAYS).position);
-    EXPECT_EQ(ClockDate(0), DateOf(Program().Picker(DatePage, PICKER_TO)));
+    EXPECT_EQ(Program().Spin(DatePage, SPIN_DAYS).position, 1);
+    EXPECT_EQ(DateOf(Program().Picker(DatePage, PICKER_TO)), ClockDate(0));
 }
 
 TEST_F(Pages, new_condition_resets_the_size_page) {
     Program().SelectEntry(SizePage, COMBO_FILE_SIZE, 2);
     Program().SetSpin(SizePage, SPIN_KILOBYTES, 10);
-    ASSERT_EQ(L"10", Program().Control(SizePage, EDIT_KILOBYTES).text);
+    ASSERT_EQ(Program().Control(SizePage, EDIT_KILOBYTES).text, L"10");
     Program().SendMenuCommand(COMMAND_NEW_CONDITION);
-    EXPECT_EQ(0, Program().Combo(SizePage, COMBO_FILE_TYPE).selected);
-    EXPECT_EQ(0, Program().Combo(SizePage, COMBO_FILE_SIZE).selected);
-    EXPECT_EQ(L"", Program().Control(SizePage, EDIT_KILOBYTES).text);
+    EXPECT_EQ(Program().Combo(SizePage, COMBO_FILE_TYPE).selected, 0);
+    EXPECT_EQ(Program().Combo(SizePage, COMBO_FILE_SIZE).selected, 0);
+    EXPECT_EQ(Program().Control(SizePage, EDIT_KILOBYTES).text, L"");
 }
 
 TEST_F(Pages, after_new_condition_a_search_starts_at_the_root_with_every_name) {
@@ -205,7 +205,7 @@ TEST_F(Pages, after_new_condition_a_search_starts_at_the_root_with_every_name) {
     EXPECT_NE(names.end(), std::find(names.begin(), names.end(), L"top.txt"));
     EXPECT_NE(names.end(), std::find(names.begin(), names.end(), L"empty"));
     for (const RowState& row : Program().Rows())
-        EXPECT_EQ(L"\\", row.folder);
+        EXPECT_EQ(row.folder, L"\\");
 }
 
 TEST_F(Pages, the_content_field_takes_no_more_than_260_typed_units) {
@@ -217,5 +217,5 @@ TEST_F(Pages, the_content_field_takes_no_more_than_260_typed_units) {
     // The keys that came too many are in the queue still; none of them may get in.
     PressKey(VK_HOME);
     Sleep(200);
-    EXPECT_EQ(std::wstring(260, L'x'), Program().Control(NamePage, EDIT_CONTENT).text);
+    EXPECT_EQ(Program().Control(NamePage, EDIT_CONTENT).text, std::wstring(260, L'x'));
 }

@@ -47,12 +47,12 @@ void ProgramTest::StartFresh(const std::wstring& arguments, const std::wstring& 
 }
 
 void ProgramTest::CloseProgram() {
-    EXPECT_EQ(0u, Program().Close());
+    EXPECT_EQ(Program().Close(), 0u);
 }
 
 void ProgramTest::StartAgain(const std::wstring& arguments, const std::wstring& path) {
     Program().Kill();
-    ASSERT_EQ(nullptr, FindWindowW(L"QuorinSearch", nullptr)) << "another copy of the program is running";
+    ASSERT_EQ(FindWindowW(L"QuorinSearch", nullptr), nullptr) << "another copy of the program is running";
     ProgramStart start;
     start.path = path;
     start.workingFolder = Drive().Root();

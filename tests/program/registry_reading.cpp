@@ -82,8 +82,8 @@ std::vector<std::wstring> SubKeysOf(const wchar_t* path) {
 }
 
 void Store(const wchar_t* path, const std::wstring& name, DWORD type, const void* data, std::size_t size) {
-    ASSERT_EQ(ERROR_SUCCESS,
-              RegSetKeyValueW(HKEY_CURRENT_USER, path, name.c_str(), type, data, static_cast<DWORD>(size)));
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, path, name.c_str(), type, data, static_cast<DWORD>(size)),
+              ERROR_SUCCESS);
 }
 
 void StoreText(const wchar_t* path, const std::wstring& name, const std::wstring& text) {

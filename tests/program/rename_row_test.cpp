@@ -31,13 +31,13 @@ class RenameRow : public ResultsTest {
         for (const std::wstring& text :
              {reason, Shown(L"Can't rename the file", L"名前の変更に失敗しました")}) {
             const ProgramDialog box = Dialog();
-            EXPECT_EQ(Shown(L"Error", L"ｴﾗｰ"), box.Caption());
+            EXPECT_EQ(box.Caption(), Shown(L"Error", L"ｴﾗｰ"));
             EXPECT_TRUE(box.HasText(text)) << testing::PrintToString(text);
             box.Press(IDOK);
         }
         EXPECT_TRUE(RowsAre({L"a.qsa", L"b.qsb"}));
-        EXPECT_EQ("of a", ContentOf(L"a.qsa"));
-        EXPECT_EQ("of b", ContentOf(L"b.qsb"));
+        EXPECT_EQ(ContentOf(L"a.qsa"), "of a");
+        EXPECT_EQ(ContentOf(L"b.qsb"), "of b");
         EXPECT_TRUE(NothingStarted()) << "Enter in the edit opened a file";
     }
 };
@@ -46,10 +46,10 @@ TEST_F(RenameRow, by_the_menus_command_and_enter) {
     Type(L"日報.qsc");
     PressKey(VK_RETURN);
     EXPECT_TRUE(RowsAre({L"b.qsb", L"日報.qsc"}));
-    EXPECT_EQ("of a", ContentOf(L"日報.qsc"));
+    EXPECT_EQ(ContentOf(L"日報.qsc"), "of a");
     EXPECT_FALSE(Stands(L"a.qsa"));
     // Type and icon stay what they were.
-    EXPECT_EQ(L"Alpha kind", Row(L"日報.qsc").type);
+    EXPECT_EQ(Row(L"日報.qsc").type, L"Alpha kind");
     EXPECT_TRUE(NothingStarted()) << "Enter in the edit opened a file";
     EXPECT_TRUE(NoDialogOpen());
 }
@@ -68,7 +68,7 @@ TEST_F(RenameRow, is_given_up_with_escape) {
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Program().ListHasFocus(); }));
     EXPECT_TRUE(RowsAre({L"a.qsa", L"b.qsb"}));
-    EXPECT_EQ("of a", ContentOf(L"a.qsa"));
+    EXPECT_EQ(ContentOf(L"a.qsa"), "of a");
     EXPECT_FALSE(Stands(L"c.qsa"));
 }
 
@@ -76,7 +76,7 @@ TEST_F(RenameRow, is_taken_by_a_click_elsewhere) {
     Type(L"c.qsa");
     ClickAt(PlaceOf(L"b.qsb"));
     EXPECT_TRUE(RowsAre({L"b.qsb", L"c.qsa"}));
-    EXPECT_EQ("of a", ContentOf(L"c.qsa"));
+    EXPECT_EQ(ContentOf(L"c.qsa"), "of a");
 }
 
 TEST_F(RenameRow, to_the_name_of_another_file_is_refused_with_two_boxes) {
@@ -109,7 +109,7 @@ TEST_F(RenameRow, of_a_file_in_use_tells_its_path) {
     Dialog().Press(IDOK);
     CloseHandle(held);
     EXPECT_TRUE(RowsAre({L"a.qsa", L"b.qsb"}));
-    EXPECT_EQ("of a", ContentOf(L"a.qsa"));
+    EXPECT_EQ(ContentOf(L"a.qsa"), "of a");
 }
 
 TEST_F(RenameRow, then_opens_the_file_under_its_new_name) {

@@ -36,7 +36,7 @@ TEST_F(RowCommands, work_in_every_view) {
         Find();
         SelectRow(L"a.qsa");
         const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
-        EXPECT_EQ(Folder(), sheet.Text(STATIC_LOCATION));
+        EXPECT_EQ(sheet.Text(STATIC_LOCATION), Folder());
         sheet.Press(IDCANCEL);
         Opened(COMMAND_DELETE).Press(IDYES);
         EXPECT_TRUE(RowsAre({})) << view;
@@ -54,7 +54,7 @@ TEST_F(RowCommands, by_a_search_for_a_registered_type_find_its_files_alone) {
         if (types[i].find(L"Alpha kind") != std::wstring::npos) alpha = static_cast<int>(i);
     ASSERT_GE(alpha, 0) << "the kind is not offered";
     Program().SelectEntry(SizePage, COMBO_FILE_TYPE, alpha);
-    EXPECT_EQ((Names{L"a.qsa"}), Find());
+    EXPECT_EQ(Find(), (Names{L"a.qsa"}));
 }
 
 TEST_F(RowCommands, can_all_be_given_by_the_keyboard_alone) {
@@ -84,5 +84,5 @@ TEST_F(RowCommands, can_all_be_given_by_the_keyboard_alone) {
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return !IsWindow(question); }));
     EXPECT_TRUE(RowsAre({L"c.qsb"}));
     EXPECT_FALSE(Stands(L"a.qsa"));
-    EXPECT_EQ("of b", ContentOf(L"c.qsb"));
+    EXPECT_EQ(ContentOf(L"c.qsb"), "of b");
 }

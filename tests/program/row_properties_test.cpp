@@ -43,23 +43,23 @@ TEST_F(RowProperties, fit_the_screen_and_show_the_file) {
     EXPECT_GE(place.top, 0);
     EXPECT_LE(place.right, World().screenWidth);
     EXPECT_LE(place.bottom, World().screenHeight);
-    EXPECT_EQ(1, sheet.PageCount());
-    EXPECT_EQ(L"", sheet.Caption());
-    EXPECT_EQ(L"Alpha kind", sheet.Text(STATIC_TYPE));
-    EXPECT_EQ(Folder(), sheet.Text(STATIC_LOCATION));
-    EXPECT_EQ(Shown(L"&Read-only", L"読みとり専用(&R)"), sheet.Text(CHECK_READ_ONLY));
+    EXPECT_EQ(sheet.PageCount(), 1);
+    EXPECT_EQ(sheet.Caption(), L"");
+    EXPECT_EQ(sheet.Text(STATIC_TYPE), L"Alpha kind");
+    EXPECT_EQ(sheet.Text(STATIC_LOCATION), Folder());
+    EXPECT_EQ(sheet.Text(CHECK_READ_ONLY), Shown(L"&Read-only", L"読みとり専用(&R)"));
     sheet.Press(IDCANCEL);
 }
 
 TEST_F(RowProperties, change_an_attribute_and_take_it_back) {
     for (const bool readOnly : {true, false}) {
         const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
-        EXPECT_EQ(!readOnly, sheet.IsChecked(CHECK_READ_ONLY));
+        EXPECT_EQ(sheet.IsChecked(CHECK_READ_ONLY), !readOnly);
         sheet.Click(CHECK_READ_ONLY);
         sheet.Press(IDOK);
         EXPECT_TRUE(HoldsWithin(StepDeadline, [&] { return Has(FILE_ATTRIBUTE_READONLY) == readOnly; }));
     }
-    EXPECT_EQ(std::string(1000, 'x'), ContentOf(L"a.qsa"));
+    EXPECT_EQ(ContentOf(L"a.qsa"), std::string(1000, 'x'));
 }
 
 TEST_F(RowProperties, change_nothing_when_cancelled) {
@@ -99,16 +99,16 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_points_it_elsewhere)
     Find(L"s.lnk");
     SelectRow(L"s.lnk");
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
-    EXPECT_EQ(2, sheet.PageCount());
+    EXPECT_EQ(sheet.PageCount(), 2);
     sheet.TurnTo(1);
-    EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
-    EXPECT_EQ(L"1000 bytes", sheet.Text(STATIC_TARGET_SIZE));
-    EXPECT_EQ(L"Alpha kind", sheet.Text(STATIC_TARGET_TYPE));
+    EXPECT_EQ(sheet.Text(EDIT_TARGET), Path(L"a.qsa"));
+    EXPECT_EQ(sheet.Text(STATIC_TARGET_SIZE), L"1000 bytes");
+    EXPECT_EQ(sheet.Text(STATIC_TARGET_TYPE), L"Alpha kind");
     const std::wstring target = L"\"" + Path(L"recorder.exe") + L"\" one";
     SendMessageW(sheet.Control(EDIT_TARGET), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(target.c_str()));
     sheet.Press(IDOK);
     Program().SendMenuCommand(COMMAND_OPEN);
-    EXPECT_EQ((Names{L"one"}), Started(1));
+    EXPECT_EQ(Started(1), (Names{L"one"}));
 }
 
 TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches_and_changes) {
@@ -119,7 +119,7 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches
     PressKey(VK_TAB, {VK_SHIFT});
     PressKey(VK_RIGHT);
     ASSERT_TRUE(HoldsWithin(StepDeadline, [&] { return ShowsPageWith(sheet, EDIT_TARGET); }));
-    EXPECT_EQ(Path(L"a.qsa"), sheet.Text(EDIT_TARGET));
+    EXPECT_EQ(sheet.Text(EDIT_TARGET), Path(L"a.qsa"));
     ASSERT_TRUE(ReachesByKey('T', sheet, EDIT_TARGET));
     PressKey(VK_END);
     PressKey(VK_BACK);
@@ -130,7 +130,7 @@ TEST_F(RowProperties, of_a_shortcut_have_a_second_page_that_the_keyboard_reaches
     again.TurnTo(1);
     const std::wstring target = again.Text(EDIT_TARGET);
     EXPECT_NE(std::wstring::npos, target.find(Path(L"a.qs"))) << testing::PrintToString(target);
-    EXPECT_EQ(std::wstring::npos, target.find(Path(L"a.qsa")));
+    EXPECT_EQ(target.find(Path(L"a.qsa")), std::wstring::npos);
     again.Press(IDCANCEL);
 }
 
@@ -140,7 +140,7 @@ TEST_F(RowProperties, of_a_folder_have_no_boxes) {
     SelectRow(L"folder");
     const ProgramDialog sheet = Opened(COMMAND_PROPERTIES);
     EXPECT_FALSE(IsWindowVisible(sheet.Control(CHECK_READ_ONLY)));
-    EXPECT_EQ(L"", sheet.Text(STATIC_SIZE));
+    EXPECT_EQ(sheet.Text(STATIC_SIZE), L"");
     sheet.Press(IDOK);
     EXPECT_TRUE(NoDialogOpen());
 }

@@ -14,7 +14,7 @@ class SortRows : public ResultsTest {
         Add(L"A.qsa", 999, TimeOf(2002, 7, 15, 9, 5, 30));
         Add(L"c.qsc", 1500, TimeOf(2002, 7, 15, 9, 5, 31));
         Add(L"sub\\d.qsa", 2000, TimeOf(2000, 1, 1));
-        ASSERT_EQ((Names{L"A.qsa", L"b.qsb", L"c.qsc", L"d.qsa"}), Sorted(Find(L"*.qs?", true)));
+        ASSERT_EQ(Sorted(Find(L"*.qs?", true)), (Names{L"A.qsa", L"b.qsb", L"c.qsc", L"d.qsa"}));
     }
     void Add(const std::wstring& name, long long size, const SYSTEMTIME& time) {
         Tree().AddFileOfSize(Path(name).substr(1), size);
@@ -83,7 +83,7 @@ TEST_F(SortRows, is_not_done_by_a_search_but_its_column_and_direction_are_rememb
     const Names found = Program().RowNames();
     ClickHeading(SizeColumn);
     ExpectOrder("size up", {L"A.qsa", L"c.qsc", L"d.qsa", L"b.qsb"});
-    EXPECT_EQ(found, Find(L"*.qs?", true));
+    EXPECT_EQ(Find(L"*.qs?", true), found);
     ClickHeading(SizeColumn);
     ExpectOrder("size down", {L"b.qsb", L"c.qsc", L"d.qsa", L"A.qsa"});
 }
@@ -95,9 +95,9 @@ TEST_F(SortRows, leaves_the_rows_whole_with_their_numbers_and_the_selection) {
     ClickHeading(SizeColumn);
     const RowState after = Row(L"c.qsc");
     EXPECT_TRUE(after.Selected());
-    EXPECT_EQ(before.parameter, after.parameter);
-    EXPECT_EQ(Folder(), after.folder);
-    EXPECT_EQ(L"1K", after.size);
-    EXPECT_EQ(L"Gamma kind", after.type);
-    EXPECT_EQ(L"02/07/15 09:05:31", after.modified);
+    EXPECT_EQ(after.parameter, before.parameter);
+    EXPECT_EQ(after.folder, Folder());
+    EXPECT_EQ(after.size, L"1K");
+    EXPECT_EQ(after.type, L"Gamma kind");
+    EXPECT_EQ(after.modified, L"02/07/15 09:05:31");
 }

@@ -24,10 +24,10 @@ class MissingList : public ResultListTest {
 };
 
 TEST_F(MissingList, it_takes_matches_and_has_no_rows) {
-    ASSERT_EQ(nullptr, Handle());
+    ASSERT_EQ(Handle(), nullptr);
     AddFile(L"\\folder", L"a.txt", 12);
-    EXPECT_EQ(0, List().RowCount());
-    EXPECT_EQ(0, List().SelectedCount());
+    EXPECT_EQ(List().RowCount(), 0);
+    EXPECT_EQ(List().SelectedCount(), 0);
     List().Clear();
 }
 
