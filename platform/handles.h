@@ -80,7 +80,10 @@ class WindowContext {
 // The device context of one WM_PAINT.
 class PaintContext {
   public:
-    explicit PaintContext(HWND window) : window_(window) { BeginPaint(window, &paint_); }
+    // The system asks for what was not painted again and again, before it takes anything else.
+    explicit PaintContext(HWND window) : window_(window) {
+        if (BeginPaint(window, &paint_) == nullptr) ValidateRect(window, nullptr);
+    }
     PaintContext(const PaintContext&) = delete;
     PaintContext& operator=(const PaintContext&) = delete;
     ~PaintContext() { EndPaint(window_, &paint_); }
