@@ -5,19 +5,22 @@
 refusalProgram=hands_refused_calls_tests
 refusalDir=$buildDir/refusals
 refusalPage=$root/docs/reliability.md
-refusalWorlds=('en 240x320' 'en 640x240' 'ja 240x320' 'ja 640x240')
+refusalWorlds=(en-240x320 en-640x240 ja-240x320 ja-640x240)
 
 # The longest that all lives of a world may take on a busy machine.
 refusalDeadline=7200
 
-# refuse_in_world LANGUAGE SCREEN WANTED: the lives of one world; what they said is in a log of their own.
+# refuse_in_world WORLD WANTED: the lives of one world; what they said is in a log of their own.
 refuse_in_world() (
     arm_cleanups
-    open_world refusals "$1" "$2"
-    export QUORIN_TEST_REFUSALS_OF=$3 QUORIN_TEST_SECONDS=$refusalDeadline
+    worldsOf=refusals
+    open_world "$1"
+    at_exit rm -rf "$scratchDevice" "$WINEPREFIX"
+    at_exit stop_wine
+    export QUORIN_TEST_REFUSALS_OF=$2 QUORIN_SECONDS_PER_TEST=$refusalDeadline
     cd "$scratchDevice"
     timeout -k 10 "$refusalDeadline" "$wine" "P:\\tests\\$refusalProgram.exe" --gtest_color=no \
-        </dev/null >"$refusalDir/$1-$2.log" 2>&1
+        </dev/null >"$refusalDir/$1.log" 2>&1
 )
 
 # outcomes_of LOG...: call, code, how often, step and outcome of each refusal that took place, one a line.
