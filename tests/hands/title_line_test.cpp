@@ -1,10 +1,18 @@
 // What fills a handheld's screen stays where it is, whatever is tried with its title line and its system
 // menu.
 
+#include <algorithm>
+
 #include "tests/hands/hands_test.h"
 
 class TitleLine : public HandsTest {
   protected:
+    // A desktop's windows are there to be moved.
+    [[nodiscard]] static bool IsDesktop() {
+        const int width = GetSystemMetrics(SM_CXSCREEN);
+        const int height = GetSystemMetrics(SM_CYSCREEN);
+        return std::max(width, height) > 800 || std::min(width, height) > 480;
+    }
     [[nodiscard]] static RECT PlaceOfWindow(HWND window) {
         RECT place = {};
         GetWindowRect(window, &place);
@@ -28,6 +36,7 @@ class TitleLine : public HandsTest {
 };
 
 TEST_F(TitleLine, of_the_main_window_cannot_be_dragged) {
+    if (IsDesktop()) GTEST_SKIP() << "not a handheld's screen";
     ASSERT_TRUE(FillsScreen(Program().Window()));
     DragTitle(Program().Window());
     EXPECT_TRUE(FillsScreen(Program().Window()));
@@ -38,12 +47,14 @@ TEST_F(TitleLine, of_the_main_window_cannot_be_dragged) {
 }
 
 TEST_F(TitleLine, of_the_main_window_takes_a_double_click_without_effect) {
+    if (IsDesktop()) GTEST_SKIP() << "not a handheld's screen";
     DoubleClickAt(TitleOf(Program().Window()));
     Program().WaitForQueue();
     EXPECT_TRUE(FillsScreen(Program().Window()));
 }
 
 TEST_F(TitleLine, of_the_main_window_is_not_moved_or_sized_from_the_system_menu) {
+    if (IsDesktop()) GTEST_SKIP() << "not a handheld's screen";
     for (const WORD letter : {WORD{'M'}, WORD{'S'}}) {
         Program().FocusTab();
         PressKey(VK_SPACE, {VK_MENU});
