@@ -384,14 +384,14 @@ namespace {
 // elsewhere; by step.
 std::map<LifeStep, std::vector<StepRefusal>> OnceByStep(const std::vector<probe::CallPlace>& places) {
     std::map<LifeStep, std::vector<StepRefusal>> refusals;
-    std::map<LONG, std::size_t> taken;
     for (const probe::CallPlace& place : places) {
         const auto step = static_cast<LifeStep>(place.step);
         const probe::RefusableCall& call = probe::RefusableCalls[place.call];
         StepRefusal refusal = {place.call, place.place, 0, false};
         const std::size_t number = IsTold(step, refusal) ? call.CodeCount() : 1;
         for (std::size_t i = 0; i < number; ++i) {
-            refusal.code = call.codes[taken[place.call]++ % call.CodeCount()];
+            // By the place, so that all worlds choose the same one.
+            refusal.code = call.codes[(static_cast<std::size_t>(place.place) + i) % call.CodeCount()];
             refusals[step].push_back(refusal);
         }
     }
