@@ -131,10 +131,14 @@ DeviceEntries Device::Entries() const {
     return entries;
 }
 
+std::wstring Device::Real(const std::wstring& path) const {
+    return L"\\\\?\\" + tree_->Root() + path;
+}
+
 void Device::Collect(const std::wstring& folder, DeviceEntries& entries) const {
     constexpr std::size_t LongestKept = 4096;
     WIN32_FIND_DATAW data;
-    const std::wstring real = tree_->Root() + folder + L"\\";
+    const std::wstring real = Real(folder) + L"\\";
     const HANDLE search = FindFirstFileW((real + L"*").c_str(), &data);
     if (search == INVALID_HANDLE_VALUE) return;
     do {
@@ -184,7 +188,7 @@ void Device::ChangeSomething(Random& random) {
     const std::wstring folder = random.Of(Folders());
     const std::wstring newPath = (folder.size() > 1 ? folder : L"") + L"\\" + RandomName(random);
     const std::wstring& path = entry->second.path;
-    const std::wstring real = tree_->Root() + path;
+    const std::wstring real = Real(path);
     const int kind = random.Below(10);
     if (entry->second.folder || kind < 3) {
         Write(random, newPath);
@@ -192,7 +196,7 @@ void Device::ChangeSomething(Random& random) {
         journal_.Note({L"own-delete", path}, [&] { return DeleteFileW(real.c_str()) != FALSE; });
     } else if (kind < 9) {
         journal_.Note({L"own-move", path, newPath},
-                      [&] { return MoveFileW(real.c_str(), (tree_->Root() + newPath).c_str()) != FALSE; });
+                      [&] { return MoveFileW(real.c_str(), Real(newPath).c_str()) != FALSE; });
     } else {
         const DWORD attributes = random.Chance(50) ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
         journal_.Note({L"own-attributes", path, std::to_wstring(attributes)},
@@ -205,7 +209,7 @@ void Device::Write(Random& random, const std::wstring& path) {
     const std::string content = random.Of(Contents);
     const std::wstring text(content.begin(), content.end());
     journal_.Note({L"own-write", path, text}, [&] {
-        const std::wstring real = tree_->Root() + path;
+        const std::wstring real = Real(path);
         const HANDLE file =
             CreateFileW(real.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
         if (file == INVALID_HANDLE_VALUE) return false;

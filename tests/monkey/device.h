@@ -44,6 +44,8 @@ class Device {
     void FillFolder(Random& random, const std::wstring& folder, int count) const;
     void AddShortcuts(Random& random) const;
     void Collect(const std::wstring& folder, DeviceEntries& entries) const;
+    // Taken unit by unit: a name may end in a dot.
+    [[nodiscard]] std::wstring Real(const std::wstring& path) const;
     void Write(Random& random, const std::wstring& path);
 
     SharedJournal& journal_;

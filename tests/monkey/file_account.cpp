@@ -77,7 +77,8 @@ void FileAccount::TakeDelete(const JournalEntry& entry) {
     if (applied_ && path == shortcutFile_) {
         rewritten_.push_back(path);
     } else if (!saidYes_ || path != askedFile_ ||
-               shownQuestion_.find(L"'" + NameOf(path) + L"'") == std::wstring::npos) {
+               (shownQuestion_ != L"?" &&
+                shownQuestion_.find(L"'" + NameOf(path) + L"'") == std::wstring::npos)) {
         Complain("a file was deleted that nobody gave up", entry[1]);
     }
     saidYes_ = false;

@@ -15,6 +15,7 @@ namespace {
 constexpr int WildLives = 33;
 constexpr int FewestSteps = 30, MostSteps = 130;
 constexpr DWORD AnswerDeadline = 60000;
+constexpr DWORD LongestEnd = 5000;
 constexpr DWORD BetweenSteps = 10;
 // A history that was saved has at most so many texts.
 constexpr std::size_t LongestHistory = 10;
@@ -104,8 +105,8 @@ bool Life::TakeStep(int step) {
     try {
         hands_.Step(random, wild_);
     } catch (const DriverError& error) {
-        // What is gone cannot be asked.
-        if (program_.IsRunning() && !wild_) throw;
+        // What is gone, or just going, cannot be asked.
+        if (!wild_ && !HoldsWithin(LongestEnd, [this] { return !program_.IsRunning(); })) throw;
     }
     RequireAnswer();
     Sleep(BetweenSteps);
@@ -157,7 +158,7 @@ void Life::FinishLife() {
 }
 
 void Life::LookForLeftWindows() {
-    if (hands_.OpenDialog() != nullptr) Complain("a window was left behind: " + hands_.Scene());
+    if (!hands_.OpenDialogs().empty()) Complain("a window was left behind: " + hands_.Scene());
 }
 
 // Libraries that come with the first document opened, the first shortcut or the first sheet keep theirs.
@@ -258,12 +259,17 @@ void Life::CheckStoredSettings(const Settings& shown) {
 // it. The newest text is therefore in its place whatever the others are.
 void Life::CheckNextStart() {
     constexpr std::size_t TextsRead = 9;
+    constexpr std::size_t LongestRead = 260;
     Start();
     const Settings shown = ShownSettings();
     const auto compare = [this](const wchar_t* key, const Texts& texts) {
         auto values = ValuesOf(key);
         std::size_t count = 0;
-        while (count < TextsRead && values.contains(std::to_wstring(count)))
+        // Reading ends at a text that fits no field.
+        const auto isRead = [&](const std::wstring& name) {
+            return values.contains(name) && values[name].data.size() <= LongestRead * sizeof(wchar_t);
+        };
+        while (count < TextsRead && isRead(std::to_wstring(count)))
             ++count;
         if (count == 0) return;
         const StoredValue newest = values[std::to_wstring(count - 1)];

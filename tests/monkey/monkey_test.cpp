@@ -12,7 +12,7 @@
 namespace {
 
 constexpr std::uint64_t SeedOfTests = 1;
-constexpr int LivesOfTests = 3;
+constexpr int LivesOfTests = 2;
 
 unsigned long long Number(const wchar_t* name, unsigned long long otherwise) {
     wchar_t value[32] = L"";

@@ -24,8 +24,8 @@ class RandomHands {
     void Step(Random& random, bool wild);
     // Closes menus and dialogs until the main window waits for commands. False when it does not come to that.
     [[nodiscard]] bool Rest();
-    // A dialog, box or menu that takes input; null for none.
-    [[nodiscard]] HWND OpenDialog() const;
+    // The dialogs, boxes and menus that take input, the front one first.
+    [[nodiscard]] std::vector<HWND> OpenDialogs() const;
     // The visible windows of the program, in words.
     [[nodiscard]] std::string Scene() const;
     // The screen as it was.

@@ -139,24 +139,25 @@ void RandomHands::LeaveDialog(Random& random) {
 }
 
 // The shell's own boxes may have no owner: the main window takes input behind them.
-HWND RandomHands::OpenDialog() const {
+std::vector<HWND> RandomHands::OpenDialogs() const {
+    std::vector<HWND> open;
     for (const HWND window : TopWindows()) {
         const bool isOwn = window == program_.Window();
-        if (!isOwn && IsWindowEnabled(window) && (IsDialog(window) || IsMenu(window))) return window;
+        if (!isOwn && IsWindowEnabled(window) && (IsDialog(window) || IsMenu(window))) open.push_back(window);
     }
-    return nullptr;
+    return open;
 }
 
 // Looked at twice: input that is still on its way comes after what was posted.
 bool RandomHands::IsAtRest() {
     const HWND window = program_.Window();
     for (int look = 0; look < 2; ++look) {
-        if (OpenDialog() != nullptr || !IsWindowEnabled(window)) return false;
+        if (!OpenDialogs().empty() || !IsWindowEnabled(window)) return false;
         if (IsIconic(window) || !IsWindowVisible(window)) ShowWindowAsync(window, SW_RESTORE);
         program_.WaitForQueue();
         Sleep(TimeToSettle);
     }
-    return OpenDialog() == nullptr && IsWindowEnabled(window) && IsWindowVisible(window);
+    return OpenDialogs().empty() && IsWindowEnabled(window) && IsWindowVisible(window);
 }
 
 // In one of several ways, since a dialog that has lost its buttons does not know them all.
@@ -173,7 +174,12 @@ bool RandomHands::Rest() {
         if (!program_.IsRunning() || !IsWindow(program_.Window())) return true;
         if (IsAtRest()) return true;
         ComeForward();
-        Leave(OpenDialog(), attempt++);
+        // The front one may wait for one behind it, which was opened later.
+        const std::vector<HWND> open = OpenDialogs();
+        for (const HWND dialog : open)
+            Leave(dialog, attempt);
+        if (open.empty()) Leave(nullptr, attempt);
+        ++attempt;
         Sleep(TimeToOpen);
         return false;
     });

@@ -125,6 +125,9 @@ void ReplaceFileCalls() {
 
 constexpr int TextCapacity = 1024;
 
+// The one that was asked last.
+HWND question = nullptr;
+
 std::wstring CellText(int row, int column) {
     wchar_t text[TextCapacity] = L"";
     LVITEMW item = {};
@@ -159,6 +162,7 @@ bool IsQuestion(HWND dialog) {
 // Pages of a properties sheet among them.
 void NoteDialog(HWND dialog) {
     if (IsQuestion(dialog)) {
+        question = dialog;
         Note({L"dialog", L"question", SelectedPath()});
     } else if (Has(dialog, CHECK_HIDDEN)) {
         Note({L"dialog", L"general", SelectedPath()});
@@ -167,8 +171,10 @@ void NoteDialog(HWND dialog) {
     }
 }
 
+// One that has lost its text shows none.
 void NoteYes(HWND dialog) {
     wchar_t text[TextCapacity] = L"";
+    if (!Has(dialog, STATIC_QUESTION)) return Note({L"yes", L"?"});
     GetDlgItemTextW(dialog, STATIC_QUESTION, text, TextCapacity);
     Note({L"yes", text});
 }
@@ -178,7 +184,7 @@ void NoteCommand(HWND window, UINT command) {
         if (command == COMMAND_EXIT) Note({L"exit"});
         if (command == COMMAND_FIND) Note({L"search"});
         if (command == COMMAND_ADD_TO_START_MENU) Note({L"start-menu", SelectedPath()});
-    } else if (command == IDYES && IsQuestion(window)) {
+    } else if (command == IDYES && window == question) {
         NoteYes(window);
     } else if (command == BUTTON_UNINSTALL && Has(window, STATIC_PROGRAM_MEMORY)) {
         Note({L"uninstall"});

@@ -19,7 +19,7 @@ constexpr LONG JournalCapacity = 1 << 20;
 
 // Entries are records as in probe_protocol.h; the first field says what happened:
 //   dialog KIND ROW    a dialog was opened over the row with this path: question, general, shortcut
-//   yes TEXT           the question with this text was answered so
+//   yes TEXT           the question with this text, "?" for one that is gone, was answered so
 //   begin-edit ROW     the editing of the row's name
 //   end-edit TEXT      ended with this text
 //   end-edit-unchanged TEXT  ended without one: the name is as it was, empty, or was given up
