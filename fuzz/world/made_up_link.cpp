@@ -6,6 +6,7 @@
 
 #include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_files.h"
+#include "platform/desktop/shell_library.h"
 #include "platform/desktop/system_path.h"
 
 MadeUpLink& TheLink() {
@@ -52,3 +53,6 @@ BOOL ShellExecution(SHELLEXECUTEINFOW*) {
     return FALSE;
 }
 SystemPath::SystemPath(const wchar_t* path) : fits_(LiteralPath(text_, path, L"D:\\")) {}
+BOOL ShellExecution(SHELLEXECUTEINFOW* info) {
+    return ShellExecuteExW(info);
+}

@@ -11,6 +11,7 @@
 #undef LONG_MAX
 #define LONG_MAX INT_MAX
 
+#define WINAPI
 #define FALSE 0
 #define TRUE 1
 
