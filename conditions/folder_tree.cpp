@@ -11,7 +11,10 @@ namespace {
 // Fills one tree and lets messages be answered meanwhile.
 class TreeFilling {
   public:
-    explicit TreeFilling(TreeView treeView) : tree_(treeView), cursor_(GetCursor()) { ExpectMessages(); }
+    explicit TreeFilling(TreeView treeView) : tree_(treeView), cursor_(SetCursor(nullptr)) {
+        SetCursor(cursor_);
+        ExpectMessages();
+    }
 
     // False if it was to stop in the middle.
     bool Fill(HTREEITEM item, const wchar_t* folder) {
