@@ -59,9 +59,10 @@ ApplicationView::~ApplicationView() = default;
 
 void ApplicationView::SetSmallIcon(const PropertySet& properties) {
     if (!properties.Has(property::SmallIcon)) return;
-    const HANDLE icon = LoadImageW(Context().instance, ResourceName(properties, property::SmallIcon),
-                                   IMAGE_ICON, SmallIconSize, SmallIconSize, LR_DEFAULTCOLOR);
-    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+    smallIcon_.Reset(
+        static_cast<HICON>(LoadImageW(Context().instance, ResourceName(properties, property::SmallIcon),
+                                      IMAGE_ICON, SmallIconSize, SmallIconSize, LR_DEFAULTCOLOR)));
+    SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.Get()));
 }
 
 void ApplicationView::CreateMenuBar(const PropertySet& properties) {

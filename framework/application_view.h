@@ -6,6 +6,7 @@
 #include "framework/application.h"
 #include "framework/bars.h"
 #include "framework/scrolling_view.h"
+#include "platform/handles.h"
 
 class ApplicationView : public ScrollingView, public MainView {
   public:
@@ -54,6 +55,7 @@ class ApplicationView : public ScrollingView, public MainView {
     std::unique_ptr<Rebar> rebar_;
     std::unique_ptr<CommandBarInRebar> commandBar_;
     std::unique_ptr<StatusBar> statusBar_;
+    UniqueIcon smallIcon_;
     HMENU menu_ = nullptr;
     HACCEL accelerators_ = nullptr;
     bool isMainView_;

@@ -164,6 +164,19 @@ TEST_F(ApplicationViews, have_a_small_icon_when_asked) {
     EXPECT_EQ(SendMessageW(plain.Handle(), WM_GETICON, ICON_SMALL, 0), 0);
 }
 
+TEST_F(ApplicationViews, release_their_small_icon) {
+    HICON icon = nullptr;
+    {
+        PropertySet properties = ViewProperties();
+        properties.Set(property::SmallIcon, VIEW_ICON);
+        const TestView view(properties);
+        icon = reinterpret_cast<HICON>(SendMessageW(view.Handle(), WM_GETICON, ICON_SMALL, 0));
+        ASSERT_NE(icon, nullptr);
+    }
+    ICONINFO parts{};
+    EXPECT_FALSE(GetIconInfo(icon, &parts));
+}
+
 TEST_F(ApplicationViews, make_the_standard_controls_known) {
     const TestView view(ViewProperties());
     const wchar_t* const classes[] = {L"SysListView32",   L"SysTreeView32",     L"SysTabControl32",
