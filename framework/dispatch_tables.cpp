@@ -109,6 +109,15 @@ bool WindowMap::Remove(HWND window, const WindowObject* object) {
     return false;
 }
 
+std::size_t WindowMap::Count() const {
+    std::size_t count = 0;
+    for (const Entry* entry : buckets_) {
+        for (; entry != nullptr; entry = entry->next)
+            ++count;
+    }
+    return count;
+}
+
 std::size_t WindowMap::BucketOf(HWND window) {
     return reinterpret_cast<std::uintptr_t>(window) % BucketCount;
 }

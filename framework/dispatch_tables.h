@@ -108,6 +108,8 @@ class WindowMap {
     bool Remove(HWND window, const WindowObject* object);
 
     [[nodiscard]] static std::size_t BucketOf(HWND window);
+    // Its entries, hidden ones too; for those who look for one that was left behind.
+    [[nodiscard]] std::size_t Count() const;
 
   private:
     struct Entry {

@@ -6,7 +6,6 @@
 
 #include "platform/desktop/file_identity.h"
 #include "platform/desktop/shell_files.h"
-#include "platform/desktop/shell_library.h"
 #include "platform/desktop/system_path.h"
 
 MadeUpLink& TheLink() {
@@ -48,9 +47,6 @@ bool FindShellPath(const wchar_t* path, wchar_t (&found)[MAX_PATH]) {
     if (std::wcslen(path) >= MAX_PATH) return false;
     std::wcscpy(found, path);
     return true;
-}
-BOOL ShellExecution(SHELLEXECUTEINFOW*) {
-    return FALSE;
 }
 SystemPath::SystemPath(const wchar_t* path) : fits_(LiteralPath(text_, path, L"D:\\")) {}
 BOOL ShellExecution(SHELLEXECUTEINFOW* info) {
