@@ -88,8 +88,10 @@ void Device::Fill(Random& random) {
     // Another name each time: what a program that was ended had open may stay for a moment.
     tree_ = std::make_unique<DeviceTree>(L"QuorinMonkey-" + std::to_wstring(++filled_));
     drive_ = std::make_unique<DeviceDrive>(tree_->Root());
+    // A file may have the name that a folder has elsewhere.
+    for (const std::wstring& folder : Folders())
+        tree_->AddFolder(folder.substr(1));
     for (const std::wstring& folder : Folders()) {
-        if (folder.size() > 1) tree_->AddFolder(folder.substr(1));
         FillFolder(random, folder, folder == L"\\many" ? random.Between(50, 400) : random.Between(0, 9));
     }
     AddShortcuts(random);

@@ -7,7 +7,6 @@
 
 constexpr LONG TitleLineY = 24;
 constexpr LONG RightMargin = 3;
-constexpr LONG TitleLineY = 24;
 
 template <class Visit>
 void ForEachControl(HWND window, Visit visit) {
