@@ -15,6 +15,8 @@ show_build_steps() {
     local line begun=no
     while IFS= read -r line; do
         [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+        # What is looked at each time, whether there is anything to do or not.
+        [[ $line != *'Re-checking globbed directories'* ]] || continue
         [[ $begun == yes ]] || say "building: $1"
         begun=yes
         progress "${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
