@@ -23,10 +23,17 @@ LONG RightEdgeOf(HWND page) {
     return ClientSizeOf(page).cx - RightMargin;
 }
 
-// The height set on a combo box is the one with its list open.
-LONG HeightToGive(HWND control, const RECT& place) {
-    const LONG withList = IsOfClass(control, L"ComboBox") ? ComboBox(control).HeightWithList() : 0;
-    return withList != 0 ? withList : place.bottom - place.top;
+// The height set on a combo box is the one with its list open. Some systems take the field off it once more:
+// what the list has lost is then added.
+void PlaceComboBox(HWND control, RECT place) {
+    const ComboBox box(control);
+    const LONG withList = box.HeightWithList();
+    place.bottom = place.top + withList;
+    Place(control, place);
+    const LONG lost = withList - box.HeightWithList();
+    if (lost <= 0) return;
+    place.bottom += lost;
+    Place(control, place);
 }
 
 bool IsOneLine(HWND control) {
@@ -134,8 +141,11 @@ void WidenToRightEdge(HWND page, int id) {
     const LONG growth = RightEdgeOf(page) - place.right;
     if (growth >= 0 && growth < WorthWidening) return;
     place.right += growth;
-    place.bottom = place.top + HeightToGive(control, place);
-    Place(control, place);
+    if (IsOfClass(control, L"ComboBox")) {
+        PlaceComboBox(control, place);
+    } else {
+        Place(control, place);
+    }
 }
 
 void MoveToRightEdge(HWND page, int id) {

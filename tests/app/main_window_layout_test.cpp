@@ -105,7 +105,7 @@ TEST_F(MainWindowLayout, a_widened_field_keeps_text_and_list) {
         const RECT field = PlaceOf(Item(NamePageIndex, id));
         const LRESULT line = Send(NamePageIndex, id, CB_GETITEMHEIGHT);
         EXPECT_EQ(list.right - list.left, field.right - field.left);
-        EXPECT_GE(list.bottom - list.top - (field.bottom - field.top), 5 * line);
+        EXPECT_GE(list.bottom - list.top - (field.bottom - field.top), 6 * line);
     }
 }
 
