@@ -6,10 +6,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <set>
 #include <tuple>
 
-#include "tests/hands/refused_life.h"
+#include "tests/hands/refusal_outcomes.h"
+#include "tests/hands/refusal_plans.h"
+#include "tests/hands/refusal_words.h"
 #include "tests/program/program_test.h"
 #include "tests/support/deadline.h"
 #include "tests/support/probe/refusable_calls.h"
@@ -24,110 +25,12 @@ constexpr wchar_t PathToChange[] = L"gamma\\delta.txt";
 constexpr DWORD ExitWithoutWindow = 2;
 constexpr DWORD ExitOutOfMemory = 3;
 
-constexpr LONG WorldCount = 4;
 // Of the lives of a world one in so many is lived by ./test.
 constexpr std::size_t LivesOmitted = 24;
-
-LONG NumberOfWorld() {
-    const LONG language = World().japaneseSystem ? 2 : 0;
-    return language + (World().screenWidth > World().screenHeight ? 1 : 0);
-}
-
-const LifeSteps ShortLife = {LifeStep::Start, LifeStep::Search, LifeStep::Rename, LifeStep::Close};
-const LifeSteps WholeLife = {
-    LifeStep::Start,  LifeStep::Search, LifeStep::Sort,       LifeStep::View,     LifeStep::FailedRename,
-    LifeStep::Rename, LifeStep::Delete, LifeStep::Properties, LifeStep::Shortcut, LifeStep::StartMenu,
-    LifeStep::Browse, LifeStep::About,  LifeStep::Close};
-// The uninstall ends a life, and where it fails the close box does.
-const LifeSteps LifeWithUninstall = {LifeStep::Start, LifeStep::Search, LifeStep::Uninstall, LifeStep::Close};
-
-const probe::RefusableCall& CallOf(const StepRefusal& refusal) {
-    return probe::RefusableCalls[refusal.call];
-}
-
-bool IsCall(const StepRefusal& refusal, std::initializer_list<const char*> names) {
-    return std::ranges::any_of(
-        names, [&](const char* name) { return refusal.call == probe::RefusableCallNamed(name); });
-}
 
 // The system breaks the texts of narrow boxes anywhere.
 std::wstring WithoutBlanks(std::wstring text) {
     std::erase_if(text, [](wchar_t unit) { return unit <= L' '; });
-    return text;
-}
-
-std::wstring Numbered(const wchar_t* text, DWORD code) {
-    return text + std::to_wstring(code);
-}
-
-// The texts of the file actions and of the uninstall, as they are to be.
-std::wstring MoveText(DWORD code) {
-    if (code == ERROR_SHARING_VIOLATION) return Shown(L"\\alpha.txt is in use", L"\\alpha.txt は使用中です");
-    if (code == ERROR_DISK_FULL)
-        return Shown(L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです");
-    return Numbered(L"Error Move file ", code);
-}
-
-std::wstring DeleteText(DWORD code) {
-    if (code == ERROR_ACCESS_DENIED) return Shown(L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません");
-    return Numbered(L"Error DeleteFile ", code);
-}
-
-struct ToldCall {
-    const char* name;
-    LifeStep step;
-};
-// The calls whose failure the user is told of in these steps.
-constexpr ToldCall ToldCalls[] = {{"MoveFileW", LifeStep::Rename},
-                                  {"MoveFileW", LifeStep::FailedRename},
-                                  {"DeleteFileW", LifeStep::Delete},
-                                  {"SetFileAttributesW", LifeStep::Properties},
-                                  {"RegDeleteTreeW", LifeStep::Uninstall}};
-
-bool IsTold(LifeStep step, const StepRefusal& refusal) {
-    return std::ranges::any_of(
-        ToldCalls, [&](const ToldCall& told) { return told.step == step && IsCall(refusal, {told.name}); });
-}
-
-std::vector<std::wstring> TextsOf(LifeStep step, const StepRefusal& refusal) {
-    switch (step) {
-        case LifeStep::FailedRename:
-        case LifeStep::Rename:
-            return {MoveText(refusal.code), Shown(L"Can't rename the file", L"名前の変更に失敗しました")};
-        case LifeStep::Delete:
-            return {DeleteText(refusal.code)};
-        case LifeStep::Properties:
-            return {Numbered(L"Error SetFileAttribute ", refusal.code)};
-        case LifeStep::Uninstall:
-            return {Shown(L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!")};
-        default:
-            return {};
-    }
-}
-
-std::string Described(LifeStep step, const StepRefusal& refusal) {
-    std::string text = std::string(CallOf(refusal).name) + ", code " + std::to_string(refusal.code) +
-                       (refusal.fromThenOn ? ", from then on" : ", once");
-    if (refusal.place != 0) text += ", at " + std::to_string(refusal.place);
-    return text + ", in the step: " + NameOf(step);
-}
-
-std::string Described(const LifePlan& plan) {
-    std::string text;
-    for (const auto& [step, refusal] : plan.refusals)
-        text += "\n  " + Described(step, refusal);
-    return text;
-}
-
-// The texts that are not the same in both languages, for the table.
-std::wstring InEnglish(const std::wstring& text) {
-    constexpr const wchar_t* Pairs[][2] = {{L"Can't rename the file", L"名前の変更に失敗しました"},
-                                           {L"There is not enough space on the disk", L"ﾃﾞｨｽｸがいっぱいです"},
-                                           {L"Access denied", L"ﾌｧｲﾙにｱｸｾｽできません"},
-                                           {L"Uninstall fail!", L"ｱﾝｲﾝｽﾄｰﾙに失敗しました!"},
-                                           {L"\\alpha.txt is in use", L"\\alpha.txt は使用中です"}};
-    for (const auto& [english, japanese] : Pairs)
-        if (text == japanese) return english;
     return text;
 }
 
@@ -145,7 +48,7 @@ class RefusedCalls : public testing::Test {
   protected:
     // What is true of every life, whatever is refused.
     void ExpectSound(const LifePlan& plan, const LifeReport& report) {
-        ExpectFilesKept(plan, report);
+        ExpectFilesKept(report);
         ExpectTruth(plan, report);
         ExpectEnd(plan, report);
     }
@@ -155,10 +58,10 @@ class RefusedCalls : public testing::Test {
         try {
             const LifeReport report = RunTwiceAtMost(plan);
             ExpectSound(plan, report);
-            WriteOutcomes(plan, report);
+            if (RunsAll()) WriteOutcomes(plan, report);
         } catch (const DriverError& error) {
             ADD_FAILURE() << error.what();
-            WriteLine(plan, "hangs");
+            if (RunsAll()) WriteHang(plan);
         }
     }
 
@@ -218,13 +121,8 @@ class RefusedCalls : public testing::Test {
     RefusedLife life;
 
   private:
-    static bool IsRefused(const LifePlan& plan, std::initializer_list<const char*> names) {
-        return std::ranges::any_of(plan.refusals,
-                                   [&](const auto& part) { return IsCall(part.second, names); });
-    }
-
     // Each file stands where it stood, with what it held, but for what was asked and agreed to.
-    void ExpectFilesKept(const LifePlan&, const LifeReport& report) {
+    void ExpectFilesKept(const LifeReport& report) {
         KeptFiles files = life.Files();
         KeptFiles expected = life.FilesAtStart();
         TakeRename(report, files, expected);
@@ -316,128 +214,7 @@ class RefusedCalls : public testing::Test {
         EXPECT_EQ(SavedSubFolders(isSaved), static_cast<DWORD>(report.subFolders));
         EXPECT_TRUE(isSaved);
     }
-
-    // A line for each refusal that has taken place, for the matrix: call, code, how often, step, outcome.
-    void WriteOutcomes(const LifePlan& plan, const LifeReport& report) {
-        if (!RunsAll()) return;
-        for (const auto& [step, refusal] : plan.refusals) {
-            const StepReport& now = report.At(step);
-            if (now.timesRefused == 0) {
-                WriteLine(step, refusal, "not reached");
-            } else {
-                WriteLine(step, refusal, refusal.fromThenOn ? OutcomeOfAll(report) : OutcomeOf(step, report));
-            }
-        }
-    }
-
-    static void AddOutcome(std::set<std::string>& outcomes, const StepReport& now) {
-        for (const std::wstring& text : now.errors)
-            outcomes.insert("told: " + Utf8(InEnglish(text)));
-        if (!now.fatals.empty()) outcomes.insert("told of the window");
-        if (now.isAborted) outcomes.insert("Abort ends the search");
-    }
-
-    static std::string Joined(const std::set<std::string>& outcomes) {
-        std::string text;
-        for (const std::string& outcome : outcomes)
-            text += (text.empty() ? "" : "; ") + outcome;
-        return text.empty() ? "goes on" : text;
-    }
-
-    static void AddEnd(std::set<std::string>& outcomes, const LifeReport& report) {
-        if (report.exitCode != 0) outcomes.insert("ends with " + std::to_string(report.exitCode));
-    }
-
-    static std::string OutcomeOf(LifeStep step, const LifeReport& report) {
-        std::set<std::string> outcomes;
-        AddOutcome(outcomes, report.At(step));
-        if (step == report.steps.rbegin()->first) AddEnd(outcomes, report);
-        return Joined(outcomes);
-    }
-
-    static std::string OutcomeOfAll(const LifeReport& report) {
-        std::set<std::string> outcomes;
-        for (const auto& [step, now] : report.steps)
-            AddOutcome(outcomes, now);
-        AddEnd(outcomes, report);
-        return Joined(outcomes);
-    }
-
-    static void WriteLine(const LifePlan& plan, const std::string& outcome) {
-        for (const auto& [step, refusal] : plan.refusals)
-            WriteLine(step, refusal, outcome);
-    }
-
-    static void WriteLine(LifeStep step, const StepRefusal& refusal, const std::string& outcome) {
-        if (!RunsAll()) return;
-        std::printf("REFUSAL|%s|%lu|%s|%s|%s\n", CallOf(refusal).name, refusal.code,
-                    refusal.fromThenOn ? "from then on" : "once", NameOf(step), outcome.c_str());
-        std::fflush(stdout);
-    }
 };
-
-namespace {
-
-// Whichever places a world has noted, each refusal is one world's.
-bool IsOfThisWorld(LifeStep step, const StepRefusal& refusal) {
-    const auto sum =
-        static_cast<DWORD>(refusal.call + refusal.place) + refusal.code + static_cast<DWORD>(step);
-    return sum % WorldCount == static_cast<DWORD>(NumberOfWorld());
-}
-
-// Every place, with each code of its call where the user is told of it, and with another one each time
-// elsewhere; by step.
-std::map<LifeStep, std::vector<StepRefusal>> OnceByStep(const std::vector<probe::CallPlace>& places) {
-    std::map<LifeStep, std::vector<StepRefusal>> refusals;
-    for (const probe::CallPlace& place : places) {
-        const auto step = static_cast<LifeStep>(place.step);
-        const probe::RefusableCall& call = probe::RefusableCalls[place.call];
-        StepRefusal refusal = {place.call, place.place, 0, false};
-        const std::size_t number = IsTold(step, refusal) ? call.CodeCount() : 1;
-        for (std::size_t i = 0; i < number; ++i) {
-            // By the place, so that all worlds choose the same one.
-            refusal.code = call.codes[(static_cast<std::size_t>(place.place) + i) % call.CodeCount()];
-            if (IsOfThisWorld(step, refusal)) refusals[step].push_back(refusal);
-        }
-    }
-    return refusals;
-}
-
-// What fails at the start, in the search or in the uninstall may cost everything that follows. All others
-// share lives, one a step.
-std::vector<LifePlan> LivesWithRefusalsOnce(const std::vector<probe::CallPlace>& places) {
-    std::map<LifeStep, std::vector<StepRefusal>> refusals = OnceByStep(places);
-    std::vector<LifePlan> plans;
-    for (const LifeStep step : {LifeStep::Start, LifeStep::Search, LifeStep::Uninstall}) {
-        const LifeSteps& steps = step == LifeStep::Uninstall ? LifeWithUninstall : ShortLife;
-        for (const StepRefusal& refusal : refusals[step])
-            plans.push_back({steps, {{step, refusal}}});
-        refusals.erase(step);
-    }
-    for (std::size_t number = 0;; ++number) {
-        LifePlan plan = {WholeLife, {}};
-        for (const auto& [step, all] : refusals)
-            if (number < all.size()) plan.refusals[step] = all[number];
-        if (plan.refusals.empty()) return plans;
-        plans.push_back(plan);
-    }
-}
-
-// Each call from each step on in which it is made.
-std::vector<LifePlan> LivesWithRefusalsFromThenOn(const std::vector<probe::CallPlace>& places) {
-    std::set<std::pair<LONG, LONG>> known;
-    std::vector<LifePlan> plans;
-    for (const probe::CallPlace& place : places) {
-        if (!known.emplace(place.call, place.step).second) continue;
-        const auto step = static_cast<LifeStep>(place.step);
-        const StepRefusal refusal = {place.call, 0, probe::RefusableCalls[place.call].codes[0], true};
-        if (!IsOfThisWorld(step, refusal)) continue;
-        plans.push_back({step == LifeStep::Uninstall ? LifeWithUninstall : WholeLife, {{step, refusal}}});
-    }
-    return plans;
-}
-
-}  // namespace
 
 // Otherwise the others would prove nothing.
 TEST_F(RefusedCalls, are_all_made_where_nothing_is_refused) {
