@@ -8,6 +8,7 @@
 
 #include "fileops/confirmation_dialog.h"
 #include "tests/app/main_window_test.h"
+#include "tests/program/program_test.h"
 #include "tests/soak/holding.h"
 #include "tests/support/answered_boxes.h"
 #include "tests/support/deadline.h"
@@ -33,16 +34,6 @@ constexpr int RoundsBefore = 12;
 // The heap's own blocks come and go by a few; a block a round would be far more.
 constexpr long long HeapSlack = 2048;
 constexpr long long PrivateSlack = 1 << 20;
-
-// The program's file, beside the folder of the tests.
-std::wstring ProgramBeside() {
-    wchar_t path[MAX_PATH] = L"";
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    std::wstring folder = path;
-    for (int level = 0; level < 2; ++level)
-        folder.resize(folder.find_last_of(L'\\'));
-    return folder + L"\\quorinsearch.exe";
-}
 
 }  // namespace
 
@@ -184,7 +175,7 @@ TEST_F(Soak, a_program_that_has_ended_leaves_nothing_behind) {
     const auto live = [](int) {
         RunningProgram program;
         ProgramStart start;
-        start.path = ProgramBeside();
+        start.path = ProgramPath();
         program.Start(start);
         WaitUntil("the main window",
                   [&] { return program.MainWindow() != nullptr && IsWindowVisible(program.MainWindow()); });
